@@ -1,0 +1,204 @@
+#include "Platform/Base/FileURL.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Platform {
+
+namespace {
+
+bool isStandardised(std::string_view path)
+{
+    if (path.empty() || path.front() != '/') {
+        return false;
+    }
+    if (path.size() == 1) {
+        return true;
+    }
+    if (path.back() == '/') {
+        return false;
+    }
+    for (std::size_t slash = 0; slash != std::string_view::npos; slash = path.find('/', slash + 1)) {
+        const auto rest = path.substr(slash + 1);
+        const auto component = rest.substr(0, rest.find('/'));
+        if (component.empty() || component == "." || component == "..") {
+            return false;
+        }
+    }
+    return true;
+}
+
+std::string standardised(std::string_view path)
+{
+    if (isStandardised(path)) {
+        return std::string(path);
+    }
+    std::string result;
+    result.reserve(path.size() + 1);
+    while (!path.empty()) {
+        const auto slash = path.find('/');
+        const auto component = path.substr(0, slash);
+        path.remove_prefix(slash == std::string_view::npos ? path.size() : slash + 1);
+        if (component.empty() || component == ".") {
+            continue;
+        }
+        if (component == "..") {
+            result.resize(result.empty() ? 0 : result.rfind('/'));
+            continue;
+        }
+        result += '/';
+        result += component;
+    }
+    return result.empty() ? "/" : result;
+}
+
+/// The bytes that stand for themselves in the path of a URL: RFC 3986's pchar without the percent sign and without ";"
+/// (which older readers take for a parameter), and the slash.
+constexpr auto kUnescapedBytes = [] {
+    std::array<bool, 256> allowed{};
+    for (const char byte : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,=:@/")) {
+        allowed[static_cast<unsigned char>(byte)] = true;
+    }
+    return allowed;
+}();
+
+std::optional<unsigned> hexDigit(char digit)
+{
+    if (digit >= '0' && digit <= '9') {
+        return static_cast<unsigned>(digit - '0');
+    }
+    if (digit >= 'A' && digit <= 'F') {
+        return static_cast<unsigned>(digit - 'A' + 10);
+    }
+    if (digit >= 'a' && digit <= 'f') {
+        return static_cast<unsigned>(digit - 'a' + 10);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> percentDecoded(std::string_view text)
+{
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (text[index] != '%') {
+            bytes += text[index];
+            continue;
+        }
+        if (index + 2 >= text.size()) {
+            return std::nullopt;
+        }
+        const auto high = hexDigit(text[index + 1]);
+        const auto low = hexDigit(text[index + 2]);
+        if (!high || !low || *high * 16 + *low == 0) {
+            return std::nullopt;
+        }
+        bytes += static_cast<char>(*high * 16 + *low);
+        index += 2;
+    }
+    return bytes;
+}
+
+} // namespace
+
+FileURL::FileURL(std::string_view path, DirectoryHint hint)
+    : m_path(standardised(path))
+    , m_hint(m_path.size() == 1 ? DirectoryHint::isFolder : hint)
+{
+}
+
+std::optional<FileURL> FileURL::fromAbsoluteString(std::string_view text)
+{
+    constexpr std::string_view scheme = "file://";
+    if (!text.starts_with(scheme)) {
+        return std::nullopt;
+    }
+    text.remove_prefix(scheme.size());
+    if (text.starts_with("localhost/")) {
+        text.remove_prefix(std::string_view("localhost").size());
+    }
+    if (!text.starts_with('/') || text.find_first_of(std::string_view("?#\0", 3)) != std::string_view::npos) {
+        return std::nullopt;
+    }
+    const auto path = percentDecoded(text);
+    if (!path) {
+        return std::nullopt;
+    }
+    return FileURL(*path, text.ends_with('/') ? DirectoryHint::isFolder : DirectoryHint::isFile);
+}
+
+std::string FileURL::absoluteString() const
+{
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text = "file://";
+    for (const char byte : m_path) {
+        const auto value = static_cast<unsigned char>(byte);
+        if (kUnescapedBytes[value]) {
+            text += byte;
+        } else {
+            text += '%';
+            text += digits[value >> 4U];
+            text += digits[value & 15U];
+        }
+    }
+    if (hasDirectoryPath() && !isRoot()) {
+        text += '/';
+    }
+    return text;
+}
+
+std::string_view FileURL::lastPathComponent() const
+{
+    return isRoot() ? std::string_view(m_path) : std::string_view(m_path).substr(m_path.rfind('/') + 1);
+}
+
+std::string_view FileURL::pathExtension() const
+{
+    const auto name = lastPathComponent();
+    const auto point = name.rfind('.');
+    return point == std::string_view::npos || point == 0 ? std::string_view() : name.substr(point + 1);
+}
+
+std::vector<std::string_view> FileURL::pathComponents() const
+{
+    std::vector<std::string_view> components{std::string_view(m_path).substr(0, 1)};
+    auto rest = std::string_view(m_path).substr(1);
+    while (!rest.empty()) {
+        const auto slash = std::min(rest.find('/'), rest.size());
+        components.push_back(rest.substr(0, slash));
+        rest.remove_prefix(std::min(slash + 1, rest.size()));
+    }
+    return components;
+}
+
+FileURL FileURL::deletingLastPathComponent() const
+{
+    FileURL parent;
+    parent.m_path = m_path.substr(0, std::max<std::size_t>(m_path.rfind('/'), 1));
+    return parent;
+}
+
+FileURL FileURL::appending(std::string_view relativePath, DirectoryHint hint) const
+{
+    std::string joined;
+    joined.reserve(m_path.size() + 1 + relativePath.size());
+    joined.append(m_path).append("/").append(relativePath);
+    return FileURL(joined, hint);
+}
+
+FileURL FileURL::child(std::string_view entryName, DirectoryHint hint) const
+{
+    FileURL url;
+    url.m_path.reserve(m_path.size() + 1 + entryName.size());
+    url.m_path = isRoot() ? std::string_view() : std::string_view(m_path);
+    url.m_path.append("/").append(entryName);
+    url.m_hint = hint;
+    return url;
+}
+
+bool isPathInside(std::string_view path, std::string_view parent)
+{
+    return path.size() > parent.size() && path.starts_with(parent) && path[parent.size()] == '/';
+}
+
+} // namespace Platform

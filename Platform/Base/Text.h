@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Text as Unicode defines it, through ICU. Strings are UTF-8; where one may hold other bytes (a file name), the
+/// function says what becomes of them. Every function may be called from any thread.
+namespace Platform::Text {
+
+[[nodiscard]] bool isValidUTF8(std::string_view bytes);
+
+/// Valid UTF-8 for any bytes: each byte that is part of no character becomes "\xHH" (upper-case digits), the rest
+/// stands as it is.
+[[nodiscard]] std::string escapingInvalidUTF8(std::string_view bytes);
+
+/// Lower-cased with the root locale's full mapping. Bytes that are part of no character stay as they are.
+[[nodiscard]] std::string lowercased(std::string_view text);
+
+/// Without white space and new lines (general categories Z*, U+0009 to U+000D, U+0085) at both ends.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+
+/// The character classes that the rules name. A code point that is not a Unicode scalar belongs to none.
+[[nodiscard]] bool isAlphanumeric(char32_t scalar);           // general categories L*, M* and N*
+[[nodiscard]] bool isWhitespaceOrNewline(char32_t scalar);    // Z*, U+0009 to U+000D, U+0085
+[[nodiscard]] bool isUnicodeWhitespace(char32_t scalar);      // the property White_Space
+[[nodiscard]] bool isControl(char32_t scalar);                // general category Cc
+
+/// The scalars of `text`; a byte that is part of no character gives U+FFFD.
+[[nodiscard]] std::u32string scalars(std::string_view text);
+[[nodiscard]] std::string fromScalars(std::u32string_view scalars);
+
+} // namespace Platform::Text

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace Platform {
+
+enum class FileErrorKind : std::uint8_t {
+    noSuchFile,
+    noPermission,
+    notDirectory,
+    crossesVolume,
+    tooManySymbolicLinks,
+    nameTooLong,
+    tooManyOpenFiles,
+    outOfMemory,
+    inputOutput,
+    fileExists,
+    outOfSpace,
+    readOnlyVolume,
+    tooLarge,
+    corrupt,
+    unknown,
+};
+
+enum class FileOperation : std::uint8_t { read, write };
+
+/// Why an operation on one item failed. Words are made from it only where a person is told.
+struct FileError {
+    FileErrorKind kind = FileErrorKind::unknown;
+    FileOperation operation = FileOperation::read;
+    std::string path;
+    /// The system's number (errno), 0 when the failure did not come from a system call.
+    int systemError = 0;
+
+    static FileError fromSystemError(int systemError, FileOperation operation, std::string path);
+
+    /// A sentence in the manner of Foundation that names the last component of `path`, such as "The file “x” couldn’t
+    /// be opened because you don’t have permission to view it.". The text is valid UTF-8 whatever the path holds.
+    [[nodiscard]] std::string localizedDescription() const;
+
+    friend bool operator==(const FileError&, const FileError&) = default;
+};
+
+} // namespace Platform

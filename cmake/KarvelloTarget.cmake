@@ -1,0 +1,45 @@
+# How every target of the project is compiled: one language level, one set of warnings, one place for programs.
+
+option(KARVELLO_WERROR "Treat warnings as errors" OFF)
+option(KARVELLO_LTO "Optimise across source files" OFF)
+option(KARVELLO_TIDY "Run clang-tidy beside the compiler" OFF)
+set(KARVELLO_SANITIZE "" CACHE STRING "Comma-separated sanitizers, for example address,undefined")
+
+set(CMAKE_CXX_STANDARD 23)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+if(KARVELLO_LTO)
+  set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
+endif()
+
+add_library(karvello_options INTERFACE)
+target_include_directories(karvello_options INTERFACE "${CMAKE_SOURCE_DIR}")
+target_compile_options(karvello_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+  -Wimplicit-fallthrough -Wnull-dereference)
+if(KARVELLO_WERROR)
+  target_compile_options(karvello_options INTERFACE -Werror)
+endif()
+if(KARVELLO_SANITIZE)
+  target_compile_options(karvello_options INTERFACE
+    -fsanitize=${KARVELLO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(karvello_options INTERFACE -fsanitize=${KARVELLO_SANITIZE})
+endif()
+if(KARVELLO_TIDY)
+  find_program(KARVELLO_CLANG_TIDY NAMES clang-tidy-19 clang-tidy REQUIRED)
+  set(CMAKE_CXX_CLANG_TIDY "${KARVELLO_CLANG_TIDY}" --quiet --warnings-as-errors=*)
+endif()
+
+# A layer: every source file below the given folders, as one static library that sees only what it links.
+function(karvello_layer name)
+  cmake_parse_arguments(PARSE_ARGV 1 LAYER "" "" "FOLDERS;LINKS")
+  set(sources "")
+  foreach(folder IN LISTS LAYER_FOLDERS)
+    file(GLOB found CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h")
+    list(APPEND sources ${found})
+  endforeach()
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC karvello_options ${LAYER_LINKS})
+endfunction()

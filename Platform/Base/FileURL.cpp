@@ -186,11 +186,14 @@ FileURL FileURL::appending(std::string_view relativePath, DirectoryHint hint) co
     return FileURL(joined, hint);
 }
 
-FileURL FileURL::child(std::string_view entryName, DirectoryHint hint) const
+FileURL FileURL::entry(std::string_view folderPath, std::string_view entryName, DirectoryHint hint)
 {
     FileURL url;
-    url.m_path.reserve(m_path.size() + 1 + entryName.size());
-    url.m_path = isRoot() ? std::string_view() : std::string_view(m_path);
+    url.m_path.clear();
+    url.m_path.reserve(folderPath.size() + 1 + entryName.size());
+    if (folderPath.size() > 1) {
+        url.m_path.append(folderPath);
+    }
     url.m_path.append("/").append(entryName);
     url.m_hint = hint;
     return url;

@@ -49,7 +49,12 @@ public:
     [[nodiscard]] FileURL deletingLastPathComponent() const;
     [[nodiscard]] FileURL appending(std::string_view relativePath, DirectoryHint hint = DirectoryHint::isFile) const;
     /// `appending` for the name of an entry as the system gave it: one component, neither empty, "." nor "..".
-    [[nodiscard]] FileURL child(std::string_view entryName, DirectoryHint hint) const;
+    [[nodiscard]] FileURL child(std::string_view entryName, DirectoryHint hint) const
+    {
+        return entry(m_path, entryName, hint);
+    }
+    /// The entry `entryName` of the folder at `folderPath`, which is standardised.
+    static FileURL entry(std::string_view folderPath, std::string_view entryName, DirectoryHint hint);
 
     friend bool operator==(const FileURL&, const FileURL&) = default;
     friend auto operator<=>(const FileURL&, const FileURL&) = default;

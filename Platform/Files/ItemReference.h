@@ -15,7 +15,7 @@ class FolderHandle;
 class ItemReference {
 public:
     // NOLINTNEXTLINE(google-explicit-constructor): a URL is the plain form of a reference.
-    ItemReference(FileURL url);
+    ItemReference(const FileURL& url);
     ItemReference(std::shared_ptr<const FolderHandle> folder, std::string_view name, DirectoryHint hint);
 
     /// The folder that the name counts from; none when the item is named by its path.

@@ -43,7 +43,7 @@ struct Fault {
     FaultDuration duration = FaultDuration::once;
     /// Only calls for this path count, if given. Where several threads work, this is what makes a fault hit the same
     /// item each time. `nextEntry` and `listFolder` go by the folder's path.
-    std::optional<std::string> path;
+    std::optional<std::string> path = {};
 };
 
 /// A file manager that does what `inner` does, but for the calls that a test lets fail, and that tells what was called.

@@ -1,6 +1,6 @@
 #include "Tests/Support/TemporaryTree.h"
 
-#include "Tests/Support/FolderDescriptor.h"
+#include "Platform/Files/OpenFolder.h"
 #include "Tests/Support/TreeLayout.h"
 #include "Tests/Support/TreeRemoval.h"
 
@@ -9,15 +9,20 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <optional>
 #include <vector>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace TestSupport {
 
 namespace {
+
+using Platform::FileDescriptor;
 
 void reportFailure(std::string_view action, std::string_view name)
 {
@@ -43,8 +48,8 @@ bool setModificationTime(int folder, const std::string& name, timespec time)
 /// walks from one to the next by handles, and gives a folder its age and permissions when it leaves it for good.
 class TreeMaker {
 public:
-    TreeMaker(const std::string& root, std::vector<LayoutItem> items, Platform::Date now)
-        : m_root(AT_FDCWD, root)
+    TreeMaker(FileDescriptor root, std::vector<LayoutItem> items, Platform::Date now)
+        : m_root(std::move(root))
         , m_items(std::move(items))
         , m_now(now)
     {
@@ -53,10 +58,6 @@ public:
 
     void make()
     {
-        if (!m_root.isOpen()) {
-            reportFailure("open", "");
-            return;
-        }
         for (const auto index : m_order) {
             while (!m_entered.empty() && m_entered.back().item != m_items[index].parent) {
                 leaveFolder();
@@ -156,12 +157,13 @@ private:
             fstatat(here(), name.c_str(), &before, AT_SYMLINK_NOFOLLOW);
             fchmodat(here(), name.c_str(), S_IRWXU, 0);
         }
-        FolderDescriptor folder(here(), name);
-        if (!folder.isOpen()) {
+        auto folder = Platform::openFolderIn(here(), name.c_str());
+        if (!folder) {
+            errno = folder.error();
             return false;
         }
         m_entered.push_back({.item = index, .before = m_isNewFolder ? std::nullopt : std::optional(before)});
-        m_current = std::move(folder);
+        m_current = std::move(*folder);
         return true;
     }
 
@@ -169,7 +171,8 @@ private:
     {
         const auto folder = m_entered.back();
         m_entered.pop_back();
-        m_current = m_entered.empty() ? FolderDescriptor() : FolderDescriptor(m_current.get(), "..");
+        auto above = Platform::openParentFolder(here());
+        m_current = m_entered.empty() || !above ? FileDescriptor() : std::move(*above);
         finish(here(), m_items[folder.item], folder.before);
     }
 
@@ -189,12 +192,12 @@ private:
         }
     }
 
-    FolderDescriptor m_root;
+    FileDescriptor m_root;
     std::vector<LayoutItem> m_items;
     std::vector<std::size_t> m_order;
     Platform::Date m_now;
     std::vector<EnteredFolder> m_entered;
-    FolderDescriptor m_current;
+    FileDescriptor m_current;
     bool m_isNewFolder = false;
 };
 
@@ -235,18 +238,21 @@ void TemporaryTree::add(std::string_view layout)
         ADD_FAILURE() << items.error();
         return;
     }
-    TreeMaker(m_root.path(), std::move(*items), m_now).make();
+    auto folder = Platform::openFolder(m_root.path().c_str());
+    if (!folder) {
+        errno = folder.error();
+        reportFailure("open", m_root.path());
+        return;
+    }
+    TreeMaker(std::move(*folder), std::move(*items), m_now).make();
 }
 
 void TemporaryTree::remove(std::string_view relativePath)
 {
     const auto item = url(relativePath);
-    const FolderDescriptor folder(AT_FDCWD, item.deletingLastPathComponent().path());
-    if (!folder.isOpen()) {
-        reportFailure("open the folder of", item.path());
-        return;
-    }
-    if (const int error = removeTree(folder.get(), std::string(item.lastPathComponent())); error != 0) {
+    const auto folder = Platform::openFolder(item.deletingLastPathComponent().path().c_str());
+    const int error = folder ? removeTree(folder->get(), std::string(item.lastPathComponent())) : folder.error();
+    if (error != 0) {
         errno = error;
         reportFailure("remove", item.path());
     }

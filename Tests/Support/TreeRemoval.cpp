@@ -1,6 +1,6 @@
 #include "Tests/Support/TreeRemoval.h"
 
-#include "Tests/Support/FolderDescriptor.h"
+#include "Platform/Files/OpenFolder.h"
 
 #include <cerrno>
 #include <memory>
@@ -8,11 +8,15 @@
 #include <vector>
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace TestSupport {
 
 namespace {
+
+using Platform::FileDescriptor;
 
 /// A folder on the way down: its name in the one above, and the folders in it that are still to go.
 struct Level {
@@ -21,7 +25,7 @@ struct Level {
 };
 
 /// Removes what is no folder and names the rest.
-std::vector<std::string> removeFiles(const FolderDescriptor& folder)
+std::vector<std::string> removeFiles(const FileDescriptor& folder)
 {
     std::vector<std::string> folders;
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(fdopendir(dup(folder.get())), closedir);
@@ -37,10 +41,10 @@ std::vector<std::string> removeFiles(const FolderDescriptor& folder)
     return folders;
 }
 
-FolderDescriptor openAccessible(int base, const std::string& name)
+std::expected<FileDescriptor, int> openAccessible(int base, const std::string& name)
 {
     fchmodat(base, name.c_str(), S_IRWXU, 0);
-    return {base, name};
+    return Platform::openFolderIn(base, name.c_str());
 }
 
 } // namespace
@@ -51,26 +55,29 @@ int removeTree(int base, const std::string& name)
         return 0;
     }
     auto current = openAccessible(base, name);
-    if (!current.isOpen()) {
-        return errno;
+    if (!current) {
+        return current.error();
     }
     std::vector<Level> levels;
-    levels.push_back({.name = name, .folders = removeFiles(current)});
+    levels.push_back({.name = name, .folders = removeFiles(*current)});
     while (levels.size() > 1 || !levels.back().folders.empty()) {
         auto& folders = levels.back().folders;
         if (!folders.empty()) {
             auto next = std::move(folders.back());
             folders.pop_back();
-            auto below = openAccessible(current.get(), next);
-            if (!below.isOpen()) {
-                return errno;
+            auto below = openAccessible(current->get(), next);
+            if (!below) {
+                return below.error();
             }
             current = std::move(below);
-            levels.push_back({.name = std::move(next), .folders = removeFiles(current)});
+            levels.push_back({.name = std::move(next), .folders = removeFiles(*current)});
             continue;
         }
-        FolderDescriptor above(current.get(), "..");
-        if (!above.isOpen() || unlinkat(above.get(), levels.back().name.c_str(), AT_REMOVEDIR) != 0) {
+        auto above = Platform::openParentFolder(current->get());
+        if (!above) {
+            return above.error();
+        }
+        if (unlinkat(above->get(), levels.back().name.c_str(), AT_REMOVEDIR) != 0) {
             return errno;
         }
         current = std::move(above);

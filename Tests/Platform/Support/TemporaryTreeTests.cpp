@@ -1,6 +1,6 @@
 #include "Tests/Support/TemporaryTree.h"
 
-#include "Tests/Support/FolderDescriptor.h"
+#include "Platform/Files/OpenFolder.h"
 #include "Tests/Support/TreeLayout.h"
 
 #include <cmath>
@@ -9,9 +9,11 @@
 #include <fstream>
 #include <sstream>
 
+#include <fcntl.h>
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace TestSupport {
 
@@ -156,14 +158,15 @@ TEST(TemporaryTree, MakesManyFilesAndDeepTreesAndRemovesThem)
         EXPECT_TRUE(exists(tree.path("many/part299")));
         EXPECT_FALSE(exists(tree.path("many/part300")));
         EXPECT_NEAR(ageOf(tree, "deep/deep/deep"), 40 * 86400.0, 1e-6);
-        FolderDescriptor folder(AT_FDCWD, root);
+        auto folder = Platform::openFolder(root.c_str());
+        ASSERT_TRUE(folder);
         std::size_t levels = 0;
-        for (FolderDescriptor below(folder.get(), "deep"); below.isOpen(); below = {folder.get(), "deep"}) {
+        while (auto below = Platform::openFolderIn(folder->get(), "deep")) {
             folder = std::move(below);
             ++levels;
         }
         EXPECT_EQ(levels, 10000U);
-        EXPECT_EQ(faccessat(folder.get(), "bottom", F_OK, 0), 0);
+        EXPECT_EQ(faccessat(folder->get(), "bottom", F_OK, 0), 0);
     }
     EXPECT_FALSE(exists(root));
 }

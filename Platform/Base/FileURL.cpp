@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Platform {
 
@@ -145,6 +146,12 @@ std::string FileURL::absoluteString() const
         text += '/';
     }
     return text;
+}
+
+FileURL FileURL::withHint(DirectoryHint hint) &&
+{
+    m_hint = isRoot() ? DirectoryHint::isFolder : hint;
+    return std::move(*this);
 }
 
 std::string_view FileURL::lastPathComponent() const

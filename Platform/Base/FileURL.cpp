@@ -1,7 +1,10 @@
 #include "Platform/Base/FileURL.h"
 
+#include "Platform/Base/HexDigits.h"
+
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Platform {
 
@@ -62,20 +65,6 @@ constexpr auto kUnescapedBytes = [] {
     return allowed;
 }();
 
-std::optional<unsigned> hexDigit(char digit)
-{
-    if (digit >= '0' && digit <= '9') {
-        return static_cast<unsigned>(digit - '0');
-    }
-    if (digit >= 'A' && digit <= 'F') {
-        return static_cast<unsigned>(digit - 'A' + 10);
-    }
-    if (digit >= 'a' && digit <= 'f') {
-        return static_cast<unsigned>(digit - 'a' + 10);
-    }
-    return std::nullopt;
-}
-
 std::optional<std::string> percentDecoded(std::string_view text)
 {
     std::string bytes;
@@ -88,8 +77,8 @@ std::optional<std::string> percentDecoded(std::string_view text)
         if (index + 2 >= text.size()) {
             return std::nullopt;
         }
-        const auto high = hexDigit(text[index + 1]);
-        const auto low = hexDigit(text[index + 2]);
+        const auto high = valueOfHexDigit(text[index + 1]);
+        const auto low = valueOfHexDigit(text[index + 2]);
         if (!high || !low || *high * 16 + *low == 0) {
             return std::nullopt;
         }
@@ -129,7 +118,6 @@ std::optional<FileURL> FileURL::fromAbsoluteString(std::string_view text)
 
 std::string FileURL::absoluteString() const
 {
-    constexpr std::string_view digits = "0123456789ABCDEF";
     std::string text = "file://";
     for (const char byte : m_path) {
         const auto value = static_cast<unsigned char>(byte);
@@ -137,14 +125,19 @@ std::string FileURL::absoluteString() const
             text += byte;
         } else {
             text += '%';
-            text += digits[value >> 4U];
-            text += digits[value & 15U];
+            appendHexDigits(text, value);
         }
     }
     if (hasDirectoryPath() && !isRoot()) {
         text += '/';
     }
     return text;
+}
+
+FileURL FileURL::withHint(DirectoryHint hint) &&
+{
+    m_hint = isRoot() ? DirectoryHint::isFolder : hint;
+    return std::move(*this);
 }
 
 std::string_view FileURL::lastPathComponent() const

@@ -38,6 +38,9 @@ public:
     [[nodiscard]] bool hasDirectoryPath() const { return m_hint == DirectoryHint::isFolder; }
     [[nodiscard]] bool isRoot() const { return m_path.size() == 1; }
 
+    /// The same location with another hint; the root folder stays a folder.
+    [[nodiscard]] FileURL withHint(DirectoryHint hint) &&;
+
     /// "/" for the root folder.
     [[nodiscard]] std::string_view lastPathComponent() const;
     /// What follows the last point of the last component, without it; empty for none, and for a name that only begins

@@ -9,9 +9,9 @@ namespace Platform::Text {
 
 [[nodiscard]] bool isValidUTF8(std::string_view bytes);
 
-/// Valid UTF-8 for any bytes: each byte that is part of no character becomes "\xHH" (upper-case digits), the rest
-/// stands as it is.
-[[nodiscard]] std::string escapingInvalidUTF8(std::string_view bytes);
+/// Valid UTF-8 for any bytes: each byte that is part of no character becomes `mark` and two upper-case hexadecimal
+/// digits, "\xHH" unless told otherwise; the rest stands as it is.
+[[nodiscard]] std::string escapingInvalidUTF8(std::string_view bytes, std::string_view mark = "\\x");
 
 /// Lower-cased with the root locale's full mapping. Bytes that are part of no character stay as they are.
 [[nodiscard]] std::string lowercased(std::string_view text);
@@ -27,6 +27,7 @@ namespace Platform::Text {
 
 /// The scalars of `text`; a byte that is part of no character gives U+FFFD.
 [[nodiscard]] std::u32string scalars(std::string_view text);
+/// What is no Unicode scalar gives U+FFFD.
 [[nodiscard]] std::string fromScalars(std::u32string_view scalars);
 
 } // namespace Platform::Text

@@ -25,6 +25,9 @@ enum class EnumerationErrorAnswer : std::uint8_t { goOn, stop };
 /// Told of each item that could not be listed or entered.
 using EnumerationErrorHandler = std::function<EnumerationErrorAnswer(const FileURL&, const FileError&)>;
 
+/// What a listing says of an entry's type; `unknown` where the file system keeps no types in its folders.
+enum class ListedType : std::uint8_t { folder, other, unknown };
+
 /// Walks what lies below a folder. Each item comes once, a folder before what it holds, in the order of the file
 /// system; the entries of one folder come together. Symbolic links are items and are never followed, and no other
 /// volume is entered: trying is an error of kind `crossesVolume`.
@@ -41,8 +44,8 @@ public:
     [[nodiscard]] virtual std::string_view name() const = 0;
     /// 1 for the entries of the folder that is walked, 2 for theirs, and so on.
     [[nodiscard]] virtual std::size_t level() const = 0;
-    /// Whether the listing already says that the item is a folder; costs nothing.
-    [[nodiscard]] virtual bool isListedAsFolder() const = 0;
+    /// What the listing says of the item, before any look at it.
+    [[nodiscard]] virtual ListedType listedType() const = 0;
     /// The current item's values, read on the first call and kept until the next item.
     virtual const std::expected<ResourceValues, FileError>& resourceValues() = 0;
     [[nodiscard]] virtual FileURL url() const = 0;

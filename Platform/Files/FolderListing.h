@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Files/DirectoryEnumerator.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -8,9 +10,6 @@
 #include <string_view>
 
 namespace Platform {
-
-/// What a listing says of an entry's type; `unknown` where the file system keeps no types in its folders.
-enum class ListedType : std::uint8_t { folder, other, unknown };
 
 /// Reads the entries of an open folder in the order of the file system, through a buffer of fixed size, so that a
 /// folder of any size costs the same memory. "." and ".." are left out.

@@ -19,9 +19,6 @@ FolderTrail::FolderTrail(std::shared_ptr<const FolderHandle> root)
     : m_root(std::move(root))
     , m_path(m_root->url().path())
 {
-    if (const auto status = readItemStatus(m_root->descriptor(), "", StatusDetail::walk)) {
-        m_rootStatus = *status;
-    }
     m_folders.emplace_back().pathLength = m_path.size();
 }
 

@@ -31,7 +31,7 @@ public:
     /// The path of the folder that is being listed.
     [[nodiscard]] const std::string& path() const { return m_path; }
     /// The device and the mount that the walk must not leave.
-    [[nodiscard]] const ItemStatus& rootStatus() const { return m_rootStatus; }
+    [[nodiscard]] const ItemStatus& rootStatus() const { return m_root->status(); }
     /// The folder that is being listed, to be kept beyond the walk's stay in it.
     [[nodiscard]] std::shared_ptr<const FolderHandle> sharedFolder() const;
 
@@ -68,7 +68,6 @@ private:
     FileDescriptor takeDescriptor(std::size_t index);
 
     std::shared_ptr<const FolderHandle> m_root;
-    ItemStatus m_rootStatus;
     std::vector<Folder> m_folders;
     /// The indices of the folders whose descriptor is open, ascending; the root has its handle and is never among them.
     std::vector<std::size_t> m_openFolders;

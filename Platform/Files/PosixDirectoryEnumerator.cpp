@@ -123,13 +123,12 @@ const std::expected<ResourceValues, FileError>& PosixDirectoryEnumerator::resour
 
 FileURL PosixDirectoryEnumerator::url() const
 {
-    return FileURL::entry(
-        m_trail->path(), m_entry.name, isListedAsFolder() ? DirectoryHint::isFolder : DirectoryHint::isFile);
+    return FileURL::entry(m_trail->path(), m_entry.name, hint());
 }
 
 ItemReference PosixDirectoryEnumerator::reference() const
 {
-    return {m_trail->sharedFolder(), m_entry.name, isListedAsFolder() ? DirectoryHint::isFolder : DirectoryHint::isFile};
+    return {m_trail->sharedFolder(), m_entry.name, hint()};
 }
 
 } // namespace Platform

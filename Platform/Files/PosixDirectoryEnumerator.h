@@ -24,7 +24,7 @@ public:
     bool next() override;
     [[nodiscard]] std::string_view name() const override { return m_entry.name; }
     [[nodiscard]] std::size_t level() const override { return m_trail ? m_trail->depth() : 0; }
-    [[nodiscard]] bool isListedAsFolder() const override { return m_entry.type == ListedType::folder; }
+    [[nodiscard]] ListedType listedType() const override { return m_entry.type; }
     const std::expected<ResourceValues, FileError>& resourceValues() override;
     [[nodiscard]] FileURL url() const override;
     [[nodiscard]] ItemReference reference() const override;
@@ -33,6 +33,10 @@ public:
     [[nodiscard]] std::uint64_t folderContext() const override { return m_trail ? m_trail->context() : 0; }
 
 private:
+    [[nodiscard]] DirectoryHint hint() const
+    {
+        return m_entry.type == ListedType::folder ? DirectoryHint::isFolder : DirectoryHint::isFile;
+    }
     void rememberCurrentFolder();
     [[nodiscard]] bool currentIsFolder();
     bool enterNextFolder();

@@ -39,8 +39,7 @@ ResourceValues valuesOf(const ItemStatus& status, const ItemReference& item)
 {
     // Beside its folder, an item shows whether it lies on another volume; a path alone tells only a mount point.
     if (item.folder() != nullptr) {
-        const auto folderStatus = readItemStatus(item.folder()->descriptor(), "", StatusDetail::walk);
-        return resourceValuesOf(status, folderStatus ? &*folderStatus : nullptr);
+        return resourceValuesOf(status, &item.folder()->status());
     }
     auto values = resourceValuesOf(status, nullptr);
     values.isOnOtherVolume = status.isMountPoint;

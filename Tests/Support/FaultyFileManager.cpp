@@ -122,7 +122,7 @@ public:
 
     [[nodiscard]] std::string_view name() const override { return m_inner->name(); }
     [[nodiscard]] std::size_t level() const override { return m_inner->level(); }
-    [[nodiscard]] bool isListedAsFolder() const override { return m_inner->isListedAsFolder(); }
+    [[nodiscard]] Platform::ListedType listedType() const override { return m_inner->listedType(); }
     [[nodiscard]] FileURL url() const override { return m_inner->url(); }
     [[nodiscard]] ItemReference reference() const override { return m_inner->reference(); }
     void skipDescendants() override { m_inner->skipDescendants(); }

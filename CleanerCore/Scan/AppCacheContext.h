@@ -26,9 +26,9 @@ struct AppCacheContext {
     /// The folder's name below the containers folder, trimmed.
     std::string containerIdentifier;
     /// What the folder's name suggests; only a guess for group containers.
-    std::optional<std::string> possibleBundleIdentifier;
-    std::optional<std::string> matchedRunningBundleIdentifier;
-    std::optional<std::string> matchedRunningDisplayName;
+    std::optional<std::string> possibleBundleIdentifier = {};
+    std::optional<std::string> matchedRunningBundleIdentifier = {};
+    std::optional<std::string> matchedRunningDisplayName = {};
     AppCacheRunningState runningState = AppCacheRunningState::unknown;
     AppCacheIdentitySource identitySource = AppCacheIdentitySource::unknown;
 

@@ -18,7 +18,8 @@ constexpr std::string_view kKoreanByteUnit = "byte";
 std::string fixed(double value, int fractionDigits)
 {
     std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, fractionDigits);
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, fractionDigits);
     return {digits.data(), end.ptr};
 }
 

@@ -7,9 +7,11 @@
 
 namespace CleanerCore {
 
-bool CleanupManualReviewPolicy::requires_(CleanupCategory category, CleanupSafety safety, bool requiresManualReviewBySource)
+bool CleanupManualReviewPolicy::requires_(
+    CleanupCategory category, CleanupSafety safety, bool requiresManualReviewBySource)
 {
-    return requiresManualReviewBySource || safety == CleanupSafety::manualReview || requiresManualReviewByDefault(category);
+    return requiresManualReviewBySource || safety == CleanupSafety::manualReview
+        || requiresManualReviewByDefault(category);
 }
 
 CleanupCandidate::CleanupCandidate(Fields fields)

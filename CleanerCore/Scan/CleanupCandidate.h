@@ -24,16 +24,16 @@ struct CleanupCandidate {
     struct Fields {
         Platform::FileURL url;
         /// Absent: the last component of the path.
-        std::optional<std::string> displayName;
+        std::optional<std::string> displayName = {};
         CleanupCategory category = CleanupCategory::customFolder;
         /// Negative counts as 0.
         std::int64_t sizeBytes = 0;
-        std::optional<Platform::Date> lastModified;
-        std::optional<FileResourceIdentity> resourceIdentity;
+        std::optional<Platform::Date> lastModified = {};
+        std::optional<FileResourceIdentity> resourceIdentity = {};
         bool isSelectedByDefault = false;
         CleanupSafety safety = CleanupSafety::manualReview;
         bool requiresManualReviewBySource = false;
-        std::optional<AppCacheContext> appCacheContext;
+        std::optional<AppCacheContext> appCacheContext = {};
     };
 
     CleanupCandidate() = default;

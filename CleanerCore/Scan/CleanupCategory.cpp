@@ -13,13 +13,15 @@ struct Description {
 };
 
 constexpr std::array<Description, Platform::RawValues<CleanupCategory>::names.size()> kDescriptions{{
-    {"User Caches", "Regenerable files stored by macOS apps in the current user's Library/Caches folder.", ManualReview::no},
+    {"User Caches", "Regenerable files stored by macOS apps in the current user's Library/Caches folder.",
+        ManualReview::no},
     {"User Logs",
         "Diagnostic logs in the current user's Library/Logs folder. Useful for debugging, but often safe to archive or "
         "remove.",
         ManualReview::no},
     {"Xcode DerivedData",
-        "Xcode DerivedData stores project indexes and build artifacts that Xcode can rebuild; removing them may make the "
+        "Xcode DerivedData stores project indexes and build artifacts that Xcode can rebuild; removing them may make "
+        "the "
         "next indexing pass or build slower.",
         ManualReview::no},
     {"Simulator Caches",
@@ -27,7 +29,8 @@ constexpr std::array<Description, Platform::RawValues<CleanupCategory>::names.si
         "them to Trash.",
         ManualReview::no},
     {"This App's Caches",
-        "Only cache files owned by this app's sandbox. This is the main cleanup scope available on iOS.", ManualReview::no},
+        "Only cache files owned by this app's sandbox. This is the main cleanup scope available on iOS.",
+        ManualReview::no},
     {"App Container Caches",
         "Caches inside sandboxed macOS app containers. Review carefully because apps may recreate them while running.",
         ManualReview::no},
@@ -40,7 +43,8 @@ constexpr std::array<Description, Platform::RawValues<CleanupCategory>::names.si
         "re-downloaded, but removal may slow the next device debugging setup.",
         ManualReview::no},
     {"Developer Tool Caches",
-        "Caches and intermediate files from developer tools. Review paths carefully because active projects and running "
+        "Caches and intermediate files from developer tools. Review paths carefully because active projects and "
+        "running "
         "tools may still rely on them.",
         ManualReview::yes},
     {"Package Manager Caches",

@@ -8,14 +8,15 @@ std::optional<FileResourceIdentity> FileResourceIdentity::captureIfAvailable(
     const Platform::ItemReference& item, const Platform::FileManager& fileManager)
 {
     FileResourceIdentity identity;
-    if (auto read = fileManager.identityValues(item)) {
+    auto readings = fileManager.fingerprintReadings(item);
+    if (auto& read = readings.identityValues) {
         identity.fileResourceIdentifier = std::move(read->fileResourceIdentifier);
         identity.volumeIdentifier = std::move(read->volumeIdentifier);
         identity.isDirectory = read->values.isDirectory;
         identity.fileSize = read->values.fileSize;
         identity.totalFileAllocatedSize = read->values.totalFileAllocatedSize;
     }
-    if (const auto attributes = fileManager.attributes(item)) {
+    if (const auto& attributes = readings.attributes) {
         identity.systemFileNumber = attributes->systemFileNumber;
         identity.systemNumber = attributes->systemNumber;
         identity.creationDate = attributes->creationDate;

@@ -175,8 +175,10 @@ LocationScan::Answer LocationScan::replayOldestBatch()
         if (beginChild(batch->children()[index]) == Answer::stopped) {
             return Answer::stopped;
         }
-        // A stop that the handler asks for at one item of a walk must leave out what the walk met behind that item.
-        std::optional<std::int64_t> lastItem;
+        // A stop that the handler asks for at one item of a walk leaves out what the walk met behind that item; one that
+        // it asks for as the child begins leaves out all of it.
+        constexpr std::int64_t kNoItem = -1;
+        auto lastItem = m_run.stop.stop_requested() ? std::optional(kNoItem) : std::nullopt;
         while (outcomes.empty()) {
             auto events = pipeline.nextEvents();
             if (events.empty()) {

@@ -21,7 +21,7 @@ struct ScanLocation {
         Platform::FileURL rootURL;
         CleanupCategory category = CleanupCategory::customFolder;
         /// Absent: the last component of the root.
-        std::optional<std::string> displayName;
+        std::optional<std::string> displayName = {};
         ScanDepth depth = ScanDepth::immediateChildren;
         bool isSelectedByDefault = false;
         CleanupSafety safety = CleanupSafety::manualReview;
@@ -29,7 +29,7 @@ struct ScanLocation {
         double minimumModificationAge = 0;
         bool includesHiddenFiles = false;
         bool includesPackageDescendants = false;
-        std::optional<AppCacheContext> appCacheContext;
+        std::optional<AppCacheContext> appCacheContext = {};
     };
 
     ScanLocation() = default;

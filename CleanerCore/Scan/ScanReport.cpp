@@ -80,8 +80,10 @@ ScanReport::ScanReport(
 
 std::int64_t ScanReport::reclaimableBytes() const
 {
-    return std::accumulate(candidates.begin(), candidates.end(), std::int64_t{0},
-        [](std::int64_t sum, const CleanupCandidate& candidate) { return Platform::checkedAdd(sum, candidate.sizeBytes); });
+    return std::accumulate(
+        candidates.begin(), candidates.end(), std::int64_t{0}, [](std::int64_t sum, const CleanupCandidate& candidate) {
+            return Platform::checkedAdd(sum, candidate.sizeBytes);
+        });
 }
 
 } // namespace CleanerCore

@@ -14,12 +14,12 @@ struct StorageScanProgress {
     /// No URL, all counts 0, no total for the location, fraction 0.
     static StorageScanProgress empty() { return {}; }
 
-    std::optional<Platform::FileURL> currentURL;
+    std::optional<Platform::FileURL> currentURL = {};
     std::int64_t completedLocations = 0;
     std::int64_t totalLocations = 0;
     std::int64_t completedItems = 0;
     std::int64_t completedItemsInCurrentLocation = 0;
-    std::optional<std::int64_t> totalItemsInCurrentLocation;
+    std::optional<std::int64_t> totalItemsInCurrentLocation = {};
     std::int64_t foundCandidates = 0;
     std::int64_t skippedItems = 0;
     /// 0 to 1. It moves only between locations.

@@ -10,9 +10,11 @@ namespace CleanerCore {
 
 namespace {
 
-// A walk waits for the disk more than it computes: with nothing cached, a few walks for each processor keep the disk
-// busy, and with everything cached the surplus costs next to nothing.
-constexpr unsigned kWalksPerProcessor = 4;
+// A walk waits for the disk more than it computes: with nothing cached, several walks for each processor keep the disk
+// busy (on two processors and a solid-state disk, 16 took a third of the time of 2), and with everything cached the
+// surplus costs nothing. Each walk may hold some 17 folders open, which bounds their number.
+constexpr unsigned kWalksPerProcessor = 8;
+constexpr unsigned kMaximumSurplusWalks = 32;
 
 unsigned processors()
 {
@@ -42,7 +44,8 @@ ScanReport StorageScanner::scan(std::span<const ScanLocation> locations, Platfor
 {
     std::optional<ChildPipeline> pipeline;
     if (m_configuration.jobs > 1 && !locations.empty()) {
-        pipeline.emplace(m_configuration.jobs * kWalksPerProcessor);
+        const auto jobs = m_configuration.jobs;
+        pipeline.emplace(std::max(std::min(jobs * kWalksPerProcessor, kMaximumSurplusWalks), jobs));
     }
     ScanRun run{
         .fileManager = m_fileManager,

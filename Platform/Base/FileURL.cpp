@@ -59,7 +59,8 @@ std::string standardised(std::string_view path)
 /// (which older readers take for a parameter), and the slash.
 constexpr auto kUnescapedBytes = [] {
     std::array<bool, 256> allowed{};
-    for (const char byte : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,=:@/")) {
+    for (const char byte :
+        std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,=:@/")) {
         allowed[static_cast<unsigned char>(byte)] = true;
     }
     return allowed;

@@ -120,8 +120,8 @@ void appendLowercased(std::string& result, std::string_view validText)
     UErrorCode status = U_ZERO_ERROR;
     std::string lower;
     icu::StringByteSink<std::string> sink(&lower, static_cast<std::int32_t>(validText.size()));
-    icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(validText.data(), static_cast<std::int32_t>(validText.size())), sink,
-        nullptr, status);
+    icu::CaseMap::utf8ToLower(
+        "", 0, icu::StringPiece(validText.data(), static_cast<std::int32_t>(validText.size())), sink, nullptr, status);
     result.append(U_SUCCESS(status) ? std::string_view(lower) : validText);
 }
 

@@ -20,10 +20,10 @@ namespace Platform::Text {
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
 /// The character classes that the rules name. A code point that is not a Unicode scalar belongs to none.
-[[nodiscard]] bool isAlphanumeric(char32_t scalar);           // general categories L*, M* and N*
-[[nodiscard]] bool isWhitespaceOrNewline(char32_t scalar);    // Z*, U+0009 to U+000D, U+0085
-[[nodiscard]] bool isUnicodeWhitespace(char32_t scalar);      // the property White_Space
-[[nodiscard]] bool isControl(char32_t scalar);                // general category Cc
+[[nodiscard]] bool isAlphanumeric(char32_t scalar);        // general categories L*, M* and N*
+[[nodiscard]] bool isWhitespaceOrNewline(char32_t scalar); // Z*, U+0009 to U+000D, U+0085
+[[nodiscard]] bool isUnicodeWhitespace(char32_t scalar);   // the property White_Space
+[[nodiscard]] bool isControl(char32_t scalar);             // general category Cc
 
 /// The scalars of `text`; a byte that is part of no character gives U+FFFD.
 [[nodiscard]] std::u32string scalars(std::string_view text);

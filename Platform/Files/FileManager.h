@@ -15,6 +15,12 @@ namespace Platform {
 
 enum class Existence : std::uint8_t { missing, file, directory };
 
+/// The two readings that a fingerprint is made from, each with its own failure.
+struct FingerprintReadings {
+    std::expected<IdentityValues, FileError> identityValues;
+    std::expected<FileAttributes, FileError> attributes;
+};
+
 /// The seam to the file system, in the terms of the rules. Reading changes nothing on disk: files are not opened, and
 /// folders are read without touching their access time where the system allows it. Every function may be called from
 /// any thread.
@@ -29,6 +35,11 @@ public:
     [[nodiscard]] virtual std::expected<ResourceValues, FileError> resourceValues(const ItemReference& item) const = 0;
     [[nodiscard]] virtual std::expected<IdentityValues, FileError> identityValues(const ItemReference& item) const = 0;
     [[nodiscard]] virtual std::expected<FileAttributes, FileError> attributes(const ItemReference& item) const = 0;
+    /// `identityValues` and `attributes` of one item; a file manager may answer both from one look.
+    [[nodiscard]] virtual FingerprintReadings fingerprintReadings(const ItemReference& item) const
+    {
+        return {identityValues(item), attributes(item)};
+    }
     /// Whether names in the folder are told apart by case. Not known counts as no.
     [[nodiscard]] virtual bool volumeSupportsCaseSensitiveNames(const FileURL& folder) const = 0;
 

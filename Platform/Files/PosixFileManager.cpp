@@ -46,6 +46,17 @@ ResourceValues valuesOf(const ItemStatus& status, const ItemReference& item)
     return values;
 }
 
+FileAttributes attributesOf(const ItemStatus& status)
+{
+    return {
+        .type = status.type,
+        .systemFileNumber = status.fileNumber,
+        .systemNumber = status.deviceNumber,
+        .creationDate = status.creationDate,
+        .modificationDate = status.modificationDate,
+    };
+}
+
 /// The identifier of the volume that the item itself lies on; the item is not opened for reading.
 std::optional<std::string> volumeIdentifierOf(const ItemReference& item)
 {
@@ -86,15 +97,7 @@ std::expected<ResourceValues, FileError> PosixFileManager::resourceValues(const 
 
 std::expected<IdentityValues, FileError> PosixFileManager::identityValues(const ItemReference& item) const
 {
-    const auto status = statusOf(item, StatusDetail::walk);
-    if (!status) {
-        return std::unexpected(status.error());
-    }
-    return IdentityValues{
-        .values = resourceValuesOf(*status, nullptr),
-        .fileResourceIdentifier = readFileHandle(folderDescriptor(item), item.name().c_str()),
-        .volumeIdentifier = volumeIdentifierOf(item),
-    };
+    return fingerprintReadings(item).identityValues;
 }
 
 std::expected<FileAttributes, FileError> PosixFileManager::attributes(const ItemReference& item) const
@@ -103,12 +106,22 @@ std::expected<FileAttributes, FileError> PosixFileManager::attributes(const Item
     if (!status) {
         return std::unexpected(status.error());
     }
-    return FileAttributes{
-        .type = status->type,
-        .systemFileNumber = status->fileNumber,
-        .systemNumber = status->deviceNumber,
-        .creationDate = status->creationDate,
-        .modificationDate = status->modificationDate,
+    return attributesOf(*status);
+}
+
+FingerprintReadings PosixFileManager::fingerprintReadings(const ItemReference& item) const
+{
+    const auto status = statusOf(item, StatusDetail::whole);
+    if (!status) {
+        return {std::unexpected(status.error()), std::unexpected(status.error())};
+    }
+    return {
+        .identityValues = IdentityValues{
+            .values = resourceValuesOf(*status, nullptr),
+            .fileResourceIdentifier = readFileHandle(folderDescriptor(item), item.name().c_str()),
+            .volumeIdentifier = volumeIdentifierOf(item),
+        },
+        .attributes = attributesOf(*status),
     };
 }
 

@@ -11,6 +11,7 @@ public:
     [[nodiscard]] std::expected<ResourceValues, FileError> resourceValues(const ItemReference& item) const override;
     [[nodiscard]] std::expected<IdentityValues, FileError> identityValues(const ItemReference& item) const override;
     [[nodiscard]] std::expected<FileAttributes, FileError> attributes(const ItemReference& item) const override;
+    [[nodiscard]] FingerprintReadings fingerprintReadings(const ItemReference& item) const override;
     [[nodiscard]] bool volumeSupportsCaseSensitiveNames(const FileURL& folder) const override;
     [[nodiscard]] std::unique_ptr<DirectoryEnumerator> enumerator(
         const ItemReference& folder, EnumerationOptions options, EnumerationErrorHandler onError) const override;

@@ -11,16 +11,16 @@ namespace Platform {
 /// What one look at an item tells, symbolic links not followed. An absent value is one that the file system does not
 /// tell.
 struct ResourceValues {
-    std::optional<bool> isDirectory;
-    std::optional<bool> isRegularFile;
-    std::optional<bool> isSymbolicLink;
+    std::optional<bool> isDirectory = {};
+    std::optional<bool> isRegularFile = {};
+    std::optional<bool> isSymbolicLink = {};
     /// Bytes of content.
-    std::optional<std::int64_t> fileSize;
+    std::optional<std::int64_t> fileSize = {};
     /// Bytes that the volume gives the content (so a sparse file counts what it occupies).
-    std::optional<std::int64_t> fileAllocatedSize;
+    std::optional<std::int64_t> fileAllocatedSize = {};
     /// `fileAllocatedSize` and what belongs to the item beside its content.
-    std::optional<std::int64_t> totalFileAllocatedSize;
-    std::optional<Date> contentModificationDate;
+    std::optional<std::int64_t> totalFileAllocatedSize = {};
+    std::optional<Date> contentModificationDate = {};
     /// The item lies on another volume than the folder that holds it: a mount point, a bind mount, a subvolume.
     bool isOnOtherVolume = false;
 };
@@ -29,19 +29,19 @@ struct ResourceValues {
 struct IdentityValues {
     ResourceValues values;
     /// The file handle in hexadecimal digits: inode and generation, which a file made anew does not repeat.
-    std::optional<std::string> fileResourceIdentifier;
-    std::optional<std::string> volumeIdentifier;
+    std::optional<std::string> fileResourceIdentifier = {};
+    std::optional<std::string> volumeIdentifier = {};
 };
 
 enum class FileType : std::uint8_t { regular, directory, symbolicLink, other };
 
 /// The attributes of an item, symbolic links not followed.
 struct FileAttributes {
-    std::optional<FileType> type;
-    std::optional<std::uint64_t> systemFileNumber;
-    std::optional<std::uint64_t> systemNumber;
-    std::optional<Date> creationDate;
-    std::optional<Date> modificationDate;
+    std::optional<FileType> type = {};
+    std::optional<std::uint64_t> systemFileNumber = {};
+    std::optional<std::uint64_t> systemNumber = {};
+    std::optional<Date> creationDate = {};
+    std::optional<Date> modificationDate = {};
 };
 
 } // namespace Platform

@@ -14,7 +14,8 @@ TEST(Text, KnowsValidUTF8)
 
 TEST(Text, KnowsInvalidUTF8WhereverItStands)
 {
-    for (const std::string_view bad : {"\xFF", "\x80", "\xC3", "\xC0\x80", "\xE2\x82", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF0\x9F\x97"}) {
+    for (const std::string_view bad :
+        {"\xFF", "\x80", "\xC3", "\xC0\x80", "\xE2\x82", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF0\x9F\x97"}) {
         EXPECT_FALSE(Text::isValidUTF8(bad));
         EXPECT_FALSE(Text::isValidUTF8("twelve bytes" + std::string(bad)));
         EXPECT_FALSE(Text::isValidUTF8(std::string(bad) + "twelve bytes"));
@@ -26,8 +27,12 @@ TEST(Text, EscapesEachByteThatIsPartOfNoCharacter)
 {
     EXPECT_EQ(Text::escapingInvalidUTF8(""), "");
     EXPECT_EQ(Text::escapingInvalidUTF8("caché/🗑"), "caché/🗑");
-    EXPECT_EQ(Text::escapingInvalidUTF8("a\xFF" "b"), "a\\xFFb");
-    EXPECT_EQ(Text::escapingInvalidUTF8("\xE2\x82" "end"), "\\xE2\\x82end");
+    EXPECT_EQ(Text::escapingInvalidUTF8("a\xFF"
+                                        "b"),
+        "a\\xFFb");
+    EXPECT_EQ(Text::escapingInvalidUTF8("\xE2\x82"
+                                        "end"),
+        "\\xE2\\x82end");
     EXPECT_EQ(Text::escapingInvalidUTF8("\xED\xA0\x80"), "\\xED\\xA0\\x80");
     EXPECT_EQ(Text::escapingInvalidUTF8("caf\xE9"), "caf\\xE9");
     EXPECT_EQ(Text::escapingInvalidUTF8("/x\x0A\xFE", "//x"), "/x\n//xFE");
@@ -47,7 +52,10 @@ TEST(Text, LowersASCIIAndOtherScripts)
 TEST(Text, LowersAroundBytesThatAreNoCharacter)
 {
     EXPECT_EQ(Text::lowercased("AÉ\xFFÉB\x80"), "aé\xFFéb\x80");
-    EXPECT_EQ(Text::lowercased("\xE9" "ABC"), "\xE9" "abc");
+    EXPECT_EQ(Text::lowercased("\xE9"
+                               "ABC"),
+        "\xE9"
+        "abc");
 }
 
 TEST(Text, TrimsWhiteSpaceAndNewLinesAtBothEnds)
@@ -55,7 +63,9 @@ TEST(Text, TrimsWhiteSpaceAndNewLinesAtBothEnds)
     EXPECT_EQ(Text::trimmed(""), "");
     EXPECT_EQ(Text::trimmed(" \t\r\n\v\f"), "");
     EXPECT_EQ(Text::trimmed("  a b \n"), "a b");
-    EXPECT_EQ(Text::trimmed("\u00A0\u3000\u2028\u0085" "name\u2029\u2003"), "name");
+    EXPECT_EQ(Text::trimmed("\u00A0\u3000\u2028\u0085"
+                            "name\u2029\u2003"),
+        "name");
     // A zero width space is a format character, not white space.
     EXPECT_EQ(Text::trimmed("\u200Bx\u200B"), "\u200Bx\u200B");
     EXPECT_EQ(Text::trimmed(" \xFF "), "\xFF");
@@ -71,7 +81,8 @@ TEST(Text, ClassifiesScalars)
     for (const char32_t scalar : {U'-', U'_', U'.', U' ', U'/', U'🗑', U'\u200B', U'\0'}) {
         EXPECT_FALSE(Text::isAlphanumeric(scalar));
     }
-    for (const char32_t scalar : {U' ', U'\t', U'\n', U'\v', U'\f', U'\r', U'\u0085', U'\u00A0', U'\u2028', U'\u2029'}) {
+    for (const char32_t scalar :
+        {U' ', U'\t', U'\n', U'\v', U'\f', U'\r', U'\u0085', U'\u00A0', U'\u2028', U'\u2029'}) {
         EXPECT_TRUE(Text::isWhitespaceOrNewline(scalar));
         EXPECT_TRUE(Text::isUnicodeWhitespace(scalar));
     }
@@ -100,7 +111,9 @@ TEST(Text, GivesNoClassToWhatIsNoScalar)
 TEST(Text, TakesTextApartIntoScalars)
 {
     EXPECT_EQ(Text::scalars("aé漢🗑"), U"aé漢🗑");
-    EXPECT_EQ(Text::scalars("a\xFF\xE2\x82" "b"), U"a\uFFFD\uFFFD\uFFFDb");
+    EXPECT_EQ(Text::scalars("a\xFF\xE2\x82"
+                            "b"),
+        U"a\uFFFD\uFFFD\uFFFDb");
     EXPECT_EQ(Text::scalars(""), U"");
 }
 

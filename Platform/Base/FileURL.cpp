@@ -1,9 +1,8 @@
 #include "Platform/Base/FileURL.h"
 
-#include "Platform/Base/HexDigits.h"
+#include "Platform/Base/PercentEncoding.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace Platform {
@@ -55,40 +54,6 @@ std::string standardised(std::string_view path)
     return result.empty() ? "/" : result;
 }
 
-/// The bytes that stand for themselves in the path of a URL: RFC 3986's pchar without the percent sign and without ";"
-/// (which older readers take for a parameter), and the slash.
-constexpr auto kUnescapedBytes = [] {
-    std::array<bool, 256> allowed{};
-    for (const char byte :
-        std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,=:@/")) {
-        allowed[static_cast<unsigned char>(byte)] = true;
-    }
-    return allowed;
-}();
-
-std::optional<std::string> percentDecoded(std::string_view text)
-{
-    std::string bytes;
-    bytes.reserve(text.size());
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        if (text[index] != '%') {
-            bytes += text[index];
-            continue;
-        }
-        if (index + 2 >= text.size()) {
-            return std::nullopt;
-        }
-        const auto high = valueOfHexDigit(text[index + 1]);
-        const auto low = valueOfHexDigit(text[index + 2]);
-        if (!high || !low || *high * 16 + *low == 0) {
-            return std::nullopt;
-        }
-        bytes += static_cast<char>(*high * 16 + *low);
-        index += 2;
-    }
-    return bytes;
-}
-
 } // namespace
 
 FileURL::FileURL(std::string_view path, DirectoryHint hint)
@@ -119,16 +84,7 @@ std::optional<FileURL> FileURL::fromAbsoluteString(std::string_view text)
 
 std::string FileURL::absoluteString() const
 {
-    std::string text = "file://";
-    for (const char byte : m_path) {
-        const auto value = static_cast<unsigned char>(byte);
-        if (kUnescapedBytes[value]) {
-            text += byte;
-        } else {
-            text += '%';
-            appendHexDigits(text, value);
-        }
-    }
+    std::string text = "file://" + percentEncoded(m_path);
     if (hasDirectoryPath() && !isRoot()) {
         text += '/';
     }

@@ -1,6 +1,7 @@
 #include "Platform/Files/AtomicFile.h"
 
 #include "Platform/Files/FileDescriptor.h"
+#include "Platform/Files/WholeFile.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -54,14 +55,8 @@ public:
 
     [[nodiscard]] int write(std::string_view bytes) const
     {
-        while (!bytes.empty()) {
-            const auto written = ::write(m_descriptor.get(), bytes.data(), bytes.size());
-            if (written < 0 && errno != EINTR) {
-                return errno;
-            }
-            bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
-        }
-        return fsync(m_descriptor.get()) == 0 ? 0 : errno;
+        const int error = writeAll(m_descriptor.get(), bytes);
+        return error != 0 || fsync(m_descriptor.get()) == 0 ? error : errno;
     }
 
     [[nodiscard]] int take(const char* finalName)

@@ -44,8 +44,46 @@ FileErrorKind kindOf(int systemError)
     case EFBIG:
     case EOVERFLOW:
         return FileErrorKind::tooLarge;
+    case EBUSY:
+        return FileErrorKind::containsMount;
+    case ENOSYS:
+    case EOPNOTSUPP:
+        return FileErrorKind::notSupported;
     default:
         return FileErrorKind::unknown;
+    }
+}
+
+/// What is the same for every operation.
+std::string_view commonCause(FileErrorKind kind)
+{
+    switch (kind) {
+    case FileErrorKind::crossesVolume:
+        return " because it is on another volume";
+    case FileErrorKind::tooManySymbolicLinks:
+        return " because its path leads through a symbolic link";
+    case FileErrorKind::nameTooLong:
+        return " because its name or path is too long";
+    case FileErrorKind::tooManyOpenFiles:
+        return " because too many files are open";
+    case FileErrorKind::outOfMemory:
+        return " because there isn’t enough memory";
+    case FileErrorKind::tooLarge:
+        return " because it is too large";
+    case FileErrorKind::itemChanged:
+        return " because another item has taken its place";
+    case FileErrorKind::movedUnconfirmed:
+        return " because another item had taken its place and is in the Trash now";
+    case FileErrorKind::containsMount:
+        return " because another volume is mounted inside it";
+    case FileErrorKind::noTrash:
+        return " because its volume has no Trash that is safe to use";
+    case FileErrorKind::noTrashRecord:
+        return " because the Trash has no record that says where it was";
+    case FileErrorKind::notSupported:
+        return " because its volume doesn’t support it";
+    default:
+        return "";
     }
 }
 
@@ -58,24 +96,12 @@ std::string_view readFailureCause(FileErrorKind kind)
         return " because you don’t have permission to view it";
     case FileErrorKind::notDirectory:
         return " because it isn’t a folder";
-    case FileErrorKind::crossesVolume:
-        return " because it is on another volume";
-    case FileErrorKind::tooManySymbolicLinks:
-        return " because its path leads through a symbolic link";
-    case FileErrorKind::nameTooLong:
-        return " because its name or path is too long";
-    case FileErrorKind::tooManyOpenFiles:
-        return " because too many files are open";
-    case FileErrorKind::outOfMemory:
-        return " because there isn’t enough memory";
     case FileErrorKind::inputOutput:
         return " because the volume reported a read error";
-    case FileErrorKind::tooLarge:
-        return " because it is too large";
     case FileErrorKind::corrupt:
         return " because it isn’t in the correct format";
     default:
-        return "";
+        return commonCause(kind);
     }
 }
 
@@ -88,16 +114,6 @@ std::string_view writeFailureCause(FileErrorKind kind)
         return " because you don’t have permission";
     case FileErrorKind::notDirectory:
         return " because its parent isn’t a folder";
-    case FileErrorKind::crossesVolume:
-        return " because it is on another volume";
-    case FileErrorKind::tooManySymbolicLinks:
-        return " because its path leads through a symbolic link";
-    case FileErrorKind::nameTooLong:
-        return " because its name or path is too long";
-    case FileErrorKind::tooManyOpenFiles:
-        return " because too many files are open";
-    case FileErrorKind::outOfMemory:
-        return " because there isn’t enough memory";
     case FileErrorKind::inputOutput:
         return " because the volume reported a write error";
     case FileErrorKind::fileExists:
@@ -106,25 +122,40 @@ std::string_view writeFailureCause(FileErrorKind kind)
         return " because the volume is out of space";
     case FileErrorKind::readOnlyVolume:
         return " because the volume is read only";
-    case FileErrorKind::tooLarge:
-        return " because it is too large";
     default:
-        return "";
+        return commonCause(kind);
     }
+}
+
+std::string_view moveFailureCause(FileErrorKind kind)
+{
+    return kind == FileErrorKind::noSuchFile ? " because there is no such file" : writeFailureCause(kind);
 }
 
 } // namespace
 
 FileError FileError::fromSystemError(int systemError, FileOperation operation, std::string path)
 {
-    return {.kind = kindOf(systemError), .operation = operation, .path = std::move(path), .systemError = systemError};
+    // rename(2): what a file system says that cannot move without replacing.
+    const bool isMove = operation != FileOperation::read && operation != FileOperation::write;
+    const auto kind = isMove && systemError == EINVAL ? FileErrorKind::notSupported : kindOf(systemError);
+    return {.kind = kind, .operation = operation, .path = std::move(path), .systemError = systemError};
 }
 
 std::string FileError::localizedDescription() const
 {
     const auto name = Text::escapingInvalidUTF8(FileURL(path).lastPathComponent());
-    if (operation == FileOperation::read) {
+    switch (operation) {
+    case FileOperation::read:
         return fmt::format("The file “{}” couldn’t be opened{}.", name, readFailureCause(kind));
+    case FileOperation::trash:
+        return fmt::format("The file “{}” couldn’t be moved to the Trash{}.", name, moveFailureCause(kind));
+    case FileOperation::restore:
+        return fmt::format("The file “{}” couldn’t be put back{}.", name, moveFailureCause(kind));
+    case FileOperation::remove:
+        return fmt::format("The file “{}” couldn’t be removed{}.", name, moveFailureCause(kind));
+    case FileOperation::write:
+        break;
     }
     return fmt::format("The file “{}” couldn’t be saved{}.", name, writeFailureCause(kind));
 }

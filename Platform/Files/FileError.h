@@ -21,10 +21,21 @@ enum class FileErrorKind : std::uint8_t {
     readOnlyVolume,
     tooLarge,
     corrupt,
+    /// Not the item that was meant: another one has taken its place.
+    itemChanged,
+    /// An item came to lie in the Trash that is not the confirmed one, and its old place is taken by now.
+    movedUnconfirmed,
+    /// Another volume is mounted on the item or below it.
+    containsMount,
+    /// The volume has no Trash that is safe to use.
+    noTrash,
+    /// The Trash has no readable record of the item, or one that names another place.
+    noTrashRecord,
+    notSupported,
     unknown,
 };
 
-enum class FileOperation : std::uint8_t { read, write };
+enum class FileOperation : std::uint8_t { read, write, trash, restore, remove };
 
 /// Why an operation on one item failed. Words are made from it only where a person is told.
 struct FileError {

@@ -6,8 +6,10 @@
 #include "Platform/Files/ItemReference.h"
 #include "Platform/Files/ResourceValues.h"
 
+#include <cstddef>
 #include <expected>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -59,6 +61,17 @@ public:
     /// the new one is on the disk when this returns. On failure the old file stands as it was and nothing is left
     /// beside it. Makes no folder; a symbolic link at `url` is replaced, not followed.
     [[nodiscard]] virtual std::expected<void, FileError> writeAtomically(std::string_view bytes, const FileURL& url) const = 0;
+
+    /// The bytes of a regular file. Anything else at the path (a folder, a FIFO, a device) is refused without waiting for
+    /// it; more than `maximumBytes` is an error of kind `tooLarge`.
+    [[nodiscard]] virtual std::expected<std::string, FileError> readFile(
+        const FileURL& url, std::size_t maximumBytes) const = 0;
+    /// Makes the folder and those on the way that are missing, each for its user alone (0700). A folder that is there
+    /// already is no error, and keeps its permissions.
+    [[nodiscard]] virtual std::expected<void, FileError> createDirectory(const FileURL& folder) const = 0;
+    /// Gives an item of the application's own another name; what stands at `destination` is never replaced.
+    [[nodiscard]] virtual std::expected<void, FileError> moveItem(
+        const FileURL& source, const FileURL& destination) const = 0;
 
 protected:
     FileManager() = default;

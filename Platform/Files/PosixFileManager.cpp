@@ -2,13 +2,16 @@
 
 #include "Platform/Files/AtomicFile.h"
 #include "Platform/Files/FolderHandle.h"
+#include "Platform/Files/MakeFolders.h"
 #include "Platform/Files/OpenFolder.h"
 #include "Platform/Files/PathResolution.h"
 #include "Platform/Files/PosixDirectoryEnumerator.h"
 #include "Platform/Files/PosixResourceValues.h"
 #include "Platform/Files/VolumeFacts.h"
+#include "Platform/Files/WholeFile.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -177,6 +180,31 @@ FileURL PosixFileManager::resolvingSymbolicLinks(const FileURL& url) const
 std::expected<void, FileError> PosixFileManager::writeAtomically(std::string_view bytes, const FileURL& url) const
 {
     return replaceFile(url, bytes);
+}
+
+std::expected<std::string, FileError> PosixFileManager::readFile(const FileURL& url, std::size_t maximumBytes) const
+{
+    auto bytes = readWholeFile(AT_FDCWD, url.path().c_str(), maximumBytes);
+    if (!bytes) {
+        return std::unexpected(readError(url, bytes.error()));
+    }
+    return *std::move(bytes);
+}
+
+std::expected<void, FileError> PosixFileManager::createDirectory(const FileURL& folder) const
+{
+    if (const int error = makeFolders(folder); error != 0) {
+        return std::unexpected(FileError::fromSystemError(error, FileOperation::write, folder.path()));
+    }
+    return {};
+}
+
+std::expected<void, FileError> PosixFileManager::moveItem(const FileURL& source, const FileURL& destination) const
+{
+    if (renameat2(AT_FDCWD, source.path().c_str(), AT_FDCWD, destination.path().c_str(), RENAME_NOREPLACE) != 0) {
+        return std::unexpected(FileError::fromSystemError(errno, FileOperation::write, source.path()));
+    }
+    return {};
 }
 
 } // namespace Platform

@@ -278,4 +278,28 @@ std::expected<void, FileError> FaultyFileManager::writeAtomically(std::string_vi
     return m_inner.writeAtomically(bytes, url);
 }
 
+std::expected<std::string, FileError> FaultyFileManager::readFile(const FileURL& url, std::size_t maximumBytes) const
+{
+    if (const int error = m_ledger->enter(FileManagerCall::readFile, [&] { return url; }); error != 0) {
+        return failure(error, FileOperation::read, url);
+    }
+    return m_inner.readFile(url, maximumBytes);
+}
+
+std::expected<void, FileError> FaultyFileManager::createDirectory(const FileURL& folder) const
+{
+    if (const int error = m_ledger->enter(FileManagerCall::createDirectory, [&] { return folder; }); error != 0) {
+        return failure(error, FileOperation::write, folder);
+    }
+    return m_inner.createDirectory(folder);
+}
+
+std::expected<void, FileError> FaultyFileManager::moveItem(const FileURL& source, const FileURL& destination) const
+{
+    if (const int error = m_ledger->enter(FileManagerCall::moveItem, [&] { return source; }); error != 0) {
+        return failure(error, FileOperation::write, source);
+    }
+    return m_inner.moveItem(source, destination);
+}
+
 } // namespace TestSupport

@@ -11,7 +11,7 @@
 
 namespace TestSupport {
 
-/// What a scan asks of the file system. The last four are asked of an enumerator.
+/// What a scan asks of the file system. Those from `listFolder` on are asked of an enumerator.
 enum class FileManagerCall : std::uint8_t {
     existence,
     resourceValues,
@@ -22,6 +22,9 @@ enum class FileManagerCall : std::uint8_t {
     contentsOfDirectory,
     resolvingSymbolicLinks,
     writeAtomically,
+    readFile,
+    createDirectory,
+    moveItem,
     /// The listing of one folder, counted when its first entry comes (an empty folder is not counted). Its failure
     /// hides the whole folder: the error handler hears of it in place of the entries.
     listFolder,
@@ -88,6 +91,12 @@ public:
     [[nodiscard]] Platform::FileURL resolvingSymbolicLinks(const Platform::FileURL& url) const override;
     [[nodiscard]] std::expected<void, Platform::FileError> writeAtomically(
         std::string_view bytes, const Platform::FileURL& url) const override;
+    [[nodiscard]] std::expected<std::string, Platform::FileError> readFile(
+        const Platform::FileURL& url, std::size_t maximumBytes) const override;
+    [[nodiscard]] std::expected<void, Platform::FileError> createDirectory(
+        const Platform::FileURL& folder) const override;
+    [[nodiscard]] std::expected<void, Platform::FileError> moveItem(
+        const Platform::FileURL& source, const Platform::FileURL& destination) const override;
 
 private:
     class Ledger;

@@ -269,6 +269,21 @@ public:
     {
         return m_inner.writeAtomically(bytes, url);
     }
+    [[nodiscard]] std::expected<std::string, Platform::FileError> readFile(
+        const Platform::FileURL& url, std::size_t maximumBytes) const override
+    {
+        return m_inner.readFile(url, maximumBytes);
+    }
+    [[nodiscard]] std::expected<void, Platform::FileError> createDirectory(
+        const Platform::FileURL& folder) const override
+    {
+        return m_inner.createDirectory(folder);
+    }
+    [[nodiscard]] std::expected<void, Platform::FileError> moveItem(
+        const Platform::FileURL& source, const Platform::FileURL& destination) const override
+    {
+        return m_inner.moveItem(source, destination);
+    }
 
 private:
     const Platform::FileManager& m_inner;

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Platform/Base/FileURL.h"
+#include "Platform/Files/FileError.h"
+#include "Platform/Files/FolderHandle.h"
+#include "Platform/Linux/TrashRecord.h"
+
+#include <cstdint>
+#include <expected>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Platform {
+
+enum class MissingTrash : std::uint8_t { make, refuse };
+
+/// One Trash: its folder of items, its folder of records, both held open. It has been found to be a real folder that
+/// belongs to this user and that nobody else may write to. Errors are numbers of the system; EPERM means that the folder
+/// is not safe to use.
+class TrashFolder {
+public:
+    /// The Trash at `folder`, below which nothing may be a link. `recordedPathBase` is what the paths in its records are
+    /// relative to; nothing for absolute ones. Records of this program that were left over by a crash are taken away.
+    static std::expected<std::shared_ptr<TrashFolder>, int> open(
+        const FileURL& folder, std::optional<FileURL> recordedPathBase, MissingTrash missing);
+
+    /// Keeps other processes from tidying while records and items are being moved.
+    class Use {
+    public:
+        explicit Use(const TrashFolder& folder);
+        ~Use();
+        Use(const Use&) = delete;
+        Use& operator=(const Use&) = delete;
+
+    private:
+        int m_descriptor;
+    };
+
+    [[nodiscard]] const std::shared_ptr<const FolderHandle>& files() const { return m_files; }
+    [[nodiscard]] std::uint64_t mountNumber() const { return m_files->status().mountNumber; }
+
+    /// Whether the path of this Trash still leads to it.
+    [[nodiscard]] bool isStillInPlace() const;
+
+    /// Writes the record of the item that is to lie here as `name`. Nothing is ever replaced: EEXIST if the name is taken.
+    /// The record appears whole or not at all.
+    [[nodiscard]] int addRecord(std::string_view name, const FileURL& itemURL) const;
+    [[nodiscard]] int removeRecord(std::string_view name) const;
+    /// Where the record says that the item was.
+    [[nodiscard]] std::expected<FileURL, int> recordedURL(std::string_view name) const;
+
+    /// Brings everything that was moved in this file system to the disk.
+    [[nodiscard]] int synchronise() const;
+
+private:
+    TrashFolder(std::shared_ptr<const FolderHandle> files, std::shared_ptr<const FolderHandle> info,
+        std::optional<FileURL> recordedPathBase);
+
+    void removeLeftoverRecords() const;
+    [[nodiscard]] std::expected<TrashRecord, int> readRecord(const char* recordName) const;
+
+    std::shared_ptr<const FolderHandle> m_files;
+    std::shared_ptr<const FolderHandle> m_info;
+    std::optional<FileURL> m_recordedPathBase;
+};
+
+} // namespace Platform

@@ -23,10 +23,27 @@ constexpr std::string_view kCandidateLabel = "cleanup-candidate";
 constexpr std::string_view kSkippedLabel = "skipped";
 constexpr std::string_view kSkippedReasonLabel = "skipped-reason";
 
-// What a row takes in the text on average: a guess that spares most of the copying while the text grows.
-constexpr std::size_t kBytesPerJSONCandidate = 480;
-constexpr std::size_t kBytesPerJSONSkippedItem = 160;
-constexpr std::size_t kBytesPerCSVRow = 200;
+// What a row takes beside its texts, and a little more: a text of half a gigabyte had better not grow.
+constexpr std::size_t kBytesPerJSONRow = 352;
+constexpr std::size_t kBytesPerCSVRow = 128;
+
+/// The bytes of the texts that rows repeat. Room for every eighth byte to be escaped is part of it.
+std::size_t textBytes(const ScanReport& report)
+{
+    std::size_t bytes = 0;
+    for (const auto& candidate : report.candidates) {
+        bytes += candidate.id.size() + candidate.url.path().size() + candidate.displayName.size();
+    }
+    for (const auto& item : report.skippedItems) {
+        bytes += item.url.path().size() + item.reason.size();
+    }
+    return bytes + bytes / 8;
+}
+
+std::size_t rowCount(const ScanReport& report)
+{
+    return report.candidates.size() + report.skippedItems.size() + 2;
+}
 
 CleanupScanExportSummary summaryOf(const ScanReport& report, const SelectedIDs& selectedIDs)
 {
@@ -76,8 +93,7 @@ std::expected<std::string, Platform::JSONError> json(const ScanReport& report, c
 {
     ReportExportText text(privacyMode);
     Platform::JSONWriter writer;
-    writer.reserve(
-        report.candidates.size() * kBytesPerJSONCandidate + report.skippedItems.size() * kBytesPerJSONSkippedItem);
+    writer.reserve(rowCount(report) * kBytesPerJSONRow + textBytes(report));
     Platform::JSONFieldWriter payload(writer);
     writer.beginObject();
     // In the order of the keys, so that the writer need not move the rows.
@@ -99,7 +115,7 @@ std::string csv(const ScanReport& report, const SelectedIDs& selectedIDs, Report
 {
     ReportExportText text(privacyMode);
     CSVWriter writer(ScanResultCSVRow::columns, privacyMode);
-    writer.reserve((report.candidates.size() + report.skippedItems.size() + 2) * kBytesPerCSVRow);
+    writer.reserve(rowCount(report) * kBytesPerCSVRow + textBytes(report));
     for (const auto& candidate : report.candidates) {
         const auto path = text.path(candidate.url.path(), kCandidateLabel);
         const auto name = text.name(candidate.displayName, kCandidateLabel);

@@ -68,22 +68,22 @@ bool containsHomeRelativePath(std::u32string_view scalars)
 
 std::string ReportExportRedactionContext::path(std::string_view value, std::string_view label)
 {
-    return token(m_paths, "path", value, label);
+    return hidden(m_paths, "path", value, label);
 }
 
 std::string ReportExportRedactionContext::name(std::string_view value, std::string_view label)
 {
-    return token(m_names, "name", value, label);
+    return hidden(m_names, "name", value, label);
 }
 
 std::string ReportExportRedactionContext::identifier(std::string_view value, std::string_view label)
 {
-    return token(m_identifiers, "id", value, label);
+    return hidden(m_identifiers, "id", value, label);
 }
 
 std::string ReportExportRedactionContext::freeText(std::string_view value, std::string_view label)
 {
-    return containsPath(value) ? token(m_freeTexts, "text", value, label) : std::string(value);
+    return containsPath(value) ? hidden(m_freeTexts, "text", value, label) : std::string(value);
 }
 
 std::string ReportExportRedactionContext::sanitizedLabel(std::string_view label)
@@ -118,18 +118,15 @@ bool ReportExportRedactionContext::containsPath(std::string_view text)
     return containsHomeRelativePath(scalars) || containsAbsolutePath(scalars);
 }
 
-std::string ReportExportRedactionContext::token(
+std::string ReportExportRedactionContext::hidden(
     Table& table, std::string_view kind, std::string_view value, std::string_view label)
 {
     if (value.empty()) {
         return {};
     }
-    auto entry = table.find(value);
-    if (entry == table.end()) {
-        const auto number = table.size() + 1;
-        entry = table.emplace(value, Token{indexOfLabel(label), number}).first;
-    }
-    return fmt::format("<{}:{}-{}>", kind, m_labels[entry->second.label].second, entry->second.number);
+    const auto& token =
+        table.try_emplace(std::string(value), Token{indexOfLabel(label), table.size() + 1}).first->second;
+    return fmt::format("<{}:{}-{}>", kind, m_labels[token.label].second, token.number);
 }
 
 std::size_t ReportExportRedactionContext::indexOfLabel(std::string_view label)

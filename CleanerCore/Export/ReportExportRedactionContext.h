@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -31,17 +30,13 @@ public:
     [[nodiscard]] static bool containsPath(std::string_view text);
 
 private:
-    struct Hash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view value) const { return std::hash<std::string_view>{}(value); }
-    };
     struct Token {
         std::size_t label;
         std::size_t number;
     };
-    using Table = std::unordered_map<std::string, Token, Hash, std::equal_to<>>;
+    using Table = std::unordered_map<std::string, Token>;
 
-    std::string token(Table& table, std::string_view kind, std::string_view value, std::string_view label);
+    std::string hidden(Table& table, std::string_view kind, std::string_view value, std::string_view label);
     std::size_t indexOfLabel(std::string_view label);
 
     Table m_paths;

@@ -1,4 +1,6 @@
 #include "CleanerCore/Scan/FileResourceIdentity.h"
+#include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/ForwardingFileManager.h"
 
 #include <cerrno>
 #include <gtest/gtest.h>
@@ -15,8 +17,13 @@ using Platform::IdentityValues;
 using Platform::ItemReference;
 
 /// Gives one answer to each of the two questions that a capture asks, and counts them; there are no others to answer.
-class TwoAnswers final : public Platform::FileManager {
+class TwoAnswers final : public TestSupport::ForwardingFileManager {
 public:
+    TwoAnswers()
+        : ForwardingFileManager(m_unused)
+    {
+    }
+
     std::expected<IdentityValues, FileError> identity = failure();
     std::expected<FileAttributes, FileError> fileAttributes = failure();
     mutable int identityCalls = 0;
@@ -38,26 +45,8 @@ public:
         return fileAttributes;
     }
 
-    Platform::Existence existence(const FileURL&) const override { return Platform::Existence::missing; }
-    std::expected<Platform::ResourceValues, FileError> resourceValues(const ItemReference&) const override
-    {
-        return failure();
-    }
-    bool volumeSupportsCaseSensitiveNames(const FileURL&) const override { return false; }
-    std::unique_ptr<Platform::DirectoryEnumerator> enumerator(
-        const ItemReference&, Platform::EnumerationOptions, Platform::EnumerationErrorHandler) const override
-    {
-        return nullptr;
-    }
-    std::expected<std::vector<FileURL>, FileError> contentsOfDirectory(const FileURL&) const override
-    {
-        return failure();
-    }
-    FileURL resolvingSymbolicLinks(const FileURL& url) const override { return url; }
-    std::expected<void, FileError> writeAtomically(std::string_view, const FileURL&) const override
-    {
-        return failure();
-    }
+private:
+    Platform::PosixFileManager m_unused;
 };
 
 IdentityValues someIdentity()

@@ -1,5 +1,6 @@
 #include "Tests/CleanerCore/Scan/ScanFixture.h"
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/ForwardingFileManager.h"
 
 #include <cerrno>
 #include <set>
@@ -217,76 +218,18 @@ TEST_F(StorageScanner, TreatsAPackageAmongTheChildrenAsAnOrdinaryChild)
 }
 
 /// Takes the dates away from everything below the roots.
-class DatelessFileManager final : public Platform::FileManager {
+class DatelessFileManager final : public TestSupport::ForwardingFileManager {
 public:
-    explicit DatelessFileManager(const Platform::FileManager& inner)
-        : m_inner(inner)
-    {
-    }
-    [[nodiscard]] Platform::Existence existence(const Platform::FileURL& url) const override
-    {
-        return m_inner.existence(url);
-    }
+    using ForwardingFileManager::ForwardingFileManager;
     [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
         const Platform::ItemReference& item) const override
     {
-        auto values = m_inner.resourceValues(item);
+        auto values = inner().resourceValues(item);
         if (values) {
             values->contentModificationDate.reset();
         }
         return values;
     }
-    [[nodiscard]] std::expected<Platform::IdentityValues, Platform::FileError> identityValues(
-        const Platform::ItemReference& item) const override
-    {
-        return m_inner.identityValues(item);
-    }
-    [[nodiscard]] std::expected<Platform::FileAttributes, Platform::FileError> attributes(
-        const Platform::ItemReference& item) const override
-    {
-        return m_inner.attributes(item);
-    }
-    [[nodiscard]] bool volumeSupportsCaseSensitiveNames(const Platform::FileURL& folder) const override
-    {
-        return m_inner.volumeSupportsCaseSensitiveNames(folder);
-    }
-    [[nodiscard]] std::unique_ptr<Platform::DirectoryEnumerator> enumerator(const Platform::ItemReference& folder,
-        Platform::EnumerationOptions options, Platform::EnumerationErrorHandler onError) const override
-    {
-        return m_inner.enumerator(folder, options, std::move(onError));
-    }
-    [[nodiscard]] std::expected<std::vector<Platform::FileURL>, Platform::FileError> contentsOfDirectory(
-        const Platform::FileURL& folder) const override
-    {
-        return m_inner.contentsOfDirectory(folder);
-    }
-    [[nodiscard]] Platform::FileURL resolvingSymbolicLinks(const Platform::FileURL& url) const override
-    {
-        return m_inner.resolvingSymbolicLinks(url);
-    }
-    [[nodiscard]] std::expected<void, Platform::FileError> writeAtomically(
-        std::string_view bytes, const Platform::FileURL& url) const override
-    {
-        return m_inner.writeAtomically(bytes, url);
-    }
-    [[nodiscard]] std::expected<std::string, Platform::FileError> readFile(
-        const Platform::FileURL& url, std::size_t maximumBytes) const override
-    {
-        return m_inner.readFile(url, maximumBytes);
-    }
-    [[nodiscard]] std::expected<void, Platform::FileError> createDirectory(
-        const Platform::FileURL& folder) const override
-    {
-        return m_inner.createDirectory(folder);
-    }
-    [[nodiscard]] std::expected<void, Platform::FileError> moveItem(
-        const Platform::FileURL& source, const Platform::FileURL& destination) const override
-    {
-        return m_inner.moveItem(source, destination);
-    }
-
-private:
-    const Platform::FileManager& m_inner;
 };
 
 TEST_F(StorageScanner, TreatsAFileWithoutADateAsOld)

@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace CleanerCore {
@@ -26,8 +27,8 @@ public:
 
     /// Keeps the roots that pass the checks, in the given order; the others are left out without a word. Without a
     /// home the person's real one counts.
-    SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs, const std::optional<Platform::FileURL>& homeDirectory,
-        const Platform::FileManager& fileManager);
+    SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs,
+        const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager);
 
     /// Whether an existing item may be cleaned.
     [[nodiscard]] std::expected<void, CleaningError> validate(
@@ -45,8 +46,14 @@ public:
     [[nodiscard]] bool usesCaseInsensitivePathComparison() const { return m_usesCaseInsensitivePathComparison; }
 
 private:
+    [[nodiscard]] std::string homeKey(std::string_view path) const;
+    [[nodiscard]] bool isProtected(std::string_view key) const;
+    [[nodiscard]] const AllowedRoot* allowedRoot(std::string_view resolvedPath) const;
+
     std::vector<AllowedRoot> m_allowedRoots;
     std::vector<std::string> m_protectedPathKeys;
+    /// Protected themselves, but not what lies in them.
+    std::vector<std::string> m_sharedFolderKeys;
     std::string m_homePathKey;
     bool m_usesCaseInsensitivePathComparison = true;
 };

@@ -209,13 +209,18 @@ bool isControl(char32_t scalar)
     return isInCategories(scalar, U_GC_CC_MASK);
 }
 
+char32_t takeScalar(std::string_view& text)
+{
+    const auto character = takeCharacter(text);
+    return character < 0 ? kReplacementCharacter : static_cast<char32_t>(character);
+}
+
 std::u32string scalars(std::string_view text)
 {
     std::u32string result;
     result.reserve(text.size());
     while (!text.empty()) {
-        const auto character = takeCharacter(text);
-        result += character < 0 ? kReplacementCharacter : static_cast<char32_t>(character);
+        result += takeScalar(text);
     }
     return result;
 }

@@ -25,6 +25,8 @@ namespace Platform::Text {
 [[nodiscard]] bool isUnicodeWhitespace(char32_t scalar);   // the property White_Space
 [[nodiscard]] bool isControl(char32_t scalar);             // general category Cc
 
+/// Takes the first scalar off `text`, which is not empty; a byte that is part of no character gives U+FFFD.
+char32_t takeScalar(std::string_view& text);
 /// The scalars of `text`; a byte that is part of no character gives U+FFFD.
 [[nodiscard]] std::u32string scalars(std::string_view text);
 /// What is no Unicode scalar gives U+FFFD.

@@ -117,6 +117,16 @@ TEST(Text, TakesTextApartIntoScalars)
     EXPECT_EQ(Text::scalars(""), U"");
 }
 
+TEST(Text, TakesOneScalarAtATime)
+{
+    std::string_view rest = "é\xFF"
+                            "b";
+    EXPECT_EQ(Text::takeScalar(rest), U'é');
+    EXPECT_EQ(Text::takeScalar(rest), U'\uFFFD');
+    EXPECT_EQ(Text::takeScalar(rest), U'b');
+    EXPECT_TRUE(rest.empty());
+}
+
 TEST(Text, PutsScalarsTogether)
 {
     EXPECT_EQ(Text::fromScalars(U"aé漢🗑"), "aé漢🗑");

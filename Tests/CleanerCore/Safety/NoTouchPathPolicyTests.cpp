@@ -1,9 +1,9 @@
 #include "CleanerCore/Safety/NoTouchPathPolicy.h"
 
 #include "CleanerCore/Safety/LinuxNoTouchTable.h"
-#include "LinuxNoTouchExamples.h"
-#include "NoTouchReference.h"
 #include "Platform/Base/Text.h"
+#include "Tests/CleanerCore/Safety/LinuxNoTouchExamples.h"
+#include "Tests/CleanerCore/Safety/NoTouchReference.h"
 
 #include <gtest/gtest.h>
 #include <random>

@@ -35,6 +35,8 @@ constexpr unsigned kProfileShift = 23;
 constexpr std::uint64_t kProfileMask = std::uint64_t{7} << kProfileShift;
 /// The profile is the folder of the snaps.
 constexpr std::uint64_t kSnaps = std::uint64_t{1} << 26U;
+/// The rows of the Linux table do not count here.
+constexpr std::uint64_t kAppleRowsOnly = std::uint64_t{1} << 27U;
 
 constexpr std::uint64_t placed(Place place)
 {
@@ -90,7 +92,8 @@ bool fits(const Rule& rule, std::uint64_t parentBits)
     const auto grandparent = static_cast<Token>((parentBits >> kTokenBits) & kTokenMask);
     return (rule.parent == NoTouchRuleSet::kNoToken || rule.parent == parent)
         && (rule.grandparent == NoTouchRuleSet::kNoToken || rule.grandparent == grandparent)
-        && (rule.anchor == Anchor::anywhere || placeOf(parentBits) == anchorPlace(rule.length));
+        && (rule.anchor == Anchor::anywhere || placeOf(parentBits) == anchorPlace(rule.length))
+        && ((parentBits & kAppleRowsOnly) == 0 || rule.table == NoTouchTable::apple);
 }
 
 /// The levels at which a profile's caches lie, as bits.
@@ -192,9 +195,9 @@ NoTouchPathPolicy::State NoTouchPathPolicy::State::fromBits(std::uint64_t bits)
     return state;
 }
 
-NoTouchPathPolicy::State NoTouchPathPolicy::State::of(const Platform::FileURL& url)
+NoTouchPathPolicy::State NoTouchPathPolicy::State::of(const Platform::FileURL& url, NoTouchScope scope)
 {
-    State state;
+    auto state = fromBits(scope == NoTouchScope::trash ? kAppleRowsOnly : 0);
     const auto components = url.pathComponents();
     for (std::size_t index = 1; index < components.size(); ++index) {
         state = state.descend(components[index]);

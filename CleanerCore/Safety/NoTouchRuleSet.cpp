@@ -26,10 +26,10 @@ template <typename Visitor>
 constexpr void forEachRow(Visitor visit)
 {
     for (const NoTouchRow& row : kAppleNoTouchTable) {
-        visit(row);
+        visit(row, NoTouchTable::apple);
     }
     for (const NoTouchRow& row : kLinuxNoTouchTable) {
-        visit(row);
+        visit(row, NoTouchTable::linux_);
     }
 }
 
@@ -62,7 +62,7 @@ struct Vocabulary {
 constexpr Vocabulary makeVocabulary()
 {
     Vocabulary vocabulary;
-    forEachRow([&](const NoTouchRow& row) {
+    forEachRow([&](const NoTouchRow& row, NoTouchTable) {
         const auto pattern = NoTouchPatterns::parsePattern(row.pattern);
         for (std::size_t index = 0; index < pattern.length; ++index) {
             vocabulary.add(pattern.components[index]);
@@ -91,7 +91,7 @@ constexpr Rules makeRules()
 {
     std::array<Rule, 512> found{};
     std::size_t count = 0;
-    forEachRow([&](const NoTouchRow& row) {
+    forEachRow([&](const NoTouchRow& row, NoTouchTable table) {
         const auto pattern = NoTouchPatterns::parsePattern(row.pattern);
         const auto alternatives = [&](std::size_t fromEnd) {
             return fromEnd < pattern.length ? pattern.components[pattern.length - 1 - fromEnd] : std::string_view();
@@ -104,7 +104,7 @@ constexpr Rules makeRules()
                 NoTouchPatterns::forEachPart(alternatives(0), '|', [&](std::string_view last) {
                     found[count++] = {token(grandparent), token(parent), token(last),
                         pattern.isBelowHome ? Anchor::belowHome : Anchor::anywhere,
-                        static_cast<std::uint8_t>(pattern.length), row.effect};
+                        static_cast<std::uint8_t>(pattern.length), row.effect, table};
                 });
             });
         });

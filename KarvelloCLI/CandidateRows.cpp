@@ -56,6 +56,7 @@ CandidateColumns::CandidateColumns(
     std::span<const CandidateRow* const> rows, std::size_t columns, Painter painter, std::string_view placeTitle)
     : m_painter(painter)
     , m_placeTitle(placeTitle)
+    , m_columns(columns)
     , m_sizeWidth(widest(rows, &CandidateRow::size, sizeTitle()))
     , m_ageWidth(widest(rows, &CandidateRow::age, ageTitle()))
 {
@@ -109,6 +110,16 @@ std::string CandidateColumns::line(const CandidateRow& row) const
 {
     const std::string mark = row.isMarked ? m_painter(Ink::safe, "*") : " ";
     return join(mark, row.size, row.age, row.name, row.kind, row.place, row.path);
+}
+
+std::string CandidateColumns::summaryLine(const TerminalText& size, const TerminalText& words) const
+{
+    std::string line = "  ";
+    line += size.paddedLeft(m_sizeWidth);
+    line += kGap;
+    const std::size_t taken = 2 + std::max(m_sizeWidth, size.columns()) + kGap.size();
+    line += words.elidedInMiddle(m_columns > taken ? m_columns - taken : 1).string();
+    return m_painter(Ink::quiet, line);
 }
 
 } // namespace KarvelloCLI

@@ -34,6 +34,8 @@ public:
     /// The titles, without the line's end.
     [[nodiscard]] std::string header() const;
     [[nodiscard]] std::string line(const CandidateRow& row) const;
+    /// Words on several candidates in one, with their size in its column.
+    [[nodiscard]] std::string summaryLine(const TerminalText& size, const TerminalText& words) const;
 
 private:
     [[nodiscard]] std::string join(std::string_view mark, const TerminalText& size, const TerminalText& age,
@@ -41,6 +43,7 @@ private:
 
     Painter m_painter;
     TerminalText m_placeTitle;
+    std::size_t m_columns;
     std::size_t m_sizeWidth = 0;
     std::size_t m_ageWidth = 0;
     /// 0 in a narrow table.

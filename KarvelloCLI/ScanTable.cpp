@@ -13,6 +13,8 @@
 #include <cmath>
 #include <ctime>
 #include <span>
+#include <tuple>
+#include <unordered_map>
 
 namespace KarvelloCLI {
 
@@ -210,10 +212,46 @@ std::string ScanTable::lines(const Group& group, const CandidateColumns& columns
         text += columns.line(row);
         text += '\n';
     }
-    if (group.rows.size() < candidates.size()) {
-        const std::span rest = candidates.subspan(group.rows.size());
-        text += m_painter(Ink::quiet, fmt::format("  and {} more, {}", rest.size(), size(totalBytes(rest))));
-        text += '\n';
+    return text + rest(candidates.subspan(group.rows.size()), columns);
+}
+
+std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const CandidateColumns& columns) const
+{
+    if (candidates.empty()) {
+        return {};
+    }
+    const auto line = [&](std::int64_t bytes, std::string_view words) {
+        return columns.summaryLine(TerminalText(size(bytes)), TerminalText(words)) + '\n';
+    };
+    const std::int64_t bytes = totalBytes(candidates);
+    std::string text = line(bytes, "in " + counted(candidates.size(), "more item"));
+    if (m_settings.isRedacted) {
+        return text;
+    }
+
+    struct Folder {
+        std::string path;
+        std::int64_t bytes = 0;
+        std::size_t items = 0;
+    };
+    std::unordered_map<std::string, Folder> folderOfPath;
+    for (const CleanupCandidate& candidate : candidates) {
+        const Platform::FileURL parent = candidate.url.deletingLastPathComponent();
+        Folder& folder = folderOfPath[parent.path()];
+        folder.path = parent.path();
+        folder.bytes = Platform::checkedAdd(folder.bytes, candidate.sizeBytes);
+        ++folder.items;
+    }
+    std::vector<Folder> folders;
+    for (auto& [path, folder] : folderOfPath) {
+        folders.push_back(std::move(folder));
+    }
+    const std::size_t shown = std::min(folders.size(), kShownFolders);
+    std::ranges::partial_sort(folders, folders.begin() + static_cast<std::ptrdiff_t>(shown), std::ranges::greater{},
+        [](const Folder& folder) { return std::tie(folder.bytes, folder.path); });
+    for (const Folder& folder : std::span(folders).first(shown)) {
+        text += line(
+            folder.bytes, fmt::format("  {} in {}", counted(folder.items, "item"), m_paths.abbreviate(folder.path)));
     }
     return text;
 }

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,8 @@ public:
     /// How much of a group, and how many reasons, a table that is not verbose shows.
     static constexpr std::size_t kShownCandidates = 20;
     static constexpr std::size_t kShownReasons = 12;
+    /// Of what a group does not show one by one, in how many folders it is summed up.
+    static constexpr std::size_t kShownFolders = 4;
 
     struct Settings {
         std::size_t columns = 100;
@@ -65,6 +68,8 @@ private:
     [[nodiscard]] std::string heading() const;
     [[nodiscard]] std::string candidates() const;
     [[nodiscard]] std::string lines(const Group& group, const CandidateColumns& columns) const;
+    [[nodiscard]] std::string rest(
+        std::span<const CleanerCore::CleanupCandidate> candidates, const CandidateColumns& columns) const;
     [[nodiscard]] std::string skipped() const;
     [[nodiscard]] std::string totals() const;
     [[nodiscard]] std::string nothingFound() const;

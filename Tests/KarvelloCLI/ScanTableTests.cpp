@@ -181,21 +181,26 @@ TEST(ScanTable, NoNameCanMoveTheCursorOrReorderALine)
     EXPECT_THAT(table(report, {.columns = 160}), HasSubstr("\\x1b[2J\\nSafe: 9 items\\r\\u202egpj.exe\\xff"));
 }
 
-TEST(ScanTable, ShowsTheLargestOfAGroupAndCountsTheRest)
+TEST(ScanTable, ShowsTheLargestOfAGroupAndSumsUpTheRest)
 {
     std::vector<CleanupCandidate> candidates;
     for (int index = 1; index <= 25; ++index) {
-        candidates.push_back(candidate("/home/ada/c/" + std::to_string(index), index * kMegabyte, CleanupSafety::safe));
+        const std::string folder = index % 2 == 0 ? "/home/ada/even/" : "/home/ada/odd/";
+        candidates.push_back(candidate(folder + std::to_string(index), index * kMegabyte, CleanupSafety::safe));
     }
     const ScanReport report(kNow, std::move(candidates), {});
     const std::string brief = table(report, {});
-    EXPECT_THAT(brief, HasSubstr("  6 MB"));
-    EXPECT_THAT(brief, Not(HasSubstr("  5 MB")));
-    EXPECT_THAT(brief, HasSubstr("  and 5 more, 15 MB\n"));
+    EXPECT_THAT(brief,
+        HasSubstr("*  6 MB  3 d  6     ~/even\n"
+                  "  15 MB  in 5 more items\n"
+                  "   9 MB    3 items in ~/odd\n"
+                  "   6 MB    2 items in ~/even\n"));
+    EXPECT_THAT(brief, Not(HasSubstr("*  5 MB")));
     EXPECT_THAT(brief, HasSubstr("--verbose lists every item."));
+    EXPECT_THAT(table(report, {.isRedacted = true}), Not(HasSubstr("even")));
     const std::string verbose = table(report, {.isVerbose = true});
-    EXPECT_THAT(verbose, HasSubstr("  1 MB"));
-    EXPECT_THAT(verbose, Not(HasSubstr("more,")));
+    EXPECT_THAT(verbose, HasSubstr("*  1 MB"));
+    EXPECT_THAT(verbose, Not(HasSubstr("more")));
     EXPECT_THAT(verbose, Not(HasSubstr("--verbose")));
 }
 

@@ -1,5 +1,6 @@
 #include "CleanerCore/Safety/ComparisonForm.h"
 #include "CleanerCore/Safety/NoTouchPathPolicy.h"
+#include "CleanerCore/Safety/SafePathPolicy.h"
 #include "CleanerCore/Scan/StorageProfiles.h"
 #include "CleanerCore/Scan/XDGLocationTable.h"
 #include "Platform/Files/PosixFileManager.h"
@@ -141,6 +142,15 @@ TEST_F(XDGLocationsTest, PutsNoLocationInsideAnother)
                 }
             }
         }
+    }
+}
+
+TEST_F(XDGLocationsTest, ListsOnlyWhatMayBeScanned)
+{
+    makeFullHome(tree);
+    for (const auto& location : locations(CleanupScanMode::direct)) {
+        EXPECT_TRUE(SafePathPolicy::validateScanRoot(location.rootURL, tree.url("home/"), files))
+            << location.rootURL.path();
     }
 }
 

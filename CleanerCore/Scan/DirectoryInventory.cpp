@@ -63,8 +63,8 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
         if (wantsProgress && (number == 1 || number % rules.progressInterval == 0)) {
             events.walkingAt(number, items->url());
         }
-        const auto folderState
-            = items->level() == 1 ? state : NoTouchPathPolicy::State::fromBits(items->folderContext());
+        const auto folderState =
+            items->level() == 1 ? state : NoTouchPathPolicy::State::fromBits(items->folderContext());
         const auto itemState = folderState.descend(items->name());
         if (itemState.isNoTouch()) {
             items->skipDescendants();
@@ -100,7 +100,8 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
             continue;
         }
         // Once something young was seen the sum is of no use; the walk goes on, for what is protected outranks age.
-        if (sizes == SizeCollection::omit || found->isDirectory.value_or(false) || inventory.containsRecentlyModifiedItem) {
+        if (sizes == SizeCollection::omit || found->isDirectory.value_or(false)
+            || inventory.containsRecentlyModifiedItem) {
             continue;
         }
         inventory.byteSize = Platform::checkedAdd(inventory.byteSize, sizeOf(*found));

@@ -9,6 +9,9 @@ namespace Platform {
 [[nodiscard]] bool isPackageName(std::string_view folderName);
 
 /// Whether an item of this name is hidden: it begins with a point.
-[[nodiscard]] constexpr bool isHiddenName(std::string_view name) { return name.starts_with('.'); }
+[[nodiscard]] constexpr bool isHiddenName(std::string_view name)
+{
+    return name.starts_with('.');
+}
 
 } // namespace Platform

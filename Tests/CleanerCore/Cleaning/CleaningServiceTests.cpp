@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <fstream>
+#include <functional>
 #include <limits>
 #include <utility>
 
@@ -395,6 +396,71 @@ TEST_F(CleaningServiceTest, IsNotCancelledByAStopDuringTheLastMove)
     const auto result = clean(candidates, CleaningMode::moveToTrash, source.get_token());
     EXPECT_THAT(result.cleanedItems, SizeIs(1));
     EXPECT_FALSE(result.wasCancelled);
+}
+
+/// Acts once, at the first call of this kind after a walk.
+SteppingFileManager::Step afterWalk(FileManagerCall wanted, std::function<void()> action)
+{
+    return [wanted, action = std::move(action), hasWalked = false](std::size_t, FileManagerCall call) mutable {
+        hasWalked = hasWalked || call == FileManagerCall::nextEntry;
+        if (hasWalked && call == wanted && action) {
+            std::exchange(action, nullptr)();
+        }
+    };
+}
+
+class CleaningServiceAfterWalkTest : public CleaningServiceTest {
+protected:
+    CleaningServiceAfterWalkTest()
+    {
+        m_tree.add("home/Caches/a/\n    x size=10");
+        m_candidates = scan();
+    }
+
+    /// The same folder, by way of a link.
+    void makeRootALink()
+    {
+        std::filesystem::rename(path(""), m_tree.path("home/Moved"));
+        std::filesystem::create_directory_symlink("Moved", path(""));
+    }
+
+    CleanResult cleanActing(FileManagerCall when, std::function<void()> action)
+    {
+        const SteppingFileManager stepping(m_posix, afterWalk(when, std::move(action)));
+        m_fileManager = &stepping;
+        auto result = clean(m_candidates, CleaningMode::moveToTrash, m_source.get_token());
+        m_fileManager = &m_posix;
+        return result;
+    }
+
+    std::vector<CleanupCandidate> m_candidates;
+    std::stop_source m_source;
+};
+
+TEST_F(CleaningServiceAfterWalkTest, ValidatesThePathAgain)
+{
+    const auto result = cleanActing(FileManagerCall::identityValues, [this] { makeRootALink(); });
+    expectRefused(result, Kind::pathNotAllowed, m_tree.url("home/Moved/a"));
+    EXPECT_THAT(m_fakeTrash->itemAnchors(), IsEmpty());
+}
+
+TEST_F(CleaningServiceAfterWalkTest, HonoursAStopBeforeItValidatesThePathAgain)
+{
+    const auto result = cleanActing(FileManagerCall::identityValues, [this] {
+        m_source.request_stop();
+        makeRootALink();
+    });
+    EXPECT_TRUE(result.wasCancelled);
+    EXPECT_THAT(result.failedItems, IsEmpty());
+}
+
+TEST_F(CleaningServiceAfterWalkTest, HonoursAStopWhileThePathIsValidatedAgain)
+{
+    const auto result = cleanActing(FileManagerCall::resolvingSymbolicLinks, [this] { m_source.request_stop(); });
+    EXPECT_TRUE(result.wasCancelled);
+    EXPECT_THAT(result.failedItems, IsEmpty());
+    EXPECT_THAT(m_fakeTrash->itemAnchors(), IsEmpty());
+    EXPECT_TRUE(exists(path("a")));
 }
 
 TEST_F(CleaningServiceTest, SettlesOnceAfterAllMoves)

@@ -158,6 +158,34 @@ std::uint64_t inProfile(std::uint64_t bits, Token parent, Token name)
     return levelsBelow == 0 ? outside | kRefused : (bits & ~kProfileMask) | (levelsBelow << kProfileShift);
 }
 
+/// The bits of the item `component` in the folder with `parentBits`, by all the rules.
+[[gnu::noinline]] std::uint64_t judged(std::uint64_t parentBits, std::string_view component, Tokens tokens)
+{
+    const auto parent = static_cast<Token>(parentBits & kTokenMask);
+    auto bits = parentBits & ~kTokensMask;
+    if (placeOf(bits) != Place::elsewhere) {
+        bits = (bits & ~kPlaceMask) | placed(descended(placeOf(bits), component));
+    }
+    if ((bits & kICloudDrive) != 0) {
+        bits &= ~kICloudDrive;
+        bits |= NoTouchRuleSet::isTrashOfICloudDrive(tokens.name) ? kICloudTrash : kRefused;
+    }
+    if ((bits & kProfileMask) != 0) {
+        bits = inProfile(bits, parent, tokens.name);
+    }
+    for (const Token token : {tokens.name, tokens.ending}) {
+        for (const Rule& rule : NoTouchRuleSet::rulesEndingIn(token)) {
+            if (fits(rule, parentBits)) {
+                bits = applied(rule.effect, bits);
+            }
+        }
+    }
+    if ((bits & kRefused) != 0) {
+        return kRefused;
+    }
+    return bits | (std::uint64_t{parent} << kTokenBits) | tokens.name;
+}
+
 } // namespace
 
 NoTouchPathPolicy::State NoTouchPathPolicy::State::fromBits(std::uint64_t bits)
@@ -184,31 +212,11 @@ NoTouchPathPolicy::State NoTouchPathPolicy::State::descend(std::string_view comp
     }
     const auto parent = static_cast<Token>(m_bits & kTokenMask);
     const Tokens tokens = NoTouchRuleSet::tokensOf(component, parent);
-    const auto bitsWithoutTokens = m_bits & ~kTokensMask;
-    const auto nextTokens = (std::uint64_t{parent} << kTokenBits) | tokens.name;
+    // So ends nearly every call.
     if ((tokens.name | tokens.ending) == 0 && isPlain(m_bits)) {
-        return fromBits(bitsWithoutTokens | nextTokens);
+        return fromBits((m_bits & ~kTokensMask) | (std::uint64_t{parent} << kTokenBits));
     }
-
-    auto bits = bitsWithoutTokens;
-    if (placeOf(bits) != Place::elsewhere) {
-        bits = (bits & ~kPlaceMask) | placed(descended(placeOf(bits), component));
-    }
-    if ((bits & kICloudDrive) != 0) {
-        bits &= ~kICloudDrive;
-        bits |= NoTouchRuleSet::isTrashOfICloudDrive(tokens.name) ? kICloudTrash : kRefused;
-    }
-    if ((bits & kProfileMask) != 0) {
-        bits = inProfile(bits, parent, tokens.name);
-    }
-    for (const Token token : {tokens.name, tokens.ending}) {
-        for (const Rule& rule : NoTouchRuleSet::rulesEndingIn(token)) {
-            if (fits(rule, m_bits)) {
-                bits = applied(rule.effect, bits);
-            }
-        }
-    }
-    return fromBits((bits & kRefused) != 0 ? kRefused : bits | nextTokens);
+    return fromBits(judged(m_bits, component, tokens));
 }
 
 bool NoTouchPathPolicy::State::isNoTouch() const

@@ -18,7 +18,7 @@ add_library(karvello_options INTERFACE)
 target_include_directories(karvello_options INTERFACE "${CMAKE_SOURCE_DIR}")
 target_compile_options(karvello_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-  -Wimplicit-fallthrough -Wnull-dereference)
+  -Wimplicit-fallthrough)
 if(KARVELLO_WERROR)
   target_compile_options(karvello_options INTERFACE -Werror)
 endif()

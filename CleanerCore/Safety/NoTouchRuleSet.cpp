@@ -26,10 +26,10 @@ template <typename Visitor>
 constexpr void forEachRow(Visitor visit)
 {
     for (const NoTouchRow& row : kAppleNoTouchTable) {
-        visit(row);
+        visit(row, NoTouchTable::apple);
     }
     for (const NoTouchRow& row : kLinuxNoTouchTable) {
-        visit(row);
+        visit(row, NoTouchTable::linux_);
     }
 }
 
@@ -62,7 +62,7 @@ struct Vocabulary {
 constexpr Vocabulary makeVocabulary()
 {
     Vocabulary vocabulary;
-    forEachRow([&](const NoTouchRow& row) {
+    forEachRow([&](const NoTouchRow& row, NoTouchTable) {
         const auto pattern = NoTouchPatterns::parsePattern(row.pattern);
         for (std::size_t index = 0; index < pattern.length; ++index) {
             vocabulary.add(pattern.components[index]);
@@ -91,7 +91,7 @@ constexpr Rules makeRules()
 {
     std::array<Rule, 512> found{};
     std::size_t count = 0;
-    forEachRow([&](const NoTouchRow& row) {
+    forEachRow([&](const NoTouchRow& row, NoTouchTable table) {
         const auto pattern = NoTouchPatterns::parsePattern(row.pattern);
         const auto alternatives = [&](std::size_t fromEnd) {
             return fromEnd < pattern.length ? pattern.components[pattern.length - 1 - fromEnd] : std::string_view();
@@ -104,7 +104,7 @@ constexpr Rules makeRules()
                 NoTouchPatterns::forEachPart(alternatives(0), '|', [&](std::string_view last) {
                     found[count++] = {token(grandparent), token(parent), token(last),
                         pattern.isBelowHome ? Anchor::belowHome : Anchor::anywhere,
-                        static_cast<std::uint8_t>(pattern.length), row.effect};
+                        static_cast<std::uint8_t>(pattern.length), row.effect, table};
                 });
             });
         });
@@ -240,23 +240,42 @@ Token lookUp(std::string_view name, std::uint32_t hash, const Index<kBuckets>& i
     return kNoToken;
 }
 
+template <typename Word>
+Word load(const char* bytes)
+{
+    Word word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+/// Looks at whole words; the last one may overlap the one before.
+bool isASCII(std::string_view name)
+{
+    const char* const start = name.data();
+    const char* const end = start + name.size();
+    if (name.size() >= sizeof(std::uint64_t)) {
+        auto seen = load<std::uint64_t>(end - sizeof(std::uint64_t));
+        for (const char* word = start; word < end - sizeof(std::uint64_t); word += sizeof(std::uint64_t)) {
+            seen |= load<std::uint64_t>(word);
+        }
+        return (seen & 0x8080808080808080U) == 0;
+    }
+    if (name.size() >= sizeof(std::uint32_t)) {
+        return ((load<std::uint32_t>(start) | load<std::uint32_t>(end - sizeof(std::uint32_t))) & 0x80808080U) == 0;
+    }
+    unsigned seen = 0;
+    for (const char byte : name) {
+        seen |= static_cast<unsigned char>(byte);
+    }
+    return (seen & 0x80U) == 0;
+}
+
 /// Lower-casing turns ASCII into ASCII and all other letters into other letters than those of ASCII, with two
 /// exceptions: U+212A becomes "k", and U+0130 "i" and a combining point. Every name of the tables is ASCII, so a name
 /// without these two letters is judged by folding its ASCII letters alone.
 bool mayGainASCII(std::string_view name)
 {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    std::uint64_t seen = 0;
-    std::size_t index = 0;
-    for (; index + sizeof seen <= name.size(); index += sizeof seen) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, name.data() + index, sizeof word);
-        seen |= word;
-    }
-    for (; index < name.size(); ++index) {
-        seen |= static_cast<unsigned char>(name[index]);
-    }
-    return (seen & highBits) != 0
+    return !isASCII(name)
         && (name.find("\xE2\x84\xAA") != std::string_view::npos || name.find("\xC4\xB0") != std::string_view::npos);
 }
 
@@ -277,6 +296,11 @@ Tokens tokensOfFolded(std::string_view name, Token parent)
         tokens.name = kNumber;
     }
     return tokens;
+}
+
+[[gnu::cold, gnu::noinline]] Tokens tokensOfLowercased(std::string_view name, Token parent)
+{
+    return tokensOfFolded(Platform::Text::lowercased(name), parent);
 }
 
 constexpr bool isLowerCaseASCII(std::string_view text)
@@ -338,10 +362,7 @@ static_assert(kSnapCommon != kNoToken && kSnapCache != kNoToken && kTrash != kNo
 
 Tokens tokensOf(std::string_view component, Token parent)
 {
-    if (mayGainASCII(component)) {
-        return tokensOfFolded(Platform::Text::lowercased(component), parent);
-    }
-    return tokensOfFolded(component, parent);
+    return mayGainASCII(component) ? tokensOfLowercased(component, parent) : tokensOfFolded(component, parent);
 }
 
 std::span<const Rule> rulesEndingIn(Token token)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <concepts>
+#include <limits>
 
 namespace Platform {
 
@@ -25,6 +26,17 @@ template <std::integral T>
         reportArithmeticOverflow("multiplication");
     }
     return product;
+}
+
+/// For figures that a file from outside tells, where no sum may end the program: what overflows stays at the limit.
+template <std::signed_integral T>
+[[nodiscard]] constexpr T saturatingAdd(T left, T right)
+{
+    T sum{};
+    if (__builtin_add_overflow(left, right, &sum)) {
+        return right < 0 ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
+    }
+    return sum;
 }
 
 } // namespace Platform

@@ -30,6 +30,15 @@ std::expected<T, JSONError> valueOr(std::optional<T> value, std::string_view exp
     return *std::move(value);
 }
 
+void writeText(JSONWriter& writer, const std::string& value)
+{
+    if (Text::isValidUTF8(value)) {
+        writer.string(value);
+    } else {
+        writer.string(Text::escapingInvalidUTF8(value));
+    }
+}
+
 } // namespace
 
 JSONError unexpectedJSON(std::string_view expectation, const JSONValue& found)
@@ -46,11 +55,7 @@ JSONError unexpectedJSON(std::string_view expectation, const JSONValue& found)
 void JSONFieldWriter::text(std::string_view key, const std::string& value)
 {
     m_writer.key(key);
-    if (Text::isValidUTF8(value)) {
-        m_writer.string(value);
-    } else {
-        m_writer.string(Text::escapingInvalidUTF8(value));
-    }
+    writeText(m_writer, value);
 }
 
 void JSONFieldWriter::text(std::string_view key, const std::optional<std::string>& value)
@@ -58,6 +63,16 @@ void JSONFieldWriter::text(std::string_view key, const std::optional<std::string
     if (value) {
         text(key, *value);
     }
+}
+
+void JSONFieldWriter::text(std::string_view key, const std::vector<std::string>& values)
+{
+    m_writer.key(key);
+    m_writer.beginArray();
+    for (const auto& value : values) {
+        writeText(m_writer, value);
+    }
+    m_writer.endArray();
 }
 
 const JSONValue* JSONFieldReader::present(std::string_view key) const

@@ -30,6 +30,7 @@
 ///             coder.field("readAt", book.readAt);             // an std::optional: left out when absent
 ///             coder.defaulted("isLent", book.isLent, false);  // absent in older files
 ///             coder.text("shelf", book.shelf);                // bytes that need not be UTF-8
+///             coder.readableElements("notes", book.notes);    // a damaged note does not cost the book
 ///         }
 ///         static void normalize(Book& book);                  // if the record has limits: called after reading
 ///     };
@@ -48,6 +49,10 @@ template <typename T>
 struct JSONCoding;
 
 [[nodiscard]] JSONError unexpectedJSON(std::string_view expectation, const JSONValue& found);
+
+/// The elements that can be read, in their order; the others are passed over.
+template <typename T>
+[[nodiscard]] std::vector<T> decodeReadableElements(const JSONValue::Array& elements);
 
 /// The direction out: writes the fields of the object that is open in a writer.
 class JSONFieldWriter {
@@ -82,6 +87,15 @@ public:
     /// back so.
     void text(std::string_view key, const std::string& value);
     void text(std::string_view key, const std::optional<std::string>& value);
+    void text(std::string_view key, const std::vector<std::string>& values);
+
+    /// An array of which reading takes the elements that it can. Whatever else stands at the key, or nothing, reads as
+    /// an empty one.
+    template <typename T>
+    void readableElements(std::string_view key, const std::vector<T>& values)
+    {
+        field(key, values);
+    }
 
     /// An array of what `makeElement` makes of each item, one at a time.
     template <std::ranges::input_range Items, typename MakeElement>
@@ -138,6 +152,15 @@ public:
 
     void text(std::string_view key, std::string& value) { field(key, value); }
     void text(std::string_view key, std::optional<std::string>& value) { field(key, value); }
+    void text(std::string_view key, std::vector<std::string>& values) { field(key, values); }
+
+    template <typename T>
+    void readableElements(std::string_view key, std::vector<T>& values)
+    {
+        const auto* const member = present(key);
+        const auto* const array = member != nullptr ? member->array() : nullptr;
+        values = array != nullptr ? decodeReadableElements<T>(*array) : std::vector<T>();
+    }
 
     [[nodiscard]] std::optional<JSONError>& error() { return m_error; }
 
@@ -188,9 +211,8 @@ template <typename T>
     return decodeJSON<T>(*value);
 }
 
-/// The elements that can be read, in their order; the others are passed over.
 template <typename T>
-[[nodiscard]] std::vector<T> decodeReadableElements(const JSONValue::Array& elements)
+std::vector<T> decodeReadableElements(const JSONValue::Array& elements)
 {
     std::vector<T> readable;
     for (const auto& element : elements) {

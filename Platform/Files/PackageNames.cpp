@@ -1,14 +1,10 @@
 #include "Platform/Files/PackageNames.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Platform {
 
 namespace {
-
-constexpr std::array<std::string_view, 9> kPackageExtensions{
-    "app", "appex", "bundle", "framework", "kext", "plugin", "photoslibrary", "musiclibrary", "tvlibrary"};
 
 constexpr bool equalsIgnoringASCIICase(std::string_view text, std::string_view lowercase)
 {

@@ -1,0 +1,51 @@
+#include "CleanerCore/Audit/LossyCleanupAuditEntryList.h"
+
+#include "CleanerCore/Audit/CleanupAuditCoding.h"
+#include "CleanerCore/Audit/DiscardedJSONBudget.h"
+#include "Platform/Base/JSONReader.h"
+
+#include <utility>
+
+namespace CleanerCore {
+
+namespace {
+
+// A sound entry may hold anything under keys that this version does not know; only what is dropped has a tighter bound.
+constexpr std::size_t kMaximumDepth = 512;
+// Of an element of the array: the one index that leads to it.
+constexpr std::size_t kElementDepth = 1;
+
+} // namespace
+
+std::expected<LossyCleanupAuditEntryList, Platform::JSONError> LossyCleanupAuditEntryList::read(std::string_view bytes)
+{
+    const auto document = Platform::JSONReader::parse(bytes, kMaximumDepth);
+    if (!document) {
+        return std::unexpected(document.error());
+    }
+    const auto* const elements = document->array();
+    if (elements == nullptr) {
+        return std::unexpected(Platform::unexpectedJSON("an array", *document));
+    }
+    LossyCleanupAuditEntryList list;
+    DiscardedJSONBudget budget;
+    for (const auto& element : *elements) {
+        if (auto entry = Platform::decodeJSON<CleanupAuditEntry>(element)) {
+            list.entries.push_back(*std::move(entry));
+            continue;
+        }
+        list.completeness = Completeness::lossy;
+        if (element.isNull()) {
+            continue;
+        }
+        if (auto discarded = budget.discard(element, kElementDepth); !discarded) {
+            return std::unexpected(std::move(discarded.error()));
+        }
+    }
+    if (list.completeness == Completeness::lossy && list.entries.empty()) {
+        return std::unexpected(Platform::JSONError{"no element of the array is an entry", {}});
+    }
+    return list;
+}
+
+} // namespace CleanerCore

@@ -221,7 +221,7 @@ ExitCode ScanCommand::run(const ScanOptions& options) const
 ExitCode ScanCommand::concluded(const ScanJudgement& judgement, const ScanPlan& plan) const
 {
     for (const SkippedItem& refusal : judgement.refusals) {
-        printMessage("Not scanned: " + sentenceOn(refusal));
+        printMessage(fmt::format("Not scanned: {}", sentenceOn(refusal)));
         if (const auto hint = hintForLink(refusal.url, m_fileManager)) {
             printMessage(*hint);
         }

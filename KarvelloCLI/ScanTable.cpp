@@ -224,7 +224,7 @@ std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const 
         return columns.summaryLine(TerminalText(size(bytes)), TerminalText(words)) + '\n';
     };
     const std::int64_t bytes = totalBytes(candidates);
-    std::string text = line(bytes, "in " + counted(candidates.size(), "more item"));
+    std::string text = line(bytes, fmt::format("in {}", counted(candidates.size(), "more item")));
     if (m_settings.isRedacted) {
         return text;
     }

@@ -97,7 +97,8 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
             continue;
         }
         // Once something young was seen the sum is of no use; the walk goes on, for what is protected outranks age.
-        if (sizes == SizeCollection::omit || found->isDirectory.value_or(false) || inventory.containsRecentlyModifiedItem) {
+        if (sizes == SizeCollection::omit || found->isDirectory.value_or(false)
+            || inventory.containsRecentlyModifiedItem) {
             continue;
         }
         inventory.byteSize = Platform::checkedAdd(inventory.byteSize, sizeOf(*found));

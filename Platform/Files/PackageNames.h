@@ -14,6 +14,9 @@ inline constexpr std::array<std::string_view, 9> kPackageExtensions{
 [[nodiscard]] bool isPackageName(std::string_view folderName);
 
 /// Whether an item of this name is hidden: it begins with a point.
-[[nodiscard]] constexpr bool isHiddenName(std::string_view name) { return name.starts_with('.'); }
+[[nodiscard]] constexpr bool isHiddenName(std::string_view name)
+{
+    return name.starts_with('.');
+}
 
 } // namespace Platform

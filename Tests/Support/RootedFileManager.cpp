@@ -86,4 +86,19 @@ std::expected<void, FileError> RootedFileManager::writeAtomically(std::string_vi
     return m_inner.writeAtomically(bytes, inside(url));
 }
 
+std::expected<std::string, FileError> RootedFileManager::readFile(const FileURL& url, std::size_t maximumBytes) const
+{
+    return m_inner.readFile(inside(url), maximumBytes);
+}
+
+std::expected<void, FileError> RootedFileManager::createDirectory(const FileURL& folder) const
+{
+    return m_inner.createDirectory(inside(folder));
+}
+
+std::expected<void, FileError> RootedFileManager::moveItem(const FileURL& source, const FileURL& destination) const
+{
+    return m_inner.moveItem(inside(source), inside(destination));
+}
+
 } // namespace TestSupport

@@ -26,6 +26,12 @@ public:
     [[nodiscard]] Platform::FileURL resolvingSymbolicLinks(const Platform::FileURL& url) const override;
     [[nodiscard]] std::expected<void, Platform::FileError> writeAtomically(
         std::string_view bytes, const Platform::FileURL& url) const override;
+    [[nodiscard]] std::expected<std::string, Platform::FileError> readFile(
+        const Platform::FileURL& url, std::size_t maximumBytes) const override;
+    [[nodiscard]] std::expected<void, Platform::FileError> createDirectory(
+        const Platform::FileURL& folder) const override;
+    [[nodiscard]] std::expected<void, Platform::FileError> moveItem(
+        const Platform::FileURL& source, const Platform::FileURL& destination) const override;
 
 private:
     [[nodiscard]] Platform::FileURL inside(const Platform::FileURL& url) const;

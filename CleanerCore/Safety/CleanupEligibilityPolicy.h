@@ -39,6 +39,9 @@ public:
         const std::optional<Platform::FileURL>& homeDirectory = std::nullopt);
 
     [[nodiscard]] bool allows(const Platform::FileURL& url, const Platform::FileManager& fileManager) const;
+    /// The root for which `allows` is true; nothing where it is false.
+    [[nodiscard]] std::optional<Root> eligibleRoot(
+        const Platform::FileURL& url, const Platform::FileManager& fileManager) const;
     /// The paths among `urls` that are allowed; each root is looked at once.
     [[nodiscard]] std::set<std::string, std::less<>> allowedPaths(
         std::span<const Platform::FileURL> urls, const Platform::FileManager& fileManager) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Base/FileURL.h"
+#include "Platform/Files/PackageNames.h"
 
 #include <cstdint>
 #include <set>
@@ -11,6 +12,8 @@ namespace CleanerCore {
 /// Which of the items that a clean's walk meets count for the date that is compared with the scan's: the walk sees
 /// everything, the scan left out what its location told it to.
 struct CleanupValidationOptions {
+    static constexpr auto& packageExtensions = Platform::kPackageExtensions;
+
     bool includesHiddenFiles = false;
     bool includesPackageDescendants = false;
     /// At least 1.

@@ -77,6 +77,8 @@ inline constexpr std::array kLinuxNoTouchTable{
         NoTouchGroup::profile, NoTouchEffect::refuses, "Settings, local history and unsaved files of editors"},
     NoTouchRow{"localhistory", NoTouchGroup::profile, NoTouchEffect::refuses,
         "JetBrains IDEs keep the local history in the system directory"},
+    NoTouchRow{"ccache.conf", NoTouchGroup::profile, NoTouchEffect::refuses,
+        "ccache(1): settings, in the cache directory itself"},
     NoTouchRow{".wine|system.reg", NoTouchGroup::profile, NoTouchEffect::refuses,
         "wine(1): a prefix holds the documents of the programs in it"},
     NoTouchRow{".local/share/bottles|lutris", NoTouchGroup::profile, NoTouchEffect::refuses,

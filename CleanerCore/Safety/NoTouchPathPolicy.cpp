@@ -35,6 +35,8 @@ constexpr unsigned kProfileShift = 23;
 constexpr std::uint64_t kProfileMask = std::uint64_t{7} << kProfileShift;
 /// The profile is the folder of the snaps.
 constexpr std::uint64_t kSnaps = std::uint64_t{1} << 26U;
+/// The rows of the Linux table do not count here.
+constexpr std::uint64_t kAppleRowsOnly = std::uint64_t{1} << 27U;
 
 constexpr std::uint64_t placed(Place place)
 {
@@ -90,7 +92,8 @@ bool fits(const Rule& rule, std::uint64_t parentBits)
     const auto grandparent = static_cast<Token>((parentBits >> kTokenBits) & kTokenMask);
     return (rule.parent == NoTouchRuleSet::kNoToken || rule.parent == parent)
         && (rule.grandparent == NoTouchRuleSet::kNoToken || rule.grandparent == grandparent)
-        && (rule.anchor == Anchor::anywhere || placeOf(parentBits) == anchorPlace(rule.length));
+        && (rule.anchor == Anchor::anywhere || placeOf(parentBits) == anchorPlace(rule.length))
+        && ((parentBits & kAppleRowsOnly) == 0 || rule.table == NoTouchTable::apple);
 }
 
 /// The levels at which a profile's caches lie, as bits.
@@ -155,6 +158,34 @@ std::uint64_t inProfile(std::uint64_t bits, Token parent, Token name)
     return levelsBelow == 0 ? outside | kRefused : (bits & ~kProfileMask) | (levelsBelow << kProfileShift);
 }
 
+/// The bits of the item `component` in the folder with `parentBits`, by all the rules.
+[[gnu::noinline]] std::uint64_t judged(std::uint64_t parentBits, std::string_view component, Tokens tokens)
+{
+    const auto parent = static_cast<Token>(parentBits & kTokenMask);
+    auto bits = parentBits & ~kTokensMask;
+    if (placeOf(bits) != Place::elsewhere) {
+        bits = (bits & ~kPlaceMask) | placed(descended(placeOf(bits), component));
+    }
+    if ((bits & kICloudDrive) != 0) {
+        bits &= ~kICloudDrive;
+        bits |= NoTouchRuleSet::isTrashOfICloudDrive(tokens.name) ? kICloudTrash : kRefused;
+    }
+    if ((bits & kProfileMask) != 0) {
+        bits = inProfile(bits, parent, tokens.name);
+    }
+    for (const Token token : {tokens.name, tokens.ending}) {
+        for (const Rule& rule : NoTouchRuleSet::rulesEndingIn(token)) {
+            if (fits(rule, parentBits)) {
+                bits = applied(rule.effect, bits);
+            }
+        }
+    }
+    if ((bits & kRefused) != 0) {
+        return kRefused;
+    }
+    return bits | (std::uint64_t{parent} << kTokenBits) | tokens.name;
+}
+
 } // namespace
 
 NoTouchPathPolicy::State NoTouchPathPolicy::State::fromBits(std::uint64_t bits)
@@ -164,9 +195,9 @@ NoTouchPathPolicy::State NoTouchPathPolicy::State::fromBits(std::uint64_t bits)
     return state;
 }
 
-NoTouchPathPolicy::State NoTouchPathPolicy::State::of(const Platform::FileURL& url)
+NoTouchPathPolicy::State NoTouchPathPolicy::State::of(const Platform::FileURL& url, NoTouchScope scope)
 {
-    State state;
+    auto state = fromBits(scope == NoTouchScope::trash ? kAppleRowsOnly : 0);
     const auto components = url.pathComponents();
     for (std::size_t index = 1; index < components.size(); ++index) {
         state = state.descend(components[index]);
@@ -181,31 +212,11 @@ NoTouchPathPolicy::State NoTouchPathPolicy::State::descend(std::string_view comp
     }
     const auto parent = static_cast<Token>(m_bits & kTokenMask);
     const Tokens tokens = NoTouchRuleSet::tokensOf(component, parent);
-    const auto bitsWithoutTokens = m_bits & ~kTokensMask;
-    const auto nextTokens = (std::uint64_t{parent} << kTokenBits) | tokens.name;
+    // So ends nearly every call.
     if ((tokens.name | tokens.ending) == 0 && isPlain(m_bits)) {
-        return fromBits(bitsWithoutTokens | nextTokens);
+        return fromBits((m_bits & ~kTokensMask) | (std::uint64_t{parent} << kTokenBits));
     }
-
-    auto bits = bitsWithoutTokens;
-    if (placeOf(bits) != Place::elsewhere) {
-        bits = (bits & ~kPlaceMask) | placed(descended(placeOf(bits), component));
-    }
-    if ((bits & kICloudDrive) != 0) {
-        bits &= ~kICloudDrive;
-        bits |= NoTouchRuleSet::isTrashOfICloudDrive(tokens.name) ? kICloudTrash : kRefused;
-    }
-    if ((bits & kProfileMask) != 0) {
-        bits = inProfile(bits, parent, tokens.name);
-    }
-    for (const Token token : {tokens.name, tokens.ending}) {
-        for (const Rule& rule : NoTouchRuleSet::rulesEndingIn(token)) {
-            if (fits(rule, m_bits)) {
-                bits = applied(rule.effect, bits);
-            }
-        }
-    }
-    return fromBits((bits & kRefused) != 0 ? kRefused : bits | nextTokens);
+    return fromBits(judged(m_bits, component, tokens));
 }
 
 bool NoTouchPathPolicy::State::isNoTouch() const

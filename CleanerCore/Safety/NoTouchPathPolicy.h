@@ -7,6 +7,10 @@
 
 namespace CleanerCore {
 
+/// Which rules count. The Linux table refuses the Trash itself, and what lies there was judged by that table at the place
+/// where it came from; so for what may be taken out of a Trash again only the other rules count.
+enum class NoTouchScope : std::uint8_t { everywhere, trash };
+
 /// The paths that never become a candidate, whatever the scan roots say, judged by their shape alone: the disk is not
 /// looked at. Case does not matter.
 class NoTouchPathPolicy {
@@ -17,7 +21,7 @@ public:
     public:
         /// The state of the root folder.
         State() = default;
-        static State of(const Platform::FileURL& url);
+        static State of(const Platform::FileURL& url, NoTouchScope scope = NoTouchScope::everywhere);
 
         /// The state of the item `component` in this folder.
         [[nodiscard]] State descend(std::string_view component) const;
@@ -30,7 +34,11 @@ public:
         std::uint64_t m_bits = 0;
     };
 
-    [[nodiscard]] static bool isNoTouchPath(const Platform::FileURL& url) { return State::of(url).isNoTouch(); }
+    [[nodiscard]] static bool isNoTouchPath(
+        const Platform::FileURL& url, NoTouchScope scope = NoTouchScope::everywhere)
+    {
+        return State::of(url, scope).isNoTouch();
+    }
 };
 
 } // namespace CleanerCore

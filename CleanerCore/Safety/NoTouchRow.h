@@ -44,6 +44,9 @@ enum class NoTouchEffect : std::uint8_t {
     refusesButForSnapCaches,
 };
 
+/// Whose layout a row speaks of.
+enum class NoTouchTable : std::uint8_t { apple, linux_ };
+
 /// One rule about the shape of a path, lower-cased.
 struct NoTouchRow {
     /// One to three components that stand next to each other anywhere in the path, separated by "/"; after "~/" they

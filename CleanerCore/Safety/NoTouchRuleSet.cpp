@@ -1,85 +1,15 @@
 #include "CleanerCore/Safety/NoTouchRuleSet.h"
 
-#include "CleanerCore/Safety/AppleNoTouchTable.h"
-#include "CleanerCore/Safety/LinuxNoTouchTable.h"
-#include "CleanerCore/Safety/NoTouchPatterns.h"
+#include "CleanerCore/Safety/NoTouchVocabulary.h"
+#include "Platform/Base/ASCII.h"
 #include "Platform/Base/Text.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace CleanerCore::NoTouchRuleSet {
 
 namespace {
-
-using NoTouchPatterns::Matcher;
-using NoTouchPatterns::Shape;
-
-/// The caches inside of a profile that Chromium and Electron rebuild: disk cache, compiled scripts, compiled shaders.
-constexpr std::string_view kCacheFolderNames =
-    "cache|code cache|gpucache|dawngraphitecache|dawnwebgpucache|shadercache|grshadercache";
-
-constexpr std::size_t kTokens = 256;
-
-template <typename Visitor>
-constexpr void forEachRow(Visitor visit)
-{
-    for (const NoTouchRow& row : kAppleNoTouchTable) {
-        visit(row);
-    }
-    for (const NoTouchRow& row : kLinuxNoTouchTable) {
-        visit(row);
-    }
-}
-
-/// Every matcher of the tables; its token is its place here. Too many do not compile.
-struct Vocabulary {
-    std::array<Matcher, kTokens> matchers{};
-    std::size_t count = 1;
-
-    [[nodiscard]] constexpr Token token(const Matcher& matcher) const
-    {
-        for (std::size_t index = 1; index < count; ++index) {
-            if (matchers[index] == matcher) {
-                return static_cast<Token>(index);
-            }
-        }
-        return kNoToken;
-    }
-
-    constexpr void add(std::string_view alternatives)
-    {
-        NoTouchPatterns::forEachPart(alternatives, '|', [this](std::string_view alternative) {
-            const auto matcher = NoTouchPatterns::parseMatcher(alternative);
-            if (token(matcher) == kNoToken) {
-                matchers[count++] = matcher;
-            }
-        });
-    }
-};
-
-constexpr Vocabulary makeVocabulary()
-{
-    Vocabulary vocabulary;
-    forEachRow([&](const NoTouchRow& row) {
-        const auto pattern = NoTouchPatterns::parsePattern(row.pattern);
-        for (std::size_t index = 0; index < pattern.length; ++index) {
-            vocabulary.add(pattern.components[index]);
-        }
-    });
-    vocabulary.add(kCacheFolderNames);
-    return vocabulary;
-}
-
-constexpr Vocabulary kVocabulary = makeVocabulary();
-
-constexpr Token wholeName(std::string_view name)
-{
-    return kVocabulary.token({Shape::wholeName, name, 0});
-}
-
-constexpr Token kNumber = kVocabulary.token({Shape::number, {}, 0});
 
 /// The rules, those with the same last token next to each other.
 struct Rules {
@@ -91,7 +21,7 @@ constexpr Rules makeRules()
 {
     std::array<Rule, 512> found{};
     std::size_t count = 0;
-    forEachRow([&](const NoTouchRow& row) {
+    forEachRow([&](const NoTouchRow& row, NoTouchTable table) {
         const auto pattern = NoTouchPatterns::parsePattern(row.pattern);
         const auto alternatives = [&](std::size_t fromEnd) {
             return fromEnd < pattern.length ? pattern.components[pattern.length - 1 - fromEnd] : std::string_view();
@@ -104,7 +34,7 @@ constexpr Rules makeRules()
                 NoTouchPatterns::forEachPart(alternatives(0), '|', [&](std::string_view last) {
                     found[count++] = {token(grandparent), token(parent), token(last),
                         pattern.isBelowHome ? Anchor::belowHome : Anchor::anywhere,
-                        static_cast<std::uint8_t>(pattern.length), row.effect};
+                        static_cast<std::uint8_t>(pattern.length), row.effect, table};
                 });
             });
         });
@@ -140,11 +70,6 @@ constexpr std::uint32_t folded(char byte)
     return static_cast<unsigned char>(byte) | 0x20U;
 }
 
-constexpr char lowercasedASCII(char byte)
-{
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte | 0x20) : byte;
-}
-
 /// The tokens of some matchers, by a hash of what is cheap to see of a name. Nearly every name of a disk falls into an
 /// empty bucket and is done with.
 template <std::size_t kBuckets>
@@ -177,8 +102,6 @@ constexpr std::uint32_t hashOfWholeName(std::string_view name)
     return folded(name.front()) * 37 + folded(name.back()) * 101 + static_cast<std::uint32_t>(name.size()) * 11;
 }
 
-constexpr std::size_t kHashedEnd = 3;
-
 constexpr std::uint32_t hashOfBeginning(std::string_view name)
 {
     return folded(name[0]) * 5 + folded(name[1]) * 37 + folded(name[2]) * 101;
@@ -186,7 +109,7 @@ constexpr std::uint32_t hashOfBeginning(std::string_view name)
 
 constexpr std::uint32_t hashOfEnding(std::string_view name)
 {
-    return hashOfBeginning(name.substr(name.size() - kHashedEnd));
+    return hashOfBeginning(name.substr(name.size() - kHashedBytes));
 }
 
 constexpr Index<512> kWholeNames([](Shape shape) { return shape == Shape::wholeName; }, hashOfWholeName);
@@ -194,17 +117,10 @@ constexpr Index<256> kBeginnings(
     [](Shape shape) { return shape == Shape::beginning || shape == Shape::beginningThenNumber; }, hashOfBeginning);
 constexpr Index<256> kEndings([](Shape shape) { return shape == Shape::ending; }, hashOfEnding);
 
-/// `lower` is lower-case.
-bool equalsFolded(std::string_view text, std::string_view lower)
-{
-    return std::equal(text.begin(), text.end(), lower.begin(), lower.end(),
-        [](char byte, char other) { return lowercasedASCII(byte) == other; });
-}
-
 bool isNumber(std::string_view text, std::size_t digitCount)
 {
     return !text.empty() && (digitCount == 0 || text.size() == digitCount)
-        && std::all_of(text.begin(), text.end(), [](char byte) { return byte >= '0' && byte <= '9'; });
+        && std::all_of(text.begin(), text.end(), Platform::ASCII::isDigit);
 }
 
 bool fits(std::string_view name, const Matcher& matcher)
@@ -215,13 +131,14 @@ bool fits(std::string_view name, const Matcher& matcher)
     }
     switch (matcher.shape) {
     case Shape::wholeName:
-        return equalsFolded(name, matcher.text);
+        return Platform::ASCII::equalsIgnoringCase(name, matcher.text);
     case Shape::beginning:
-        return equalsFolded(name.substr(0, length), matcher.text);
+        return Platform::ASCII::equalsIgnoringCase(name.substr(0, length), matcher.text);
     case Shape::ending:
-        return equalsFolded(name.substr(name.size() - length), matcher.text);
+        return Platform::ASCII::equalsIgnoringCase(name.substr(name.size() - length), matcher.text);
     case Shape::beginningThenNumber:
-        return equalsFolded(name.substr(0, length), matcher.text) && isNumber(name.substr(length), matcher.digitCount);
+        return Platform::ASCII::equalsIgnoringCase(name.substr(0, length), matcher.text)
+            && isNumber(name.substr(length), matcher.digitCount);
     case Shape::number:
         return isNumber(name, matcher.digitCount);
     }
@@ -245,18 +162,7 @@ Token lookUp(std::string_view name, std::uint32_t hash, const Index<kBuckets>& i
 /// without these two letters is judged by folding its ASCII letters alone.
 bool mayGainASCII(std::string_view name)
 {
-    constexpr std::uint64_t highBits = 0x8080808080808080U;
-    std::uint64_t seen = 0;
-    std::size_t index = 0;
-    for (; index + sizeof seen <= name.size(); index += sizeof seen) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, name.data() + index, sizeof word);
-        seen |= word;
-    }
-    for (; index < name.size(); ++index) {
-        seen |= static_cast<unsigned char>(name[index]);
-    }
-    return (seen & highBits) != 0
+    return !Platform::ASCII::isASCII(name)
         && (name.find("\xE2\x84\xAA") != std::string_view::npos || name.find("\xC4\xB0") != std::string_view::npos);
 }
 
@@ -267,7 +173,7 @@ Tokens tokensOfFolded(std::string_view name, Token parent)
     }
     Tokens tokens;
     tokens.name = lookUp(name, hashOfWholeName(name), kWholeNames);
-    if (name.size() >= kHashedEnd) {
+    if (name.size() >= kHashedBytes) {
         tokens.ending = lookUp(name, hashOfEnding(name), kEndings);
         if (tokens.name == kNoToken) {
             tokens.name = lookUp(name, hashOfBeginning(name), kBeginnings);
@@ -279,49 +185,10 @@ Tokens tokensOfFolded(std::string_view name, Token parent)
     return tokens;
 }
 
-constexpr bool isLowerCaseASCII(std::string_view text)
+[[gnu::cold, gnu::noinline]] Tokens tokensOfLowercased(std::string_view name, Token parent)
 {
-    for (const char byte : text) {
-        if (static_cast<unsigned char>(byte) >= 0x80 || lowercasedASCII(byte) != byte) {
-            return false;
-        }
-    }
-    return true;
+    return tokensOfFolded(Platform::Text::lowercased(name), parent);
 }
-
-constexpr bool isWellFormed(const Matcher& matcher)
-{
-    const bool isHashedByThreeBytes = matcher.shape != Shape::wholeName && matcher.shape != Shape::number;
-    return isLowerCaseASCII(matcher.text) && (matcher.shape == Shape::number) == matcher.text.empty()
-        && (!isHashedByThreeBytes || matcher.text.size() >= kHashedEnd);
-}
-
-/// A name has one token, so no whole name or beginning may begin as another beginning does, nor an ending end so.
-constexpr bool collides(const Matcher& matcher, const Matcher& other)
-{
-    const bool isBeginning = other.shape == Shape::beginning || other.shape == Shape::beginningThenNumber;
-    if (matcher.shape == Shape::ending || other.shape == Shape::ending) {
-        return matcher.shape == other.shape && matcher.text.ends_with(other.text);
-    }
-    return isBeginning && matcher.text.starts_with(other.text);
-}
-
-constexpr bool isSound()
-{
-    for (std::size_t index = 1; index < kVocabulary.count; ++index) {
-        if (!isWellFormed(kVocabulary.matchers[index])) {
-            return false;
-        }
-        for (std::size_t other = 1; other < kVocabulary.count; ++other) {
-            if (other != index && collides(kVocabulary.matchers[index], kVocabulary.matchers[other])) {
-                return false;
-            }
-        }
-    }
-    return true;
-}
-
-static_assert(isSound());
 
 constexpr auto kIsCacheFolder = [] {
     std::array<bool, kTokens> is{};
@@ -338,10 +205,7 @@ static_assert(kSnapCommon != kNoToken && kSnapCache != kNoToken && kTrash != kNo
 
 Tokens tokensOf(std::string_view component, Token parent)
 {
-    if (mayGainASCII(component)) {
-        return tokensOfFolded(Platform::Text::lowercased(component), parent);
-    }
-    return tokensOfFolded(component, parent);
+    return mayGainASCII(component) ? tokensOfLowercased(component, parent) : tokensOfFolded(component, parent);
 }
 
 std::span<const Rule> rulesEndingIn(Token token)

@@ -30,6 +30,7 @@ struct Rule {
     Anchor anchor = Anchor::anywhere;
     std::uint8_t length = 1;
     NoTouchEffect effect = NoTouchEffect::refuses;
+    NoTouchTable table = NoTouchTable::apple;
 };
 
 /// Case does not matter, in any script: the answer is that for the lower-cased component. Allocates nothing unless the

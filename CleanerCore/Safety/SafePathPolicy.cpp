@@ -1,7 +1,6 @@
 #include "CleanerCore/Safety/SafePathPolicy.h"
 
 #include "CleanerCore/Safety/ComparisonForm.h"
-#include "CleanerCore/Safety/NoTouchPathPolicy.h"
 #include "CleanerCore/Safety/ScanRootSafety.h"
 #include "CleanerCore/Safety/SymbolicLinkComponents.h"
 
@@ -44,7 +43,9 @@ Verdict rejectLinksBelow(
 } // namespace
 
 SafePathPolicy::SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs,
-    const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager)
+    const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager,
+    NoTouchScope scope)
+    : m_scope(scope)
 {
     const ScanRootSafety safety(homeDirectory, fileManager);
     const auto comparison = nameComparison(Platform::FileURL::folder(safety.homePath()), fileManager);
@@ -54,7 +55,7 @@ SafePathPolicy::SafePathPolicy(std::span<const Platform::FileURL> allowedRootURL
     m_sharedFolderKeys = comparisonForms(safety.sharedFolders(), comparison);
 
     for (const auto& url : allowedRootURLs) {
-        if (!safety.isScanRootSafe(url, fileManager)) {
+        if (!safety.isScanRootSafe(url, fileManager, scope)) {
             continue;
         }
         const auto resolved = resolvedPath(url, fileManager);
@@ -94,7 +95,7 @@ Verdict SafePathPolicy::validate(const Platform::FileURL& url, const Platform::F
     if (key == m_homePathKey) {
         return std::unexpected(CleaningError{Kind::criticalPath, resolved});
     }
-    if (NoTouchPathPolicy::isNoTouchPath(url)) {
+    if (NoTouchPathPolicy::isNoTouchPath(url, m_scope)) {
         return std::unexpected(CleaningError{Kind::protectedUserData, resolved});
     }
     if (isProtected(key)) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CleanerCore/Safety/CleaningError.h"
+#include "CleanerCore/Safety/NoTouchPathPolicy.h"
 #include "Platform/Base/FileURL.h"
 #include "Platform/Files/FileManager.h"
 
@@ -26,9 +27,10 @@ public:
     };
 
     /// Keeps the roots that pass the checks, in the given order; the others are left out without a word. Without a
-    /// home the person's real one counts.
+    /// home the person's real one counts. For roots that are Trash folders `scope` says so.
     SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs,
-        const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager);
+        const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager,
+        NoTouchScope scope = NoTouchScope::everywhere);
 
     /// Whether an existing item may be cleaned.
     [[nodiscard]] std::expected<void, CleaningError> validate(
@@ -55,6 +57,7 @@ private:
     /// Protected themselves, but not what lies in them.
     std::vector<std::string> m_sharedFolderKeys;
     std::string m_homePathKey;
+    NoTouchScope m_scope = NoTouchScope::everywhere;
     bool m_usesCaseInsensitivePathComparison = true;
 };
 

@@ -1,7 +1,6 @@
 #include "CleanerCore/Safety/ScanRootSafety.h"
 
 #include "CleanerCore/Safety/DefaultProtectedPaths.h"
-#include "CleanerCore/Safety/NoTouchPathPolicy.h"
 #include "CleanerCore/Safety/RealUserHome.h"
 #include "CleanerCore/Safety/SymbolicLinkComponents.h"
 
@@ -55,9 +54,10 @@ ScanRootSafety::ScanRootSafety(
 {
 }
 
-bool ScanRootSafety::isScanRootSafe(const Platform::FileURL& url, const Platform::FileManager& fileManager) const
+bool ScanRootSafety::isScanRootSafe(
+    const Platform::FileURL& url, const Platform::FileManager& fileManager, NoTouchScope scope) const
 {
-    if (!fileManager.directoryExists(url) || NoTouchPathPolicy::isNoTouchPath(url)) {
+    if (!fileManager.directoryExists(url) || NoTouchPathPolicy::isNoTouchPath(url, scope)) {
         return false;
     }
     const auto resolved = fileManager.resolvingSymbolicLinks(url);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CleanerCore/Safety/ComparisonForm.h"
+#include "CleanerCore/Safety/NoTouchPathPolicy.h"
 #include "Platform/Base/FileURL.h"
 #include "Platform/Files/FileManager.h"
 
@@ -31,7 +32,8 @@ public:
     /// Whether a folder may be a scan root: it exists, is no link and is reached through none, it is neither user data
     /// nor the home itself nor another person's, and no protected path is, holds or lies in it. What cannot be read
     /// counts as unsafe.
-    [[nodiscard]] bool isScanRootSafe(const Platform::FileURL& url, const Platform::FileManager& fileManager) const;
+    [[nodiscard]] bool isScanRootSafe(const Platform::FileURL& url, const Platform::FileManager& fileManager,
+        NoTouchScope scope = NoTouchScope::everywhere) const;
 
     /// Resolved.
     [[nodiscard]] const std::string& homePath() const { return m_homePath; }

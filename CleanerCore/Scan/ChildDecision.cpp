@@ -36,8 +36,8 @@ ChildOutcome ChildDecision::decide(const Platform::ItemReference& child, Invento
 
     // A young folder is walked all the same, without sizes: protected contents are the better reason to show.
     const auto sizes = topYoung ? SizeCollection::omit : SizeCollection::collect;
-    const auto inventory
-        = DirectoryInventory::take(child, *values, state, sizes, m_rules, m_fileManager, events, m_stop);
+    const auto inventory =
+        DirectoryInventory::take(child, *values, state, sizes, m_rules, m_fileManager, events, m_stop);
     if (m_stop.stop_requested()) {
         return {};
     }

@@ -26,8 +26,7 @@ public:
     }
     void failed(InventoryFailure failure, std::int64_t itemNumber, SkippedItem item) override
     {
-        const auto kind
-            = failure == InventoryFailure::item ? Event::Kind::itemFailed : Event::Kind::enumerationFailed;
+        const auto kind = failure == InventoryFailure::item ? Event::Kind::itemFailed : Event::Kind::enumerationFailed;
         add({.kind = kind, .itemNumber = itemNumber, .url = std::move(item.url), .reason = std::move(item.reason)});
     }
 

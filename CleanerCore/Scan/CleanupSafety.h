@@ -10,7 +10,10 @@ namespace CleanerCore {
 enum class CleanupSafety : std::uint8_t { safe, caution, manualReview };
 
 [[nodiscard]] std::string_view displayName(CleanupSafety safety);
-[[nodiscard]] constexpr int sortPriority(CleanupSafety safety) { return static_cast<int>(safety); }
+[[nodiscard]] constexpr int sortPriority(CleanupSafety safety)
+{
+    return static_cast<int>(safety);
+}
 
 } // namespace CleanerCore
 

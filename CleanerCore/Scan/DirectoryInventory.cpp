@@ -1,5 +1,6 @@
 #include "CleanerCore/Scan/DirectoryInventory.h"
 
+#include "CleanerCore/Safety/NoTouchWalk.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "Platform/Base/CheckedMath.h"
 
@@ -63,10 +64,7 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
         if (wantsProgress && (number == 1 || number % rules.progressInterval == 0)) {
             events.walkingAt(number, items->url());
         }
-        const auto folderState
-            = items->level() == 1 ? state : NoTouchPathPolicy::State::fromBits(items->folderContext());
-        const auto itemState = folderState.descend(items->name());
-        if (itemState.isNoTouch()) {
+        if (meetsNoTouch(*items, state)) {
             items->skipDescendants();
             inventory.noTouchDescendantURL = items->url();
             break;
@@ -75,7 +73,6 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
             inventory.exceededItemLimit = true;
             break;
         }
-        items->setContextOfDescendants(itemState.bits());
         const auto& found = items->resourceValues();
         if (!found) {
             events.failed(InventoryFailure::item, number, {items->url(), found.error().localizedDescription()});
@@ -100,7 +97,8 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
             continue;
         }
         // Once something young was seen the sum is of no use; the walk goes on, for what is protected outranks age.
-        if (sizes == SizeCollection::omit || found->isDirectory.value_or(false) || inventory.containsRecentlyModifiedItem) {
+        if (sizes == SizeCollection::omit || found->isDirectory.value_or(false)
+            || inventory.containsRecentlyModifiedItem) {
             continue;
         }
         inventory.byteSize = Platform::checkedAdd(inventory.byteSize, sizeOf(*found));

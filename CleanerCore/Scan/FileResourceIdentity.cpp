@@ -1,17 +1,19 @@
 #include "CleanerCore/Scan/FileResourceIdentity.h"
 
-#include <utility>
-
 namespace CleanerCore {
 
 std::optional<FileResourceIdentity> FileResourceIdentity::captureIfAvailable(
     const Platform::ItemReference& item, const Platform::FileManager& fileManager)
 {
+    return fromReadings(fileManager.fingerprintReadings(item));
+}
+
+std::optional<FileResourceIdentity> FileResourceIdentity::fromReadings(const Platform::FingerprintReadings& readings)
+{
     FileResourceIdentity identity;
-    auto readings = fileManager.fingerprintReadings(item);
-    if (auto& read = readings.identityValues) {
-        identity.fileResourceIdentifier = std::move(read->fileResourceIdentifier);
-        identity.volumeIdentifier = std::move(read->volumeIdentifier);
+    if (const auto& read = readings.identityValues) {
+        identity.fileResourceIdentifier = read->fileResourceIdentifier;
+        identity.volumeIdentifier = read->volumeIdentifier;
         identity.isDirectory = read->values.isDirectory;
         identity.fileSize = read->values.fileSize;
         identity.totalFileAllocatedSize = read->values.totalFileAllocatedSize;

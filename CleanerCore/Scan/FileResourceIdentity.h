@@ -27,6 +27,9 @@ struct FileResourceIdentity {
     static std::optional<FileResourceIdentity> captureIfAvailable(
         const Platform::ItemReference& item, const Platform::FileManager& fileManager);
 
+    /// The fingerprint that these readings tell; nothing if they tell no field at all.
+    static std::optional<FileResourceIdentity> fromReadings(const Platform::FingerprintReadings& readings);
+
     friend bool operator==(const FileResourceIdentity&, const FileResourceIdentity&) = default;
 };
 

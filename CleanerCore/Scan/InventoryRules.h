@@ -11,7 +11,8 @@ namespace CleanerCore {
 
 /// What a location and the scanner's configuration say about the walk of one child.
 struct InventoryRules {
-    InventoryRules(const ScanLocation& location, const StorageScanner::Configuration& configuration, Platform::Date scanDate)
+    InventoryRules(
+        const ScanLocation& location, const StorageScanner::Configuration& configuration, Platform::Date scanDate)
         : now(scanDate)
         , minimumModificationAge(location.minimumModificationAge)
         , includesHiddenFiles(location.includesHiddenFiles)

@@ -48,8 +48,8 @@ void LocationScan::perform()
 
     if (!m_run.fileManager.directoryExists(m_location.rootURL)) {
         skipRoot(StorageScannerSkipReason::folderDoesNotExist);
-    } else if (const auto valid
-        = SafePathPolicy::validateScanRoot(m_location.rootURL, m_run.homeDirectory, m_run.fileManager);
+    } else if (const auto valid =
+                   SafePathPolicy::validateScanRoot(m_location.rootURL, m_run.homeDirectory, m_run.fileManager);
         !valid) {
         skipRoot(valid.error().errorDescription());
     } else if (m_location.depth == ScanDepth::directoryItself) {

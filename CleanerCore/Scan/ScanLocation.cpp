@@ -19,4 +19,14 @@ ScanLocation::ScanLocation(Fields fields)
 {
 }
 
+std::vector<Platform::FileURL> rootURLs(std::span<const ScanLocation> locations)
+{
+    std::vector<Platform::FileURL> urls;
+    urls.reserve(locations.size());
+    for (const auto& location : locations) {
+        urls.push_back(location.rootURL);
+    }
+    return urls;
+}
+
 } // namespace CleanerCore

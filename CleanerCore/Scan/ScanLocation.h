@@ -8,7 +8,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace CleanerCore {
 
@@ -49,6 +51,9 @@ struct ScanLocation {
 
     friend bool operator==(const ScanLocation&, const ScanLocation&) = default;
 };
+
+/// The roots, in the order of the locations.
+[[nodiscard]] std::vector<Platform::FileURL> rootURLs(std::span<const ScanLocation> locations);
 
 } // namespace CleanerCore
 

@@ -17,7 +17,8 @@ struct ScanReport {
     ScanReport() = default;
     /// Sorts the candidates: by safety, then the larger first, equal ones in the order given. The skipped items stay
     /// in the order of discovery.
-    ScanReport(Platform::Date scannedAt, std::vector<CleanupCandidate> candidates, std::vector<SkippedItem> skippedItems);
+    ScanReport(
+        Platform::Date scannedAt, std::vector<CleanupCandidate> candidates, std::vector<SkippedItem> skippedItems);
 
     Platform::Date scannedAt;
     std::vector<CleanupCandidate> candidates;

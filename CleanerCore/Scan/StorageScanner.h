@@ -35,7 +35,8 @@ public:
     using ProgressHandler = std::function<void(const StorageScanProgress&)>;
 
     /// `fileManager` must outlive the scanner.
-    explicit StorageScanner(const Platform::FileManager& fileManager, Configuration configuration = Configuration::standard());
+    explicit StorageScanner(
+        const Platform::FileManager& fileManager, Configuration configuration = Configuration::standard());
 
     /// Never fails: every problem becomes a skipped item. `now` is the reference of all ages. The handler is called on
     /// the calling thread. After a stop the report holds what was found until then; the caller tells it by its token.

@@ -38,6 +38,8 @@ public:
     {
     }
 
+    // The parser gives these functions their names.
+    // NOLINTBEGIN(readability-identifier-naming)
     bool null() { return add(JSONValue()); }
     bool boolean(bool value) { return add(JSONValue(value)); }
     bool number_integer(Number::number_integer_t value) { return add(JSONValue(std::int64_t{value})); }
@@ -77,6 +79,8 @@ public:
             exception.id == 406 ? std::string_view("a number is out of range") : reasonIn(exception.what());
         return fail(fmt::format("{}, at byte {}", Text::escapingInvalidUTF8(reason), position));
     }
+
+    // NOLINTEND(readability-identifier-naming)
 
     std::expected<JSONValue, JSONError> result() &&
     {

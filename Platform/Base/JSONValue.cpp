@@ -15,6 +15,34 @@ constexpr double kLargestExactDouble = 9'007'199'254'740'992;
 
 } // namespace
 
+// Here and not in the header: a compiler may ask for the whole of `Member` at a constructor's body.
+JSONValue::JSONValue() = default;
+
+JSONValue::JSONValue(bool value)
+    : m_content(value)
+{
+}
+
+JSONValue::JSONValue(std::int64_t value)
+    : m_content(value)
+{
+}
+
+JSONValue::JSONValue(double value)
+    : m_content(value)
+{
+}
+
+JSONValue::JSONValue(std::string value)
+    : m_content(std::move(value))
+{
+}
+
+JSONValue::JSONValue(Array elements)
+    : m_content(std::move(elements))
+{
+}
+
 JSONValue::JSONValue(std::uint64_t value)
 {
     if (std::in_range<std::int64_t>(value)) {

@@ -18,28 +18,13 @@ public:
     using Object = std::vector<Member>;
 
     /// null
-    JSONValue() = default;
-    explicit JSONValue(bool value)
-        : m_content(value)
-    {
-    }
-    explicit JSONValue(std::int64_t value)
-        : m_content(value)
-    {
-    }
+    JSONValue();
+    explicit JSONValue(bool value);
+    explicit JSONValue(std::int64_t value);
     explicit JSONValue(std::uint64_t value);
-    explicit JSONValue(double value)
-        : m_content(value)
-    {
-    }
-    explicit JSONValue(std::string value)
-        : m_content(std::move(value))
-    {
-    }
-    explicit JSONValue(Array elements)
-        : m_content(std::move(elements))
-    {
-    }
+    explicit JSONValue(double value);
+    explicit JSONValue(std::string value);
+    explicit JSONValue(Array elements);
     /// Sorts the members. No two have the same key.
     explicit JSONValue(Object members);
 

@@ -194,6 +194,16 @@ bool isAlphanumeric(char32_t scalar)
     return isInCategories(scalar, U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK);
 }
 
+bool isNumber(char32_t scalar)
+{
+    return isInCategories(scalar, U_GC_N_MASK);
+}
+
+bool isLowercase(char32_t scalar)
+{
+    return u_isULowercase(static_cast<UChar32>(scalar)) != 0;
+}
+
 bool isWhitespaceOrNewline(char32_t scalar)
 {
     return (scalar >= 0x09 && scalar <= 0x0D) || scalar == 0x85 || isInCategories(scalar, U_GC_Z_MASK);

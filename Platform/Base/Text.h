@@ -21,6 +21,8 @@ namespace Platform::Text {
 
 /// The character classes that the rules name. A code point that is not a Unicode scalar belongs to none.
 [[nodiscard]] bool isAlphanumeric(char32_t scalar);        // general categories L*, M* and N*
+[[nodiscard]] bool isNumber(char32_t scalar);              // general categories N*
+[[nodiscard]] bool isLowercase(char32_t scalar);           // the property Lowercase
 [[nodiscard]] bool isWhitespaceOrNewline(char32_t scalar); // Z*, U+0009 to U+000D, U+0085
 [[nodiscard]] bool isUnicodeWhitespace(char32_t scalar);   // the property White_Space
 [[nodiscard]] bool isControl(char32_t scalar);             // general category Cc

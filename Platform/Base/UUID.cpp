@@ -54,7 +54,7 @@ std::optional<UUID> UUID::fromString(std::string_view text)
             return std::nullopt;
         }
         auto& byte = uuid.bytes[digits / 2];
-        byte = static_cast<std::uint8_t>(byte << 4U | *digit);
+        byte = static_cast<std::uint8_t>((static_cast<unsigned>(byte) << 4U) | *digit);
         ++digits;
     }
     return uuid;

@@ -29,7 +29,7 @@ public:
             FileDescriptor descriptor(
                 openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kNewFileMode));
             if (descriptor.isOpen()) {
-                struct stat replaced {};
+                struct stat replaced{};
                 if (fstatat(folder, replacedName, &replaced, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(replaced.st_mode)) {
                     std::ignore = fchmod(descriptor.get(), replaced.st_mode & 0777U);
                 }

@@ -74,6 +74,8 @@ std::string_view commonCause(FileErrorKind kind)
         return " because another item has taken its place";
     case FileErrorKind::movedUnconfirmed:
         return " because another item had taken its place and is in the Trash now";
+    case FileErrorKind::restoredUnconfirmed:
+        return " because another item had taken its place in the Trash and was put back in its stead";
     case FileErrorKind::containsMount:
         return " because another volume is mounted inside it";
     case FileErrorKind::noTrash:

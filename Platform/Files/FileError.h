@@ -25,6 +25,8 @@ enum class FileErrorKind : std::uint8_t {
     itemChanged,
     /// An item came to lie in the Trash that is not the confirmed one, and its old place is taken by now.
     movedUnconfirmed,
+    /// An item was put back that is not the confirmed one, and its name in the Trash is taken by now.
+    restoredUnconfirmed,
     /// Another volume is mounted on the item or below it.
     containsMount,
     /// The volume has no Trash that is safe to use.

@@ -51,7 +51,8 @@ public:
         const ItemReference& folder, EnumerationOptions options, EnumerationErrorHandler onError) const = 0;
 
     /// The direct entries of a folder, hidden ones too, in the order of the file system.
-    [[nodiscard]] virtual std::expected<std::vector<FileURL>, FileError> contentsOfDirectory(const FileURL& folder) const = 0;
+    [[nodiscard]] virtual std::expected<std::vector<FileURL>, FileError> contentsOfDirectory(
+        const FileURL& folder) const = 0;
 
     /// The path with every symbolic link in it replaced by what it leads to. Where the tail does not exist or cannot be
     /// looked at, it is kept as it stands behind the resolved rest.
@@ -60,7 +61,8 @@ public:
     /// Replaces the file at `url`, or makes it, with exactly `bytes`: readers see the old file or the whole new one, and
     /// the new one is on the disk when this returns. On failure the old file stands as it was and nothing is left
     /// beside it. Makes no folder; a symbolic link at `url` is replaced, not followed.
-    [[nodiscard]] virtual std::expected<void, FileError> writeAtomically(std::string_view bytes, const FileURL& url) const = 0;
+    [[nodiscard]] virtual std::expected<void, FileError> writeAtomically(
+        std::string_view bytes, const FileURL& url) const = 0;
 
     /// The bytes of a regular file. Anything else at the path (a folder, a FIFO, a device) is refused without waiting for
     /// it; more than `maximumBytes` is an error of kind `tooLarge`.

@@ -119,7 +119,8 @@ std::expected<bool, FolderTrail::Failure> FolderTrail::leaveFinishedFolders()
     return true;
 }
 
-std::expected<FileDescriptor, int> FolderTrail::climbTo(std::size_t index, std::size_t fromIndex, FileDescriptor from) const
+std::expected<FileDescriptor, int> FolderTrail::climbTo(
+    std::size_t index, std::size_t fromIndex, FileDescriptor from) const
 {
     for (; fromIndex > index; --fromIndex) {
         auto parent = openParentFolder(from.get());

@@ -62,7 +62,8 @@ private:
 
     [[nodiscard]] int descriptorOf(const Folder& folder) const;
     [[nodiscard]] std::expected<bool, Failure> leaveFinishedFolders();
-    [[nodiscard]] std::expected<FileDescriptor, int> climbTo(std::size_t index, std::size_t fromIndex, FileDescriptor from) const;
+    [[nodiscard]] std::expected<FileDescriptor, int> climbTo(
+        std::size_t index, std::size_t fromIndex, FileDescriptor from) const;
     void giveUpDescriptors(std::size_t keep);
     void keepOpen(std::size_t index, FileDescriptor descriptor);
     FileDescriptor takeDescriptor(std::size_t index);

@@ -33,7 +33,8 @@ enum class StatusDetail : std::uint8_t { walk, whole };
 
 /// Looks at `name` in the open folder (an absolute path ignores the folder; an empty name is the open item itself).
 /// `walk` leaves the creation date out. The error is the system's number.
-[[nodiscard]] std::expected<ItemStatus, int> readItemStatus(int folderDescriptor, const char* name, StatusDetail detail);
+[[nodiscard]] std::expected<ItemStatus, int> readItemStatus(
+    int folderDescriptor, const char* name, StatusDetail detail);
 
 /// The item's file handle in hexadecimal digits; nothing where the file system has none.
 [[nodiscard]] std::optional<std::string> readFileHandle(int folderDescriptor, const char* name);

@@ -1,22 +1,10 @@
 #include "Platform/Files/PackageNames.h"
 
+#include "Platform/Base/ASCII.h"
+
 #include <algorithm>
-#include <array>
 
 namespace Platform {
-
-namespace {
-
-constexpr std::array<std::string_view, 9> kPackageExtensions{
-    "app", "appex", "bundle", "framework", "kext", "plugin", "photoslibrary", "musiclibrary", "tvlibrary"};
-
-constexpr bool equalsIgnoringASCIICase(std::string_view text, std::string_view lowercase)
-{
-    return std::ranges::equal(text, lowercase,
-        [](char left, char right) { return (left >= 'A' && left <= 'Z' ? left - 'A' + 'a' : left) == right; });
-}
-
-} // namespace
 
 bool isPackageName(std::string_view folderName)
 {
@@ -26,7 +14,7 @@ bool isPackageName(std::string_view folderName)
     }
     const auto extension = folderName.substr(point + 1);
     return std::ranges::any_of(
-        kPackageExtensions, [&](std::string_view known) { return equalsIgnoringASCIICase(extension, known); });
+        kPackageExtensions, [&](std::string_view known) { return ASCII::equalsIgnoringCase(extension, known); });
 }
 
 } // namespace Platform

@@ -82,7 +82,7 @@ std::expected<FileDescriptor, int> openForListing(const ItemReference& folder)
 
 Existence PosixFileManager::existence(const FileURL& url) const
 {
-    struct stat found {};
+    struct stat found{};
     if (stat(url.path().c_str(), &found) != 0) {
         return Existence::missing;
     }
@@ -119,11 +119,12 @@ FingerprintReadings PosixFileManager::fingerprintReadings(const ItemReference& i
         return {std::unexpected(status.error()), std::unexpected(status.error())};
     }
     return {
-        .identityValues = IdentityValues{
-            .values = resourceValuesOf(*status, nullptr),
-            .fileResourceIdentifier = readFileHandle(folderDescriptor(item), item.name().c_str()),
-            .volumeIdentifier = volumeIdentifierOf(item),
-        },
+        .identityValues =
+            IdentityValues{
+                .values = resourceValuesOf(*status, nullptr),
+                .fileResourceIdentifier = readFileHandle(folderDescriptor(item), item.name().c_str()),
+                .volumeIdentifier = volumeIdentifierOf(item),
+            },
         .attributes = attributesOf(*status),
     };
 }
@@ -153,8 +154,8 @@ std::unique_ptr<DirectoryEnumerator> PosixFileManager::enumerator(
 std::expected<std::vector<FileURL>, FileError> PosixFileManager::contentsOfDirectory(const FileURL& folder) const
 {
     std::optional<FileError> failure;
-    const auto entries = enumerator(folder, {.skipsSubdirectoryDescendants = true},
-        [&](const FileURL&, const FileError& error) {
+    const auto entries =
+        enumerator(folder, {.skipsSubdirectoryDescendants = true}, [&](const FileURL&, const FileError& error) {
             failure = error;
             return EnumerationErrorAnswer::stop;
         });

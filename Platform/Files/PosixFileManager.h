@@ -15,9 +15,11 @@ public:
     [[nodiscard]] bool volumeSupportsCaseSensitiveNames(const FileURL& folder) const override;
     [[nodiscard]] std::unique_ptr<DirectoryEnumerator> enumerator(
         const ItemReference& folder, EnumerationOptions options, EnumerationErrorHandler onError) const override;
-    [[nodiscard]] std::expected<std::vector<FileURL>, FileError> contentsOfDirectory(const FileURL& folder) const override;
+    [[nodiscard]] std::expected<std::vector<FileURL>, FileError> contentsOfDirectory(
+        const FileURL& folder) const override;
     [[nodiscard]] FileURL resolvingSymbolicLinks(const FileURL& url) const override;
-    [[nodiscard]] std::expected<void, FileError> writeAtomically(std::string_view bytes, const FileURL& url) const override;
+    [[nodiscard]] std::expected<void, FileError> writeAtomically(
+        std::string_view bytes, const FileURL& url) const override;
     [[nodiscard]] std::expected<std::string, FileError> readFile(
         const FileURL& url, std::size_t maximumBytes) const override;
     [[nodiscard]] std::expected<void, FileError> createDirectory(const FileURL& folder) const override;

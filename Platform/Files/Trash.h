@@ -46,9 +46,10 @@ struct RestoreAnchor {
 /// opened below it without a link and without another volume on the way, and item and Trash are then named by those
 /// open folders. What arrives is looked at again; if it is not the confirmed item it goes back to where it was.
 ///
-/// An error leaves the item where it was, with no trace in the Trash, unless its kind is `movedUnconfirmed`: then the
-/// item lies in the Trash with a valid record. Killed at any point, every item is in exactly one place. A Trash may be
-/// used from several threads and by several processes.
+/// An error leaves the item where it was, with no trace in the Trash, unless its kind is `movedUnconfirmed` (an item lies
+/// in the Trash with a valid record) or `restoredUnconfirmed` (an item stands at the destination). Killed at any point,
+/// every item is in exactly one place; what is left of a record without an item goes when the Trash is next used. A
+/// Trash may be used from several threads and by several processes.
 class Trash {
 public:
     virtual ~Trash() = default;
@@ -57,7 +58,8 @@ public:
     [[nodiscard]] virtual std::expected<std::optional<FileURL>, FileError> trashItem(const ItemAnchor& anchor) = 0;
     /// Moves an item back, never onto another one, and takes its record away. Makes no folder.
     [[nodiscard]] virtual std::expected<void, FileError> restoreItem(const RestoreAnchor& anchor) = 0;
-    /// Deletes the item for good, with all that it holds.
+    /// Deletes the item for good, with all that it holds. After a failure some of that may be gone; the rest stands where
+    /// it stood, or lies in the Trash if another item has taken the place meanwhile.
     [[nodiscard]] virtual std::expected<void, FileError> removeItem(const ItemAnchor& anchor) = 0;
 
     /// Brings all moves since the last call to the disk, so that they outlive a loss of power: call it once for a batch,

@@ -15,12 +15,15 @@ namespace Platform {
 namespace {
 
 constexpr std::size_t kReadBytes = std::size_t{64} * 1024;
+constexpr std::string_view kUnfinishedPrefix = ".karvello-";
+constexpr std::string_view kUnfinishedSuffix = ".tmp";
 
 /// For file systems without O_TMPFILE: a name of its own first, then the final one.
 int addThroughTemporaryName(int folder, const char* name, std::string_view bytes, mode_t mode)
 {
     std::random_device random;
-    const auto temporaryName = fmt::format(".karvello-{:08x}{:08x}.tmp", random(), random());
+    const auto temporaryName =
+        fmt::format("{}{:08x}{:08x}{}", kUnfinishedPrefix, random(), random(), kUnfinishedSuffix);
     int error = 0;
     {
         const FileDescriptor file(
@@ -45,7 +48,8 @@ int addWholeFile(int folderDescriptor, const char* name, std::string_view bytes,
 {
     const FileDescriptor file(openat(folderDescriptor, ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
     if (!file.isOpen()) {
-        return errno == EOPNOTSUPP || errno == EISDIR ? addThroughTemporaryName(folderDescriptor, name, bytes, mode) : errno;
+        return errno == EOPNOTSUPP || errno == EISDIR ? addThroughTemporaryName(folderDescriptor, name, bytes, mode)
+                                                      : errno;
     }
     if (const int error = writeAll(file.get(), bytes); error != 0) {
         return error;
@@ -55,13 +59,19 @@ int addWholeFile(int folderDescriptor, const char* name, std::string_view bytes,
     return linkat(AT_FDCWD, path.c_str(), folderDescriptor, name, AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
 }
 
+bool isUnfinishedFile(std::string_view name)
+{
+    return name.starts_with(kUnfinishedPrefix) && name.ends_with(kUnfinishedSuffix);
+}
+
 std::expected<std::string, int> readWholeFile(int folderDescriptor, const char* name, std::size_t maximumBytes)
 {
-    const FileDescriptor file(openat(folderDescriptor, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    const FileDescriptor file(
+        openat(folderDescriptor, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file.isOpen()) {
         return std::unexpected(errno);
     }
-    struct stat found {};
+    struct stat found{};
     if (fstat(file.get(), &found) != 0) {
         return std::unexpected(errno);
     }
@@ -92,6 +102,9 @@ int writeAll(int descriptor, std::string_view bytes)
         const auto written = ::write(descriptor, bytes.data(), bytes.size());
         if (written < 0 && errno != EINTR) {
             return errno;
+        }
+        if (written == 0) {
+            return EIO;
         }
         bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
     }

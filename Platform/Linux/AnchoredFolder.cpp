@@ -31,7 +31,8 @@ std::expected<std::shared_ptr<const FolderHandle>, FileError> openFolderOfItem(
         return std::unexpected(FileError::fromSystemError(systemError, operation, item.path()));
     };
     if (!isPathInside(item.path(), root.url.path())) {
-        return std::unexpected(FileError{.kind = FileErrorKind::itemChanged, .operation = operation, .path = item.path()});
+        return std::unexpected(
+            FileError{.kind = FileErrorKind::itemChanged, .operation = operation, .path = item.path()});
     }
     FileDescriptor rootFolder(open(root.url.path().c_str(), kNamingFlags));
     if (!rootFolder.isOpen()) {
@@ -42,7 +43,8 @@ std::expected<std::shared_ptr<const FolderHandle>, FileError> openFolderOfItem(
         return failure(rootStatus.error());
     }
     if (rootStatus->deviceNumber != root.systemNumber || rootStatus->fileNumber != root.systemFileNumber) {
-        return std::unexpected(FileError{.kind = FileErrorKind::itemChanged, .operation = operation, .path = item.path()});
+        return std::unexpected(
+            FileError{.kind = FileErrorKind::itemChanged, .operation = operation, .path = item.path()});
     }
     auto folderURL = item.deletingLastPathComponent();
     if (folderURL.path().size() > root.url.path().size()) {

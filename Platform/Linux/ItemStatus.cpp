@@ -33,7 +33,7 @@ FileType typeOf(unsigned mode)
 
 std::expected<ItemStatus, int> readItemStatus(int folderDescriptor, const char* name, StatusDetail detail)
 {
-    struct statx found {};
+    struct statx found{};
     const unsigned fields = detail == StatusDetail::whole ? kWalkFields | STATX_BTIME : kWalkFields;
     const int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | (*name == '\0' ? AT_EMPTY_PATH : 0);
     if (statx(folderDescriptor, name, flags, fields, &found) != 0) {

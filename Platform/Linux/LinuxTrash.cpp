@@ -1,23 +1,24 @@
 #include "Platform/Linux/LinuxTrash.h"
 
 #include "Platform/Linux/AnchoredFolder.h"
-#include "Platform/Linux/MountTable.h"
-#include "Platform/Linux/TrashPlaces.h"
 #include "Platform/Linux/TreeRemoval.h"
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <fcntl.h>
 #include <fmt/format.h>
-#include <sys/stat.h>
+#include <random>
 #include <unistd.h>
 
 namespace Platform {
 
 namespace {
 
-// Names are numbered; behind so many taken ones something else is wrong.
-constexpr std::size_t kNameAttempts = 10'000;
+// Names are numbered from 2 up; where many are taken, numbers at random find a free one sooner.
+constexpr std::size_t kNumberedNames = 8;
+constexpr std::size_t kNameAttempts = 64;
 
 int moveWithoutReplacing(int fromFolder, const std::string& from, int toFolder, const std::string& to)
 {
@@ -46,6 +47,29 @@ FileError trashError(int systemError, FileOperation operation, const FileURL& it
     }
 }
 
+/// Where an open folder is now; unlike the path that it was opened by, without symbolic links.
+std::expected<std::string, int> currentPath(const FolderHandle& folder)
+{
+    std::array<char, PATH_MAX> path{};
+    const auto link = fmt::format("/proc/self/fd/{}", folder.descriptor());
+    const auto length = readlink(link.c_str(), path.data(), path.size());
+    if (length < 0) {
+        return std::unexpected(errno);
+    }
+    return std::string(path.data(), static_cast<std::size_t>(length));
+}
+
+/// Undoes a move to the Trash. Where something else stands by now, the item stays in the Trash with its record.
+bool moveBack(const TrashFolder& trash, const std::string& name, const FolderHandle& folder, const FileURL& item)
+{
+    const std::string itemName(item.lastPathComponent());
+    if (moveWithoutReplacing(trash.files()->descriptor(), name, folder.descriptor(), itemName) != 0) {
+        return false;
+    }
+    std::ignore = trash.removeRecord(name);
+    return true;
+}
+
 ItemReference entry(const std::shared_ptr<const FolderHandle>& folder, std::string_view name)
 {
     return {folder, name, DirectoryHint::isFile};
@@ -69,6 +93,36 @@ std::expected<std::optional<FileURL>, FileError> LinuxTrash::trashItem(const Ite
     return arrival->trash->files()->url().child(arrival->name, hint);
 }
 
+/// Why the item must not be moved, whatever the Trash is like.
+std::optional<FileError> LinuxTrash::obstacle(
+    const std::shared_ptr<const FolderHandle>& folder, const ItemAnchor& anchor, FileOperation operation)
+{
+    const auto& item = anchor.item;
+    const std::string itemName(item.lastPathComponent());
+    const auto here = entry(folder, itemName);
+    const auto values = m_fileManager.resourceValues(here);
+    if (!values) {
+        return FileError::fromSystemError(values.error().systemError, operation, item.path());
+    }
+    if (values->isOnOtherVolume) {
+        return errorOfKind(FileErrorKind::crossesVolume, operation, item);
+    }
+    if (values->isDirectory.value_or(true)) {
+        const auto mounts = m_mounts.current();
+        const auto path = currentPath(*folder);
+        if (!mounts || !path) {
+            return FileError::fromSystemError(mounts ? path.error() : mounts.error(), operation, item.path());
+        }
+        if ((*mounts)->hasMountAtOrBelow(FileURL::entry(*path, itemName, DirectoryHint::isFolder).path())) {
+            return errorOfKind(FileErrorKind::containsMount, operation, item);
+        }
+    }
+    if (!anchor.isConfirmed(m_fileManager.fingerprintReadings(here))) {
+        return errorOfKind(FileErrorKind::itemChanged, operation, item);
+    }
+    return std::nullopt;
+}
+
 std::expected<LinuxTrash::Arrival, FileError> LinuxTrash::moveToTrash(const ItemAnchor& anchor, FileOperation operation)
 {
     const auto& item = anchor.item;
@@ -76,43 +130,29 @@ std::expected<LinuxTrash::Arrival, FileError> LinuxTrash::moveToTrash(const Item
     if (!folder) {
         return std::unexpected(folder.error());
     }
-    const std::string itemName(item.lastPathComponent());
-    const auto here = entry(*folder, itemName);
-    if (const auto values = m_fileManager.resourceValues(here)) {
-        if (values->isOnOtherVolume) {
-            return std::unexpected(errorOfKind(FileErrorKind::crossesVolume, operation, item));
-        }
-        if (values->isDirectory.value_or(false) && MountTable::read().hasMountAtOrBelow(item.path())) {
-            return std::unexpected(errorOfKind(FileErrorKind::containsMount, operation, item));
-        }
-    }
-    if (!anchor.isConfirmed(m_fileManager.fingerprintReadings(here))) {
-        return std::unexpected(errorOfKind(FileErrorKind::itemChanged, operation, item));
+    if (auto error = obstacle(*folder, anchor, operation)) {
+        return std::unexpected(*std::move(error));
     }
     const auto trash = trashFor(**folder, MissingTrash::make);
     if (!trash) {
         return std::unexpected(trashError(trash.error(), operation, item));
     }
-
-    const TrashFolder::Use use(**trash);
-    const auto name = moveUnderFreeName(**folder, item, **trash);
+    auto use = TrashFolder::use(*trash);
+    if (!use) {
+        return std::unexpected(FileError::fromSystemError(use.error(), operation, item.path()));
+    }
+    auto name = moveUnderFreeName(**folder, item, **trash);
     if (!name) {
         return std::unexpected(FileError::fromSystemError(name.error(), operation, item.path()));
     }
-    {
-        const std::scoped_lock guard(m_lock);
-        m_unsettled.emplace(trash->get(), *trash);
-    }
+    noteUnsettled(*trash);
     // Between the look and the move another item may have come to stand under the name.
     if (anchor.isConfirmed(m_fileManager.fingerprintReadings(entry((*trash)->files(), *name)))) {
-        return Arrival{*trash, *name};
+        return Arrival{*folder, *trash, *std::move(name), *std::move(use)};
     }
-    const auto& files = *(*trash)->files();
-    if (moveWithoutReplacing(files.descriptor(), *name, (*folder)->descriptor(), itemName) != 0) {
-        return std::unexpected(errorOfKind(FileErrorKind::movedUnconfirmed, operation, item));
-    }
-    std::ignore = (*trash)->removeRecord(*name);
-    return std::unexpected(errorOfKind(FileErrorKind::itemChanged, operation, item));
+    const bool isBack = moveBack(**trash, *name, **folder, item);
+    const auto kind = isBack ? FileErrorKind::itemChanged : FileErrorKind::movedUnconfirmed;
+    return std::unexpected(errorOfKind(kind, operation, item));
 }
 
 /// The record comes first and reserves the name. An item without a record under the same name keeps its place: then the
@@ -122,7 +162,7 @@ std::expected<std::string, int> LinuxTrash::moveUnderFreeName(
 {
     const std::string itemName(item.lastPathComponent());
     for (std::size_t attempt = 0; attempt < kNameAttempts; ++attempt) {
-        auto name = trashedName(itemName, attempt);
+        auto name = trashedName(itemName, attempt < kNumberedNames ? attempt : std::random_device()());
         const int recordError = trash.addRecord(name, item);
         if (recordError == EEXIST) {
             continue;
@@ -130,8 +170,7 @@ std::expected<std::string, int> LinuxTrash::moveUnderFreeName(
         if (recordError != 0) {
             return std::unexpected(recordError);
         }
-        const int moveError
-            = moveWithoutReplacing(folder.descriptor(), itemName, trash.files()->descriptor(), name);
+        const int moveError = moveWithoutReplacing(folder.descriptor(), itemName, trash.files()->descriptor(), name);
         if (moveError == 0) {
             return name;
         }
@@ -156,7 +195,10 @@ std::expected<void, FileError> LinuxTrash::restoreItem(const RestoreAnchor& anch
         return std::unexpected(errorOfKind(FileErrorKind::noTrash, operation, destination));
     }
 
-    const TrashFolder::Use use(*trash);
+    const auto use = TrashFolder::use(trash);
+    if (!use) {
+        return std::unexpected(FileError::fromSystemError(use.error(), operation, destination.path()));
+    }
     const std::string name(anchor.trashedItem.lastPathComponent());
     const std::string destinationName(destination.lastPathComponent());
     const auto recorded = trash->recordedURL(name);
@@ -170,15 +212,11 @@ std::expected<void, FileError> LinuxTrash::restoreItem(const RestoreAnchor& anch
     if (const int error = moveWithoutReplacing(files, name, (*folder)->descriptor(), destinationName); error != 0) {
         return std::unexpected(FileError::fromSystemError(error, operation, destination.path()));
     }
-    {
-        const std::scoped_lock guard(m_lock);
-        m_unsettled.emplace(trash.get(), trash);
-    }
+    noteUnsettled(trash);
     if (!anchor.isConfirmed(m_fileManager.fingerprintReadings(entry(*folder, destinationName)))) {
-        if (moveWithoutReplacing((*folder)->descriptor(), destinationName, files, name) == 0) {
-            return std::unexpected(errorOfKind(FileErrorKind::itemChanged, operation, destination));
-        }
-        return std::unexpected(errorOfKind(FileErrorKind::movedUnconfirmed, operation, destination));
+        const bool isBack = moveWithoutReplacing((*folder)->descriptor(), destinationName, files, name) == 0;
+        const auto kind = isBack ? FileErrorKind::itemChanged : FileErrorKind::restoredUnconfirmed;
+        return std::unexpected(errorOfKind(kind, operation, destination));
     }
     std::ignore = trash->removeRecord(name);
     return {};
@@ -192,12 +230,19 @@ std::expected<void, FileError> LinuxTrash::removeItem(const ItemAnchor& anchor)
     if (!arrival) {
         return std::unexpected(arrival.error());
     }
-    const TrashFolder::Use use(*arrival->trash);
-    if (const int error = removeTree(arrival->trash->files()->descriptor(), arrival->name.c_str()); error != 0) {
+    const auto& trash = *arrival->trash;
+    if (const int error = removeTree(trash.files()->descriptor(), arrival->name.c_str()); error != 0) {
+        std::ignore = moveBack(trash, arrival->name, *arrival->folder, anchor.item);
         return std::unexpected(FileError::fromSystemError(error, FileOperation::remove, anchor.item.path()));
     }
-    std::ignore = arrival->trash->removeRecord(arrival->name);
+    std::ignore = trash.removeRecord(arrival->name);
     return {};
+}
+
+void LinuxTrash::noteUnsettled(const std::shared_ptr<TrashFolder>& trash)
+{
+    const std::scoped_lock guard(m_lock);
+    m_unsettled.emplace(trash.get(), trash);
 }
 
 std::expected<void, FileError> LinuxTrash::settle()
@@ -210,8 +255,8 @@ std::expected<void, FileError> LinuxTrash::settle()
     std::expected<void, FileError> result;
     for (const auto& [key, trash] : unsettled) {
         if (const int error = trash->synchronise(); error != 0) {
-            result = std::unexpected(
-                FileError::fromSystemError(error, FileOperation::write, trash->files()->url().path()));
+            result =
+                std::unexpected(FileError::fromSystemError(error, FileOperation::write, trash->files()->url().path()));
         }
     }
     return result;
@@ -230,7 +275,7 @@ std::vector<FileURL> LinuxTrash::trashDirectories(const FileURL& url) const
     if (descriptor.isOpen()) {
         const FolderHandle folder(std::move(descriptor), folderURL);
         if (!homeTrashServes(folder)) {
-            for (const auto& place : volumeTrashPlaces(folder)) {
+            for (const auto& place : placesOnVolume(folder)) {
                 add(place.trash, place.topFolder);
             }
         }
@@ -246,7 +291,7 @@ std::expected<std::shared_ptr<TrashFolder>, int> LinuxTrash::trashFor(
         return opened(homeTrashURL(m_dataHome), std::nullopt, missing);
     }
     int error = EPERM;
-    for (const auto& place : volumeTrashPlaces(folder)) {
+    for (const auto& place : placesOnVolume(folder)) {
         auto trash = opened(place.trash, place.topFolder, missing);
         if (trash && (*trash)->mountNumber() == folder.status().mountNumber) {
             return trash;
@@ -265,14 +310,21 @@ std::shared_ptr<TrashFolder> LinuxTrash::trashOfFiles(const FolderHandle& folder
     }
     if (homeTrashServes(folder)) {
         const auto home = homeTrashURL(m_dataHome);
-        return trashURL.path() == home.path() ? opened(home, std::nullopt, MissingTrash::refuse).value_or(nullptr) : nullptr;
+        return trashURL.path() == home.path() ? opened(home, std::nullopt, MissingTrash::refuse).value_or(nullptr)
+                                              : nullptr;
     }
-    for (const auto& place : volumeTrashPlaces(folder)) {
+    for (const auto& place : placesOnVolume(folder)) {
         if (place.trash.path() == trashURL.path()) {
             return opened(place.trash, place.topFolder, MissingTrash::refuse).value_or(nullptr);
         }
     }
     return nullptr;
+}
+
+std::vector<VolumeTrashPlace> LinuxTrash::placesOnVolume(const FolderHandle& folder) const
+{
+    const auto mounts = m_mounts.current();
+    return mounts ? volumeTrashPlaces(folder, **mounts) : std::vector<VolumeTrashPlace>();
 }
 
 /// A rename reaches the home's Trash only within one mount.

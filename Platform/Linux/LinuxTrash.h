@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Platform/Files/Trash.h"
+#include "Platform/Linux/MountWatch.h"
 #include "Platform/Linux/TrashFolder.h"
+#include "Platform/Linux/TrashPlaces.h"
 
 #include <map>
 #include <memory>
@@ -27,26 +29,35 @@ public:
 
 private:
     struct Arrival {
+        /// Where the item was.
+        std::shared_ptr<const FolderHandle> folder;
         std::shared_ptr<TrashFolder> trash;
         std::string name;
+        /// Lasts until what is to follow the move is done.
+        TrashFolder::Use use;
     };
 
     [[nodiscard]] std::expected<Arrival, FileError> moveToTrash(const ItemAnchor& anchor, FileOperation operation);
+    [[nodiscard]] std::optional<FileError> obstacle(
+        const std::shared_ptr<const FolderHandle>& folder, const ItemAnchor& anchor, FileOperation operation);
     [[nodiscard]] std::expected<std::string, int> moveUnderFreeName(
         const FolderHandle& folder, const FileURL& item, const TrashFolder& trash) const;
     [[nodiscard]] std::expected<std::shared_ptr<TrashFolder>, int> trashFor(
         const FolderHandle& folder, MissingTrash missing) const;
     [[nodiscard]] std::shared_ptr<TrashFolder> trashOfFiles(const FolderHandle& folder, const FileURL& files) const;
+    [[nodiscard]] std::vector<VolumeTrashPlace> placesOnVolume(const FolderHandle& folder) const;
     [[nodiscard]] bool homeTrashServes(const FolderHandle& folder) const;
+    void noteUnsettled(const std::shared_ptr<TrashFolder>& trash);
     [[nodiscard]] std::expected<std::shared_ptr<TrashFolder>, int> opened(
         const FileURL& trash, const std::optional<FileURL>& recordedPathBase, MissingTrash missing) const;
 
     const FileManager& m_fileManager;
     FileURL m_dataHome;
+    mutable MountWatch m_mounts;
     mutable std::mutex m_lock;
     /// The Trashes that were opened, by their path. Guarded by the lock.
     mutable std::map<std::string, std::shared_ptr<TrashFolder>, std::less<>> m_opened;
-    /// The Trashes that were written to since the last `settle`.
+    /// The Trashes that were written to since the last `settle`. Guarded by the lock.
     std::map<TrashFolder*, std::shared_ptr<TrashFolder>> m_unsettled;
 };
 

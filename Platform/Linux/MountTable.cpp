@@ -1,14 +1,20 @@
 #include "Platform/Linux/MountTable.h"
 
 #include "Platform/Base/FileURL.h"
+#include "Platform/Files/WholeFile.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
 #include <libmount/libmount.h>
 #include <memory>
 
 namespace Platform {
 
 namespace {
+
+constexpr std::size_t kMaximumTableBytes = std::size_t{64} * 1024 * 1024;
 
 struct ReleaseTable {
     void operator()(libmnt_table* table) const { mnt_unref_table(table); }
@@ -18,9 +24,43 @@ struct ReleaseIterator {
     void operator()(libmnt_iter* iterator) const { mnt_free_iter(iterator); }
 };
 
+struct CloseStream {
+    void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+
 std::string text(const char* value)
 {
     return value == nullptr ? std::string() : std::string(value);
+}
+
+/// libmount takes a read that fails for the end of the table, so the bytes are read apart.
+std::expected<std::vector<MountTable::Mount>, int> parsed(const char* path)
+{
+    auto bytes = readWholeFile(AT_FDCWD, path, kMaximumTableBytes);
+    if (!bytes) {
+        return std::unexpected(bytes.error());
+    }
+    std::vector<MountTable::Mount> mounts;
+    if (bytes->empty()) {
+        return mounts;
+    }
+    const std::unique_ptr<std::FILE, CloseStream> stream(fmemopen(bytes->data(), bytes->size(), "r"));
+    const std::unique_ptr<libmnt_table, ReleaseTable> table(mnt_new_table());
+    const std::unique_ptr<libmnt_iter, ReleaseIterator> iterator(mnt_new_iter(MNT_ITER_FORWARD));
+    if (!stream || !table || !iterator || mnt_table_parse_stream(table.get(), stream.get(), path) != 0) {
+        return std::unexpected(EIO);
+    }
+    libmnt_fs* mount = nullptr;
+    while (mnt_table_next_fs(table.get(), iterator.get(), &mount) == 0) {
+        mounts.push_back({
+            .number = static_cast<std::uint64_t>(mnt_fs_get_id(mount)),
+            .path = text(mnt_fs_get_target(mount)),
+            .root = text(mnt_fs_get_root(mount)),
+            .fileSystemType = text(mnt_fs_get_fstype(mount)),
+            .options = text(mnt_fs_get_options(mount)),
+        });
+    }
+    return mounts;
 }
 
 } // namespace
@@ -38,31 +78,24 @@ bool MountTable::Mount::hasOption(std::string_view name) const
     return false;
 }
 
-bool MountTable::Mount::isBindMount() const
+std::expected<MountTable, int> MountTable::read(const char* mountInfoPath, const char* fileSystemsPath)
 {
-    // A subvolume of btrfs is mounted by its path in the file system, and is a volume all the same.
-    return root != "/" && fileSystemType != "btrfs";
-}
-
-MountTable MountTable::read()
-{
-    MountTable result;
-    const std::unique_ptr<libmnt_table, ReleaseTable> table(mnt_new_table_from_file("/proc/self/mountinfo"));
-    const std::unique_ptr<libmnt_iter, ReleaseIterator> iterator(mnt_new_iter(MNT_ITER_FORWARD));
-    if (!table || !iterator) {
-        return result;
+    auto mounts = parsed(mountInfoPath);
+    if (!mounts || mounts->empty()) {
+        return std::unexpected(mounts ? EIO : mounts.error());
     }
-    libmnt_fs* mount = nullptr;
-    while (mnt_table_next_fs(table.get(), iterator.get(), &mount) == 0) {
-        result.m_mounts.push_back({
-            .number = static_cast<std::uint64_t>(mnt_fs_get_id(mount)),
-            .path = text(mnt_fs_get_target(mount)),
-            .root = text(mnt_fs_get_root(mount)),
-            .fileSystemType = text(mnt_fs_get_fstype(mount)),
-            .options = text(mnt_fs_get_options(mount)),
-        });
+    // The system does not keep the options that are meant for programs, such as "x-gvfs-notrash".
+    if (const auto fileSystems = parsed(fileSystemsPath)) {
+        for (auto& mount : *mounts) {
+            const auto same = std::ranges::find(*fileSystems, mount.path, &Mount::path);
+            if (same != fileSystems->end()) {
+                mount.options.append(",").append(same->options);
+            }
+        }
     }
-    return result;
+    MountTable table;
+    table.m_mounts = *std::move(mounts);
+    return table;
 }
 
 const MountTable::Mount* MountTable::find(std::uint64_t number) const

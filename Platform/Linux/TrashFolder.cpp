@@ -6,10 +6,11 @@
 #include "Platform/Files/WholeFile.h"
 
 #include <cerrno>
-#include <cstdio>
+#include <chrono>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -21,36 +22,46 @@ constexpr mode_t kPrivateFolder = 0700;
 constexpr mode_t kPrivateFile = 0600;
 // A path of the longest kind, every byte encoded, and the other lines.
 constexpr std::size_t kMaximumRecordBytes = std::size_t{16} * 1024;
+// Tidying takes as long as looking at each record.
+constexpr std::chrono::seconds kLongestWait{5};
+constexpr std::chrono::milliseconds kPauseBetweenTries{5};
 
 std::string recordName(std::string_view name)
 {
     return std::string(name).append(TrashRecord::kSuffix);
 }
 
-/// 0 if the open folder belongs to this user and nobody else can write to it.
+/// A folder that belongs to this user and that nobody else can write to.
+bool isSound(const struct stat& found)
+{
+    return S_ISDIR(found.st_mode) && found.st_uid == geteuid() && (found.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
 int checkOwnership(int folder)
 {
-    struct stat found {};
+    struct stat found{};
     if (fstat(folder, &found) != 0) {
         return errno;
     }
-    const bool isSound = S_ISDIR(found.st_mode) && found.st_uid == geteuid() && (found.st_mode & (S_IWGRP | S_IWOTH)) == 0;
-    return isSound ? 0 : EPERM;
+    return isSound(found) ? 0 : EPERM;
 }
 
 std::expected<FileDescriptor, int> openOwnFolder(int parent, const char* name, MissingTrash missing)
 {
-    if (missing == MissingTrash::make && mkdirat(parent, name, kPrivateFolder) != 0 && errno != EEXIST) {
+    const bool isNew = missing == MissingTrash::make && mkdirat(parent, name, kPrivateFolder) == 0;
+    if (missing == MissingTrash::make && !isNew && errno != EEXIST) {
         return std::unexpected(errno);
     }
     auto folder = openFolderIn(parent, name);
-    if (!folder) {
+    const int error = folder ? checkOwnership(folder->get()) : folder.error();
+    if (error == 0) {
         return folder;
     }
-    if (const int error = checkOwnership(folder->get()); error != 0) {
-        return std::unexpected(error);
+    // Some volumes give what is made on them to somebody else.
+    if (isNew) {
+        unlinkat(parent, name, AT_REMOVEDIR);
     }
-    return folder;
+    return std::unexpected(error);
 }
 
 } // namespace
@@ -90,26 +101,53 @@ std::expected<std::shared_ptr<TrashFolder>, int> TrashFolder::open(
         new TrashFolder(std::make_shared<const FolderHandle>(std::move(*files), folder.child("files", hint)),
             std::make_shared<const FolderHandle>(std::move(*info), folder.child("info", hint)),
             std::move(recordedPathBase)));
-    trash->removeLeftoverRecords();
+    trash->removeLeftovers();
     return trash;
-}
-
-TrashFolder::Use::Use(const TrashFolder& folder)
-    : m_descriptor(folder.m_info->descriptor())
-{
-    flock(m_descriptor, LOCK_SH);
 }
 
 TrashFolder::Use::~Use()
 {
-    flock(m_descriptor, LOCK_UN);
+    if (m_folder) {
+        m_folder->endUse();
+    }
+}
+
+std::expected<TrashFolder::Use, int> TrashFolder::use(std::shared_ptr<const TrashFolder> folder)
+{
+    if (const int error = folder->beginUse(); error != 0) {
+        return std::unexpected(error);
+    }
+    return Use(std::move(folder));
+}
+
+int TrashFolder::beginUse() const
+{
+    const std::scoped_lock guard(m_usesLock);
+    const auto deadline = std::chrono::steady_clock::now() + kLongestWait;
+    while (m_uses == 0 && flock(m_info->descriptor(), LOCK_SH | LOCK_NB) != 0) {
+        if ((errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() > deadline) {
+            return errno;
+        }
+        std::this_thread::sleep_for(kPauseBetweenTries);
+    }
+    ++m_uses;
+    return 0;
+}
+
+void TrashFolder::endUse() const
+{
+    const std::scoped_lock guard(m_usesLock);
+    if (--m_uses == 0) {
+        flock(m_info->descriptor(), LOCK_UN);
+    }
 }
 
 bool TrashFolder::isStillInPlace() const
 {
     const auto isSame = [](const FolderHandle& folder) {
-        const auto status = readItemStatus(AT_FDCWD, folder.url().path().c_str(), StatusDetail::walk);
-        return status && status->isSamePlace(folder.status());
+        struct stat found{};
+        return lstat(folder.url().path().c_str(), &found) == 0 && isSound(found)
+            && found.st_dev == folder.status().deviceNumber && found.st_ino == folder.status().fileNumber;
     };
     return isSame(*m_files) && isSame(*m_info);
 }
@@ -118,7 +156,10 @@ int TrashFolder::addRecord(std::string_view name, const FileURL& itemURL) const
 {
     TrashRecord record{.path = itemURL.path(), .deletionDate = TrashRecord::now(), .isOurs = true};
     if (m_recordedPathBase) {
-        record.path = itemURL.path().substr(m_recordedPathBase->isRoot() ? 1 : m_recordedPathBase->path().size() + 1);
+        if (!isPathInside(itemURL.path(), m_recordedPathBase->path())) {
+            return EXDEV;
+        }
+        record.path.erase(0, m_recordedPathBase->path().size() + 1);
     }
     return addWholeFile(m_info->descriptor(), recordName(name).c_str(), record.text(), kPrivateFile);
 }
@@ -137,7 +178,9 @@ std::expected<FileURL, int> TrashFolder::recordedURL(std::string_view name) cons
     if (record->path.starts_with('/')) {
         return FileURL(record->path);
     }
-    return m_recordedPathBase ? m_recordedPathBase->appending(record->path) : FileURL(record->path);
+    // Other programs may count from the folder that holds the home's Trash.
+    const auto trash = m_files->url().deletingLastPathComponent();
+    return m_recordedPathBase.value_or(trash.deletingLastPathComponent()).appending(record->path);
 }
 
 std::expected<TrashRecord, int> TrashFolder::readRecord(const char* recordName) const
@@ -160,32 +203,38 @@ int TrashFolder::synchronise() const
 
 /// A crash between writing a record and moving its item leaves a record without an item, and so does one between putting
 /// an item back and taking its record away. Records of other programs are theirs.
-void TrashFolder::removeLeftoverRecords() const
+void TrashFolder::removeLeftovers() const
 {
     if (flock(m_info->descriptor(), LOCK_EX | LOCK_NB) != 0) {
         return;
     }
-    std::vector<std::string> leftover;
-    FolderListing listing;
-    listing.start(m_info->descriptor());
-    for (auto entry = listing.next(); entry && *entry; entry = listing.next()) {
+    std::vector<std::string> leftovers;
+    const auto listing = std::make_unique<FolderListing>();
+    listing->start(m_info->descriptor());
+    for (auto entry = listing->next(); entry && *entry; entry = listing->next()) {
         const auto name = (*entry)->name;
-        if (!name.ends_with(TrashRecord::kSuffix)) {
-            continue;
-        }
-        const std::string itemName(name.substr(0, name.size() - TrashRecord::kSuffix.size()));
-        struct stat item {};
-        if (fstatat(m_files->descriptor(), itemName.c_str(), &item, AT_SYMLINK_NOFOLLOW) == 0 || errno != ENOENT) {
-            continue;
-        }
-        if (const auto record = readRecord(name.data()); record && record->isOurs) {
-            leftover.push_back(itemName);
+        if (isUnfinishedFile(name) || isLeftoverRecord(name)) {
+            leftovers.emplace_back(name);
         }
     }
-    for (const auto& name : leftover) {
-        std::ignore = removeRecord(name);
+    for (const auto& name : leftovers) {
+        unlinkat(m_info->descriptor(), name.c_str(), 0);
     }
     flock(m_info->descriptor(), LOCK_UN);
+}
+
+bool TrashFolder::isLeftoverRecord(std::string_view recordName) const
+{
+    if (!recordName.ends_with(TrashRecord::kSuffix)) {
+        return false;
+    }
+    const std::string itemName(recordName.substr(0, recordName.size() - TrashRecord::kSuffix.size()));
+    const auto item = readItemStatus(m_files->descriptor(), itemName.c_str(), StatusDetail::walk);
+    if (item || item.error() != ENOENT) {
+        return false;
+    }
+    const auto record = readRecord(std::string(recordName).c_str());
+    return record && record->isOurs;
 }
 
 } // namespace Platform

@@ -14,14 +14,17 @@ namespace {
 constexpr std::string_view kHeader = "[Trash Info]";
 constexpr std::string_view kOursKey = "X-Karvello";
 
-/// Cuts at most `limit` bytes off, but never through a character.
+/// At most `limit` bytes, and no character cut through. Bytes that are no UTF-8 are cut anywhere.
 std::string_view prefixOfCharacters(std::string_view text, std::size_t limit)
 {
     if (text.size() <= limit) {
         return text;
     }
-    while (limit > 0 && (static_cast<unsigned char>(text[limit]) & 0xC0U) == 0x80U) {
-        --limit;
+    constexpr std::size_t kLongestTail = 3;
+    for (std::size_t cut = limit; cut + kLongestTail >= limit && cut > 0; --cut) {
+        if ((static_cast<unsigned char>(text[cut]) & 0xC0U) != 0x80U) {
+            return text.substr(0, cut);
+        }
     }
     return text.substr(0, limit);
 }
@@ -84,7 +87,8 @@ std::string trashedName(std::string_view itemName, std::size_t attempt)
 {
     const auto point = itemName.rfind('.');
     constexpr std::size_t kLongestExtension = 32;
-    const bool hasExtension = point != std::string_view::npos && point > 0 && itemName.size() - point <= kLongestExtension;
+    const bool hasExtension =
+        point != std::string_view::npos && point > 0 && itemName.size() - point <= kLongestExtension;
     const auto extension = hasExtension ? itemName.substr(point) : std::string_view();
     const auto stem = itemName.substr(0, itemName.size() - extension.size());
     const auto number = attempt == 0 ? std::string() : fmt::format(".{}", attempt + 1);

@@ -1,13 +1,11 @@
 #include "Platform/Linux/TreeRemoval.h"
 
 #include "Platform/Files/FolderListing.h"
+#include "Platform/Files/ItemStatus.h"
 #include "Platform/Files/OpenFolder.h"
 
 #include <cerrno>
-#include <cstdint>
-#include <cstdio>
 #include <fcntl.h>
-#include <fmt/format.h>
 #include <memory>
 #include <string>
 #include <unistd.h>
@@ -17,66 +15,87 @@ namespace Platform {
 
 namespace {
 
-struct Entries {
-    std::vector<std::string> folders;
-    std::vector<std::string> others;
-};
+/// Empties an open folder, from the leaves up. One folder is open at a time.
+class FolderEmptying {
+public:
+    int run(FileDescriptor folder)
+    {
+        int error = enter(std::move(folder), {});
+        while (error == 0 && (m_levels.size() > 1 || !m_levels.back().folders.empty())) {
+            error = m_levels.back().folders.empty() ? leave() : enterNext();
+        }
+        return error;
+    }
 
-std::expected<Entries, int> entriesOf(int folder)
-{
-    const auto listing = std::make_unique<FolderListing>();
-    listing->start(folder);
-    Entries entries;
-    while (true) {
-        const auto entry = listing->next();
-        if (!entry) {
-            return std::unexpected(entry.error());
-        }
-        if (!*entry) {
-            return entries;
-        }
-        auto& names = (*entry)->type == ListedType::other ? entries.others : entries.folders;
-        names.emplace_back((*entry)->name);
-    }
-}
+private:
+    /// A folder on the way down.
+    struct Level {
+        ItemStatus status;
+        /// Its name in the one above.
+        std::string name;
+        /// The folders in it that are still to go.
+        std::vector<std::string> folders;
+    };
 
-/// Removes what is no folder, and moves each folder to `top` under a name of its own, to be taken apart there.
-int emptyInto(int folder, int top, std::uint64_t& nextNumber)
-{
-    const auto entries = entriesOf(folder);
-    if (!entries) {
-        return entries.error();
+    int enterNext()
+    {
+        auto name = std::move(m_levels.back().folders.back());
+        m_levels.back().folders.pop_back();
+        auto folder = openFolderIn(m_current.get(), name.c_str());
+        return folder ? enter(*std::move(folder), std::move(name)) : folder.error();
     }
-    for (const auto& name : entries->others) {
-        if (unlinkat(folder, name.c_str(), 0) != 0) {
-            return errno;
+
+    /// Removes what is no folder, and notes the folders.
+    int enter(FileDescriptor folder, std::string name)
+    {
+        const auto status = readItemStatus(folder.get(), "", StatusDetail::walk);
+        if (!status) {
+            return status.error();
         }
-    }
-    for (const auto& name : entries->folders) {
-        // What the listing does not tell the type of may be no folder after all.
-        if (unlinkat(folder, name.c_str(), AT_REMOVEDIR) == 0) {
-            continue;
-        }
-        if (errno == ENOTDIR) {
-            if (unlinkat(folder, name.c_str(), 0) != 0) {
+        m_current = std::move(folder);
+        m_levels.push_back({.status = *status, .name = std::move(name), .folders = {}});
+        m_listing.start(m_current.get());
+        while (true) {
+            const auto entry = m_listing.next();
+            if (!entry) {
+                return entry.error();
+            }
+            if (!*entry) {
+                return 0;
+            }
+            const std::string entryName((*entry)->name);
+            if ((*entry)->type != ListedType::folder && unlinkat(m_current.get(), entryName.c_str(), 0) == 0) {
+                continue;
+            }
+            // Not every file system tells the type of an entry in its listing.
+            if ((*entry)->type == ListedType::other || ((*entry)->type == ListedType::unknown && errno != EISDIR)) {
                 return errno;
             }
-            continue;
-        }
-        if (folder == top) {
-            continue;
-        }
-        int moved = EEXIST;
-        while (moved == EEXIST) {
-            const auto newName = fmt::format(".{}", nextNumber++);
-            moved = renameat2(folder, name.c_str(), top, newName.c_str(), RENAME_NOREPLACE) == 0 ? 0 : errno;
-        }
-        if (moved != 0) {
-            return moved;
+            m_levels.back().folders.push_back(entryName);
         }
     }
-    return 0;
-}
+
+    int leave()
+    {
+        const auto name = std::move(m_levels.back().name);
+        m_levels.pop_back();
+        auto above = openParentFolder(m_current.get());
+        if (!above) {
+            return above.error();
+        }
+        const auto status = readItemStatus(above->get(), "", StatusDetail::walk);
+        // Moved away meanwhile, the folder has led out of the tree.
+        if (!status || !status->isSamePlace(m_levels.back().status)) {
+            return status ? ESTALE : status.error();
+        }
+        m_current = *std::move(above);
+        return unlinkat(m_current.get(), name.c_str(), AT_REMOVEDIR) == 0 ? 0 : errno;
+    }
+
+    FileDescriptor m_current;
+    std::vector<Level> m_levels;
+    FolderListing m_listing;
+};
 
 } // namespace
 
@@ -85,38 +104,16 @@ int removeTree(int folderDescriptor, const char* name)
     if (unlinkat(folderDescriptor, name, 0) == 0) {
         return 0;
     }
-    if (errno != EISDIR && errno != EPERM) {
+    if (errno != EISDIR) {
         return errno;
     }
-    std::uint64_t nextNumber = 0;
-    while (true) {
-        const auto top = openFolderIn(folderDescriptor, name);
-        if (!top) {
-            return top.error();
-        }
-        if (const int error = emptyInto(top->get(), top->get(), nextNumber); error != 0) {
-            return error;
-        }
-        const auto reopened = openFolderIn(folderDescriptor, name);
-        const auto remaining = reopened ? entriesOf(reopened->get()) : std::unexpected(reopened.error());
-        if (!remaining) {
-            return remaining.error();
-        }
-        if (remaining->folders.empty()) {
-            break;
-        }
-        for (const auto& folderName : remaining->folders) {
-            const auto folder = openFolderIn(top->get(), folderName.c_str());
-            if (!folder) {
-                return folder.error();
-            }
-            if (const int error = emptyInto(folder->get(), top->get(), nextNumber); error != 0) {
-                return error;
-            }
-            if (unlinkat(top->get(), folderName.c_str(), AT_REMOVEDIR) != 0) {
-                return errno;
-            }
-        }
+    auto folder = openFolderIn(folderDescriptor, name);
+    if (!folder) {
+        return folder.error();
+    }
+    const auto emptying = std::make_unique<FolderEmptying>();
+    if (const int error = emptying->run(*std::move(folder)); error != 0) {
+        return error;
     }
     return unlinkat(folderDescriptor, name, AT_REMOVEDIR) == 0 ? 0 : errno;
 }

@@ -108,6 +108,8 @@ inline const std::vector<LinuxNoTouchExample> kLinuxNoTouchExamples{
             "/home/u/code/User", "/home/u/.config/Codes/User"}},
     {"localhistory", {"/home/u/.cache/JetBrains/IdeaIC2024.1/LocalHistory/x"},
         {"/home/u/.cache/JetBrains/IdeaIC2024.1/log", "/a/localhistorys", "/a/Local History"}},
+    {"ccache.conf", {"/home/u/.ccache/ccache.conf"},
+        {"/home/u/.ccache", "/home/u/.ccache/ccache.conf.old", "/home/u/ccache"}},
     {".wine|system.reg", {"/home/u/.wine/drive_c", "/games/prefix/system.reg"},
         {"/home/u/wine", "/home/u/.cache/wine", "/games/system.regs"}},
     {".local/share/bottles|lutris", {"/home/u/.local/share/bottles", "/home/u/.local/share/lutris/x"},

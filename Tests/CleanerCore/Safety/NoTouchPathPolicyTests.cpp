@@ -1,9 +1,9 @@
 #include "CleanerCore/Safety/NoTouchPathPolicy.h"
 
 #include "CleanerCore/Safety/LinuxNoTouchTable.h"
-#include "LinuxNoTouchExamples.h"
-#include "NoTouchReference.h"
 #include "Platform/Base/Text.h"
+#include "Tests/CleanerCore/Safety/LinuxNoTouchExamples.h"
+#include "Tests/CleanerCore/Safety/NoTouchReference.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -227,7 +227,7 @@ TEST(NoTouchPathPolicy, AnswersStepByStepWhatTheRulesSayOfTheWholePath)
     std::mt19937 random(20240229);
     const auto draw = [&](std::size_t count) { return static_cast<std::size_t>(random() % count); };
     int refused = 0;
-    constexpr int kPaths = 60'000;
+    constexpr int kPaths = 15'000;
     for (int count = 0; count < kPaths; ++count) {
         std::string path;
         NoTouchPathPolicy::State state;

@@ -1,4 +1,4 @@
-#include "NoTouchReference.h"
+#include "Tests/CleanerCore/Safety/NoTouchReference.h"
 
 #include "CleanerCore/Safety/LinuxNoTouchTable.h"
 #include "Platform/Base/FileURL.h"

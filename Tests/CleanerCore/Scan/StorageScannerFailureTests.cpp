@@ -12,13 +12,13 @@
 namespace {
 
 using namespace ScanTests;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
 using TestSupport::Fault;
 using TestSupport::FaultDuration;
 using TestSupport::FaultyFileManager;
 using TestSupport::FileManagerCall;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 class StorageScannerFailures : public StorageScannerTest {
 protected:
@@ -91,9 +91,8 @@ TEST_F(StorageScannerFailures, SaysThatAChildVanishedAndGoesOn)
         home/Caches/a size=10
         home/Caches/b size=10
     )");
-    const auto report = scanWith({.call = FileManagerCall::resourceValues,
-        .systemError = ENOENT,
-        .path = m_tree.path("home/Caches/a")});
+    const auto report = scanWith(
+        {.call = FileManagerCall::resourceValues, .systemError = ENOENT, .path = m_tree.path("home/Caches/a")});
     EXPECT_THAT(candidateNames(report), ElementsAre("b"));
     EXPECT_EQ(reason(report, "a"), "The file “a” couldn’t be opened because there is no such file.");
 }
@@ -106,9 +105,8 @@ TEST_F(StorageScannerFailures, KeepsTheOrderOfWhatAChildsWalkMet)
         home/Caches/folder/data size=4096
     )");
     FaultyFileManager faulty(m_posix);
-    faulty.fail({.call = FileManagerCall::listFolder,
-        .systemError = EACCES,
-        .path = m_tree.path("home/Caches/folder/denied")});
+    faulty.fail(
+        {.call = FileManagerCall::listFolder, .systemError = EACCES, .path = m_tree.path("home/Caches/folder/denied")});
     faulty.fail({.call = FileManagerCall::entryResourceValues,
         .systemError = ENOENT,
         .path = m_tree.path("home/Caches/folder/gone")});
@@ -127,20 +125,18 @@ TEST_F(StorageScannerFailures, GoesOnAfterAReadErrorInTheMiddleOfAListing)
             part count=10 size=1
         home/Caches/zz size=10
     )");
-    const auto report = scanWith({.call = FileManagerCall::nextEntry,
-        .systemError = EIO,
-        .nth = 5,
-        .path = m_tree.path("home/Caches/folder")});
+    const auto report = scanWith(
+        {.call = FileManagerCall::nextEntry, .systemError = EIO, .nth = 5, .path = m_tree.path("home/Caches/folder")});
     EXPECT_THAT(candidateNames(report), testing::UnorderedElementsAre("folder", "zz"));
-    EXPECT_EQ(reason(report, "folder"), "The file “folder” couldn’t be opened because the volume reported a read error.");
+    EXPECT_EQ(
+        reason(report, "folder"), "The file “folder” couldn’t be opened because the volume reported a read error.");
 }
 
 TEST_F(StorageScannerFailures, SaysThatAFolderCouldNotBeWalkedAndThatItIsEmptyThen)
 {
     m_tree.add("home/Caches/folder/data size=10");
-    const auto report = scanWith({.call = FileManagerCall::makeEnumerator,
-        .systemError = EMFILE,
-        .path = m_tree.path("home/Caches/folder")});
+    const auto report = scanWith(
+        {.call = FileManagerCall::makeEnumerator, .systemError = EMFILE, .path = m_tree.path("home/Caches/folder")});
     ASSERT_THAT(report.skippedItems, SizeIs(2));
     EXPECT_EQ(report.skippedItems[0].reason, "Could not enumerate folder");
     EXPECT_EQ(report.skippedItems[1].reason, "Empty item");
@@ -208,12 +204,16 @@ TEST_F(StorageScannerFailures, GoesOnWithTooFewDescriptorsAndSaysSo)
 enum class MountKind { bind, temporaryFileSystem };
 
 /// Runs `check` in a process of its own that may mount what only it sees, and gives its exit code.
-int inMountNamespace(MountKind kind, const std::string& source, const std::string& target, const std::function<bool()>& check)
+int inMountNamespace(
+    MountKind kind, const std::string& source, const std::string& target, const std::function<bool()>& check)
 {
     constexpr int kCannotMount = 77;
     const pid_t child = fork();
     if (child == 0) {
-        const bool mounted = unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0
+        // A process with two threads, as ThreadSanitizer makes of each, may make no user namespace; root needs none.
+        const bool isAlone = unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0
+            || (unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0);
+        const bool mounted = isAlone
             && (kind == MountKind::bind ? mount(source.c_str(), target.c_str(), nullptr, MS_BIND, nullptr)
                                         : mount("tmpfs", target.c_str(), "tmpfs", 0, nullptr))
                 == 0;
@@ -232,8 +232,8 @@ TEST_F(StorageScannerFailures, LeavesAFolderWithABindMountInsideAlone)
         home/Caches/folder/data size=10
         home/Caches/other size=10
     )");
-    const int code = inMountNamespace(
-        MountKind::bind, m_tree.path("elsewhere"), m_tree.path("home/Caches/folder/sub/mounted"), [&] {
+    const int code =
+        inMountNamespace(MountKind::bind, m_tree.path("elsewhere"), m_tree.path("home/Caches/folder/sub/mounted"), [&] {
             const auto report = scan();
             return reason(report, "folder") == SkipReason::noTouchDescendant
                 && candidateNames(report) == std::vector<std::string>{"other"};
@@ -247,12 +247,11 @@ TEST_F(StorageScannerFailures, LeavesATemporaryFileSystemAmongTheChildrenAlone)
         home/Caches/mounted/
         home/Caches/other size=10
     )");
-    const int code
-        = inMountNamespace(MountKind::temporaryFileSystem, "", m_tree.path("home/Caches/mounted"), [&] {
-              const auto report = scan();
-              return reason(report, "mounted") == SkipReason::noTouchPath
-                  && candidateNames(report) == std::vector<std::string>{"other"};
-          });
+    const int code = inMountNamespace(MountKind::temporaryFileSystem, "", m_tree.path("home/Caches/mounted"), [&] {
+        const auto report = scan();
+        return reason(report, "mounted") == SkipReason::noTouchPath
+            && candidateNames(report) == std::vector<std::string>{"other"};
+    });
     EXPECT_EQ(code, 0) << "77: this system lets no user make a mount namespace";
 }
 
@@ -262,9 +261,9 @@ TEST_F(StorageScannerFailures, LeavesAFileThatIsMountedOverAlone)
         elsewhere size=10
         home/Caches/folder/mounted size=10
     )");
-    const int code = inMountNamespace(MountKind::bind, m_tree.path("elsewhere"),
-        m_tree.path("home/Caches/folder/mounted"),
-        [&] { return reason(scan(), "folder") == SkipReason::noTouchDescendant; });
+    const int code =
+        inMountNamespace(MountKind::bind, m_tree.path("elsewhere"), m_tree.path("home/Caches/folder/mounted"),
+            [&] { return reason(scan(), "folder") == SkipReason::noTouchDescendant; });
     EXPECT_EQ(code, 0) << "77: this system lets no user make a mount namespace";
 }
 

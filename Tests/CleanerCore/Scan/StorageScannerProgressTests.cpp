@@ -80,7 +80,8 @@ protected:
             home/None/file
         )");
         return {location(m_tree.url("home/Caches/")), location(m_tree.url("home/missing/")),
-            location(m_tree.url("home/Logs/")), location(m_tree.url("home/None/"), {.depth = ScanDepth::directoryItself})};
+            location(m_tree.url("home/Logs/")),
+            location(m_tree.url("home/None/"), {.depth = ScanDepth::directoryItself})};
     }
 };
 
@@ -129,7 +130,8 @@ TEST_F(StorageScannerProgress, TellsOfEachStepInOrder)
     finished.currentURL.reset();
     finished.totalItemsInCurrentLocation.reset();
     EXPECT_THAT(account.calls,
-        ElementsAre(StorageScanProgress::empty(), atRoot, begun, walking, done, rootDone, atMissing, missingDone, finished));
+        ElementsAre(
+            StorageScanProgress::empty(), atRoot, begun, walking, done, rootDone, atMissing, missingDone, finished));
 }
 
 TEST_F(StorageScannerProgress, TellsOfTheFirstDescendantAndOfEveryHundredAndTwentyEighth)

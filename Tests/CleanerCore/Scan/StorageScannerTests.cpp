@@ -9,12 +9,12 @@
 namespace {
 
 using namespace ScanTests;
-using TestSupport::FaultyFileManager;
-using TestSupport::FileManagerCall;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 using testing::UnorderedElementsAre;
+using TestSupport::FaultyFileManager;
+using TestSupport::FileManagerCall;
 
 using StorageScanner = StorageScannerTest;
 
@@ -150,8 +150,8 @@ TEST_F(StorageScanner, JudgesFoldersOfAHundredThousandItemsByDefault)
 {
     EXPECT_EQ(CleanerCore::StorageScanner::Configuration::standard().maximumInventoryItemsPerCandidate, 100'000);
     EXPECT_EQ(CleanerCore::StorageScanner::Configuration::standard().inventoryProgressItemInterval, 128);
-    const auto raised = CleanerCore::StorageScanner::Configuration{
-        .maximumInventoryItemsPerCandidate = 0, .inventoryProgressItemInterval = -4}
+    const auto raised = CleanerCore::StorageScanner::Configuration{.maximumInventoryItemsPerCandidate = 0,
+        .inventoryProgressItemInterval = -4}
                             .normalized();
     EXPECT_EQ(raised.maximumInventoryItemsPerCandidate, 1);
     EXPECT_EQ(raised.inventoryProgressItemInterval, 1);
@@ -246,8 +246,8 @@ TEST_F(StorageScanner, ReportsARootOfDepthDirectoryItselfOnce)
 {
     m_tree.add("home/Caches/data size=10");
     std::vector<StorageScanProgress> calls;
-    const auto report
-        = scan(LocationRules{.depth = ScanDepth::directoryItself}, [&](const StorageScanProgress& call) { calls.push_back(call); });
+    const auto report = scan(LocationRules{.depth = ScanDepth::directoryItself},
+        [&](const StorageScanProgress& call) { calls.push_back(call); });
     EXPECT_THAT(report.candidates, IsEmpty());
     ASSERT_THAT(report.skippedItems, SizeIs(1));
     EXPECT_EQ(report.skippedItems[0].url, m_tree.url("home/Caches/"));
@@ -306,7 +306,7 @@ TEST_F(StorageScanner, ChangesNothingOnDisk)
         home/Caches/file size=10
     )");
     const auto times = [&](const char* path) {
-        struct stat found {};
+        struct stat found{};
         EXPECT_EQ(stat(m_tree.path(path).c_str(), &found), 0);
         return std::vector{found.st_atim.tv_sec, found.st_atim.tv_nsec, found.st_mtim.tv_sec, found.st_mtim.tv_nsec,
             found.st_ctim.tv_sec, found.st_ctim.tv_nsec};

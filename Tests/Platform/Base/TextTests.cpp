@@ -90,6 +90,16 @@ TEST(Text, ClassifiesScalars)
         EXPECT_FALSE(Text::isWhitespaceOrNewline(scalar));
         EXPECT_FALSE(Text::isUnicodeWhitespace(scalar));
     }
+    for (const char32_t scalar : {U'a', U'ß', U'é', U'ª', U'ж'}) {
+        EXPECT_TRUE(Text::isLowercase(scalar));
+        EXPECT_FALSE(Text::isNumber(scalar));
+    }
+    for (const char32_t scalar : {U'A', U'É', U'漢', U'ǅ', U'-'}) {
+        EXPECT_FALSE(Text::isLowercase(scalar));
+    }
+    for (const char32_t scalar : {U'0', U'٣', U'½', U'Ⅳ'}) {
+        EXPECT_TRUE(Text::isNumber(scalar));
+    }
     for (const char32_t scalar : {U'\0', U'\n', U'\x1B', U'\x7F', U'\u0080', U'\u009F'}) {
         EXPECT_TRUE(Text::isControl(scalar));
     }

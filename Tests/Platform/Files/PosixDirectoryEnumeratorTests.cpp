@@ -23,10 +23,10 @@ using Platform::FileError;
 using Platform::FileErrorKind;
 using Platform::FileURL;
 using Platform::PosixFileManager;
-using TestSupport::TemporaryTree;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
+using TestSupport::TemporaryTree;
 
 struct Walk {
     std::vector<std::string> paths;
@@ -326,7 +326,7 @@ TEST(PosixDirectoryEnumerator, LeavesAccessTimesAlone)
 {
     const TemporaryTree tree("folder/file age=40d");
     const auto accessTime = [&](const char* path) {
-        struct stat found {};
+        struct stat found{};
         EXPECT_EQ(stat(tree.path(path).c_str(), &found), 0);
         return std::pair(found.st_atim.tv_sec, found.st_atim.tv_nsec);
     };

@@ -17,8 +17,8 @@ using Platform::FileErrorKind;
 using Platform::FileType;
 using Platform::FileURL;
 using Platform::PosixFileManager;
-using TestSupport::TemporaryTree;
 using testing::UnorderedElementsAre;
+using TestSupport::TemporaryTree;
 
 std::string contents(const std::string& path)
 {
@@ -37,8 +37,6 @@ class PosixFileManagerTests : public testing::Test {
 protected:
     PosixFileManager m_fileManager;
 };
-
-
 
 TEST_F(PosixFileManagerTests, TellsWhatStandsAtAPathAndFollowsLinks)
 {
@@ -114,8 +112,8 @@ TEST_F(PosixFileManagerTests, NamesTheItemThatCannotBeRead)
     const auto missing = m_fileManager.resourceValues(tree.url("missing"));
     ASSERT_FALSE(missing.has_value());
     EXPECT_EQ(missing.error().kind, FileErrorKind::noSuchFile);
-    EXPECT_EQ(missing.error().localizedDescription(),
-        "The file “missing” couldn’t be opened because there is no such file.");
+    EXPECT_EQ(
+        missing.error().localizedDescription(), "The file “missing” couldn’t be opened because there is no such file.");
 }
 
 TEST_F(PosixFileManagerTests, GivesTheSameIdentityByPathAndByReference)
@@ -213,7 +211,7 @@ TEST_F(PosixFileManagerTests, KnowsThatTheTemporaryFolderTellsCaseApart)
         name
         folder/
     )");
-    struct stat found {};
+    struct stat found{};
     ASSERT_NE(stat(tree.path("NAME").c_str(), &found), 0) << "the test needs a case-sensitive temporary folder";
     EXPECT_TRUE(m_fileManager.volumeSupportsCaseSensitiveNames(tree.url("folder")));
 }
@@ -233,7 +231,7 @@ TEST_F(PosixFileManagerTests, ReplacesAFileWhole)
     ASSERT_TRUE(m_fileManager.writeAtomically("new contents", tree.url("file")));
     EXPECT_EQ(contents(tree.path("file")), "new contents");
     EXPECT_EQ(entryCount(tree.root().path()), 1U);
-    struct stat found {};
+    struct stat found{};
     ASSERT_EQ(stat(tree.path("file").c_str(), &found), 0);
     EXPECT_EQ(found.st_mode & 0777U, 0640U);
 }
@@ -263,8 +261,8 @@ TEST_F(PosixFileManagerTests, LeavesNothingBehindWhenAWriteFails)
 
     const auto missing = m_fileManager.writeAtomically("x", tree.url("none/file"));
     ASSERT_FALSE(missing.has_value());
-    EXPECT_EQ(missing.error().localizedDescription(),
-        "The file “file” couldn’t be saved because its folder doesn’t exist.");
+    EXPECT_EQ(
+        missing.error().localizedDescription(), "The file “file” couldn’t be saved because its folder doesn’t exist.");
 }
 
 } // namespace

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace CleanerCore {
+
+/// A running application, as far as telling the owner of a cache needs it.
+struct AppCacheRunningApplicationIdentity {
+    /// What an identity is made from; the constructor trims both texts and makes blank ones absent.
+    struct Fields {
+        std::optional<std::string> displayName = {};
+        std::optional<std::string> bundleIdentifier = {};
+        std::int32_t processIdentifier = 0;
+        bool isFrontmost = false;
+        bool isTerminated = false;
+        bool isUserVisible = false;
+    };
+
+    AppCacheRunningApplicationIdentity() = default;
+    explicit AppCacheRunningApplicationIdentity(const Fields& fields);
+
+    std::optional<std::string> displayName;
+    std::optional<std::string> bundleIdentifier;
+    std::int32_t processIdentifier = 0;
+    bool isFrontmost = false;
+    bool isTerminated = false;
+    bool isUserVisible = false;
+
+    friend bool operator==(
+        const AppCacheRunningApplicationIdentity&, const AppCacheRunningApplicationIdentity&) = default;
+};
+
+} // namespace CleanerCore

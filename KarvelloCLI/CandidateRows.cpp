@@ -1,0 +1,125 @@
+#include "KarvelloCLI/CandidateRows.h"
+
+#include <algorithm>
+
+namespace KarvelloCLI {
+
+namespace {
+
+constexpr std::size_t kWide = 76;
+constexpr std::size_t kVeryWide = 120;
+constexpr std::string_view kGap = "  ";
+
+const TerminalText& sizeTitle()
+{
+    static const TerminalText text("Size");
+    return text;
+}
+
+const TerminalText& ageTitle()
+{
+    static const TerminalText text("Age");
+    return text;
+}
+
+const TerminalText& nameTitle()
+{
+    static const TerminalText text("Name");
+    return text;
+}
+
+const TerminalText& kindTitle()
+{
+    static const TerminalText text("Kind");
+    return text;
+}
+
+const TerminalText& pathTitle()
+{
+    static const TerminalText text("Path");
+    return text;
+}
+
+std::size_t widest(
+    std::span<const CandidateRow* const> rows, TerminalText CandidateRow::* cell, const TerminalText& title)
+{
+    std::size_t columns = title.columns();
+    for (const CandidateRow* const row : rows) {
+        columns = std::max(columns, (row->*cell).columns());
+    }
+    return columns;
+}
+
+} // namespace
+
+CandidateColumns::CandidateColumns(
+    std::span<const CandidateRow* const> rows, std::size_t columns, Painter painter, std::string_view placeTitle)
+    : m_painter(painter)
+    , m_placeTitle(placeTitle)
+    , m_columns(columns)
+    , m_sizeWidth(widest(rows, &CandidateRow::size, sizeTitle()))
+    , m_ageWidth(widest(rows, &CandidateRow::age, ageTitle()))
+{
+    const std::size_t taken = 2 + m_sizeWidth + kGap.size() + m_ageWidth + kGap.size();
+    std::size_t left = columns > taken ? columns - taken : 1;
+    if (columns < kWide) {
+        m_placeWidth = left;
+        return;
+    }
+    if (columns >= kVeryWide) {
+        m_kindWidth = widest(rows, &CandidateRow::kind, kindTitle());
+        left -= m_kindWidth + kGap.size();
+    }
+    const std::size_t longestName = widest(rows, &CandidateRow::name, nameTitle());
+    const std::size_t longestPlace = widest(rows, &CandidateRow::place, m_placeTitle);
+    left -= kGap.size();
+    // Half of the room is each one's own; what one does not need goes to the other.
+    const std::size_t roomBesidePlace = left - std::min(longestPlace, left / 2);
+    m_nameWidth = std::min(longestName, roomBesidePlace);
+    m_placeWidth = left - m_nameWidth;
+}
+
+std::string CandidateColumns::join(std::string_view mark, const TerminalText& size, const TerminalText& age,
+    const TerminalText& name, const TerminalText& kind, const TerminalText& place, const TerminalText& path) const
+{
+    std::string line(mark);
+    line += ' ';
+    line += size.paddedLeft(m_sizeWidth);
+    line += kGap;
+    line += age.paddedLeft(m_ageWidth);
+    line += kGap;
+    if (m_nameWidth == 0) {
+        return line + path.elidedInMiddle(m_placeWidth).string();
+    }
+    line += name.elidedInMiddle(m_nameWidth).paddedRight(m_nameWidth);
+    line += kGap;
+    if (m_kindWidth != 0) {
+        line += kind.paddedRight(m_kindWidth);
+        line += kGap;
+    }
+    return line + place.elidedInMiddle(m_placeWidth).string();
+}
+
+std::string CandidateColumns::header() const
+{
+    return m_painter(
+        Ink::quiet, join(" ", sizeTitle(), ageTitle(), nameTitle(), kindTitle(), m_placeTitle, pathTitle()));
+}
+
+std::string CandidateColumns::line(const CandidateRow& row) const
+{
+    const std::string mark = row.isMarked ? m_painter(Ink::safe, "*") : " ";
+    return join(mark, row.size, row.age, row.name, row.kind, row.place, row.path);
+}
+
+std::string CandidateColumns::summaryLine(const TerminalText& size, const TerminalText& words) const
+{
+    std::string line = "  ";
+    line += size.paddedLeft(m_sizeWidth);
+    line += kGap;
+    const std::size_t taken = 2 + std::max(m_sizeWidth, size.columns()) + kGap.size();
+    line += words.elidedInMiddle(m_columns > taken ? m_columns - taken : 1).string();
+    return m_painter(Ink::quiet, line);
+}
+
+} // namespace KarvelloCLI

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "CleanerCore/Scan/CleanupScanMode.h"
+#include "KarvelloCLI/Terminal.h"
+#include "Platform/Base/RawValue.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace KarvelloCLI {
+
+enum class OutputFormat : std::uint8_t { table, json, csv };
+
+/// What every command understands.
+struct CommonOptions {
+    OutputFormat format = OutputFormat::table;
+    bool isRedacted = false;
+    /// As the user gave it. Absent: standard output.
+    std::optional<std::string> output;
+    When progress = When::automatic;
+    When color = When::automatic;
+    /// One of `kLanguageCodes`.
+    std::string language = "en";
+    /// 0: as many as there are processors.
+    unsigned jobs = 0;
+    bool isVerbose = false;
+};
+
+/// Folders are as the user gave them, possibly relative and not necessarily UTF-8.
+struct ScanOptions {
+    CommonOptions common;
+    std::optional<CleanerCore::CleanupScanMode> mode;
+    std::optional<std::string> home;
+    std::vector<std::string> folders;
+    std::vector<std::string> roots;
+    /// Seconds; holds for `roots` only, as the two that follow.
+    double minimumAge = 0;
+    bool includesHiddenFiles = false;
+    bool includesPackageDescendants = false;
+
+    /// Folders of the user's own replace the home unless the home is asked for beside them.
+    [[nodiscard]] bool scansHome() const { return mode || home || (folders.empty() && roots.empty()); }
+};
+
+inline constexpr std::array<std::string_view, 8> kLanguageCodes{
+    "ko", "en", "ja", "zh-Hans", "zh-Hant", "es", "fr", "de"};
+
+} // namespace KarvelloCLI
+
+template <>
+struct Platform::RawValues<KarvelloCLI::OutputFormat> {
+    static constexpr std::array<std::string_view, 3> names{"table", "json", "csv"};
+};

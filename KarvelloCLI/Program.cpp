@@ -1,0 +1,65 @@
+#include "KarvelloCLI/Program.h"
+
+#include "KarvelloCLI/CommandLine.h"
+#include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/OutputFile.h"
+#include "KarvelloCLI/ScanCommand.h"
+#include "Platform/Files/PosixFileManager.h"
+
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <system_error>
+#include <variant>
+
+namespace KarvelloCLI {
+
+namespace {
+
+/// A program may be started with its standard descriptors closed. The first file that it opens would then get one of
+/// their numbers, and messages would go into it. What is put there instead cannot be written to, which writers report.
+void occupyStandardDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) < 0 && errno == EBADF && open("/dev/null", O_RDONLY) < 0) {
+            return;
+        }
+    }
+}
+
+ExitCode printInformation(const Information& information)
+{
+    if (const int error = writeWholly(STDOUT_FILENO, information.text); error != 0) {
+        printMessage(
+            fmt::format("standard output could not be written to: {}.", std::generic_category().message(error)));
+        return ExitCode::partial;
+    }
+    return ExitCode::done;
+}
+
+} // namespace
+
+ExitCode runProgram(std::span<const std::string> arguments)
+{
+    occupyStandardDescriptors();
+    // A reader that has gone away is an error of a write, to be told in words.
+    std::signal(SIGPIPE, SIG_IGN);
+
+    const auto command = parseCommandLine(arguments);
+    if (!command) {
+        printMessage(command.error().message);
+        printMessage(command.error().hint);
+        return ExitCode::wrongUsage;
+    }
+    if (const auto* const information = std::get_if<Information>(&*command)) {
+        return printInformation(*information);
+    }
+    const Platform::PosixFileManager fileManager;
+    const Platform::Environment environment = Platform::Environment::current();
+    return ScanCommand(fileManager, environment).run(std::get<ScanOptions>(*command));
+}
+
+} // namespace KarvelloCLI

@@ -1,0 +1,115 @@
+#include "KarvelloCLI/ScanPlan.h"
+
+#include "CleanerCore/Scan/CustomFolderLocation.h"
+#include "CleanerCore/Scan/StorageProfiles.h"
+#include "KarvelloCLI/TerminalText.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace KarvelloCLI {
+
+namespace {
+
+using CleanerCore::ScanLocation;
+using Platform::FileURL;
+
+/// A folder that is named twice is one folder.
+std::vector<FileURL> foldersNamed(const std::vector<std::string>& names, const FileURL& workingDirectory)
+{
+    std::vector<FileURL> folders;
+    for (const std::string& name : names) {
+        FileURL folder = absoluteFolder(name, workingDirectory);
+        if (std::ranges::find(folders, folder) == folders.end()) {
+            folders.push_back(std::move(folder));
+        }
+    }
+    return folders;
+}
+
+ScanLocation plainLocation(const FileURL& root, const ScanOptions& options)
+{
+    ScanLocation::Fields fields;
+    fields.rootURL = root;
+    fields.minimumModificationAge = options.minimumAge;
+    fields.includesHiddenFiles = options.includesHiddenFiles;
+    fields.includesPackageDescendants = options.includesPackageDescendants;
+    return ScanLocation(std::move(fields)); // for the rest, a custom folder's: manual review, nothing selected
+}
+
+} // namespace
+
+FileURL absoluteFolder(std::string_view words, const FileURL& workingDirectory)
+{
+    return words.starts_with('/') ? FileURL::folder(words)
+                                  : workingDirectory.appending(words, Platform::DirectoryHint::isFolder);
+}
+
+std::expected<ScanPlan, std::string> ScanPlan::make(const ScanOptions& options, const FileURL& workingDirectory,
+    const FileURL& ownHome, const Platform::Environment& environment, const Platform::FileManager& fileManager,
+    const std::stop_token& stop)
+{
+    ScanPlan plan;
+    const FileURL namedHome = options.home ? absoluteFolder(*options.home, workingDirectory) : ownHome;
+    // A home that is reached through a link is still the home: what lies in it is judged by its real path.
+    const FileURL home = FileURL::folder(fileManager.resolvingSymbolicLinks(namedHome).path());
+    plan.subject.home = home;
+    plan.subject.leavesOutHiddenFiles = !options.includesHiddenFiles;
+
+    if (options.scansHome()) {
+        if (!fileManager.directoryExists(home)) {
+            return std::unexpected(
+                fmt::format("There is no home folder at “{}”.", TerminalText(namedHome.path()).string()));
+        }
+        plan.subject.mode = options.mode.value_or(CleanerCore::CleanupScanMode::standard);
+        // The variables speak of the home of the user who runs this, by the name that it has for them, and of no other.
+        const bool isOwnHome = home.path() == fileManager.resolvingSymbolicLinks(ownHome).path();
+        // This program is only ever handed out directly, never through a store with a sandbox.
+        constexpr bool includesDirectDistribution = true;
+        plan.locations = CleanerCore::StorageProfiles::locations(*plan.subject.mode, isOwnHome ? ownHome : home,
+            fileManager, isOwnHome ? environment : Platform::Environment{}, includesDirectDistribution, stop);
+    }
+
+    for (const FileURL& folder : foldersNamed(options.folders, workingDirectory)) {
+        plan.subject.folders.push_back(folder);
+        auto location =
+            CleanerCore::customFolderLocation(folder, std::string(folder.lastPathComponent()), fileManager, home);
+        if (location) {
+            plan.locations.push_back(*std::move(location));
+        } else {
+            plan.refusedFolders.push_back({folder, location.error().errorDescription()});
+        }
+    }
+
+    plan.roots = foldersNamed(options.roots, workingDirectory);
+    for (const FileURL& root : plan.roots) {
+        plan.subject.folders.push_back(root);
+        plan.locations.push_back(plainLocation(root, options));
+    }
+    return plan;
+}
+
+std::vector<std::string> ScanPlan::overlaps() const
+{
+    // Locations of the home lie in each other only where the profiles mean it.
+    const std::size_t given = subject.folders.size() - refusedFolders.size();
+    const std::size_t firstGiven = locations.size() - given;
+    std::vector<std::string> sentences;
+    for (std::size_t inner = 0; inner < locations.size(); ++inner) {
+        const std::string& innerPath = locations[inner].rootURL.path();
+        for (std::size_t outer = 0; outer < locations.size(); ++outer) {
+            const std::string& outerPath = locations[outer].rootURL.path();
+            const bool isSame = innerPath == outerPath && outer < inner;
+            if (std::max(inner, outer) >= firstGiven && (isSame || Platform::isPathInside(innerPath, outerPath))) {
+                sentences.push_back(fmt::format("{} is scanned as a part of {} already; what it holds counts twice.",
+                    TerminalText(innerPath).string(), TerminalText(outerPath).string()));
+                break;
+            }
+        }
+    }
+    return sentences;
+}
+
+} // namespace KarvelloCLI

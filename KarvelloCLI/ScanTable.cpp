@@ -1,0 +1,328 @@
+#include "KarvelloCLI/ScanTable.h"
+
+#include "CleanerCore/Scan/ByteSizeFormatter.h"
+#include "CleanerCore/Scan/StorageScannerSkipReason.h"
+#include "KarvelloCLI/Words.h"
+#include "Platform/Base/CheckedMath.h"
+
+#include <fmt/chrono.h>
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+#include <cmath>
+#include <ctime>
+#include <span>
+#include <tuple>
+#include <unordered_map>
+
+namespace KarvelloCLI {
+
+namespace {
+
+using CleanerCore::CleanupCandidate;
+using CleanerCore::CleanupSafety;
+
+/// How many of the folders that the user named the heading repeats.
+constexpr std::size_t kNamedFolders = 4;
+
+constexpr std::string_view kCandidateLabel = "cleanup-candidate";
+constexpr std::string_view kSkippedLabel = "skipped";
+constexpr std::string_view kSkippedReasonLabel = "skipped-reason";
+
+Ink inkOf(CleanupSafety safety)
+{
+    switch (safety) {
+    case CleanupSafety::safe:
+        return Ink::safe;
+    case CleanupSafety::caution:
+        return Ink::caution;
+    case CleanupSafety::manualReview:
+        break;
+    }
+    return Ink::manualReview;
+}
+
+std::string localTime(Platform::Date date)
+{
+    const auto seconds = static_cast<std::time_t>(std::floor(date.secondsSince1970()));
+    std::tm parts{};
+    localtime_r(&seconds, &parts);
+    return fmt::format("{:%Y-%m-%d %H:%M}", parts);
+}
+
+std::int64_t totalBytes(std::span<const CleanupCandidate> candidates)
+{
+    std::int64_t sum = 0;
+    for (const CleanupCandidate& candidate : candidates) {
+        sum = Platform::checkedAdd(sum, candidate.sizeBytes);
+    }
+    return sum;
+}
+
+} // namespace
+
+ScanTable::ScanTable(const CleanerCore::ScanReport& report, const ScanSubject& subject, Settings settings)
+    : m_report(report)
+    , m_subject(subject)
+    , m_settings(std::move(settings))
+    , m_painter(m_settings.usesColor)
+    , m_paths(subject.home)
+{
+    CleanerCore::ReportExportRedactionContext redaction;
+    makeGroups(redaction);
+    makeSkippedRows(redaction);
+}
+
+void ScanTable::makeGroups(CleanerCore::ReportExportRedactionContext& redaction)
+{
+    for (std::size_t index = 0; index < m_report.candidates.size(); ++index) {
+        const CleanupCandidate& candidate = m_report.candidates[index];
+        if (m_groups.empty() || m_report.candidates[m_groups.back().first].safety != candidate.safety) {
+            m_groups.push_back({.first = index});
+        }
+        Group& group = m_groups.back();
+        group.last = index + 1;
+        const bool isShown = m_settings.isVerbose || group.rows.size() < kShownCandidates;
+        if (m_settings.isRedacted) {
+            // Also for what is not shown: the numbers run through the whole report.
+            const std::string path = redaction.path(candidate.url.path(), kCandidateLabel);
+            const std::string name = redaction.name(candidate.displayName, kCandidateLabel);
+            if (isShown) {
+                group.rows.push_back(row(candidate, name, path));
+            }
+        } else if (isShown) {
+            group.rows.push_back(row(candidate, candidate.displayName, m_paths.abbreviate(candidate.url.path())));
+        }
+    }
+}
+
+CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view name, std::string_view path) const
+{
+    CandidateRow row;
+    row.isMarked = candidate.isSelectedByDefault;
+    row.size = TerminalText(size(candidate.sizeBytes));
+    row.age =
+        TerminalText(candidate.lastModified ? shortAge(m_report.scannedAt.secondsSince(*candidate.lastModified)) : "-");
+    row.name = TerminalText(name);
+    row.kind = TerminalText(displayName(candidate.category));
+    row.path = TerminalText(path);
+    row.place = m_settings.isRedacted
+        ? row.path
+        : TerminalText(m_paths.abbreviate(candidate.url.deletingLastPathComponent().path()));
+    return row;
+}
+
+void ScanTable::makeSkippedRows(CleanerCore::ReportExportRedactionContext& redaction)
+{
+    m_skippedRows.reserve(m_report.skippedItems.size());
+    for (const CleanerCore::SkippedItem& item : m_report.skippedItems) {
+        SkippedRow row{item.reason, {}};
+        std::string path = item.url.path();
+        if (m_settings.isRedacted) {
+            path = redaction.path(path, kSkippedLabel);
+            row.reason = redaction.freeText(item.reason, kSkippedReasonLabel);
+        }
+        if (m_settings.isVerbose) {
+            row.path = TerminalText(m_paths.abbreviate(path));
+        }
+        m_skippedRows.push_back(std::move(row));
+    }
+}
+
+std::string ScanTable::size(std::int64_t bytes) const
+{
+    return CleanerCore::ByteSizeFormatter::string(bytes, m_settings.language);
+}
+
+std::string ScanTable::text() const
+{
+    std::string text = heading();
+    for (const std::string& section :
+        {m_report.candidates.empty() ? nothingFound() : candidates(), skipped(), totals(), ending()}) {
+        if (!section.empty()) {
+            text += '\n';
+            text += section;
+        }
+    }
+    return text;
+}
+
+std::string ScanTable::paragraph(std::string_view words, std::optional<Ink> ink) const
+{
+    std::string text;
+    for (const TerminalText& line : TerminalText(words).wrapped(m_settings.columns)) {
+        text += (ink ? m_painter(*ink, line.string()) : line.string()) + "\n";
+    }
+    return text;
+}
+
+std::string ScanTable::heading() const
+{
+    std::vector<std::string> places;
+    if (m_subject.mode) {
+        // "~" for the folder that everything else is shown against would say nothing.
+        const std::string home = m_settings.isRedacted ? "the home folder" : m_subject.home.path();
+        places.push_back(fmt::format("{} (mode {})", home, Platform::rawValue(*m_subject.mode)));
+    }
+    if (m_settings.isRedacted && !m_subject.folders.empty()) {
+        places.push_back(counted(m_subject.folders.size(), "given folder"));
+    } else {
+        const std::size_t named = std::min(m_subject.folders.size(), kNamedFolders);
+        for (const Platform::FileURL& folder : std::span(m_subject.folders).first(named)) {
+            places.push_back(m_paths.abbreviate(folder.path()));
+        }
+        if (named < m_subject.folders.size()) {
+            places.push_back(counted(m_subject.folders.size() - named, "more folder"));
+        }
+    }
+    std::string text =
+        paragraph(fmt::format("Scan of {}: {}", fmt::join(places, ", "), localTime(m_report.scannedAt)), Ink::title);
+    if (m_subject.isIncomplete) {
+        text += paragraph("Incomplete: interrupted. This is what was found until then.", Ink::warning);
+    }
+    return text;
+}
+
+std::string ScanTable::candidates() const
+{
+    std::vector<const CandidateRow*> rows;
+    for (const Group& group : m_groups) {
+        for (const CandidateRow& row : group.rows) {
+            rows.push_back(&row);
+        }
+    }
+    // One set of columns for all groups, so that sizes stand under sizes from top to bottom.
+    const CandidateColumns columns(rows, m_settings.columns, m_painter, m_settings.isRedacted ? "Path" : "Folder");
+    std::string text = columns.header() + '\n';
+    for (const Group& group : m_groups) {
+        text += '\n';
+        text += lines(group, columns);
+    }
+    return text;
+}
+
+std::string ScanTable::lines(const Group& group, const CandidateColumns& columns) const
+{
+    const std::span candidates = std::span(m_report.candidates).subspan(group.first, group.last - group.first);
+    const CleanupSafety safety = candidates.front().safety;
+    std::string text = m_painter(inkOf(safety), displayName(safety))
+        + fmt::format(": {}, {}\n", counted(candidates.size(), "item"), size(totalBytes(candidates)));
+    for (const CandidateRow& row : group.rows) {
+        text += columns.line(row);
+        text += '\n';
+    }
+    return text + rest(candidates.subspan(group.rows.size()), columns);
+}
+
+std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const CandidateColumns& columns) const
+{
+    if (candidates.empty()) {
+        return {};
+    }
+    const auto line = [&](std::int64_t bytes, std::string_view words) {
+        return columns.summaryLine(TerminalText(size(bytes)), TerminalText(words)) + '\n';
+    };
+    const std::int64_t bytes = totalBytes(candidates);
+    std::string text = line(bytes, fmt::format("in {}", counted(candidates.size(), "more item")));
+    if (m_settings.isRedacted) {
+        return text;
+    }
+
+    struct Folder {
+        std::string path;
+        std::int64_t bytes = 0;
+        std::size_t items = 0;
+    };
+    std::unordered_map<std::string, Folder> folderOfPath;
+    for (const CleanupCandidate& candidate : candidates) {
+        const Platform::FileURL parent = candidate.url.deletingLastPathComponent();
+        Folder& folder = folderOfPath[parent.path()];
+        folder.path = parent.path();
+        folder.bytes = Platform::checkedAdd(folder.bytes, candidate.sizeBytes);
+        ++folder.items;
+    }
+    std::vector<Folder> folders;
+    folders.reserve(folderOfPath.size());
+    for (auto& [path, folder] : folderOfPath) {
+        folders.push_back(std::move(folder));
+    }
+    const std::size_t shown = std::min(folders.size(), kShownFolders);
+    std::ranges::partial_sort(folders, folders.begin() + static_cast<std::ptrdiff_t>(shown), std::ranges::greater{},
+        [](const Folder& folder) { return std::tie(folder.bytes, folder.path); });
+    for (const Folder& folder : std::span(folders).first(shown)) {
+        text += line(
+            folder.bytes, fmt::format("  {} in {}", counted(folder.items, "item"), m_paths.abbreviate(folder.path)));
+    }
+    return text;
+}
+
+std::string ScanTable::skipped() const
+{
+    if (m_skippedRows.empty()) {
+        return {};
+    }
+    const SkippedSummary summary(m_skippedRows);
+    return m_painter(Ink::title, "Skipped") + fmt::format(": {}\n", counted(summary.count(), "item"))
+        + (m_settings.isVerbose ? summary.everyItem(m_settings.columns)
+                                : summary.countsByReason(m_settings.columns, kShownReasons));
+}
+
+std::string ScanTable::totals() const
+{
+    if (m_report.candidates.empty()) {
+        return {};
+    }
+    std::int64_t selectedBytes = 0;
+    std::size_t selectedCount = 0;
+    for (const CleanupCandidate& candidate : m_report.candidates) {
+        if (candidate.isSelectedByDefault) {
+            selectedBytes = Platform::checkedAdd(selectedBytes, candidate.sizeBytes);
+            ++selectedCount;
+        }
+    }
+    const std::string reclaimable = size(m_report.reclaimableBytes());
+    const std::string preselected = size(selectedBytes);
+    const std::size_t width = std::max(reclaimable.size(), preselected.size());
+    std::string text = fmt::format("  {}  {:>{}}  {}\n", m_painter(Ink::title, "Reclaimable"), reclaimable, width,
+        counted(m_report.candidates.size(), "item"));
+    if (selectedCount > 0) {
+        text += fmt::format("{} Preselected  {:>{}}  {}\n", m_painter(Ink::safe, "*"), preselected, width,
+            counted(selectedCount, "item"));
+    }
+    return text;
+}
+
+std::string ScanTable::nothingFound() const
+{
+    if (m_subject.isRefused) {
+        return paragraph("Nothing was scanned.");
+    }
+    std::string text = paragraph("Nothing to clean up was found.");
+    const auto young = std::ranges::count(m_report.skippedItems,
+        CleanerCore::StorageScannerSkipReason::recentlyModified, &CleanerCore::SkippedItem::reason);
+    if (young > 0) {
+        text += paragraph(fmt::format(
+            "{} changed recently and may still be in use.", counted(static_cast<std::size_t>(young), "item")));
+    }
+    if (m_subject.mode && *m_subject.mode != CleanerCore::CleanupScanMode::direct) {
+        text += paragraph("--mode direct looks in more places, and --folder DIR in one of your own.");
+    } else if (m_subject.folders.empty()) {
+        text += paragraph("--folder DIR looks in a folder of your own.");
+    } else if (m_subject.leavesOutHiddenFiles) {
+        text += paragraph("With --root DIR --hidden, hidden files count too.");
+    }
+    return text;
+}
+
+std::string ScanTable::ending() const
+{
+    const auto isCut = [](const Group& group) { return group.rows.size() < group.last - group.first; };
+    const bool verboseTellsMore =
+        !m_settings.isVerbose && (!m_skippedRows.empty() || std::ranges::any_of(m_groups, isCut));
+    return paragraph(
+        verboseTellsMore ? "Nothing was changed on disk. --verbose lists every item." : "Nothing was changed on disk.",
+        Ink::quiet);
+}
+
+} // namespace KarvelloCLI

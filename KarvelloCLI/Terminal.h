@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Platform/Base/RawValue.h"
+#include "Platform/Services/Environment.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace KarvelloCLI {
+
+/// A choice that a user may leave to the program.
+enum class When : std::uint8_t { automatic, always, never };
+
+/// What is known of the thing behind a file descriptor.
+struct Terminal {
+    static constexpr std::size_t kNarrowest = 40;
+    static constexpr std::size_t kWidthWithoutTerminal = 100;
+
+    bool isTerminal = false;
+    /// A terminal that obeys escape sequences, so not one that calls itself "dumb".
+    bool understandsEscapes = false;
+
+    static Terminal of(int descriptor, const Platform::Environment& environment);
+};
+
+/// The columns of the terminal behind `descriptor` as they are now, else those that `$COLUMNS` tells, else
+/// `kWidthWithoutTerminal`; never less than `kNarrowest`.
+[[nodiscard]] std::size_t terminalColumns(int descriptor, const Platform::Environment& environment);
+
+/// Whether output is coloured: left to the program, only on a terminal and only where `$NO_COLOR` is not set.
+[[nodiscard]] bool usesColor(When choice, const Terminal& terminal, const Platform::Environment& environment);
+
+} // namespace KarvelloCLI
+
+template <>
+struct Platform::RawValues<KarvelloCLI::When> {
+    static constexpr std::array<std::string_view, 3> names{"auto", "always", "never"};
+};

@@ -1,0 +1,240 @@
+#include "KarvelloCLI/TerminalText.h"
+
+#include <fmt/format.h>
+#include <unicode/uchar.h>
+#include <unicode/utf8.h>
+
+#include <optional>
+
+namespace KarvelloCLI {
+
+namespace {
+
+constexpr std::string_view kEllipsis = "…";
+constexpr UChar32 kZeroWidthNonJoiner = 0x200C;
+constexpr UChar32 kZeroWidthJoiner = 0x200D;
+
+bool isMark(UChar32 character)
+{
+    const auto category = u_charType(character);
+    return category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK;
+}
+
+/// Controls, line separators, everything of the bidirectional algorithm that has no shape, and characters that are
+/// drawn as nothing. Joiners stay: Persian words and emoji are made with them.
+bool mustBeEscaped(UChar32 character)
+{
+    if (character == kZeroWidthNonJoiner || character == kZeroWidthJoiner) {
+        return false;
+    }
+    switch (u_charType(character)) {
+    case U_CONTROL_CHAR:
+    case U_LINE_SEPARATOR:
+    case U_PARAGRAPH_SEPARATOR:
+    case U_SURROGATE:
+        return true;
+    default:
+        break;
+    }
+    return u_hasBinaryProperty(character, UCHAR_BIDI_CONTROL) != 0
+        || u_hasBinaryProperty(character, UCHAR_NONCHARACTER_CODE_POINT) != 0
+        || (u_hasBinaryProperty(character, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) != 0 && !isMark(character));
+}
+
+std::optional<std::string> escapeOf(UChar32 character, TerminalText::Kind kind)
+{
+    switch (character) {
+    case '\\':
+        return kind == TerminalText::Kind::name ? std::optional<std::string>("\\\\") : std::nullopt;
+    case '\n':
+        return "\\n";
+    case '\t':
+        return "\\t";
+    case '\r':
+        return "\\r";
+    default:
+        break;
+    }
+    if (!mustBeEscaped(character)) {
+        return std::nullopt;
+    }
+    const auto value = static_cast<std::uint32_t>(character);
+    if (value < 0x80) {
+        return fmt::format("\\x{:02x}", value);
+    }
+    return value <= 0xFFFF ? fmt::format("\\u{:04x}", value) : fmt::format("\\U{:08x}", value);
+}
+
+std::size_t columnsOf(UChar32 character)
+{
+    if (isMark(character) || character == kZeroWidthNonJoiner || character == kZeroWidthJoiner) {
+        return 0;
+    }
+    switch (u_getIntPropertyValue(character, UCHAR_HANGUL_SYLLABLE_TYPE)) {
+    case U_HST_VOWEL_JAMO:
+    case U_HST_TRAILING_JAMO:
+        return 0; // drawn into the leading consonant before it
+    default:
+        break;
+    }
+    switch (u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH)) {
+    case U_EA_WIDE:
+    case U_EA_FULLWIDTH:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
+bool isPlainASCII(char byte)
+{
+    return byte >= ' ' && byte <= '~' && byte != '\\';
+}
+
+} // namespace
+
+TerminalText::TerminalText(std::string_view bytes, Kind kind)
+{
+    m_string.reserve(bytes.size());
+    m_units.reserve(bytes.size());
+    const auto* const data = reinterpret_cast<const std::uint8_t*>(bytes.data());
+    const auto length = static_cast<std::int64_t>(bytes.size());
+    std::int64_t position = 0;
+    while (position < length) {
+        const std::int64_t start = position;
+        if (isPlainASCII(bytes[static_cast<std::size_t>(start)])) {
+            ++position;
+            appendUnit(bytes.substr(static_cast<std::size_t>(start), 1), 1);
+            continue;
+        }
+        UChar32 character = U_SENTINEL;
+        U8_NEXT(data, position, length, character);
+        if (character < 0) {
+            // One escape for each byte: how many a decoder takes for one error is its own affair.
+            position = start + 1;
+            const auto byte = static_cast<unsigned char>(bytes[static_cast<std::size_t>(start)]);
+            const std::string escape = fmt::format("\\x{:02x}", byte);
+            appendUnit(escape, escape.size());
+            continue;
+        }
+        if (const auto escape = escapeOf(character, kind)) {
+            appendUnit(*escape, escape->size());
+            continue;
+        }
+        const auto piece = bytes.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(position - start));
+        const std::size_t columns = columnsOf(character);
+        if (columns == 0 && !m_units.empty()) {
+            m_string += piece;
+        } else {
+            appendUnit(piece, columns);
+        }
+    }
+}
+
+void TerminalText::appendUnit(std::string_view bytes, std::size_t columns)
+{
+    m_units.push_back({static_cast<std::uint32_t>(m_string.size()), static_cast<std::uint32_t>(columns)});
+    m_string += bytes;
+    m_columns += columns;
+}
+
+void TerminalText::appendUnits(const TerminalText& source, std::size_t first, std::size_t last)
+{
+    for (std::size_t index = first; index < last; ++index) {
+        appendUnit(source.unitBytes(index), source.m_units[index].columns);
+    }
+}
+
+std::string_view TerminalText::unitBytes(std::size_t index) const
+{
+    const std::size_t begin = m_units[index].begin;
+    const std::size_t end = index + 1 < m_units.size() ? m_units[index + 1].begin : m_string.size();
+    return std::string_view(m_string).substr(begin, end - begin);
+}
+
+TerminalText TerminalText::elidedInMiddle(std::size_t columns) const
+{
+    if (m_columns <= columns) {
+        return *this;
+    }
+    TerminalText result;
+    if (columns == 0) {
+        return result;
+    }
+    const std::size_t available = columns - 1;
+    const std::size_t forHead = available * 2 / 5;
+
+    std::size_t headEnd = 0;
+    std::size_t used = 0;
+    while (headEnd < m_units.size() && used + m_units[headEnd].columns <= forHead) {
+        used += m_units[headEnd].columns;
+        ++headEnd;
+    }
+    std::size_t tailBegin = m_units.size();
+    while (tailBegin > headEnd && used + m_units[tailBegin - 1].columns <= available) {
+        --tailBegin;
+        used += m_units[tailBegin].columns;
+    }
+    result.appendUnits(*this, 0, headEnd);
+    result.appendUnit(kEllipsis, 1);
+    result.appendUnits(*this, tailBegin, m_units.size());
+    return result;
+}
+
+std::vector<TerminalText> TerminalText::wrapped(std::size_t columns) const
+{
+    std::vector<TerminalText> lines;
+    std::size_t lineBegin = 0;
+    while (lineBegin < m_units.size()) {
+        std::size_t end = lineBegin;
+        std::size_t used = 0;
+        std::optional<std::size_t> lastBlank;
+        while (end < m_units.size() && (used + m_units[end].columns <= columns || end == lineBegin)) {
+            if (unitBytes(end) == " ") {
+                lastBlank = end;
+            }
+            used += m_units[end].columns;
+            ++end;
+        }
+        std::size_t next = end;
+        if (end < m_units.size()) {
+            if (unitBytes(end) == " ") {
+                next = end + 1;
+            } else if (lastBlank && *lastBlank > lineBegin) {
+                end = *lastBlank;
+                next = end + 1;
+            }
+        }
+        TerminalText line;
+        line.appendUnits(*this, lineBegin, end);
+        lines.push_back(std::move(line));
+        lineBegin = next;
+    }
+    if (lines.empty()) {
+        lines.emplace_back();
+    }
+    return lines;
+}
+
+std::string TerminalText::paddedRight(std::size_t columns) const
+{
+    return m_columns < columns ? m_string + std::string(columns - m_columns, ' ') : m_string;
+}
+
+std::string TerminalText::paddedLeft(std::size_t columns) const
+{
+    return m_columns < columns ? std::string(columns - m_columns, ' ') + m_string : m_string;
+}
+
+std::string HomePathAbbreviation::abbreviate(std::string_view path) const
+{
+    if (path == m_home) {
+        return "~";
+    }
+    if (Platform::isPathInside(path, m_home)) {
+        return fmt::format("~{}", path.substr(m_home.size()));
+    }
+    return std::string(path);
+}
+
+} // namespace KarvelloCLI

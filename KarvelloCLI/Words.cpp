@@ -1,0 +1,46 @@
+#include "KarvelloCLI/Words.h"
+
+#include <fmt/format.h>
+
+namespace KarvelloCLI {
+
+namespace {
+
+constexpr double kMinute = 60;
+constexpr double kHour = 60 * kMinute;
+constexpr double kDay = 24 * kHour;
+constexpr double kYear = 365.2425 * kDay;
+constexpr double kMonth = kYear / 12;
+
+} // namespace
+
+std::string counted(std::size_t count, std::string_view noun)
+{
+    return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
+}
+
+std::string shortAge(double seconds)
+{
+    if (seconds < -kDay) {
+        return "future";
+    }
+    if (seconds < kMinute) {
+        return "now";
+    }
+    const auto whole = [seconds](double unit) { return static_cast<long>(seconds / unit); };
+    if (seconds < kHour) {
+        return fmt::format("{} min", whole(kMinute));
+    }
+    if (seconds < kDay) {
+        return fmt::format("{} h", whole(kHour));
+    }
+    if (seconds < 2 * kMonth) {
+        return fmt::format("{} d", whole(kDay));
+    }
+    if (seconds < 2 * kYear) {
+        return fmt::format("{} mo", whole(kMonth));
+    }
+    return fmt::format("{} y", whole(kYear));
+}
+
+} // namespace KarvelloCLI

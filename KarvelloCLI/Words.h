@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace KarvelloCLI {
+
+/// "1 item", "2 items".
+[[nodiscard]] std::string counted(std::size_t count, std::string_view noun);
+
+/// The time between two moments as one number and a unit, at most six columns: "now" below a minute, "5 min", "3 h",
+/// "12 d", "5 mo", "2 y". More than a day below zero is "future".
+[[nodiscard]] std::string shortAge(double seconds);
+
+} // namespace KarvelloCLI

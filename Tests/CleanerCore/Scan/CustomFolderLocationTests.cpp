@@ -1,0 +1,76 @@
+#include "CleanerCore/Scan/CustomFolderLocation.h"
+
+#include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/TemporaryTree.h"
+
+#include <gtest/gtest.h>
+
+namespace CleanerCore {
+namespace {
+
+using Kind = CustomScanFolderError::Kind;
+
+class CustomFolderLocationTest : public testing::Test {
+protected:
+    std::expected<ScanLocation, CustomScanFolderError> make(std::string_view path) const
+    {
+        return customFolderLocation(tree.url(path), "Mine", files, tree.url("home/"));
+    }
+
+    void expectRefused(std::string_view path, Kind kind) const
+    {
+        const auto made = make(path);
+        ASSERT_FALSE(made.has_value()) << path;
+        EXPECT_EQ(made.error(), (CustomScanFolderError{kind, tree.path(path)}));
+    }
+
+    TestSupport::TemporaryTree tree{"home/Projects/x\nhome/.ssh/id\nhome/file\nhome/linked -> Projects\n"};
+    Platform::PosixFileManager files;
+};
+
+TEST_F(CustomFolderLocationTest, IsReviewedByHandAndNeverSelected)
+{
+    const auto made = make("home/Projects/");
+    ASSERT_TRUE(made.has_value());
+    EXPECT_EQ(*made,
+        ScanLocation({
+            .rootURL = tree.url("home/Projects/"),
+            .category = CleanupCategory::customFolder,
+            .displayName = "Mine",
+            .depth = ScanDepth::immediateChildren,
+            .isSelectedByDefault = false,
+            .safety = CleanupSafety::manualReview,
+            .minimumModificationAge = 86'400,
+            .includesHiddenFiles = false,
+            .includesPackageDescendants = false,
+        }));
+}
+
+TEST_F(CustomFolderLocationTest, RefusesAFileAndWhatIsMissing)
+{
+    expectRefused("home/file", Kind::notDirectory);
+    expectRefused("home/nothing", Kind::notDirectory);
+}
+
+TEST_F(CustomFolderLocationTest, RefusesTheHomeUserDataLinksAndTheSystem)
+{
+    expectRefused("home/", Kind::unsafeRoot);
+    expectRefused("home/.ssh/", Kind::unsafeRoot);
+    expectRefused("home/linked", Kind::unsafeRoot);
+    for (const std::string_view path : {"/", "/usr", "/etc", "/tmp", "/proc/self"}) {
+        const auto made = customFolderLocation(Platform::FileURL::folder(path), "x", files, tree.url("home/"));
+        ASSERT_FALSE(made.has_value()) << path;
+        EXPECT_EQ(made.error().kind, Kind::unsafeRoot) << path;
+    }
+}
+
+TEST(CustomScanFolderError, HasTheWordsOfItsKindAndThePath)
+{
+    EXPECT_EQ((CustomScanFolderError{Kind::notDirectory, "/a\xFF"}.errorDescription()),
+        "Selected item is not an accessible folder: /a\\xFF");
+    EXPECT_EQ((CustomScanFolderError{Kind::unsafeRoot, "/a"}.errorDescription()),
+        "Selected folder is too broad or protected for cleanup scanning: /a");
+}
+
+} // namespace
+} // namespace CleanerCore

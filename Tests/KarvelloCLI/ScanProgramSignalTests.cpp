@@ -1,0 +1,111 @@
+#include "Tests/KarvelloCLI/ScanProgramFixture.h"
+#include "Tests/Support/TemporaryTree.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include <chrono>
+#include <csignal>
+#include <string>
+#include <vector>
+
+using namespace KarvelloCLITests;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+using TestSupport::TemporaryTree;
+
+namespace {
+
+/// A tree that costs little and takes long to scan: each of the nested roots holds all the files of the innermost.
+class SlowScan {
+public:
+    explicit SlowScan(std::size_t levels)
+    {
+        for (std::size_t level = 0; level < levels; ++level) {
+            m_arguments.insert(m_arguments.end(), {"--root", m_tree.path(m_path)});
+            m_path += "d/";
+        }
+        m_tree.add(m_path + "file count=2000 size=1");
+    }
+
+    std::vector<std::string> arguments(std::vector<std::string> more) const
+    {
+        std::vector<std::string> all = m_arguments;
+        all.insert(all.begin(), "scan");
+        all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }
+
+private:
+    TemporaryTree m_tree;
+    std::string m_path;
+    std::vector<std::string> m_arguments;
+};
+
+/// Enough for half a minute.
+constexpr std::size_t kForever = 1000;
+/// Enough for some lines of progress.
+constexpr std::size_t kAWhile = 150;
+
+} // namespace
+
+TEST_F(ScanProgram, ProgressStaysOffStandardOutputAndLeavesNoLineBehind)
+{
+    const SlowScan slow(kAWhile);
+    ProgramSettings settings = with(slow.arguments({"--format", "csv"}));
+    settings.messagesOnTerminal = true;
+    const ProgramResult result = runProgram(settings);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.output, StartsWith("export_kind,"));
+    EXPECT_THAT(result.output, Not(HasSubstr("%")));
+    const std::size_t first = result.messages.find("\r\x1b[K");
+    ASSERT_NE(first, std::string::npos);
+    EXPECT_THAT(result.messages.substr(first), HasSubstr("items looked at"));
+    EXPECT_TRUE(result.messages.ends_with("\r\x1b[K")) << "the line is taken off at the end";
+
+    settings.arguments.insert(settings.arguments.end(), {"--progress", "never"});
+    EXPECT_THAT(runProgram(settings).messages, Not(HasSubstr("looked at")));
+}
+
+TEST_F(ScanProgram, CtrlCGivesATruePartialAccount)
+{
+    const SlowScan slow(kForever);
+    for (const std::string format : {"table", "json", "csv"}) {
+        ProgramSettings settings = with(slow.arguments({"--format", format}));
+        settings.messagesOnTerminal = true;
+        RunningProgram program(settings);
+        ASSERT_TRUE(program.hasSaid("items looked at"));
+        const auto sent = std::chrono::steady_clock::now();
+        program.signal(SIGINT);
+        const ProgramResult result = program.wait();
+        EXPECT_EQ(result.status, 130);
+        EXPECT_LT(result.end - sent, std::chrono::seconds(2)) << "a stop is not waited for";
+        EXPECT_THAT(plain(result.messages), HasSubstr("karvello-cli: Interrupted: the result is incomplete.\n"));
+        if (format == "table") {
+            EXPECT_THAT(result.output, HasSubstr("\nIncomplete: interrupted. "));
+            EXPECT_THAT(result.output, HasSubstr("Reclaimable"));
+        } else if (format == "json") {
+            const auto document = nlohmann::json::parse(result.output);
+            const std::size_t found = document.at("candidates").size();
+            EXPECT_GT(found, 0U);
+            EXPECT_LT(found, kForever) << "the scan was not interrupted at all";
+            EXPECT_EQ(document.at("summary").at("candidateCount"), found);
+        } else {
+            EXPECT_TRUE(result.output.ends_with('\n'));
+        }
+    }
+}
+
+TEST_F(ScanProgram, TerminationEndsAScanAsCtrlCDoes)
+{
+    const SlowScan slow(kForever);
+    ProgramSettings settings = with(slow.arguments({}));
+    settings.messagesOnTerminal = true;
+    RunningProgram program(settings);
+    ASSERT_TRUE(program.hasSaid("items looked at"));
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.wait().status, 130);
+}

@@ -1,0 +1,106 @@
+#include "Platform/Files/WholeFile.h"
+
+#include "Platform/Files/OpenFolder.h"
+#include "Tests/Platform/Linux/TrashFixture.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace TrashTests;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class WholeFile : public testing::Test {
+protected:
+    int add(const char* name, std::string_view bytes)
+    {
+        return Platform::addWholeFile(m_folder.get(), name, bytes, 0600);
+    }
+    auto read(const char* name, std::size_t maximum = 1000)
+    {
+        return Platform::readWholeFile(m_folder.get(), name, maximum);
+    }
+
+    TemporaryTree m_tree;
+    Platform::FileDescriptor m_folder = *Platform::openFolder(m_tree.root().path().c_str());
+};
+
+TEST_F(WholeFile, IsThereWithAllItsBytes)
+{
+    const std::string bytes(200'000, 'b');
+    EXPECT_EQ(add("file", bytes), 0);
+    EXPECT_EQ(contents(m_tree.path("file")), bytes);
+    EXPECT_EQ(modeOf(m_tree.path("file")), 0600U);
+    EXPECT_EQ(read("file", 200'000), bytes);
+    EXPECT_EQ(add("empty", ""), 0);
+    EXPECT_EQ(read("empty"), "");
+}
+
+TEST_F(WholeFile, ReplacesNothing)
+{
+    m_tree.add(R"(
+        file text="old"
+        folder/
+        link -> nowhere
+    )");
+    for (const auto* name : {"file", "folder", "link"}) {
+        EXPECT_EQ(add(name, "new"), EEXIST) << name;
+    }
+    EXPECT_EQ(contents(m_tree.path("file")), "old");
+    EXPECT_THAT(names(m_tree.root().path()), ElementsAre("file", "folder", "link"));
+}
+
+TEST_F(WholeFile, LeavesNothingWhereTheVolumeIsFull)
+{
+    m_tree.add("volume/");
+    TestSupport::inMountNamespace([&] {
+        TestSupport::mountTemporaryFileSystem(m_tree.path("volume"), "size=64k");
+        const auto folder = Platform::openFolder(m_tree.path("volume").c_str());
+        EXPECT_EQ(Platform::addWholeFile(folder->get(), "file", std::string(200'000, 'b'), 0600), ENOSPC);
+        EXPECT_THAT(names(m_tree.path("volume")), IsEmpty());
+    });
+}
+
+TEST_F(WholeFile, IsReadOnlyIfItIsARegularFileOfBoundedSize)
+{
+    m_tree.add(R"(
+        file text="12345"
+        folder/
+        pipe fifo
+        link -> file
+    )");
+    EXPECT_EQ(read("file", 5), "12345");
+    EXPECT_EQ(read("file", 4).error(), EFBIG);
+    EXPECT_EQ(read("folder").error(), EINVAL);
+    EXPECT_EQ(read("pipe").error(), EINVAL);
+    EXPECT_EQ(read("link").error(), ELOOP);
+    EXPECT_EQ(read("missing").error(), ENOENT);
+    EXPECT_EQ(Platform::readWholeFile(AT_FDCWD, "/dev/zero", 10).error(), EINVAL);
+}
+
+TEST_F(WholeFile, TellsTheNamesOfUnfinishedFiles)
+{
+    EXPECT_TRUE(Platform::isUnfinishedFile(".karvello-0123456789abcdef.tmp"));
+    EXPECT_FALSE(Platform::isUnfinishedFile("karvello-0123.tmp"));
+    EXPECT_FALSE(Platform::isUnfinishedFile(".karvello-0123.trashinfo"));
+}
+
+TEST_F(WholeFile, WritesAllOrSaysWhyNot)
+{
+    int ends[2] = {-1, -1};
+    ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
+    const Platform::FileDescriptor reader(ends[0]);
+    const Platform::FileDescriptor writer(ends[1]);
+    EXPECT_EQ(Platform::writeAll(writer.get(), "abc"), 0);
+    std::string text(3, ' ');
+    EXPECT_EQ(::read(reader.get(), text.data(), text.size()), 3);
+    EXPECT_EQ(text, "abc");
+    EXPECT_EQ(Platform::writeAll(reader.get(), "abc"), EBADF);
+    const Platform::FileDescriptor full(open("/dev/full", O_WRONLY | O_CLOEXEC));
+    EXPECT_EQ(Platform::writeAll(full.get(), "abc"), ENOSPC);
+}
+
+} // namespace

@@ -226,10 +226,10 @@ private:
         std::string text = left;
         std::string separator = left.size() + 2 <= kDescriptionColumn
             ? std::string(kDescriptionColumn - left.size(), ' ')
-            : "\n" + std::string(kDescriptionColumn, ' ');
+            : fmt::format("\n{:{}}", "", kDescriptionColumn);
         for (const TerminalText& line : TerminalText(description).wrapped(kWidth - kDescriptionColumn)) {
             text += separator + line.string();
-            separator = "\n" + std::string(kDescriptionColumn, ' ');
+            separator = fmt::format("\n{:{}}", "", kDescriptionColumn);
         }
         return text + "\n";
     }

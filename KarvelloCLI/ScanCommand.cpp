@@ -102,6 +102,14 @@ std::string wordsOf(const Platform::FileError& error)
     return error.systemError != 0 ? std::generic_category().message(error.systemError) : error.localizedDescription();
 }
 
+/// The reason, with the path where it does not name it itself.
+std::string sentenceOn(const SkippedItem& item)
+{
+    const std::string reason = TerminalText(item.reason, TerminalText::Kind::sentence).string();
+    const std::string path = TerminalText(item.url.path()).string();
+    return item.reason.ends_with(item.url.path()) ? reason : fmt::format("{}: {}", reason, path);
+}
+
 /// A refused folder often is one that the user reaches through a link, where the folder itself would do.
 std::optional<std::string> hintForLink(const FileURL& folder, const Platform::FileManager& fileManager)
 {
@@ -189,6 +197,7 @@ ExitCode ScanCommand::run(const ScanOptions& options) const
     }();
     plan->subject.isIncomplete = stop.stop_requested();
     const ScanJudgement judgement = ScanJudgement::of(report, *plan);
+    plan->subject.isRefused = judgement.exitCode == ExitCode::refused;
     report.skippedItems.insert(report.skippedItems.begin(), plan->refusedFolders.begin(), plan->refusedFolders.end());
 
     if (!output.isReplacedAtomically()) {
@@ -212,15 +221,13 @@ ExitCode ScanCommand::run(const ScanOptions& options) const
 ExitCode ScanCommand::concluded(const ScanJudgement& judgement, const ScanPlan& plan) const
 {
     for (const SkippedItem& refusal : judgement.refusals) {
-        const TerminalText reason(refusal.reason, TerminalText::Kind::sentence);
-        const TerminalText path(refusal.url.path());
-        printMessage(fmt::format("{} is not scanned: {}.", path.string(), reason.string()));
+        printMessage(fmt::format("Not scanned: {}", sentenceOn(refusal)));
         if (const auto hint = hintForLink(refusal.url, m_fileManager)) {
             printMessage(*hint);
         }
     }
     if (judgement.failures > 0) {
-        printMessage(fmt::format("{} could not be read; --verbose tells which.", counted(judgement.failures, "item")));
+        printMessage(counted(judgement.failures, "item") + " could not be read, which the skipped items tell of.");
     }
     if (plan.subject.isIncomplete) {
         printMessage("Interrupted: the result is incomplete.");

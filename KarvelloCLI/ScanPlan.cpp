@@ -56,6 +56,7 @@ std::expected<ScanPlan, std::string> ScanPlan::make(const ScanOptions& options, 
     // A home that is reached through a link is still the home: what lies in it is judged by its real path.
     const FileURL home = FileURL::folder(fileManager.resolvingSymbolicLinks(namedHome).path());
     plan.subject.home = home;
+    plan.subject.leavesOutHiddenFiles = !options.includesHiddenFiles;
 
     if (options.scansHome()) {
         if (!fileManager.directoryExists(home)) {

@@ -224,7 +224,7 @@ std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const 
         return columns.summaryLine(TerminalText(size(bytes)), TerminalText(words)) + '\n';
     };
     const std::int64_t bytes = totalBytes(candidates);
-    std::string text = line(bytes, "in " + counted(candidates.size(), "more item"));
+    std::string text = line(bytes, fmt::format("in {}", counted(candidates.size(), "more item")));
     if (m_settings.isRedacted) {
         return text;
     }
@@ -294,6 +294,9 @@ std::string ScanTable::totals() const
 
 std::string ScanTable::nothingFound() const
 {
+    if (m_subject.isRefused) {
+        return paragraph("Nothing was scanned.");
+    }
     std::string text = paragraph("Nothing to clean up was found.");
     const auto young = std::ranges::count(m_report.skippedItems,
         CleanerCore::StorageScannerSkipReason::recentlyModified, &CleanerCore::SkippedItem::reason);
@@ -305,7 +308,7 @@ std::string ScanTable::nothingFound() const
         text += paragraph("--mode direct looks in more places, and --folder DIR in one of your own.");
     } else if (m_subject.folders.empty()) {
         text += paragraph("--folder DIR looks in a folder of your own.");
-    } else {
+    } else if (m_subject.leavesOutHiddenFiles) {
         text += paragraph("With --root DIR --hidden, hidden files count too.");
     }
     return text;

@@ -25,6 +25,10 @@ struct ScanSubject {
     std::optional<CleanerCore::CleanupScanMode> mode;
     /// The folders that the user named.
     std::vector<Platform::FileURL> folders;
+    /// Whether hidden files in them were left out.
+    bool leavesOutHiddenFiles = true;
+    /// None of what was asked for may be scanned, or exists.
+    bool isRefused = false;
     bool isIncomplete = false;
 };
 

@@ -40,7 +40,7 @@ std::string countedLine(std::size_t count, const TerminalText& words, std::size_
     std::string separator;
     for (const TerminalText& line : words.wrapped(columns - taken)) {
         text += separator + line.string();
-        separator = "\n" + std::string(taken, ' ');
+        separator = fmt::format("\n{:{}}", "", taken);
     }
     return text + "\n";
 }
@@ -84,7 +84,7 @@ std::string SkippedSummary::countsByReason(std::size_t columns, std::size_t most
         text += countedLine(group.rows.size(), group.reason, width, columns);
     }
     if (rest > 0) {
-        const TerminalText words("for " + counted(m_groups.size() - shown, "other reason"));
+        const TerminalText words(fmt::format("for {}", counted(m_groups.size() - shown, "other reason")));
         text += countedLine(rest, words, width, columns);
     }
     return text;

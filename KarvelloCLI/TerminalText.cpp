@@ -232,7 +232,7 @@ std::string HomePathAbbreviation::abbreviate(std::string_view path) const
         return "~";
     }
     if (Platform::isPathInside(path, m_home)) {
-        return "~" + std::string(path.substr(m_home.size()));
+        return fmt::format("~{}", path.substr(m_home.size()));
     }
     return std::string(path);
 }

@@ -135,7 +135,8 @@ TEST_F(ScanProgram, OneRefusedFolderAmongOthersIsStatusOne)
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.output, HasSubstr("Manual Review: 2 items"));
     EXPECT_THAT(result.output, HasSubstr("  1  Folder does not exist\n"));
-    EXPECT_THAT(result.messages, HasSubstr("karvello-cli: " + path("missing") + " is not scanned: "));
+    EXPECT_THAT(
+        result.messages, HasSubstr("karvello-cli: Not scanned: Folder does not exist: " + path("missing") + "\n"));
     EXPECT_EQ(run({"scan", "--mode", "standard", "--root", "missing"}).status, 1)
         << "the home was scanned all the same";
 }

@@ -306,6 +306,17 @@ TEST(ScanTable, SaysKindlyThatNothingWasFound)
     EXPECT_THAT(table(report, {}, direct), Not(HasSubstr("--mode direct")));
 }
 
+TEST(ScanTable, DoesNotSpeakOfFindingsWhereNothingWasScanned)
+{
+    const ScanSubject subject{.home = FileURL::folder("/home/ada"),
+        .mode = std::nullopt,
+        .folders = {FileURL::folder("/usr")},
+        .isRefused = true};
+    const std::string text = table(ScanReport(kNow, {}, {skipped("/usr", "not allowed")}), {}, subject);
+    EXPECT_THAT(text, HasSubstr("Nothing was scanned.\n"));
+    EXPECT_THAT(text, Not(HasSubstr("found")));
+}
+
 TEST(ScanTable, MarksAnAccountThatIsIncomplete)
 {
     ScanSubject subject = homeSubject();

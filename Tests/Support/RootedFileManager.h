@@ -6,7 +6,7 @@ namespace TestSupport {
 
 /// A file manager that takes `root` for the root folder, so that a test can have a "/Users" or an "/etc" of its own.
 /// Symbolic links must be relative. Items named in an open folder, and what an enumerator tells, keep their real paths.
-class RootedFileManager final : public Platform::FileManager {
+class RootedFileManager : public Platform::FileManager {
 public:
     /// `inner` must outlive this object; no component of `root` is a symbolic link.
     RootedFileManager(const Platform::FileManager& inner, Platform::FileURL root);

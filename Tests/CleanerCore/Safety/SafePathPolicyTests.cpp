@@ -107,6 +107,14 @@ TEST_F(SafePathPolicyTest, PassesOnThatAnAttributeCouldNotBeRead)
         "/Users/a/Library/Caches/app");
 }
 
+TEST_F(SafePathPolicyTest, ChecksTheWayToTheRootAnew)
+{
+    const auto own = policy({"/Users/a/Library/Caches"});
+    faulty.fail({.call = FileManagerCall::resourceValues, .systemError = EACCES, .path = tree.path("Users/a")});
+    expectError(own.validate(FileURL("/Users/a/Library/Caches/app"), files), Kind::unreadableAttributes, "/Users/a");
+    EXPECT_TRUE(own.validate(FileURL("/Users/a/Library/Caches/app"), files));
+}
+
 TEST_F(SafePathPolicyTest, AcceptsAMissingItemAsARestoreDestinationWhereItsParentStands)
 {
     const auto own = policy({"/Users/a/Library/Caches"});

@@ -86,6 +86,20 @@ TEST_F(ScanRootSafetyTest, AllowsRootsInTheHomeOfRootForRootAlone)
     expectNotAllowed("/root/.cache/pip", "/rooted");
 }
 
+TEST_F(ScanRootSafetyTest, KnowsTheHomeOfRootBehindALink)
+{
+    const TemporaryTree other("var/roothome/.cache/pip/x\nroot -> var/roothome\n");
+    const RootedFileManager linked(posix, other.root());
+    const auto judge = [&](std::string_view home) {
+        return SafePathPolicy::validateScanRoot(
+            FileURL::folder("/var/roothome/.cache/pip"), FileURL::folder(home), linked)
+            .has_value();
+    };
+    EXPECT_TRUE(judge("/root"));
+    EXPECT_TRUE(judge("/var/roothome"));
+    EXPECT_FALSE(judge("/home/u"));
+}
+
 TEST_F(ScanRootSafetyTest, RefusesARootThatIsALinkOrIsReachedThroughOne)
 {
     expectNotAllowed("/Users/a/linked");

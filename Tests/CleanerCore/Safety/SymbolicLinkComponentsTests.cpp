@@ -26,4 +26,33 @@ TEST_F(SymbolicLinkComponentsTest, LooksForLinksOnlyBelowTheGivenParent)
     expectError(reject("/Users/a/linked/Caches", "/USERS/A/Linked"), Kind::pathNotAllowed, "/Users/a/Library/Caches");
 }
 
+/// A file system that does not tell of one item what it is.
+class SilentFileManager : public RootedFileManager {
+public:
+    using RootedFileManager::RootedFileManager;
+
+    [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
+        const Platform::ItemReference& item) const override
+    {
+        auto values = RootedFileManager::resourceValues(item);
+        if (values && item.url().path() == "/Users/a") {
+            values->isSymbolicLink.reset();
+        }
+        return values;
+    }
+};
+
+TEST_F(SymbolicLinkComponentsTest, TakesAnItemThatDoesNotTellForALink)
+{
+    const SilentFileManager silent(posix, tree.root());
+    const auto verdict =
+        rejectSymbolicLinkComponents(FileURL("/Users/a/Library"), std::nullopt, silent, NameComparison::caseSensitive);
+    expectError(verdict, Kind::symbolicLink, "/Users/a");
+    EXPECT_EQ(isSymbolicLink(FileURL("/Users/a"), silent),
+        std::unexpected(CleaningError{Kind::unreadableAttributes, "/Users/a"}));
+    EXPECT_EQ(isSymbolicLink(FileURL("/Users/a/linked"), silent), true);
+    EXPECT_EQ(isSymbolicLink(FileURL("/Users/a/Library"), silent), false);
+    EXPECT_EQ(isSymbolicLink(FileURL("/none"), silent).error().kind, Kind::unreadableAttributes);
+}
+
 } // namespace SafetyTests

@@ -42,6 +42,8 @@ struct ScanOptions {
 
     /// Folders of the user's own replace the home unless the home is asked for beside them.
     [[nodiscard]] bool scansHome() const { return mode || home || (folders.empty() && roots.empty()); }
+    /// Every path that the user gave.
+    [[nodiscard]] std::vector<std::string> paths() const;
 };
 
 inline constexpr std::array<std::string_view, 8> kLanguageCodes{

@@ -1,5 +1,6 @@
 #include "KarvelloCLI/CommandOutput.h"
 
+#include "CleanerCore/Audit/CleanupAuditExporter.h"
 #include "KarvelloCLI/Messages.h"
 
 #include <fmt/format.h>
@@ -40,6 +41,18 @@ Delivery deliver(std::string_view data, const OutputFile& output, const Platform
         return Delivery::failed;
     }
     return Delivery::written;
+}
+
+Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries, const CommonOptions& options,
+    const OutputFile& output, const Platform::FileManager& fileManager)
+{
+    const auto data = CleanerCore::CleanupAuditExporter::data(
+        entries, exportFormat(options), exportPrivacy(options), Platform::Date::now());
+    if (!data) {
+        printMessage(data.error().localizedDescription());
+        return Delivery::failed;
+    }
+    return deliver(*data, output, fileManager);
 }
 
 CleanerCore::ScanResultExportFormat exportFormat(const CommonOptions& options)

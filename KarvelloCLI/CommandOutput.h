@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CleanerCore/Audit/CleanupAuditEntry.h"
 #include "CleanerCore/Export/ReportExportPrivacyMode.h"
 #include "CleanerCore/Export/ScanResultExportFormat.h"
 #include "KarvelloCLI/Options.h"
@@ -9,6 +10,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace KarvelloCLI {
@@ -22,6 +24,10 @@ enum class Delivery : std::uint8_t { written, failed };
 /// Writes all of it; a failure is told to the user.
 [[nodiscard]] Delivery deliver(
     std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager);
+
+/// Writes entries of the log in the form for programs that the options name; a failure is told to the user.
+[[nodiscard]] Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries,
+    const CommonOptions& options, const OutputFile& output, const Platform::FileManager& fileManager);
 
 /// What the options ask of an export. Meaningless for a table.
 [[nodiscard]] CleanerCore::ScanResultExportFormat exportFormat(const CommonOptions& options);

@@ -1,5 +1,7 @@
 #include "KarvelloCLI/CommandLine.h"
 
+#include "KarvelloCLI/HelpFormatter.h"
+#include "KarvelloCLI/OptionChecks.h"
 #include "KarvelloCLI/TerminalText.h"
 
 #include <CLI/CLI.hpp>
@@ -7,24 +9,26 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
-#include <cmath>
+#include <memory>
+#include <optional>
 
 namespace KarvelloCLI {
 
 namespace {
 
-constexpr const char* kProgram = "karvello-cli";
-constexpr unsigned kMostJobs = 256;
-
-constexpr const char* kIntroduction = "Karvello looks for files that can be made anew (caches, logs, build leftovers)\n"
-                                      "and shows what they take. A scan only looks: it changes nothing on disk.\n";
+constexpr const char* kIntroduction =
+    "Karvello looks for files that can be made anew (caches, logs, build leftovers),\n"
+    "shows what they take, and moves to the Trash what you choose. Nothing is ever\n"
+    "deleted: what was moved can be put back until the Trash is emptied.\n";
 
 constexpr const char* kProgramFooter =
     "\nExamples:\n"
     "  karvello-cli scan                   your home, the well-known places only\n"
     "  karvello-cli scan --mode direct     your home, package and developer caches too\n"
     "  karvello-cli scan --root ~/builds   the items of one folder\n"
-    "  karvello-cli scan --format json --output scan.json\n";
+    "  karvello-cli scan --format json --output scan.json\n"
+    "  karvello-cli clean --default        what a scan marks with *, after a question\n"
+    "  karvello-cli restore                what can be put back\n";
 
 constexpr const char* kScanIntroduction =
     "Look for what could be cleaned up, without changing anything.\n"
@@ -42,64 +46,40 @@ constexpr const char* kScanFooter = "\nExit status:\n"
                                     "  3    refused: no folder that was given may be scanned, or none exists\n"
                                     "  130  interrupted; what was found until then has been shown\n";
 
-template <Platform::RawRepresentable E>
-CLI::Validator oneOf()
-{
-    return CLI::Validator(
-        [](std::string& value) -> std::string {
-            if (Platform::fromRawValue<E>(value)) {
-                return {};
-            }
-            return fmt::format(
-                "“{}” is not one of {}", TerminalText(value).string(), fmt::join(Platform::RawValues<E>::names, ", "));
-        },
-        std::string{});
-}
+constexpr const char* kCleanIntroduction =
+    "Move findings of a scan to the Trash, after showing each and asking.\n"
+    "\n"
+    "Scans with the same options as scan, shows what would move, and asks. The\n"
+    "space returns when the Trash is emptied; until then, restore puts things back.\n";
 
-CLI::Validator oneOfTheLanguages()
-{
-    return CLI::Validator(
-        [](std::string& value) -> std::string {
-            if (std::ranges::find(kLanguageCodes, value) != kLanguageCodes.end()) {
-                return {};
-            }
-            return fmt::format("“{}” is not one of {}", TerminalText(value).string(), fmt::join(kLanguageCodes, ", "));
-        },
-        std::string{});
-}
+constexpr const char* kCleanFooter = "\nExit status:\n"
+                                     "  0    done\n"
+                                     "  1    done in part: something was refused, or could not be read or written\n"
+                                     "  2    wrong usage\n"
+                                     "  3    refused: nothing was moved\n"
+                                     "  130  interrupted; what was moved until then has been shown and logged\n";
 
-CLI::Validator notEmpty(std::string complaint)
-{
-    return CLI::Validator(
-        [complaint = std::move(complaint)](std::string& value) { return value.empty() ? complaint : std::string{}; },
-        std::string{});
-}
+constexpr const char* kRestoreIntroduction =
+    "List what clean moved to the Trash, or put it back where it was.\n"
+    "\n"
+    "Without --id and --all, lists the items that the log keeps, the newest first:\n"
+    "those that can be put back, and why others cannot. Nothing is ever replaced.\n";
 
-CLI::Validator secondsFromZero()
-{
-    return CLI::Validator(
-        [](std::string& value) -> std::string {
-            double seconds = -1;
-            if (CLI::detail::lexical_cast(value, seconds) && std::isfinite(seconds) && seconds >= 0) {
-                return {};
-            }
-            return fmt::format("“{}” is no number of seconds", TerminalText(value).string());
-        },
-        std::string{});
-}
+constexpr const char* kRestoreFooter = "\nExit status:\n"
+                                       "  0    done\n"
+                                       "  1    done in part: something was refused, or could not be read or written\n"
+                                       "  2    wrong usage\n"
+                                       "  3    refused: nothing was put back\n"
+                                       "  130  interrupted; what was put back until then has been shown and logged\n";
 
-CLI::Validator countOfJobs()
-{
-    return CLI::Validator(
-        [](std::string& value) -> std::string {
-            unsigned jobs = 0;
-            if (CLI::detail::lexical_cast(value, jobs) && jobs >= 1 && jobs <= kMostJobs) {
-                return {};
-            }
-            return fmt::format("“{}” is no number from 1 to {}", TerminalText(value).string(), kMostJobs);
-        },
-        std::string{});
-}
+constexpr const char* kHistoryIntroduction = "Show the log of what clean and restore did.\n"
+                                             "\n"
+                                             "The log keeps the last 100 runs, the newest first.\n";
+
+constexpr const char* kHistoryFooter = "\nExit status:\n"
+                                       "  0    done\n"
+                                       "  1    the log could not be read, or not all of it; nothing was changed in it\n"
+                                       "  2    wrong usage\n";
 
 /// The words of an enumeration's option, read into its value once the whole line is known to be good.
 template <Platform::RawRepresentable E>
@@ -112,15 +92,24 @@ CLI::Option* addChoice(CLI::App& app, const std::string& name, E& target, const 
         ->type_name(fmt::format("{}", fmt::join(Platform::RawValues<E>::names, "|")));
 }
 
+/// One value for each mention: a name in brackets stays one name, and what follows is no value by accident.
+CLI::Option* addRepeated(
+    CLI::App& app, const std::string& name, std::vector<std::string>& target, const std::string& description)
+{
+    return app.add_option(name, target, description)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->allow_extra_args(false);
+}
+
 CLI::Option* addFolders(
     CLI::App& app, const std::string& name, std::vector<std::string>& target, const std::string& description)
 {
-    // One folder for each mention: a name in brackets stays one name, and what follows is no folder by accident.
-    return app.add_option(name, target, description)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-        ->allow_extra_args(false)
-        ->check(notEmpty("needs a folder"))
-        ->type_name("DIR");
+    return addRepeated(app, name, target, description)->check(notEmpty("needs a folder"))->type_name("DIR");
+}
+
+CLI::Option* addHome(CLI::App& app, std::optional<std::string>& target, const std::string& description)
+{
+    return app.add_option("--home", target, description)->check(notEmpty("needs a folder"))->type_name("DIR");
 }
 
 void addCommonOptions(CLI::App& app, CommonOptions& options)
@@ -159,10 +148,7 @@ void addScanOptions(CLI::App& app, ScanOptions& options)
         ->check(oneOf<CleanerCore::CleanupScanMode>())
         ->type_name("standard|aggressive|direct")
         ->group(where);
-    app.add_option("--home", options.home, "The home folder to scan (yours)")
-        ->check(notEmpty("needs a folder"))
-        ->type_name("DIR")
-        ->group(where);
+    addHome(app, options.home, "The home folder to scan (yours)")->group(where);
     addFolders(app, "--folder", options.folders,
         "A folder of your own, with care: items that did not change for a day, none of them preselected. May be "
         "repeated")
@@ -186,54 +172,57 @@ void addScanOptions(CLI::App& app, ScanOptions& options)
         ->group(forRoots);
 }
 
-/// Lines that fit eighty columns, with the descriptions in one column.
-class HelpFormatter final : public CLI::Formatter {
-public:
-    HelpFormatter() { column_width(kDescriptionColumn); }
+void addConfirmation(CLI::App& app, bool& target, const std::string& group)
+{
+    app.add_flag("--yes", target, "Do not ask; needed where there is no terminal to ask on")->group(group);
+}
 
-    std::string make_description(const CLI::App* app) const override { return app->get_description() + "\n"; }
-
-    std::string make_usage(const CLI::App* app, std::string name) const override
-    {
-        const std::string full = app->get_parent() != nullptr ? fmt::format("{} {}", kProgram, app->get_name()) : name;
-        const bool hasCommands = !app->get_subcommands({}).empty();
-        return fmt::format("Usage: {} {}\n", full, hasCommands ? "COMMAND [OPTIONS]" : "[OPTIONS]");
-    }
-
-    std::string make_option(const CLI::Option* option, bool /*isPositional*/) const override
-    {
-        std::string left = "  " + make_option_name(option, false);
-        if (!option->get_type_name().empty()) {
-            left += " " + option->get_type_name();
-        }
-        return entry(left, option->get_description());
-    }
-
-    std::string make_subcommand(const CLI::App* command) const override
-    {
-        const std::string description = command->get_description();
-        return entry("  " + command->get_name(), description.substr(0, description.find('\n')));
-    }
-
-    std::string make_footer(const CLI::App* app) const override { return app->get_footer(); }
-
-private:
-    static constexpr std::size_t kDescriptionColumn = 28;
-    static constexpr std::size_t kWidth = 80;
-
-    static std::string entry(const std::string& left, const std::string& description)
-    {
-        std::string text = left;
-        std::string separator = left.size() + 2 <= kDescriptionColumn
-            ? std::string(kDescriptionColumn - left.size(), ' ')
-            : fmt::format("\n{:{}}", "", kDescriptionColumn);
-        for (const TerminalText& line : TerminalText(description).wrapped(kWidth - kDescriptionColumn)) {
-            text += separator + line.string();
-            separator = fmt::format("\n{:{}}", "", kDescriptionColumn);
-        }
-        return text + "\n";
-    }
+struct CleanWords {
+    bool wantsPreselected = false;
+    bool wantsAll = false;
 };
+
+void addCleanOptions(CLI::App& app, CleanOptions& options, CleanWords& words)
+{
+    const std::string group = "What to move (one kind is needed)";
+    app.add_flag("--default", words.wantsPreselected, "What a scan marks with *: safe to make anew")->group(group);
+    addRepeated(app, "--id", options.ids, "One item, by its id in the JSON or CSV of scan. May be repeated")
+        ->check(notEmpty("needs an id"))
+        ->type_name("ID")
+        ->group(group);
+    app.add_flag("--all", words.wantsAll, "All findings, those for manual review too")->group(group);
+    addConfirmation(app, options.isConfirmed, group);
+    addScanOptions(app, options.scan);
+    addCommonOptions(app, options.scan.common);
+}
+
+void addRestoreOptions(CLI::App& app, RestoreOptions& options, bool& wantsAll)
+{
+    const std::string group = "What to put back";
+    addRepeated(app, "--id", options.ids, "One item, by its id in the list. May be repeated")
+        ->check(notEmpty("needs an id"))
+        ->type_name("ID")
+        ->group(group);
+    app.add_flag("--all", wantsAll, "Everything that can be put back")->group(group);
+    app.add_option_function<std::string>(
+           "--entry", [&options](const std::string& value) { options.entry = Platform::UUID::fromString(value); },
+           "Only of this entry of the log")
+        ->check(entryId())
+        ->type_name("UUID")
+        ->group(group);
+    addHome(app, options.home, "The home folder that was cleaned (yours)")->group(group);
+    addConfirmation(app, options.isConfirmed, group);
+    addCommonOptions(app, options.common);
+}
+
+void addHistoryOptions(CLI::App& app, HistoryOptions& options)
+{
+    app.add_option("--limit", options.limit, "The newest so many entries (all)")
+        ->check(countFromOne())
+        ->type_name("N")
+        ->group("What to show");
+    addCommonOptions(app, options.common);
+}
 
 /// The library puts two blank lines between groups, where one is enough.
 std::string helpOf(const CLI::App& app)
@@ -251,57 +240,136 @@ UsageError usageError(std::string message, const CLI::App* command)
     return {std::move(message), fmt::format("Try '{} --help'.", about)};
 }
 
+/// A table shows where things are, which is what it is for.
+std::optional<std::string> complaintOnRedaction(const CommonOptions& options)
+{
+    return options.isRedacted && options.format == OutputFormat::table
+        ? std::optional<std::string>("--redacted needs --format json or csv here: what moves is shown by its path.")
+        : std::nullopt;
+}
+
+std::optional<std::string> settle(CleanOptions& options, const CleanWords& words)
+{
+    const int kinds = int{words.wantsPreselected} + int{words.wantsAll} + int{!options.ids.empty()};
+    if (kinds != 1) {
+        return kinds == 0 ? "What shall be moved? One of --default, --id and --all is needed."
+                          : "--default, --id and --all exclude each other.";
+    }
+    options.selection = words.wantsAll ? CleanSelection::all
+        : words.wantsPreselected       ? CleanSelection::preselected
+                                       : CleanSelection::byId;
+    return complaintOnRedaction(options.scan.common);
+}
+
+std::optional<std::string> settle(RestoreOptions& options, bool wantsAll)
+{
+    if (wantsAll && !options.ids.empty()) {
+        return "--id and --all exclude each other.";
+    }
+    options.selection = wantsAll ? RestoreSelection::all
+        : options.ids.empty()    ? RestoreSelection::none
+                                 : RestoreSelection::byId;
+    if (options.isConfirmed && options.selection == RestoreSelection::none) {
+        return "--yes needs --id or --all.";
+    }
+    return complaintOnRedaction(options.common);
+}
+
 } // namespace
 
 std::expected<Command, UsageError> parseCommandLine(std::span<const std::string> arguments)
 {
-    ScanOptions scanOptions;
-
     CLI::App app(kIntroduction, kProgram);
     const auto formatter = std::make_shared<HelpFormatter>();
-    app.formatter(formatter);
-    app.set_help_flag("-h,--help", "Show this help");
+    const std::string version = fmt::format("{} {}", kProgram, KARVELLO_VERSION);
+    const auto furnish = [&](CLI::App& command, const char* footer) {
+        command.formatter(formatter);
+        command.set_help_flag("-h,--help", "Show this help");
+        command.set_version_flag("--version", version, "Show the version");
+        command.footer(footer);
+    };
+    furnish(app, kProgramFooter);
+    app.require_subcommand(0, 1);
     // A later mention wins, so that an alias can be overruled. Options inherit it.
     app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-    app.set_version_flag("--version", fmt::format("{} {}", kProgram, KARVELLO_VERSION), "Show the version");
-    app.footer(kProgramFooter);
+    const auto addCommand = [&](const char* name, const char* introduction, const char* footer) {
+        CLI::App* const command = app.add_subcommand(name, introduction);
+        furnish(*command, footer);
+        return command;
+    };
 
-    CLI::App* const scan = app.add_subcommand("scan", kScanIntroduction);
-    scan->formatter(formatter);
-    scan->set_help_flag("-h,--help", "Show this help");
-    scan->set_version_flag("--version", fmt::format("{} {}", kProgram, KARVELLO_VERSION), "Show the version");
-    scan->footer(kScanFooter);
+    ScanOptions scanOptions;
+    CLI::App* const scan = addCommand("scan", kScanIntroduction, kScanFooter);
     addScanOptions(*scan, scanOptions);
     addCommonOptions(*scan, scanOptions.common);
+
+    CleanOptions cleanOptions;
+    CleanWords cleanWords;
+    CLI::App* const clean = addCommand("clean", kCleanIntroduction, kCleanFooter);
+    addCleanOptions(*clean, cleanOptions, cleanWords);
+
+    RestoreOptions restoreOptions;
+    bool restoresAll = false;
+    CLI::App* const restore = addCommand("restore", kRestoreIntroduction, kRestoreFooter);
+    addRestoreOptions(*restore, restoreOptions, restoresAll);
+
+    HistoryOptions historyOptions;
+    CLI::App* const history = addCommand("history", kHistoryIntroduction, kHistoryFooter);
+    addHistoryOptions(*history, historyOptions);
 
     if (arguments.empty()) {
         return Information{helpOf(app)};
     }
-    if (!arguments.front().starts_with('-') && arguments.front() != scan->get_name()) {
+    const std::vector<CLI::App*> commands{scan, clean, restore, history};
+    const bool isKnown = std::ranges::find(commands, arguments.front(), [](const CLI::App* each) {
+        return each->get_name();
+    }) != commands.end();
+    if (!arguments.front().starts_with('-') && !isKnown) {
         return std::unexpected(
             usageError(fmt::format("There is no command “{}”.", TerminalText(arguments.front()).string()), nullptr));
     }
 
+    const auto parsedCommand = [&commands]() -> const CLI::App* {
+        const auto found = std::ranges::find_if(commands, [](const CLI::App* each) { return each->parsed(); });
+        return found != commands.end() ? *found : nullptr;
+    };
     // The library takes the words from the back.
     std::vector<std::string> words(arguments.rbegin(), arguments.rend());
     try {
         app.parse(std::move(words));
     } catch (const CLI::CallForHelp&) {
-        return Information{scan->parsed() ? helpOf(*scan) : helpOf(app)};
-    } catch (const CLI::CallForVersion& version) {
-        return Information{std::string(version.what()) + "\n"};
+        const CLI::App* const command = parsedCommand();
+        return Information{helpOf(command != nullptr ? *command : app)};
+    } catch (const CLI::CallForVersion& call) {
+        return Information{std::string(call.what()) + "\n"};
     } catch (const CLI::ArgumentMismatch& error) {
         const std::string_view what = error.what();
-        return std::unexpected(usageError(fmt::format("{} needs a value.", what.substr(0, what.find(':'))), scan));
+        return std::unexpected(
+            usageError(fmt::format("{} needs a value.", what.substr(0, what.find(':'))), parsedCommand()));
     } catch (const CLI::ParseError& error) {
         // The library's sentences hold the user's words as they came.
         const TerminalText message(error.what(), TerminalText::Kind::sentence);
-        return std::unexpected(usageError(message.string() + ".", scan->parsed() ? scan : nullptr));
+        return std::unexpected(usageError(message.string() + ".", parsedCommand()));
     }
-    if (!scan->parsed()) {
-        return Information{helpOf(app)};
+    if (scan->parsed()) {
+        return scanOptions;
     }
-    return scanOptions;
+    if (clean->parsed()) {
+        if (const auto complaint = settle(cleanOptions, cleanWords)) {
+            return std::unexpected(usageError(*complaint, clean));
+        }
+        return cleanOptions;
+    }
+    if (restore->parsed()) {
+        if (const auto complaint = settle(restoreOptions, restoresAll)) {
+            return std::unexpected(usageError(*complaint, restore));
+        }
+        return restoreOptions;
+    }
+    if (history->parsed()) {
+        return historyOptions;
+    }
+    return Information{helpOf(app)};
 }
 
 } // namespace KarvelloCLI

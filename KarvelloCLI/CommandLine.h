@@ -20,7 +20,7 @@ struct UsageError {
     std::string hint;
 };
 
-using Command = std::variant<Information, ScanOptions>;
+using Command = std::variant<Information, ScanOptions, CleanOptions, RestoreOptions, HistoryOptions>;
 
 /// Reads the arguments that follow the program's name. Looks at nothing but the words: no disk, no environment.
 [[nodiscard]] std::expected<Command, UsageError> parseCommandLine(std::span<const std::string> arguments);

@@ -27,6 +27,19 @@ std::string_view renditionOf(Ink ink)
 
 } // namespace
 
+Ink inkOf(CleanerCore::CleanupSafety safety)
+{
+    switch (safety) {
+    case CleanerCore::CleanupSafety::safe:
+        return Ink::safe;
+    case CleanerCore::CleanupSafety::caution:
+        return Ink::caution;
+    case CleanerCore::CleanupSafety::manualReview:
+        break;
+    }
+    return Ink::manualReview;
+}
+
 std::string Painter::operator()(Ink ink, std::string_view text) const
 {
     return m_usesColor && !text.empty() ? fmt::format("\x1b[{}m{}\x1b[0m", renditionOf(ink), text) : std::string(text);

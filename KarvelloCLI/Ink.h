@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CleanerCore/Scan/CleanupSafety.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,6 +10,8 @@ namespace KarvelloCLI {
 
 /// What a piece of text is, for the eye. Colour never says anything that the words do not.
 enum class Ink : std::uint8_t { title, quiet, safe, caution, manualReview, warning };
+
+[[nodiscard]] Ink inkOf(CleanerCore::CleanupSafety safety);
 
 /// Puts text into colour, or leaves it as it is.
 class Painter {

@@ -64,6 +64,7 @@ Interruption::Interruption()
     m_watcher = std::thread([this, readEnd = m_readEnd.get()] { watch(readEnd); });
     install(SIGINT, m_previousInterrupt);
     install(SIGTERM, m_previousTerminate);
+    install(SIGHUP, m_previousHangUp);
 }
 
 Interruption::~Interruption()
@@ -73,6 +74,7 @@ Interruption::~Interruption()
     }
     sigaction(SIGINT, &m_previousInterrupt, nullptr);
     sigaction(SIGTERM, &m_previousTerminate, nullptr);
+    sigaction(SIGHUP, &m_previousHangUp, nullptr);
     writeNote(m_writeEnd.get(), Note::end);
     m_watcher.join();
     noteDescriptor = -1;
@@ -89,7 +91,7 @@ void Interruption::watch(int readEnd)
         if (count != 1 || note == static_cast<char>(Note::end)) {
             return;
         }
-        if (m_stopSource.stop_requested()) {
+        if (m_stopSource.stop_requested() && m_endsAtOnce) {
             _exit(static_cast<int>(ExitCode::interrupted));
         }
         m_stopSource.request_stop();

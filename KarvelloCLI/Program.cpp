@@ -1,10 +1,16 @@
 #include "KarvelloCLI/Program.h"
 
+#include "CleanerCore/Audit/CleanupAuditStore.h"
+#include "KarvelloCLI/CleanCommand.h"
 #include "KarvelloCLI/CommandLine.h"
+#include "KarvelloCLI/HistoryCommand.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/OutputFile.h"
+#include "KarvelloCLI/RestoreCommand.h"
 #include "KarvelloCLI/ScanCommand.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Platform/Linux/LinuxTrash.h"
+#include "Platform/Services/UserDirectories.h"
 
 #include <fcntl.h>
 #include <fmt/format.h>
@@ -18,6 +24,8 @@
 namespace KarvelloCLI {
 
 namespace {
+
+using CleanerCore::CleanupAuditStore;
 
 /// A program may be started with its standard descriptors closed. The first file that it opens would then get one of
 /// their numbers, and messages would go into it. What is put there instead cannot be written to, which writers report.
@@ -59,7 +67,19 @@ ExitCode runProgram(std::span<const std::string> arguments)
     }
     const Platform::PosixFileManager fileManager;
     const Platform::Environment environment = Platform::Environment::current();
-    return ScanCommand(fileManager, environment).run(std::get<ScanOptions>(*command));
+    if (const auto* const options = std::get_if<ScanOptions>(&*command)) {
+        return ScanCommand(fileManager, environment).run(*options);
+    }
+    // Trash and log are those of the user who runs this, whatever home is cleaned.
+    const CleanupAuditStore log(fileManager, CleanupAuditStore::defaultFileURL(environment));
+    if (const auto* const options = std::get_if<HistoryOptions>(&*command)) {
+        return HistoryCommand(fileManager, log, environment).run(*options);
+    }
+    Platform::LinuxTrash trash(fileManager, Platform::dataDirectoryForCurrentUser(environment));
+    if (const auto* const options = std::get_if<CleanOptions>(&*command)) {
+        return CleanCommand(fileManager, trash, log, environment).run(*options);
+    }
+    return RestoreCommand(fileManager, trash, log, environment).run(std::get<RestoreOptions>(*command));
 }
 
 } // namespace KarvelloCLI

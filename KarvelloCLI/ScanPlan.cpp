@@ -3,6 +3,7 @@
 #include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageProfiles.h"
 #include "KarvelloCLI/TerminalText.h"
+#include "KarvelloCLI/WorkingDirectory.h"
 
 #include <fmt/format.h>
 
@@ -41,10 +42,14 @@ ScanLocation plainLocation(const FileURL& root, const ScanOptions& options)
 
 } // namespace
 
-FileURL absoluteFolder(std::string_view words, const FileURL& workingDirectory)
+std::vector<ScanLocation> homeLocations(CleanerCore::CleanupScanMode mode, const FileURL& home, const FileURL& ownHome,
+    const Platform::Environment& environment, const Platform::FileManager& fileManager, const std::stop_token& stop)
 {
-    return words.starts_with('/') ? FileURL::folder(words)
-                                  : workingDirectory.appending(words, Platform::DirectoryHint::isFolder);
+    // This program is only ever handed out directly, never through a store with a sandbox.
+    constexpr bool includesDirectDistribution = true;
+    const bool isOwnHome = home.path() == fileManager.resolvingSymbolicLinks(ownHome).path();
+    return CleanerCore::StorageProfiles::locations(mode, isOwnHome ? ownHome : home, fileManager,
+        isOwnHome ? environment : Platform::Environment{}, includesDirectDistribution, stop);
 }
 
 std::expected<ScanPlan, std::string> ScanPlan::make(const ScanOptions& options, const FileURL& workingDirectory,
@@ -64,12 +69,7 @@ std::expected<ScanPlan, std::string> ScanPlan::make(const ScanOptions& options, 
                 fmt::format("There is no home folder at “{}”.", TerminalText(namedHome.path()).string()));
         }
         plan.subject.mode = options.mode.value_or(CleanerCore::CleanupScanMode::standard);
-        // The variables speak of the home of the user who runs this, by the name that it has for them, and of no other.
-        const bool isOwnHome = home.path() == fileManager.resolvingSymbolicLinks(ownHome).path();
-        // This program is only ever handed out directly, never through a store with a sandbox.
-        constexpr bool includesDirectDistribution = true;
-        plan.locations = CleanerCore::StorageProfiles::locations(*plan.subject.mode, isOwnHome ? ownHome : home,
-            fileManager, isOwnHome ? environment : Platform::Environment{}, includesDirectDistribution, stop);
+        plan.locations = homeLocations(*plan.subject.mode, home, ownHome, environment, fileManager, stop);
     }
 
     for (const FileURL& folder : foldersNamed(options.folders, workingDirectory)) {

@@ -11,7 +11,6 @@
 #include <span>
 #include <stop_token>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace KarvelloCLI {
@@ -37,7 +36,10 @@ struct ScanPlan {
     [[nodiscard]] std::vector<std::string> overlaps() const;
 };
 
-/// The folder that a user means; a relative one counts from `workingDirectory`.
-[[nodiscard]] Platform::FileURL absoluteFolder(std::string_view words, const Platform::FileURL& workingDirectory);
+/// The places of a home, by the mode. The variables of `environment` speak of the home of the user who runs this
+/// (`ownHome`, by the name that it has for them) and of no other. `home` holds no symbolic link.
+[[nodiscard]] std::vector<CleanerCore::ScanLocation> homeLocations(CleanerCore::CleanupScanMode mode,
+    const Platform::FileURL& home, const Platform::FileURL& ownHome, const Platform::Environment& environment,
+    const Platform::FileManager& fileManager, const std::stop_token& stop = {});
 
 } // namespace KarvelloCLI

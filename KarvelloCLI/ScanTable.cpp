@@ -5,13 +5,10 @@
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
 
-#include <fmt/chrono.h>
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include <algorithm>
-#include <cmath>
-#include <ctime>
 #include <span>
 #include <tuple>
 #include <unordered_map>
@@ -29,27 +26,6 @@ constexpr std::size_t kNamedFolders = 4;
 constexpr std::string_view kCandidateLabel = "cleanup-candidate";
 constexpr std::string_view kSkippedLabel = "skipped";
 constexpr std::string_view kSkippedReasonLabel = "skipped-reason";
-
-Ink inkOf(CleanupSafety safety)
-{
-    switch (safety) {
-    case CleanupSafety::safe:
-        return Ink::safe;
-    case CleanupSafety::caution:
-        return Ink::caution;
-    case CleanupSafety::manualReview:
-        break;
-    }
-    return Ink::manualReview;
-}
-
-std::string localTime(Platform::Date date)
-{
-    const auto seconds = static_cast<std::time_t>(std::floor(date.secondsSince1970()));
-    std::tm parts{};
-    localtime_r(&seconds, &parts);
-    return fmt::format("{:%Y-%m-%d %H:%M}", parts);
-}
 
 std::int64_t totalBytes(std::span<const CleanupCandidate> candidates)
 {

@@ -1,6 +1,10 @@
 #include "KarvelloCLI/Words.h"
 
+#include <fmt/chrono.h>
 #include <fmt/format.h>
+
+#include <cmath>
+#include <ctime>
 
 namespace KarvelloCLI {
 
@@ -41,6 +45,14 @@ std::string shortAge(double seconds)
         return fmt::format("{} mo", whole(kMonth));
     }
     return fmt::format("{} y", whole(kYear));
+}
+
+std::string localTime(Platform::Date date)
+{
+    const auto seconds = static_cast<std::time_t>(std::floor(date.secondsSince1970()));
+    std::tm parts{};
+    localtime_r(&seconds, &parts);
+    return fmt::format("{:%Y-%m-%d %H:%M}", parts);
 }
 
 } // namespace KarvelloCLI

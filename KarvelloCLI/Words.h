@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Base/Date.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -12,5 +14,8 @@ namespace KarvelloCLI {
 /// The time between two moments as one number and a unit, at most six columns: "now" below a minute, "5 min", "3 h",
 /// "12 d", "5 mo", "2 y". More than a day below zero is "future".
 [[nodiscard]] std::string shortAge(double seconds);
+
+/// "2026-11-15 22:04" in the user's own time zone.
+[[nodiscard]] std::string localTime(Platform::Date date);
 
 } // namespace KarvelloCLI

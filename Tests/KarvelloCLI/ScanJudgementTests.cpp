@@ -1,4 +1,4 @@
-#include "KarvelloCLI/ScanCommand.h"
+#include "KarvelloCLI/ScanRun.h"
 
 #include "CleanerCore/Safety/CleaningError.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"

@@ -1,5 +1,6 @@
 #include "KarvelloCLI/ScanPlan.h"
 
+#include "KarvelloCLI/WorkingDirectory.h"
 #include "Platform/Files/PosixFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 

@@ -1,0 +1,88 @@
+#include "KarvelloCLI/AuditLog.h"
+
+#include "CleanerCore/Audit/LossyCleanupAuditEntryList.h"
+#include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/TerminalText.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <string_view>
+#include <tuple>
+#include <utility>
+
+namespace KarvelloCLI {
+
+namespace {
+
+using CleanerCore::CleanupAuditEntry;
+using CleanerCore::CleanupAuditStore;
+using CleanerCore::LossyCleanupAuditEntryList;
+
+std::string complaintOn(const Platform::FileURL& log, std::string_view what)
+{
+    return fmt::format("The log {}: {}", what, TerminalText(log.path()).string());
+}
+
+std::vector<CleanupAuditEntry> newest(std::vector<CleanupAuditEntry> entries, std::int64_t limit)
+{
+    std::ranges::stable_sort(entries, std::ranges::greater{}, &CleanupAuditEntry::occurredAt);
+    if (entries.size() > static_cast<std::size_t>(limit)) {
+        entries.resize(static_cast<std::size_t>(limit));
+    }
+    return entries;
+}
+
+} // namespace
+
+AuditLogReading AuditLogReading::of(
+    const CleanupAuditStore& store, const Platform::FileManager& fileManager, std::int64_t limit)
+{
+    const auto& log = store.fileURL();
+    AuditLogReading reading;
+    const auto bytes = fileManager.readFile(log, CleanupAuditStore::kMaximumBytes);
+    if (!bytes) {
+        switch (bytes.error().kind) {
+        case Platform::FileErrorKind::noSuchFile:
+            break;
+        case Platform::FileErrorKind::tooLarge:
+            reading.complaint = complaintOn(log, "is too large to be one of Karvello's; the next clean moves it aside");
+            break;
+        default:
+            reading.complaint = complaintOn(log, "could not be read; the next clean moves it aside");
+            break;
+        }
+        return reading;
+    }
+    if (bytes->empty()) {
+        return reading;
+    }
+    auto list = LossyCleanupAuditEntryList::read(*bytes);
+    if (!list) {
+        reading.complaint = complaintOn(log, "is damaged, nothing in it can be read; the next clean moves it aside");
+    } else if (list->completeness == LossyCleanupAuditEntryList::Completeness::lossy) {
+        // The store would tidy the file, and what is unreadable to this program would be gone.
+        reading.complaint = complaintOn(
+            log, "is damaged or of a newer version; what could be read is shown, and the next clean keeps a copy");
+        reading.entries = newest(std::move(list->entries), limit);
+    } else {
+        reading.entries = store.loadEntries(limit);
+    }
+    return reading;
+}
+
+Logged appendToAuditLog(
+    const CleanupAuditStore& store, const CleanupAuditEntry& entry, const Platform::FileManager& fileManager)
+{
+    std::ignore = store.append(entry.storageSafeForAuditPersistence(), CleanupAuditStore::defaultLimit);
+    const auto entries = AuditLogReading::of(store, fileManager).entries;
+    if (std::ranges::find(entries, entry.id, &CleanupAuditEntry::id) != entries.end()) {
+        return Logged::yes;
+    }
+    printMessage(fmt::format(
+        "This run could not be logged: {}. History does not show it, and restore does not know of its items.",
+        TerminalText(store.fileURL().path()).string()));
+    return Logged::no;
+}
+
+} // namespace KarvelloCLI

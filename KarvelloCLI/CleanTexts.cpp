@@ -1,0 +1,198 @@
+#include "KarvelloCLI/CleanTexts.h"
+
+#include "CleanerCore/Audit/CleanupAuditEntry.h"
+#include "CleanerCore/Cleaning/CleanupSelectionPreview.h"
+#include "KarvelloCLI/ItemLines.h"
+#include "KarvelloCLI/Words.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace KarvelloCLI {
+
+namespace {
+
+using CleanerCore::CleanedItem;
+using CleanerCore::CleanResult;
+using CleanerCore::CleanupCandidate;
+using CleanerCore::CleanupSafety;
+using CleanerCore::CleanupSelectionPreview;
+using CleanerCore::FailedCleanItem;
+
+std::string countAndSize(std::int64_t count, std::int64_t bytes, const TextStyle& style)
+{
+    return fmt::format("{}, {}", counted(static_cast<std::size_t>(count), "item"), style.size(bytes));
+}
+
+std::string countAndSize(std::span<const CleanupCandidate> candidates, const TextStyle& style)
+{
+    const CleanupSelectionPreview preview(candidates);
+    return countAndSize(preview.count, preview.bytes, style);
+}
+
+std::string kinds(const CleanupSelectionPreview& preview, const TextStyle& style)
+{
+    std::vector<ItemLines::Item> items;
+    for (const auto& summary : preview.categorySummaries) {
+        items.push_back({.size = style.size(summary.bytes),
+            .age = {},
+            .words = fmt::format(
+                "{}: {}", displayName(summary.category), counted(static_cast<std::size_t>(summary.count), "item")),
+            .notes = {}});
+    }
+    return ItemLines(std::move(items)).text();
+}
+
+std::string group(std::span<const CleanupCandidate> candidates, Platform::Date scannedAt, const TextStyle& style)
+{
+    std::vector<ItemLines::Item> items;
+    for (const CleanupCandidate& candidate : candidates) {
+        items.push_back({.mark = candidate.requiresManualReview() ? "!" : " ",
+            .size = style.size(candidate.sizeBytes),
+            .age = candidate.lastModified ? shortAge(scannedAt.secondsSince(*candidate.lastModified)) : "-",
+            .words = style.path(candidate.url),
+            .notes = {}});
+    }
+    const CleanupSafety safety = candidates.front().safety;
+    return fmt::format("{}: {}\n{}", style.painter(inkOf(safety), displayName(safety)), countAndSize(candidates, style),
+        ItemLines(std::move(items)).text());
+}
+
+std::string reviewNotice(std::span<const CleanupCandidate> candidates, const TextStyle& style)
+{
+    const auto count = std::ranges::count_if(candidates, &CleanupCandidate::requiresManualReview);
+    if (count == 0) {
+        return {};
+    }
+    return "\n"
+        + style.paragraph(fmt::format("! {} for manual review: only you can tell whether it may go.",
+                              count == 1 ? "1 item is" : fmt::format("{} items are", count)),
+            0, Ink::manualReview);
+}
+
+/// A heading and its items, of which a text that is not verbose names the first.
+std::string moved(std::span<const CleanedItem> cleaned, const CleanResult& result, const TextStyle& style)
+{
+    const std::size_t shown = style.isVerbose ? cleaned.size() : std::min(cleaned.size(), kShownMovedItems);
+    std::vector<ItemLines::Item> items;
+    for (const CleanedItem& item : cleaned.first(shown)) {
+        ItemLines::Item line{.size = style.size(item.candidate.sizeBytes),
+            .age = {},
+            .words = style.path(item.candidate.url),
+            .notes = {}};
+        if (style.isVerbose && item.destinationURL) {
+            line.notes.push_back("now at " + style.path(*item.destinationURL));
+        }
+        items.push_back(std::move(line));
+    }
+    std::string text = fmt::format("{}: {}\n{}", style.painter(Ink::safe, "Moved to the Trash"),
+        countAndSize(static_cast<std::int64_t>(cleaned.size()), result.reclaimedBytes(), style),
+        ItemLines(std::move(items)).text());
+    if (shown < cleaned.size()) {
+        text += style.paragraph(
+            fmt::format("and {}; --verbose names each.", counted(cleaned.size() - shown, "more item")), 2);
+    }
+    return text;
+}
+
+std::string refused(std::span<const FailedCleanItem> failed, const TextStyle& style)
+{
+    std::vector<CleanupCandidate> candidates;
+    std::vector<ItemLines::Item> items;
+    for (const FailedCleanItem& item : failed) {
+        candidates.push_back(item.candidate);
+        items.push_back({.size = style.size(item.candidate.sizeBytes),
+            .age = {},
+            .words = style.path(item.candidate.url),
+            .notes = {TerminalText(item.reason, TerminalText::Kind::sentence).string()}});
+    }
+    return fmt::format("{}: {}\n{}", style.painter(Ink::warning, "Refused or failed"), countAndSize(candidates, style),
+        ItemLines(std::move(items)).text());
+}
+
+std::string notReached(std::span<const CleanupCandidate> requested, const CleanResult& result, const TextStyle& style)
+{
+    std::unordered_set<std::string_view> reached;
+    for (const CleanedItem& item : result.cleanedItems) {
+        reached.insert(item.candidate.id);
+    }
+    for (const FailedCleanItem& item : result.failedItems) {
+        reached.insert(item.candidate.id);
+    }
+    std::vector<CleanupCandidate> candidates;
+    std::vector<ItemLines::Item> items;
+    for (const CleanupCandidate& candidate : requested) {
+        if (!reached.contains(candidate.id)) {
+            candidates.push_back(candidate);
+            items.push_back(
+                {.size = style.size(candidate.sizeBytes), .age = {}, .words = style.path(candidate.url), .notes = {}});
+        }
+    }
+    if (candidates.empty()) {
+        return {};
+    }
+    return fmt::format("{}: {}\n{}", style.painter(Ink::warning, "Not reached, still in place"),
+        countAndSize(candidates, style), ItemLines(std::move(items)).text());
+}
+
+} // namespace
+
+std::string cleanPreview(std::span<const CleanupCandidate> candidates, Platform::Date scannedAt, const TextStyle& style)
+{
+    const CleanupSelectionPreview preview(candidates);
+    std::string text = style.painter(Ink::title, "To the Trash") + ": "
+        + countAndSize(preview.count, preview.bytes, style) + "\n" + kinds(preview, style);
+    // They come by safety.
+    while (!candidates.empty()) {
+        const auto end = std::ranges::find_if(candidates,
+            [safety = candidates.front().safety](const CleanupCandidate& each) { return each.safety != safety; });
+        const auto count = static_cast<std::size_t>(end - candidates.begin());
+        text += '\n';
+        text += group(candidates.first(count), scannedAt, style);
+        text += reviewNotice(candidates.first(count), style);
+        candidates = candidates.subspan(count);
+    }
+    return text;
+}
+
+std::string cleanQuestion(std::span<const CleanupCandidate> candidates, const TextStyle& style)
+{
+    const CleanupSelectionPreview preview(candidates);
+    return fmt::format("Move {} ({}) to the Trash?", counted(static_cast<std::size_t>(preview.count), "item"),
+        style.size(preview.bytes));
+}
+
+std::string cleanAccount(std::span<const CleanupCandidate> requested, const CleanResult& result, const TextStyle& style)
+{
+    std::string text;
+    const auto append = [&text](const std::string& section) {
+        text += text.empty() || section.empty() ? section : "\n" + section;
+    };
+    if (!result.cleanedItems.empty()) {
+        append(moved(result.cleanedItems, result, style));
+    }
+    if (!result.failedItems.empty()) {
+        append(refused(result.failedItems, style));
+    }
+    append(notReached(requested, result, style));
+    if (result.cleanedItems.empty()) {
+        append(style.paragraph("Nothing was moved to the Trash."));
+        return text;
+    }
+    append(style.paragraph("The space returns when the Trash is emptied. Until then, karvello-cli restore puts "
+                           "things back."));
+    const std::size_t kept = CleanerCore::CleanupAuditEntry::cleanedItemLimit;
+    if (result.cleanedItems.size() > kept) {
+        text += style.paragraph(fmt::format("The log keeps the first {} items of a clean; the others can be put back "
+                                            "from the Trash of the desktop.",
+            kept));
+    }
+    return text;
+}
+
+} // namespace KarvelloCLI

@@ -1,0 +1,70 @@
+#include "KarvelloCLI/CommandOutput.h"
+
+#include "CleanerCore/Audit/CleanupAuditExporter.h"
+#include "KarvelloCLI/Messages.h"
+
+#include <fmt/format.h>
+
+#include <system_error>
+
+namespace KarvelloCLI {
+
+namespace {
+
+std::string wordsOf(const Platform::FileError& error)
+{
+    return error.systemError != 0 ? std::generic_category().message(error.systemError) : error.localizedDescription();
+}
+
+} // namespace
+
+std::optional<OutputFile> openOutput(
+    const CommonOptions& options, const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager)
+{
+    if (!options.output) {
+        return OutputFile::standardOutput();
+    }
+    const std::string path =
+        options.output->starts_with('/') ? *options.output : workingDirectory.path() + "/" + *options.output;
+    auto named = OutputFile::named(path, fileManager);
+    if (!named) {
+        printMessage(fmt::format("--output: {}.", named.error()));
+        return std::nullopt;
+    }
+    return *std::move(named);
+}
+
+Delivery deliver(std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager)
+{
+    if (const auto written = output.write(data, fileManager); !written) {
+        printMessage(fmt::format("{} could not be written: {}.", output.name(), wordsOf(written.error())));
+        return Delivery::failed;
+    }
+    return Delivery::written;
+}
+
+Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries, const CommonOptions& options,
+    const OutputFile& output, const Platform::FileManager& fileManager)
+{
+    const auto data = CleanerCore::CleanupAuditExporter::data(
+        entries, exportFormat(options), exportPrivacy(options), Platform::Date::now());
+    if (!data) {
+        printMessage(data.error().localizedDescription());
+        return Delivery::failed;
+    }
+    return deliver(*data, output, fileManager);
+}
+
+CleanerCore::ScanResultExportFormat exportFormat(const CommonOptions& options)
+{
+    using enum CleanerCore::ScanResultExportFormat;
+    return options.format == OutputFormat::json ? json : csv;
+}
+
+CleanerCore::ReportExportPrivacyMode exportPrivacy(const CommonOptions& options)
+{
+    using enum CleanerCore::ReportExportPrivacyMode;
+    return options.isRedacted ? redacted : full;
+}
+
+} // namespace KarvelloCLI

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "CleanerCore/Audit/CleanupAuditEntry.h"
+#include "CleanerCore/Export/ReportExportPrivacyMode.h"
+#include "CleanerCore/Export/ScanResultExportFormat.h"
+#include "KarvelloCLI/Options.h"
+#include "KarvelloCLI/OutputFile.h"
+#include "Platform/Base/FileURL.h"
+#include "Platform/Files/FileManager.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace KarvelloCLI {
+
+enum class Delivery : std::uint8_t { written, failed };
+
+/// Where the options send the data. Nothing, after a message to the user, if that cannot be written to.
+[[nodiscard]] std::optional<OutputFile> openOutput(
+    const CommonOptions& options, const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager);
+
+/// Writes all of it; a failure is told to the user.
+[[nodiscard]] Delivery deliver(
+    std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager);
+
+/// Writes entries of the log in the form for programs that the options name; a failure is told to the user.
+[[nodiscard]] Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries,
+    const CommonOptions& options, const OutputFile& output, const Platform::FileManager& fileManager);
+
+/// What the options ask of an export. Meaningless for a table.
+[[nodiscard]] CleanerCore::ScanResultExportFormat exportFormat(const CommonOptions& options);
+[[nodiscard]] CleanerCore::ReportExportPrivacyMode exportPrivacy(const CommonOptions& options);
+
+} // namespace KarvelloCLI

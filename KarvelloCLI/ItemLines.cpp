@@ -1,0 +1,48 @@
+#include "KarvelloCLI/ItemLines.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace KarvelloCLI {
+
+namespace {
+
+constexpr std::size_t kMarkWidth = 2;
+constexpr std::size_t kGap = 2;
+
+} // namespace
+
+ItemLines::ItemLines(std::vector<Item> items)
+    : m_items(std::move(items))
+{
+    for (const Item& item : m_items) {
+        m_sizeWidth = std::max(m_sizeWidth, item.size.size());
+        m_ageWidth = std::max(m_ageWidth, item.age.size());
+    }
+}
+
+std::size_t ItemLines::indent() const
+{
+    return kMarkWidth + m_sizeWidth + kGap + (m_ageWidth > 0 ? m_ageWidth + kGap : 0);
+}
+
+std::string ItemLines::text() const
+{
+    std::string text;
+    for (const Item& item : m_items) {
+        text += fmt::format("{} {:>{}}  ", item.mark, item.size, m_sizeWidth);
+        if (m_ageWidth > 0) {
+            text += fmt::format("{:>{}}  ", item.age, m_ageWidth);
+        }
+        text += item.words;
+        text += '\n';
+        for (const std::string& note : item.notes) {
+            text += fmt::format("{:{}}{}\n", "", indent(), note);
+        }
+    }
+    return text;
+}
+
+} // namespace KarvelloCLI

@@ -1,0 +1,107 @@
+#include "KarvelloCLI/RestoreCatalog.h"
+
+#include "KarvelloCLI/TerminalText.h"
+
+#include <fmt/format.h>
+
+#include <unordered_set>
+#include <utility>
+
+namespace KarvelloCLI {
+
+using CleanerCore::CleanedItem;
+using CleanerCore::CleanupAuditEntry;
+
+namespace {
+
+bool keepsItems(const CleanupAuditEntry& entry)
+{
+    return entry.operation == CleanerCore::CleanupAuditOperation::clean && !entry.cleanedItems.empty();
+}
+
+} // namespace
+
+RestoreCatalog::RestoreCatalog(std::span<const CleanupAuditEntry> entries, const Rehearse& rehearse)
+{
+    std::vector<CleanedItem> all;
+    for (const CleanupAuditEntry& entry : entries) {
+        if (keepsItems(entry)) {
+            all.insert(all.end(), entry.cleanedItems.begin(), entry.cleanedItems.end());
+        }
+    }
+    const CleanerCore::RestoreResult rehearsed = rehearse(all);
+
+    // Both lists keep the order of the items.
+    auto failed = rehearsed.failedItems.begin();
+    for (const CleanupAuditEntry& entry : entries) {
+        if (!keepsItems(entry)) {
+            continue;
+        }
+        RecordedClean clean{
+            .entry = entry.id, .occurredAt = entry.occurredAt, .movedCount = entry.succeededItemCount, .items = {}};
+        for (const CleanedItem& item : entry.cleanedItems) {
+            RecordedItem recorded{.item = item, .obstacle = std::nullopt};
+            if (failed != rehearsed.failedItems.end() && failed->cleanedItem == item) {
+                recorded.obstacle = failed->reason;
+                ++failed;
+            }
+            clean.items.push_back(std::move(recorded));
+        }
+        m_cleans.push_back(std::move(clean));
+    }
+}
+
+RestoreCatalog::Selection RestoreCatalog::everything() const
+{
+    Selection selection;
+    for (const RecordedClean& clean : m_cleans) {
+        for (const RecordedItem& recorded : clean.items) {
+            if (!recorded.obstacle) {
+                selection.items.push_back(recorded.item);
+            }
+        }
+    }
+    return selection;
+}
+
+RestoreCatalog::Selection RestoreCatalog::named(std::span<const std::string> ids) const
+{
+    Selection selection;
+    std::unordered_set<std::string> done;
+    for (const std::string& id : ids) {
+        if (!done.insert(id).second) {
+            continue;
+        }
+        const RecordedItem* found = nullptr;
+        for (const RecordedClean& clean : m_cleans) {
+            for (const RecordedItem& recorded : clean.items) {
+                const bool isBetter = found == nullptr || (found->obstacle && !recorded.obstacle);
+                if (recorded.item.candidate.id == id && isBetter) {
+                    found = &recorded;
+                }
+            }
+        }
+        if (found == nullptr) {
+            selection.complaints.push_back(
+                fmt::format("The log keeps no item with the id “{}”.", TerminalText(id).string()));
+        } else if (found->obstacle) {
+            selection.complaints.push_back(TerminalText(*found->obstacle, TerminalText::Kind::sentence).string());
+        } else {
+            selection.items.push_back(found->item);
+        }
+    }
+    return selection;
+}
+
+std::optional<std::int64_t> totalBytes(std::span<const CleanedItem> items)
+{
+    std::int64_t sum = 0;
+    for (const CleanedItem& item : items) {
+        if (__builtin_add_overflow(sum, item.candidate.sizeBytes, &sum)) {
+            return std::nullopt;
+        }
+    }
+    return sum;
+}
+
+} // namespace KarvelloCLI

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "CleanerCore/Audit/CleanupAuditStore.h"
+#include "CleanerCore/Cleaning/RestoreResult.h"
+#include "KarvelloCLI/ExitCode.h"
+#include "KarvelloCLI/Options.h"
+#include "Platform/Files/FileManager.h"
+#include "Platform/Files/Trash.h"
+#include "Platform/Services/Environment.h"
+
+namespace KarvelloCLI {
+
+/// The command "restore": lists what the log keeps of cleans, or shows what would go back, asks, puts it back, tells what
+/// became of each item and logs it. Handles the signals that `Interruption` names while it works.
+class RestoreCommand {
+public:
+    /// All must outlive the command.
+    RestoreCommand(const Platform::FileManager& fileManager, Platform::Trash& trash,
+        const CleanerCore::CleanupAuditStore& log, const Platform::Environment& environment)
+        : m_fileManager(fileManager)
+        , m_trash(trash)
+        , m_log(log)
+        , m_environment(environment)
+    {
+    }
+
+    [[nodiscard]] ExitCode run(const RestoreOptions& options) const;
+
+private:
+    const Platform::FileManager& m_fileManager;
+    Platform::Trash& m_trash;
+    const CleanerCore::CleanupAuditStore& m_log;
+    const Platform::Environment& m_environment;
+};
+
+/// What the shell is told of a restore that was carried out.
+[[nodiscard]] ExitCode exitCodeOf(const CleanerCore::RestoreResult& result);
+
+} // namespace KarvelloCLI

@@ -1,0 +1,129 @@
+#include "KarvelloCLI/ScanRun.h"
+
+#include "CleanerCore/Scan/StorageScanner.h"
+#include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/OutputFile.h"
+#include "KarvelloCLI/ProgressLine.h"
+#include "KarvelloCLI/SkipKind.h"
+#include "Platform/Services/HomeDirectory.h"
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
+#include <utility>
+
+namespace KarvelloCLI {
+
+namespace {
+
+using CleanerCore::ScanReport;
+using CleanerCore::SkippedItem;
+using Platform::FileURL;
+
+ProgressLine::Settings progressSettings(
+    const CommonOptions& options, const FileURL& home, const Platform::Environment& environment)
+{
+    const Terminal terminal = Terminal::of(STDERR_FILENO, environment);
+    ProgressLine::Settings settings;
+    if (options.progress != When::never) {
+        if (terminal.understandsEscapes) {
+            settings.style = ProgressLine::Style::rewritten;
+        } else if (options.progress == When::always) {
+            settings.style = ProgressLine::Style::appended;
+        }
+    }
+    if (!options.isRedacted) {
+        settings.paths.emplace(home);
+    }
+    settings.columns = [&environment] { return terminalColumns(STDERR_FILENO, environment); };
+    settings.write = [](std::string_view text) { std::ignore = writeWholly(STDERR_FILENO, text); };
+    return settings;
+}
+
+/// The reason, with the path where it does not name it itself.
+std::string sentenceOn(const SkippedItem& item)
+{
+    const std::string reason = TerminalText(item.reason, TerminalText::Kind::sentence).string();
+    const std::string path = TerminalText(item.url.path()).string();
+    return item.reason.ends_with(item.url.path()) ? reason : fmt::format("{}: {}", reason, path);
+}
+
+/// A refused folder often is one that the user reaches through a link, where the folder itself would do.
+std::optional<std::string> hintForLink(const FileURL& folder, const Platform::FileManager& fileManager)
+{
+    const FileURL real = fileManager.resolvingSymbolicLinks(folder);
+    if (real.path() == folder.path() || !fileManager.directoryExists(real)) {
+        return std::nullopt;
+    }
+    return fmt::format("Its path leads through a symbolic link, and none is followed; the folder itself is {}",
+        TerminalText(real.path()).string());
+}
+
+} // namespace
+
+ScanJudgement ScanJudgement::of(const ScanReport& report, const ScanPlan& plan)
+{
+    ScanJudgement judgement;
+    judgement.refusals = plan.refusedFolders;
+    for (const SkippedItem& item : report.skippedItems) {
+        switch (skipKind(item.reason)) {
+        case SkipKind::protection:
+            break;
+        case SkipKind::refusal:
+            if (std::ranges::find(plan.roots, item.url.path(), &FileURL::path) != plan.roots.end()) {
+                judgement.refusals.push_back(item);
+            }
+            break;
+        case SkipKind::failure:
+            ++judgement.failures;
+            break;
+        }
+    }
+    const bool nothingElse = !plan.subject.mode;
+    if (nothingElse && !judgement.refusals.empty() && judgement.refusals.size() == plan.subject.folders.size()) {
+        judgement.exitCode = ExitCode::refused;
+    } else if (!judgement.refusals.empty() || judgement.failures > 0) {
+        judgement.exitCode = ExitCode::partial;
+    }
+    return judgement;
+}
+
+void ScanJudgement::tellRefusals(const Platform::FileManager& fileManager) const
+{
+    for (const SkippedItem& refusal : refusals) {
+        printMessage(fmt::format("Not scanned: {}", sentenceOn(refusal)));
+        if (const auto hint = hintForLink(refusal.url, fileManager)) {
+            printMessage(*hint);
+        }
+    }
+}
+
+std::expected<ScanRun, std::string> ScanRun::perform(const ScanOptions& options, const FileURL& workingDirectory,
+    const Platform::FileManager& fileManager, const Platform::Environment& environment, const std::stop_token& stop)
+{
+    auto plan = ScanPlan::make(
+        options, workingDirectory, Platform::homeDirectoryForCurrentUser(), environment, fileManager, stop);
+    if (!plan) {
+        return std::unexpected(plan.error());
+    }
+    for (const std::string& sentence : plan->overlaps()) {
+        printMessage(sentence);
+    }
+    ScanRun run{.plan = *std::move(plan), .report = {}, .judgement = {}};
+    {
+        ProgressLine progress(progressSettings(options.common, run.plan.subject.home, environment));
+        const CleanerCore::StorageScanner scanner(fileManager, {.jobs = options.common.jobs});
+        run.report = scanner.scan(
+            run.plan.locations, Platform::Date::now(), [&](const auto& step) { progress.report(step); }, stop,
+            run.plan.subject.home);
+    }
+    run.plan.subject.isIncomplete = stop.stop_requested();
+    run.judgement = ScanJudgement::of(run.report, run.plan);
+    run.plan.subject.isRefused = run.judgement.exitCode == ExitCode::refused;
+    return run;
+}
+
+} // namespace KarvelloCLI

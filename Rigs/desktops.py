@@ -5,10 +5,10 @@ All of them work on a home of their own, with its own variables and its own sess
 
 import json
 import os
-import pathlib
 import shutil
 import subprocess
 import sys
+import tempfile
 import time
 import urllib.parse
 
@@ -34,15 +34,14 @@ def is_text(name):
 
 
 class Desk:
-    def __init__(self, program):
-        self.home = scene.Home(program)
-        self.environment = dict(os.environ, HOME=str(self.home.path), XDG_DATA_HOME=str(self.home.path / "data"))
+    def __init__(self, program, path):
+        self.home = scene.Home(program, path=path)
         self.files = os.fsencode(self.home.trash / "files")
 
     def tool(self, *words, answer=None):
         """What the tool wrote; nothing if it hangs, as trash-cli does over the longest names."""
         try:
-            return subprocess.run(words, capture_output=True, env=self.environment, timeout=SECONDS, input=answer).stdout
+            return subprocess.run(words, capture_output=True, timeout=SECONDS, input=answer).stdout
         except subprocess.TimeoutExpired:
             return b""
 
@@ -133,16 +132,30 @@ def to_tool(desk, tool):
                 offences.append(f"{path!r} came back changed by way of {tool}")
             restored += 1
         else:
-            # What the tool cannot do for its own items either is its own limit.
-            code, fields = desk.karvello("putback-item", place, path)
-            if code != 0:
-                offences.append(f"{path!r} is restored neither by {tool} nor here: {fields}")
-            own = desk.trash(tool, path)
-            if own is not None and desk.restore(tool, own, path):
-                offences.append(f"{tool} restores {path!r} only if it has trashed it itself")
+            offences += offences_beyond(desk, tool, place, path, before)
             beyond.append(os.path.basename(path))
         clear(desk)
     return restored, beyond, offences
+
+
+def offences_beyond(desk, tool, place, path, before):
+    """What a tool does not bring back must still be somewhere, and beyond it as well where it has trashed it itself."""
+    found = []
+    if os.path.lexists(place):
+        code, fields = desk.karvello("putback-item", place, path)
+        if code != 0 or fingerprint(path) != before:
+            found.append(f"{path!r} is restored neither by {tool} nor here: {fields}")
+    else:
+        # gio writes some names with escapes when it restores them.
+        renamed = [entry for entry in desk.home.caches.iterdir() if scene.contents(entry) == before]
+        if len(renamed) != 1:
+            found.append(f"{path!r} is lost by way of {tool}")
+    clear(desk)
+    make(desk, os.path.basename(path))
+    own = desk.trash(tool, path)
+    if own is not None and desk.restore(tool, own, path):
+        found.append(f"{tool} restores {path!r} only if it has trashed it itself")
+    return found
 
 
 def from_tool(desk, tool):
@@ -196,32 +209,39 @@ def naive_failures(desk):
     return failures
 
 
-def inner(program):
-    desk = Desk(program)
-    with desk.home:
-        lines = []
-        offences = []
-        for tool in TOOLS:
-            restored, beyond, found = to_tool(desk, tool)
-            offences += found
-            lines.append(f"trashed here, restored by {tool}: {restored}, beyond {tool}: {len(beyond)} {beyond}")
-            restored, refused, beyond, found = from_tool(desk, tool)
-            offences += found
-            lines.append(f"trashed by {tool}: restored here {restored}, refused {refused}, "
-                         f"beyond {tool}: {len(beyond)} {beyond}")
-        offences += orphan_offences(desk)
-        return {"lines": lines, "offences": offences, "naive": naive_failures(desk)}
+def shown(names):
+    return f"{len(names)} {[name[:24] for name in names]}"
+
+
+def inner(program, path):
+    """To be run in a session whose home is `path`."""
+    desk = Desk(program, path)
+    lines = []
+    offences = []
+    for tool in TOOLS:
+        restored, beyond, found = to_tool(desk, tool)
+        offences += found
+        if restored < len(NAMES) / 2:
+            offences.append(f"{tool} restored only {restored}: it cannot have worked")
+        lines.append(f"trashed here, restored by {tool}: {restored}, beyond {tool}: {shown(beyond)}")
+        restored, refused, beyond, found = from_tool(desk, tool)
+        offences += found
+        if restored + refused < len(NAMES) / 2:
+            offences.append(f"{tool} trashed only {restored + refused}: it cannot have worked")
+        lines.append(f"trashed by {tool}: restored here {restored}, refused {refused}, beyond {tool}: {shown(beyond)}")
+    offences += orphan_offences(desk)
+    return {"lines": lines, "offences": offences, "naive": naive_failures(desk)}
 
 
 def run(program, mode):
     for tool in ("gio", "trash-put", "trash-restore", "dbus-run-session"):
         if not shutil.which(tool):
             raise scene.Unavailable(f"{tool} is missing (scripts/install-packages test)")
-    with scene.Home(program) as home:
-        environment = dict(os.environ, HOME=str(home.path), XDG_RUNTIME_DIR=str(home.path), LC_ALL="C.UTF-8",
-                           XDG_DATA_HOME=str(home.path / "data"), XDG_CONFIG_HOME=str(home.path / "config"))
-        done = subprocess.run(["dbus-run-session", "--", sys.executable, "-B", __file__, program], env=environment,
-                              capture_output=True, timeout=600)
+    with tempfile.TemporaryDirectory(prefix="karvello-rig-", ignore_cleanup_errors=True) as folder:
+        environment = dict(os.environ, HOME=folder, XDG_RUNTIME_DIR=folder, XDG_DATA_HOME=f"{folder}/data",
+                           XDG_CONFIG_HOME=f"{folder}/config", XDG_CACHE_HOME=f"{folder}/cache", LC_ALL="C.UTF-8")
+        done = subprocess.run(["dbus-run-session", "--", sys.executable, "-B", __file__, program, folder],
+                              env=environment, capture_output=True, timeout=600)
     if done.returncode != 0:
         raise RuntimeError(done.stderr.decode(errors="replace")[-3000:])
     result = json.loads(done.stdout)
@@ -233,4 +253,4 @@ def run(program, mode):
 
 
 if __name__ == "__main__":
-    json.dump(inner(sys.argv[1]), sys.stdout, default=repr)
+    json.dump(inner(sys.argv[1], sys.argv[2]), sys.stdout, default=repr)

@@ -43,9 +43,10 @@ def make_item(kind, path):
 
 
 class Home:
-    def __init__(self, program, below=None):
+    def __init__(self, program, below=None, path=None):
+        """A new folder in `below`, or the empty folder `path`."""
         self.program = program
-        self.path = pathlib.Path(tempfile.mkdtemp(prefix="karvello-rig-", dir=below))
+        self.path = pathlib.Path(path or tempfile.mkdtemp(prefix="karvello-rig-", dir=below))
         self.caches = self.path / "Caches"
         self.trash = self.path / "data/Trash"
         self.log = self.path / "data/Karvello/cleanup-audit-log.json"

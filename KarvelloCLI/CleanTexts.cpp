@@ -70,8 +70,9 @@ std::string reviewNotice(std::span<const CleanupCandidate> candidates, const Tex
         return {};
     }
     return "\n"
-        + style.paragraph(fmt::format("! {} for manual review: only you can tell whether it may go.",
-                              count == 1 ? "1 item is" : fmt::format("{} items are", count)),
+        + style.paragraph(
+            fmt::format("! {} your own review: only you can tell whether {} may go.",
+                count == 1 ? "1 item needs" : fmt::format("{} items need", count), count == 1 ? "it" : "they"),
             0, Ink::manualReview);
 }
 
@@ -147,6 +148,7 @@ std::string cleanPreview(std::span<const CleanupCandidate> candidates, Platform:
     const CleanupSelectionPreview preview(candidates);
     std::string text = style.painter(Ink::title, "To the Trash") + ": "
         + countAndSize(preview.count, preview.bytes, style) + "\n" + kinds(preview, style);
+    const std::string notice = reviewNotice(candidates, style);
     // They come by safety.
     while (!candidates.empty()) {
         const auto end = std::ranges::find_if(candidates,
@@ -154,10 +156,9 @@ std::string cleanPreview(std::span<const CleanupCandidate> candidates, Platform:
         const auto count = static_cast<std::size_t>(end - candidates.begin());
         text += '\n';
         text += group(candidates.first(count), scannedAt, style);
-        text += reviewNotice(candidates.first(count), style);
         candidates = candidates.subspan(count);
     }
-    return text;
+    return text + notice;
 }
 
 std::string cleanQuestion(std::span<const CleanupCandidate> candidates, const TextStyle& style)

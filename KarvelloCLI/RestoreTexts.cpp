@@ -63,8 +63,8 @@ std::string section(std::string_view heading, Ink ink, std::vector<ItemLines::It
     if (items.empty()) {
         return {};
     }
-    return fmt::format(
-        "{}: {}\n{}", style.painter(ink, heading), counted(items.size(), "item"), ItemLines(std::move(items)).text());
+    const std::string count = counted(items.size(), "item");
+    return fmt::format("{}: {}\n{}", style.painter(ink, heading), count, ItemLines(std::move(items)).text());
 }
 
 } // namespace

@@ -142,8 +142,13 @@ RunningProgram::RunningProgram(const ProgramSettings& settings)
     const std::string folder = settings.workingDirectory.empty() ? "/" : settings.workingDirectory;
 
     Stream output = outputStream(settings);
-    Stream messages = settings.messagesOnTerminal ? makeTerminal(kColumnsOfMessages) : makePipe();
-    const FileDescriptor input(open("/dev/null", O_RDONLY | O_CLOEXEC));
+    const bool onTerminal = settings.messagesOnTerminal || settings.isAttended;
+    Stream messages = onTerminal ? makeTerminal(kColumnsOfMessages) : makePipe();
+    FileDescriptor input(open("/dev/null", O_RDONLY | O_CLOEXEC));
+    if (settings.isAttended) {
+        m_keyboard = FileDescriptor(fcntl(messages.reader.get(), F_DUPFD_CLOEXEC, 0));
+        input = FileDescriptor(fcntl(messages.writer.get(), F_DUPFD_CLOEXEC, 0));
+    }
 
     m_process = fork();
     if (m_process == 0) {
@@ -164,6 +169,7 @@ RunningProgram::RunningProgram(const ProgramSettings& settings)
     EXPECT_GT(m_process, 0);
     output.writer.reset();
     messages.writer.reset();
+    input.reset();
     m_output = std::make_unique<Collector>(std::move(output.reader));
     m_messages = std::make_unique<Collector>(std::move(messages.reader));
 }
@@ -184,6 +190,11 @@ bool RunningProgram::hasSaid(std::string_view words) const
 void RunningProgram::signal(int number) const
 {
     EXPECT_EQ(kill(m_process, number), 0);
+}
+
+void RunningProgram::type(std::string_view keys) const
+{
+    EXPECT_EQ(write(m_keyboard.get(), keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
 }
 
 ProgramResult RunningProgram::wait()

@@ -34,6 +34,9 @@ struct ProgramSettings {
     std::optional<unsigned short> terminalColumns;
     /// Standard error is a terminal, 80 columns wide.
     bool messagesOnTerminal = false;
+    /// A person sits at the program: standard input and standard error are one terminal, 80 columns wide. Otherwise the
+    /// input is empty.
+    bool isAttended = false;
     /// Standard output goes to this device or file instead.
     std::string outputPath;
     /// Nobody reads standard output; the reader is gone before the program starts.
@@ -52,6 +55,8 @@ public:
     /// Waits until `words` have come on standard error; false if they do not within some seconds.
     [[nodiscard]] bool hasSaid(std::string_view words) const;
     void signal(int number) const;
+    /// What the person types; "\x04" alone is the end of the input.
+    void type(std::string_view keys) const;
     /// Waits for its end.
     ProgramResult wait();
 
@@ -59,6 +64,7 @@ private:
     class Collector;
 
     pid_t m_process = -1;
+    Platform::FileDescriptor m_keyboard;
     std::unique_ptr<Collector> m_output;
     std::unique_ptr<Collector> m_messages;
 };

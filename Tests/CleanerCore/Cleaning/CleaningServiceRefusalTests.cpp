@@ -1,6 +1,7 @@
 #include "Tests/CleanerCore/Cleaning/CleaningFixture.h"
 
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/ForwardingFileManager.h"
 #include "Tests/Support/SteppingFileManager.h"
 
 #include <cerrno>
@@ -159,6 +160,31 @@ TEST_F(CleaningServiceTest, RefusesADateThatIsNoNumber)
     auto candidates = scan();
     candidates.at(0).lastModified = Platform::Date{std::numeric_limits<double>::quiet_NaN()};
     expectRefused(clean(candidates), Kind::cleanupCandidateRecentlyModified, item("a"));
+}
+
+TEST_F(CleaningServiceTest, RefusesAScannedDateWhereTheVolumeTellsNoneAnyMore)
+{
+    class Dateless final : public TestSupport::ForwardingFileManager {
+    public:
+        using ForwardingFileManager::ForwardingFileManager;
+        [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
+            const Platform::ItemReference& reference) const override
+        {
+            auto values = ForwardingFileManager::resourceValues(reference);
+            if (values) {
+                values->contentModificationDate.reset();
+            }
+            return values;
+        }
+    };
+    m_tree.add("home/Caches/a size=10");
+    auto candidates = scan();
+    candidates.at(0).resourceIdentity.reset();
+    const Dateless dateless(m_posix);
+    m_fileManager = &dateless;
+    expectRefused(clean(candidates), Kind::unreadableAttributes, item("a"));
+    candidates[0].lastModified.reset();
+    EXPECT_THAT(clean(candidates).cleanedItems, SizeIs(1));
 }
 
 TEST_F(CleaningServiceTest, ComparesTheDateAlsoForACandidateWithoutAnIdentity)

@@ -2,6 +2,7 @@
 
 #include "Platform/Files/PosixFileManager.h"
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/ForwardingFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <algorithm>
@@ -99,6 +100,43 @@ TEST_F(CleanupEligibilityPolicyTest, DropsARootWhoseNumbersCannotBeRead)
         std::vector{location("home/Logs/"), location("home/Caches/")}, faulty, 100, m_tree.url("home/"));
     EXPECT_EQ(faulty.failureCount(), 1U);
     EXPECT_THAT(rootPaths(eligibility), ElementsAre("home/Caches"));
+}
+
+TEST_F(CleanupEligibilityPolicyTest, DropsARootThatDoesNotTellThatItIsAFolderAndWhichOne)
+{
+    /// Leaves one attribute of every item out.
+    class Silent final : public TestSupport::ForwardingFileManager {
+    public:
+        Silent(const Platform::FileManager& inner, int left)
+            : ForwardingFileManager(inner)
+            , m_left(left)
+        {
+        }
+        [[nodiscard]] std::expected<Platform::FileAttributes, Platform::FileError> attributes(
+            const Platform::ItemReference& item) const override
+        {
+            auto attributes = ForwardingFileManager::attributes(item);
+            if (attributes && m_left == 0) {
+                attributes->type = Platform::FileType::other;
+            } else if (attributes && m_left == 1) {
+                attributes->systemNumber.reset();
+            } else if (attributes && m_left == 2) {
+                attributes->systemFileNumber.reset();
+            }
+            return attributes;
+        }
+
+    private:
+        int m_left;
+    };
+    const std::vector locations{location("home/Logs/")};
+    const auto sound = policy(locations);
+    for (const int left : {0, 1, 2, 3}) {
+        const Silent silent(m_posix, left);
+        const CleanupEligibilityPolicy eligibility(locations, silent, 100, m_tree.url("home/"));
+        EXPECT_EQ(eligibility.roots().size(), left == 3 ? 1U : 0U) << left;
+        EXPECT_EQ(sound.allows(m_tree.url("home/Logs/log"), silent), left == 3) << left;
+    }
 }
 
 TEST_F(CleanupEligibilityPolicyTest, StoresAMaximumOf0As1)

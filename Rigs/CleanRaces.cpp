@@ -29,7 +29,8 @@ public:
         , m_folder(below)
         , m_trash(m_folder.trash(mover))
     {
-        for (const auto* folder : {"Caches/app", "outside", "vault", "data/Trash", "data/Trash/files", "data/Trash/info"}) {
+        for (const auto* folder :
+            {"Caches/app", "outside", "vault", "data/Trash", "data/Trash/files", "data/Trash/info"}) {
             m_folder.makeFolder(folder);
         }
         m_folder.makeFile("vault/confirmed", "confirmed");
@@ -84,8 +85,8 @@ public:
         const auto trashed = fileNumber(m_files.get(), "data");
         const bool hasRecord = fileNumber(m_info.get(), "data.trashinfo") != 0;
         const bool isInTrash = trashed == m_confirmed && hasRecord;
-        const bool isSound = isMadeAnew ? place == m_other && isInTrash && !result
-                                        : place == m_confirmed && trashed == 0 && !hasRecord;
+        const bool isSound =
+            isMadeAnew ? place == m_other && isInTrash && !result : place == m_confirmed && trashed == 0 && !hasRecord;
         ++(isMadeAnew ? counts.leftInTrash : counts.refused);
         counts.astray += isSound ? 0U : 1U;
         unlinkat(m_app.get(), "data", 0);
@@ -133,7 +134,8 @@ private:
                 continue;
             }
             const bool isConfirmedMissing = data != m_confirmed && newer != m_confirmed;
-            linkat(m_vault.get(), isConfirmedMissing ? "confirmed" : "other", m_app.get(), data == 0 ? "data" : "newer", 0);
+            linkat(m_vault.get(), isConfirmedMissing ? "confirmed" : "other", m_app.get(), data == 0 ? "data" : "newer",
+                0);
         }
     }
 

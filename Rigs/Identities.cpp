@@ -18,7 +18,7 @@ using namespace Rigs;
 /// What a plain look tells, as most programs compare it.
 Platform::ItemTest confirmingByNumberSizeAndDate(const std::string& path)
 {
-    struct stat confirmed {};
+    struct stat confirmed{};
     if (lstat(path.c_str(), &confirmed) != 0) {
         fail("cannot look at " + path);
     }
@@ -26,7 +26,8 @@ Platform::ItemTest confirmingByNumberSizeAndDate(const std::string& path)
         return found.attributes && found.attributes->systemFileNumber == confirmed.st_ino
             && found.identityValues->values.fileSize == confirmed.st_size
             && found.attributes->modificationDate
-            == Platform::Date::fromUnixTime(confirmed.st_mtim.tv_sec, static_cast<std::uint32_t>(confirmed.st_mtim.tv_nsec));
+            == Platform::Date::fromUnixTime(
+                confirmed.st_mtim.tv_sec, static_cast<std::uint32_t>(confirmed.st_mtim.tv_nsec));
     };
 }
 
@@ -67,7 +68,8 @@ int main(int argc, char** argv)
         setDate(path, date);
         ++made;
         sameNumber += fileNumber(AT_FDCWD, path.c_str()) == number ? 1U : 0U;
-        const auto result = trash->trashItem({.root = root, .item = folder.url("Caches/data"), .isConfirmed = std::move(test)});
+        const auto result =
+            trash->trashItem({.root = root, .item = folder.url("Caches/data"), .isConfirmed = std::move(test)});
         if (result) {
             ++accepted;
         } else {

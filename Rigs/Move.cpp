@@ -77,8 +77,7 @@ public:
             items.insert(items.end(), entry.cleanedItems.begin(), entry.cleanedItems.end());
         }
         mark();
-        const auto result =
-            TrashRestoreService(m_fileManager, m_trash).restore(items, locations, policy, {}, m_home);
+        const auto result = TrashRestoreService(m_fileManager, m_trash).restore(items, locations, policy, {}, m_home);
         m_store.append(
             CleanupAuditEntry::restore(result, items, CleanupAuditSource::cleanupDashboard, Platform::Date::now()));
         mark();
@@ -192,7 +191,8 @@ private:
         if (!attributes) {
             Rigs::fail("cannot look at " + url.path());
         }
-        return {.url = url, .systemNumber = *attributes->systemNumber, .systemFileNumber = *attributes->systemFileNumber};
+        return {
+            .url = url, .systemNumber = *attributes->systemNumber, .systemFileNumber = *attributes->systemFileNumber};
     }
 
     [[nodiscard]] Platform::ItemTest confirming(const FileURL& url) const
@@ -210,7 +210,8 @@ private:
         return {.trashedItem = place, .isConfirmed = confirming(place), .root = root(), .destination = item};
     }
 
-    static bool tellRestored(const Platform::RestoreAnchor& anchor, const std::expected<void, Platform::FileError>& result)
+    static bool tellRestored(
+        const Platform::RestoreAnchor& anchor, const std::expected<void, Platform::FileError>& result)
     {
         if (result) {
             fmt::print("back\t{}\n", anchor.destination.absoluteString());

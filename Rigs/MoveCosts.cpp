@@ -65,7 +65,8 @@ Pass measure(const std::string& below, Way way, int items)
             continue;
         }
         if (way == Way::recordsAndRenames) {
-            const Platform::TrashRecord record{.path = anchors[index].item.path(), .deletionDate = Platform::TrashRecord::now(), .isOurs = true};
+            const Platform::TrashRecord record{
+                .path = anchors[index].item.path(), .deletionDate = Platform::TrashRecord::now(), .isOurs = true};
             if (Platform::addWholeFile(info.get(), (names[index] + ".trashinfo").c_str(), record.text(), 0600) != 0) {
                 fail("cannot write a record");
             }
@@ -103,6 +104,7 @@ int main(int argc, char** argv)
         fmt::print("{:<20} {:7.2f} us an item, {} items on the disk after {:.0f} ms\n", names[perItem.size() - 1],
             median.perItem, items, median.perItem * items / 1000 + median.settle);
     }
-    fmt::print("records add {:.2f} us an item, checks add {:.2f} us\n", perItem[1] - perItem[0], perItem[2] - perItem[1]);
+    fmt::print(
+        "records add {:.2f} us an item, checks add {:.2f} us\n", perItem[1] - perItem[0], perItem[2] - perItem[1]);
     return 0;
 }

@@ -61,7 +61,7 @@ std::expected<std::optional<FileURL>, FileError> NaiveTrash::trashItem(const Pla
 
 std::expected<void, FileError> NaiveTrash::restoreItem(const Platform::RestoreAnchor& anchor)
 {
-    struct stat found {};
+    struct stat found{};
     if (lstat(anchor.destination.path().c_str(), &found) == 0
         || !anchor.isConfirmed(m_fileManager.fingerprintReadings(anchor.trashedItem))) {
         return std::unexpected(changed(FileOperation::restore, anchor.destination));

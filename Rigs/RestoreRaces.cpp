@@ -28,13 +28,15 @@ public:
         , m_folder(below)
         , m_trash(m_folder.trash(mover))
     {
-        for (const auto* folder : {"Caches/app", "outside", "vault", "data/Trash", "data/Trash/files", "data/Trash/info"}) {
+        for (const auto* folder :
+            {"Caches/app", "outside", "vault", "data/Trash", "data/Trash/files", "data/Trash/info"}) {
             m_folder.makeFolder(folder);
         }
         m_folder.makeFile("vault/confirmed", "confirmed");
         m_folder.makeFile("vault/other", "other, and newer");
         m_folder.makeFile("vault/record",
-            Platform::TrashRecord{.path = m_folder.path("Caches/app/data"), .deletionDate = "2026-01-01T00:00:00", .isOurs = true}
+            Platform::TrashRecord{
+                .path = m_folder.path("Caches/app/data"), .deletionDate = "2026-01-01T00:00:00", .isOurs = true}
                 .text());
         m_app = m_folder.open("Caches/app");
         m_outside = m_folder.open("outside");

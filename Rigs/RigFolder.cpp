@@ -63,7 +63,8 @@ Platform::FolderAnchor RigFolder::anchor(std::string_view relativePath) const
     if (!attributes) {
         fail("cannot look at " + folder.path());
     }
-    return {.url = folder, .systemNumber = *attributes->systemNumber, .systemFileNumber = *attributes->systemFileNumber};
+    return {
+        .url = folder, .systemNumber = *attributes->systemNumber, .systemFileNumber = *attributes->systemFileNumber};
 }
 
 Platform::ItemTest RigFolder::confirming(std::string_view relativePath) const
@@ -85,7 +86,7 @@ std::unique_ptr<Platform::Trash> RigFolder::trash(Mover mover) const
 
 ino_t fileNumber(int folder, const char* name)
 {
-    struct stat found {};
+    struct stat found{};
     return fstatat(folder, name, &found, AT_SYMLINK_NOFOLLOW) == 0 ? found.st_ino : 0;
 }
 

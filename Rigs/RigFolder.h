@@ -25,8 +25,14 @@ public:
     RigFolder(const RigFolder&) = delete;
     RigFolder& operator=(const RigFolder&) = delete;
 
-    [[nodiscard]] std::string path(std::string_view relativePath) const { return m_path + "/" + std::string(relativePath); }
-    [[nodiscard]] Platform::FileURL url(std::string_view relativePath) const { return Platform::FileURL(path(relativePath)); }
+    [[nodiscard]] std::string path(std::string_view relativePath) const
+    {
+        return m_path + "/" + std::string(relativePath);
+    }
+    [[nodiscard]] Platform::FileURL url(std::string_view relativePath) const
+    {
+        return Platform::FileURL(path(relativePath));
+    }
 
     void makeFolder(std::string_view relativePath) const;
     void makeFile(std::string_view relativePath, std::string_view text) const;

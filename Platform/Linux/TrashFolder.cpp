@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
+#include <set>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
@@ -23,7 +24,7 @@ constexpr mode_t kPrivateFile = 0600;
 // A path of the longest kind, every byte encoded, and the other lines.
 constexpr std::size_t kMaximumRecordBytes = std::size_t{16} * 1024;
 // Tidying takes as long as looking at each record.
-constexpr std::chrono::seconds kLongestWait{5};
+constexpr std::chrono::seconds kLongestWait{2};
 constexpr std::chrono::milliseconds kPauseBetweenTries{5};
 
 std::string recordName(std::string_view name)
@@ -44,6 +45,28 @@ int checkOwnership(int folder)
         return errno;
     }
     return isSound(found) ? 0 : EPERM;
+}
+
+std::expected<std::set<std::string>, int> namesIn(const FolderHandle& folder)
+{
+    std::set<std::string> names;
+    // An own descriptor has an own position.
+    const auto opened = openFolderIn(folder.descriptor(), ".");
+    if (!opened) {
+        return std::unexpected(opened.error());
+    }
+    const auto listing = std::make_unique<FolderListing>();
+    listing->start(opened->get());
+    while (true) {
+        const auto entry = listing->next();
+        if (!entry) {
+            return std::unexpected(entry.error());
+        }
+        if (!*entry) {
+            return names;
+        }
+        names.emplace((*entry)->name);
+    }
 }
 
 std::expected<FileDescriptor, int> openOwnFolder(int parent, const char* name, MissingTrash missing)
@@ -208,17 +231,26 @@ void TrashFolder::removeLeftovers() const
     if (flock(m_info->descriptor(), LOCK_EX | LOCK_NB) != 0) {
         return;
     }
-    std::vector<std::string> leftovers;
-    const auto listing = std::make_unique<FolderListing>();
-    listing->start(m_info->descriptor());
-    for (auto entry = listing->next(); entry && *entry; entry = listing->next()) {
-        const auto name = (*entry)->name;
-        if (isUnfinishedFile(name) || isLeftoverRecord(name)) {
-            leftovers.emplace_back(name);
+    std::vector<std::string> unfinished;
+    std::vector<std::string> suspects;
+    const auto names = namesIn(*m_info);
+    for (const auto& name : names.value_or(std::set<std::string>())) {
+        if (isUnfinishedFile(name)) {
+            unfinished.push_back(name);
+        } else if (isLeftoverRecord(name)) {
+            suspects.push_back(name);
         }
     }
-    for (const auto& name : leftovers) {
+    for (const auto& name : unfinished) {
         unlinkat(m_info->descriptor(), name.c_str(), 0);
+    }
+    // A record is the only trace of where its item was: what one look misses must be missing from the listing, too.
+    if (const auto items = suspects.empty() ? std::unexpected(0) : namesIn(*m_files)) {
+        for (const auto& name : suspects) {
+            if (!items->contains(name.substr(0, name.size() - TrashRecord::kSuffix.size()))) {
+                unlinkat(m_info->descriptor(), name.c_str(), 0);
+            }
+        }
     }
     flock(m_info->descriptor(), LOCK_UN);
 }

@@ -62,7 +62,7 @@ def walk(root, folders, suffixes):
 
 
 def code_files(root):
-    return [SourceFile(name, path.read_text(encoding="utf-8")) for name, path in
+    return [SourceFile(name, path.read_text(encoding="utf-8", errors="replace")) for name, path in
             walk(root, CODE_FOLDERS, (".h", ".cpp", ".mm"))]
 
 
@@ -74,4 +74,4 @@ def text_files(root):
     for folder in (root, root / "scripts", root / "Benchmarks", root / ".ci"):
         found += [(path.relative_to(root).as_posix(), path) for path in sorted(folder.iterdir())
                   if path.is_file() and (not path.suffix or folder == root) and not path.name.startswith(".git")]
-    return [(name, path.read_text(encoding="utf-8")) for name, path in dict(found).items()]
+    return [(name, path.read_text(encoding="utf-8", errors="replace")) for name, path in dict(found).items()]

@@ -219,6 +219,7 @@ std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const 
         ++folder.items;
     }
     std::vector<Folder> folders;
+    folders.reserve(folderOfPath.size());
     for (auto& [path, folder] : folderOfPath) {
         folders.push_back(std::move(folder));
     }

@@ -62,7 +62,11 @@ SkippedSummary::SkippedSummary(std::span<const SkippedRow> rows)
             group.reason = TerminalText(entry->first, TerminalText::Kind::sentence);
         }
     }
-    std::ranges::stable_sort(m_groups, std::ranges::greater{}, [](const Group& group) { return group.rows.size(); });
+    std::ranges::sort(m_groups, [](const Group& left, const Group& right) {
+        // All rows lie in one array, so the place of the first one tells which reason was met first.
+        return left.rows.size() != right.rows.size() ? left.rows.size() > right.rows.size()
+                                                     : left.rows.front() < right.rows.front();
+    });
 }
 
 std::size_t SkippedSummary::itemsBehind(std::size_t shown) const

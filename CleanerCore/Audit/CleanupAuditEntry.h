@@ -27,22 +27,22 @@ struct CleanupAuditEntry {
     static constexpr std::size_t cleanedItemLimit = 20;
     static constexpr std::size_t kSampleLimit = 5;
 
-    Platform::UUID id;
-    Platform::Date occurredAt;
+    Platform::UUID id = {};
+    Platform::Date occurredAt = {};
     CleanupAuditOperation operation = CleanupAuditOperation::clean;
     CleanupAuditSource source = CleanupAuditSource::cleanupDashboard;
     /// Absent for a restore.
-    std::optional<CleaningMode> mode;
+    std::optional<CleaningMode> mode = {};
     std::int64_t requestedItemCount = 0;
     std::int64_t requestedBytes = 0;
     std::int64_t succeededItemCount = 0;
     std::int64_t failedItemCount = 0;
     std::int64_t affectedBytes = 0;
     bool wasCancelled = false;
-    std::vector<std::string> samplePaths;
-    std::vector<std::string> failureReasons;
+    std::vector<std::string> samplePaths = {};
+    std::vector<std::string> failureReasons = {};
     /// What makes a restore possible.
-    std::vector<CleanedItem> cleanedItems;
+    std::vector<CleanedItem> cleanedItems = {};
 
     static CleanupAuditEntry clean(const CleanResult& result, CleaningMode mode,
         std::span<const CleanupCandidate> requestedCandidates, CleanupAuditSource source, Platform::Date occurredAt);

@@ -10,6 +10,8 @@ namespace CleanerCore {
 
 namespace {
 
+namespace JSONReader = Platform::JSONReader;
+
 // A sound entry may hold anything under keys that this version does not know; only what is dropped has a tighter bound.
 constexpr std::size_t kMaximumDepth = 512;
 // Of an element of the array: the one index that leads to it.
@@ -19,7 +21,12 @@ constexpr std::size_t kElementDepth = 1;
 
 std::expected<LossyCleanupAuditEntryList, Platform::JSONError> LossyCleanupAuditEntryList::read(std::string_view bytes)
 {
-    const auto document = Platform::JSONReader::parse(bytes, kMaximumDepth);
+    LossyCleanupAuditEntryList list;
+    auto document = JSONReader::parse(bytes, kMaximumDepth);
+    if (!document) {
+        list.completeness = Completeness::lossy;
+        document = JSONReader::parse(bytes, kMaximumDepth, JSONReader::RepeatedKeys::makeTheObjectNull);
+    }
     if (!document) {
         return std::unexpected(document.error());
     }
@@ -27,7 +34,6 @@ std::expected<LossyCleanupAuditEntryList, Platform::JSONError> LossyCleanupAudit
     if (elements == nullptr) {
         return std::unexpected(Platform::unexpectedJSON("an array", *document));
     }
-    LossyCleanupAuditEntryList list;
     DiscardedJSONBudget budget;
     for (const auto& element : *elements) {
         if (auto entry = Platform::decodeJSON<CleanupAuditEntry>(element)) {

@@ -15,11 +15,11 @@ namespace CleanerCore {
 struct CleanedItem {
     CleanupCandidate candidate;
     /// Where the item is in the Trash; absent after a permanent deletion, or where the system did not tell.
-    std::optional<Platform::FileURL> destinationURL;
+    std::optional<Platform::FileURL> destinationURL = {};
     /// The folder that holds `destinationURL`.
-    std::optional<Platform::FileURL> restoreSourceRootURL;
+    std::optional<Platform::FileURL> restoreSourceRootURL = {};
     /// The identity of the trashed item.
-    std::optional<FileResourceIdentity> restoreSourceIdentity;
+    std::optional<FileResourceIdentity> restoreSourceIdentity = {};
 
     friend bool operator==(const CleanedItem&, const CleanedItem&) = default;
 };
@@ -34,8 +34,8 @@ struct FailedCleanItem {
 
 /// What became of the candidates of one clean. After a cancellation those that were not reached appear nowhere.
 struct CleanResult {
-    std::vector<CleanedItem> cleanedItems;
-    std::vector<FailedCleanItem> failedItems;
+    std::vector<CleanedItem> cleanedItems = {};
+    std::vector<FailedCleanItem> failedItems = {};
     bool wasCancelled = false;
 
     /// The sum of the sizes of the cleaned items.

@@ -43,12 +43,13 @@ bool entryExists(const FileURL& url, const Platform::FileManager& fileManager)
 /// One restore: what every item of it is held against.
 class Restore {
 public:
-    Restore(const Platform::FileManager& fileManager, Platform::Trash& trash, SafePathPolicy policy,
-        const std::optional<std::vector<FileURL>>& allowedTrashRootURLs, const CleanupEligibilityPolicy& eligibility,
-        const std::optional<FileURL>& homeDirectory)
+    Restore(const Platform::FileManager& fileManager, Platform::Trash& trash,
+        std::span<const ScanLocation> allowedLocations, const std::optional<std::vector<FileURL>>& allowedTrashRootURLs,
+        const CleanupEligibilityPolicy& eligibility, const std::optional<FileURL>& homeDirectory)
         : m_fileManager(fileManager)
         , m_trash(trash)
-        , m_policy(std::move(policy))
+        , m_safety(homeDirectory, fileManager)
+        , m_policy(rootURLs(allowedLocations), m_safety, fileManager)
         , m_allowedTrashRootURLs(allowedTrashRootURLs)
         , m_eligibility(eligibility)
         , m_homeDirectory(homeDirectory)
@@ -66,6 +67,7 @@ private:
 
     const Platform::FileManager& m_fileManager;
     Platform::Trash& m_trash;
+    ScanRootSafety m_safety;
     SafePathPolicy m_policy;
     const std::optional<std::vector<FileURL>>& m_allowedTrashRootURLs;
     const CleanupEligibilityPolicy& m_eligibility;
@@ -115,7 +117,7 @@ Verdict Restore::validateRestoreSource(const FileURL& trashed, const FileURL& or
     if (roots.empty()) {
         return CleaningFailure::refused(Kind::pathNotAllowed, trashed);
     }
-    const SafePathPolicy policy(roots, m_homeDirectory, m_fileManager, NoTouchScope::trash);
+    const SafePathPolicy policy(roots, m_safety, m_fileManager, NoTouchScope::trash);
     return verdictOf(policy.validate(trashed, m_fileManager));
 }
 
@@ -157,8 +159,8 @@ RestoreResult TrashRestoreService::restore(std::span<const CleanedItem> items,
     std::span<const ScanLocation> allowedLocations, const CleanupEligibilityPolicy& cleanupEligibilityPolicy,
     const std::stop_token& stop, const std::optional<FileURL>& homeDirectory) const
 {
-    const Restore work(m_fileManager, m_trash, SafePathPolicy(rootURLs(allowedLocations), homeDirectory, m_fileManager),
-        m_allowedTrashRootURLs, cleanupEligibilityPolicy, homeDirectory);
+    const Restore work(
+        m_fileManager, m_trash, allowedLocations, m_allowedTrashRootURLs, cleanupEligibilityPolicy, homeDirectory);
     RestoreResult result;
     for (const auto& item : items) {
         if (stop.stop_requested()) {

@@ -1,7 +1,6 @@
 #include "CleanerCore/Safety/SafePathPolicy.h"
 
 #include "CleanerCore/Safety/ComparisonForm.h"
-#include "CleanerCore/Safety/ScanRootSafety.h"
 #include "CleanerCore/Safety/SymbolicLinkComponents.h"
 
 #include <algorithm>
@@ -43,11 +42,15 @@ Verdict rejectLinksBelow(
 } // namespace
 
 SafePathPolicy::SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs,
-    const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager,
-    NoTouchScope scope)
+    const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager, NoTouchScope scope)
+    : SafePathPolicy(allowedRootURLs, ScanRootSafety(homeDirectory, fileManager), fileManager, scope)
+{
+}
+
+SafePathPolicy::SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs, const ScanRootSafety& safety,
+    const Platform::FileManager& fileManager, NoTouchScope scope)
     : m_scope(scope)
 {
-    const ScanRootSafety safety(homeDirectory, fileManager);
     const auto comparison = nameComparison(Platform::FileURL::folder(safety.homePath()), fileManager);
     m_usesCaseInsensitivePathComparison = comparison == NameComparison::caseInsensitive;
     m_homePathKey = comparisonForm(safety.homePath(), comparison);

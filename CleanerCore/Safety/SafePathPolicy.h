@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Safety/CleaningError.h"
 #include "CleanerCore/Safety/NoTouchPathPolicy.h"
+#include "CleanerCore/Safety/ScanRootSafety.h"
 #include "Platform/Base/FileURL.h"
 #include "Platform/Files/FileManager.h"
 
@@ -31,6 +32,9 @@ public:
     SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs,
         const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager,
         NoTouchScope scope = NoTouchScope::everywhere);
+    /// The same, measured against what was made once for a home.
+    SafePathPolicy(std::span<const Platform::FileURL> allowedRootURLs, const ScanRootSafety& safety,
+        const Platform::FileManager& fileManager, NoTouchScope scope = NoTouchScope::everywhere);
 
     /// Whether an existing item may be cleaned.
     [[nodiscard]] std::expected<void, CleaningError> validate(

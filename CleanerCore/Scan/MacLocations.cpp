@@ -51,6 +51,7 @@ constexpr std::array kContainerRows{
 std::vector<ScanLocation> standardMacLocations(const FileURL& homeDirectory)
 {
     std::vector<ScanLocation> locations;
+    locations.reserve(kStandardRows.size());
     for (const auto& row : kStandardRows) {
         locations.emplace_back(ScanLocation::Fields{
             .rootURL = homeDirectory.appending(row.path, DirectoryHint::isFolder),

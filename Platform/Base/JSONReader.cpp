@@ -32,8 +32,9 @@ class Builder {
 public:
     using Number = nlohmann::json;
 
-    explicit Builder(std::size_t maximumDepth)
+    Builder(std::size_t maximumDepth, RepeatedKeys repeatedKeys)
         : m_maximumDepth(maximumDepth)
+        , m_repeatedKeys(repeatedKeys)
     {
     }
 
@@ -60,6 +61,9 @@ public:
     {
         auto members = std::move(m_open.back().members);
         if (const auto twice = JSONValue::sortByKey(members)) {
+            if (m_repeatedKeys == RepeatedKeys::makeTheObjectNull) {
+                return close(JSONValue());
+            }
             return fail(fmt::format("the key \"{}\" occurs twice in one object", *twice));
         }
         return close(JSONValue(std::move(members)));
@@ -131,6 +135,7 @@ private:
     }
 
     std::size_t m_maximumDepth;
+    RepeatedKeys m_repeatedKeys;
     std::vector<Open> m_open;
     JSONValue m_root;
     std::optional<JSONError> m_error;
@@ -138,13 +143,13 @@ private:
 
 } // namespace
 
-std::expected<JSONValue, JSONError> parse(std::string_view bytes, std::size_t maximumDepth)
+std::expected<JSONValue, JSONError> parse(std::string_view bytes, std::size_t maximumDepth, RepeatedKeys repeatedKeys)
 {
     // The parser takes a NUL for the end and would not look behind it.
     if (const auto position = bytes.find('\0'); position != std::string_view::npos) {
         return std::unexpected(JSONError{fmt::format("unexpected NUL byte, at byte {}", position + 1), {}});
     }
-    Builder builder(maximumDepth);
+    Builder builder(maximumDepth, repeatedKeys);
     nlohmann::json::sax_parse(bytes.begin(), bytes.end(), &builder);
     return std::move(builder).result();
 }

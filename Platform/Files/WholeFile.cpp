@@ -15,6 +15,8 @@ namespace Platform {
 namespace {
 
 constexpr std::size_t kReadBytes = std::size_t{64} * 1024;
+// A call that is interrupted again and again is one that fails.
+constexpr int kMaximumInterruptions = 100;
 constexpr std::string_view kUnfinishedPrefix = ".karvello-";
 constexpr std::string_view kUnfinishedSuffix = ".tmp";
 
@@ -79,6 +81,7 @@ std::expected<std::string, int> readWholeFile(int folderDescriptor, const char* 
         return std::unexpected(EINVAL);
     }
     std::string bytes;
+    int interruptions = 0;
     while (true) {
         const auto offset = bytes.size();
         if (offset > maximumBytes) {
@@ -86,7 +89,7 @@ std::expected<std::string, int> readWholeFile(int folderDescriptor, const char* 
         }
         bytes.resize(offset + std::min(kReadBytes, maximumBytes + 1 - offset));
         const auto count = read(file.get(), bytes.data() + offset, bytes.size() - offset);
-        if (count < 0 && errno != EINTR) {
+        if (count < 0 && (errno != EINTR || ++interruptions > kMaximumInterruptions)) {
             return std::unexpected(errno);
         }
         bytes.resize(offset + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
@@ -98,9 +101,10 @@ std::expected<std::string, int> readWholeFile(int folderDescriptor, const char* 
 
 int writeAll(int descriptor, std::string_view bytes)
 {
+    int interruptions = 0;
     while (!bytes.empty()) {
         const auto written = ::write(descriptor, bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR) {
+        if (written < 0 && (errno != EINTR || ++interruptions > kMaximumInterruptions)) {
             return errno;
         }
         if (written == 0) {

@@ -33,7 +33,7 @@ SkippedItem notAllowed(const char* path)
     return skipped(path, CleaningError{CleaningError::Kind::pathNotAllowed, path}.errorDescription());
 }
 
-ScanPlan planOf(std::vector<const char*> roots)
+ScanPlan planOf(const std::vector<const char*>& roots)
 {
     ScanPlan plan;
     for (const char* const root : roots) {

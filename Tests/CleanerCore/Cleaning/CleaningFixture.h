@@ -153,4 +153,13 @@ protected:
     std::optional<CleanupEligibilityPolicy> m_policy;
 };
 
+/// With a plain Trash: what the service decides, and what it hands to the Trash.
+class CleaningServiceTest : public CleaningTest {
+protected:
+    static constexpr std::string_view kThreeItems =
+        "home/Caches/\n    a size=10\n    b/\n        x size=5000\n    c size=20";
+
+    CleaningServiceTest() { useFakeTrash(); }
+};
+
 } // namespace CleaningTests

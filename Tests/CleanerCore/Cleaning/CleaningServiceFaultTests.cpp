@@ -2,12 +2,12 @@
 
 #include "Tests/Support/FaultyFileManager.h"
 #include "Tests/Support/SteppingFileManager.h"
+#include "Tests/Support/UnsettledTrash.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
-#include <functional>
 #include <map>
-#include <memory>
 #include <sys/stat.h>
 #include <thread>
 
@@ -21,6 +21,7 @@ using TestSupport::FaultDuration;
 using TestSupport::FaultyFileManager;
 using TestSupport::FileManagerCall;
 using TestSupport::SteppingFileManager;
+using TestSupport::UnsettledTrash;
 
 constexpr std::string_view kThreeItems = R"(
 home/Caches/
@@ -38,6 +39,8 @@ enum class Whereabouts { missing, original, trash, both };
 /// in which.
 class CleaningServiceFaultTest : public CleaningTest {
 protected:
+    CleaningServiceFaultTest() { m_trash = &m_unsettled; }
+
     /// A fresh tree for each round.
     void begin()
     {
@@ -106,6 +109,7 @@ protected:
 
     std::vector<CleanupCandidate> m_candidates;
     std::map<std::string, ino_t> m_numbers;
+    UnsettledTrash m_unsettled{m_linuxTrash};
 };
 
 constexpr std::array kCallsOfAClean{FileManagerCall::existence, FileManagerCall::resourceValues,
@@ -145,9 +149,10 @@ TEST_F(CleaningServiceFaultTest, TellsTheTruthWhenTheTrashItselfCannotReadItsIte
             FaultyFileManager faulty(m_posix);
             faulty.fail({.call = call, .systemError = EACCES, .nth = nth});
             Platform::LinuxTrash trash(faulty, m_tree.url("home/.local/share/"));
-            m_trash = &trash;
+            UnsettledTrash unsettled(trash);
+            m_trash = &unsettled;
             const auto result = clean(m_candidates);
-            m_trash = &m_linuxTrash;
+            m_trash = &m_unsettled;
             if (faulty.failureCount() == 0) {
                 break;
             }
@@ -230,11 +235,12 @@ TEST_F(CleaningServiceFaultTest, TwoServicesThatCleanTheSameItemsMoveEachOnce)
             m_numbers[candidate.displayName] = fileNumber(candidate.url.path());
         }
         Platform::LinuxTrash otherTrash(m_posix, m_tree.url("home/.local/share/"));
+        UnsettledTrash otherUnsettled(otherTrash);
         CleanResult first;
         CleanResult second;
         {
             const std::jthread other([&] {
-                second = CleaningService(m_posix, otherTrash)
+                second = CleaningService(m_posix, otherUnsettled)
                              .clean(m_candidates, m_locations, CleaningMode::moveToTrash, *m_policy, {}, home());
             });
             first = clean(m_candidates);

@@ -258,11 +258,13 @@ TEST_F(XDGLocationsTest, FollowsTheBaseDirectories)
 TEST_F(XDGLocationsTest, IgnoresVariablesThatAreRelativeOutsideOrNotATool)
 {
     tree.add("home/.cache/pip/x\nhome/c/pip/x\noutside/x\noutside/pip/x\nhome/.config/x\n");
-    for (const std::string value : {"c/pip", "./c", tree.path("outside").c_str(), "/", "", "~", "~/", "~/..",
-             "~/.cache", "~/.config", "~/.local", "~/c/../.cache", "~/.cache/../../outside"}) {
+    const std::vector<std::string> noTools{"c/pip", "./c", tree.path("outside"), "/", "", "~", "~/", "~/..", "~/.cache",
+        "~/.config", "~/.local", "~/c/../.cache", "~/.cache/../../outside"};
+    for (const auto& value : noTools) {
         EXPECT_THAT(roots(CleanupScanMode::standard, {{"PIP_CACHE_DIR", value}}), ElementsAre(".cache/pip")) << value;
     }
-    for (const std::string value : {"c", tree.path("outside").c_str(), "~", "~/../outside"}) {
+    const std::vector<std::string> noBases{"c", tree.path("outside"), "~", "~/../outside"};
+    for (const auto& value : noBases) {
         EXPECT_THAT(roots(CleanupScanMode::standard, {{"XDG_CACHE_HOME", value}}), ElementsAre(".cache/pip")) << value;
     }
 }

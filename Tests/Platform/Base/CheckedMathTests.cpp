@@ -22,6 +22,15 @@ TEST(CheckedMath, AddsAndMultipliesUpToTheLimits)
     EXPECT_EQ(checkedMultiply(kMaximum, std::int64_t{0}), 0);
 }
 
+TEST(CheckedMath, StaysAtTheLimitWhereToldTo)
+{
+    static_assert(saturatingAdd(std::int64_t{2}, std::int64_t{-3}) == -1);
+    EXPECT_EQ(saturatingAdd(kMaximum - 1, std::int64_t{1}), kMaximum);
+    EXPECT_EQ(saturatingAdd(kMaximum, std::int64_t{1}), kMaximum);
+    EXPECT_EQ(saturatingAdd(kMinimum, std::int64_t{-1}), kMinimum);
+    EXPECT_EQ(saturatingAdd(kMinimum, kMinimum), kMinimum);
+}
+
 TEST(CheckedMathDeathTest, EndsTheProgramOnOverflow)
 {
     EXPECT_DEATH((void)checkedAdd(kMaximum, std::int64_t{1}), "64-bit addition overflowed");

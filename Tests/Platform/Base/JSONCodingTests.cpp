@@ -33,6 +33,13 @@ struct Book {
     friend bool operator==(const Book&, const Book&) = default;
 };
 
+struct Shelves {
+    std::vector<Note> notes;
+    std::vector<std::string> labels;
+
+    friend bool operator==(const Shelves&, const Shelves&) = default;
+};
+
 constexpr std::string_view kBook = R"({
   "id" : "9B6C2D0E-7A41-4E53-8E11-0C6E7C5A2F10",
   "isLent" : true,
@@ -101,6 +108,15 @@ struct JSONFields<Note> {
         coder.field("page", note.page);
     }
     static void normalize(Note& note) { note.page = std::max(note.page, 0); }
+};
+
+template <>
+struct JSONFields<Shelves> {
+    static void code(auto& coder, auto& shelves)
+    {
+        coder.readableElements("notes", shelves.notes);
+        coder.text("labels", shelves.labels);
+    }
 };
 
 template <>
@@ -246,6 +262,21 @@ TEST(JSONCoding, ReadsTheReadableElementsOfAnArray)
     }
     const auto notes = decodeReadableElements<Note>(elements);
     EXPECT_EQ(notes, (std::vector<Note>{{"a", 1}, {"c", 3}}));
+}
+
+TEST(JSONCoding, ReadsARecordWithADamagedListOfElements)
+{
+    const Shelves whole{{{"a", 1}, {"b", 2}}, {"caf\xE9", "c"}};
+    const auto text = encodeJSON(whole);
+    ASSERT_TRUE(text);
+    EXPECT_EQ(decodeJSON<Shelves>(*text), (Shelves{whole.notes, {"caf\\xE9", "c"}}));
+    for (const auto* const none : {"17", "{}", "null", "\"notes\"", "[17, null]"}) {
+        EXPECT_EQ(decodeJSON<Shelves>("{\"labels\":[],\"notes\":" + std::string(none) + "}"), Shelves()) << none;
+    }
+    EXPECT_EQ(decodeJSON<Shelves>(R"({"labels":[]})"), Shelves());
+    EXPECT_EQ(decodeJSON<Shelves>(R"({"labels":[],"notes":[17,{"text":"a","page":1}]})"), (Shelves{{{"a", 1}}, {}}));
+    EXPECT_FALSE(decodeJSON<Shelves>(R"({"notes":[]})"));
+    EXPECT_FALSE(decodeJSON<Shelves>(R"({"labels":[17]})"));
 }
 
 TEST(JSONCoding, HandsOnTheDepthLimit)

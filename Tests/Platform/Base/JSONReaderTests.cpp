@@ -105,6 +105,17 @@ TEST(JSONReader, RefusesAKeyThatOccursTwice)
     EXPECT_TRUE(JSONReader::parse(R"({"a":{"a":1},"b":{"a":1}})"));
 }
 
+TEST(JSONReader, MakesAnObjectWithAKeyTwiceNullWhereToldTo)
+{
+    const auto read = [](std::string_view text) {
+        return JSONReader::parse(text, JSONReader::kDefaultMaximumDepth, JSONReader::RepeatedKeys::makeTheObjectNull);
+    };
+    EXPECT_EQ(read(R"([1,{"a":1,"b":{},"a":3},2])"), *JSONReader::parse("[1,null,2]"));
+    EXPECT_EQ(read(R"({"a":{"x":1,"x":1},"b":[]})"), *JSONReader::parse(R"({"a":null,"b":[]})"));
+    EXPECT_EQ(read(R"({"a":1,"a":1})"), JSONValue());
+    EXPECT_FALSE(read(R"({"a":1,"a":})"));
+}
+
 TEST(JSONReader, RefusesBytesThatAreNotUTF8)
 {
     EXPECT_EQ(errorOf("\"a\xFF\""), "invalid string: ill-formed UTF-8 byte, at byte 3");

@@ -1,8 +1,6 @@
-#include "Tests/Platform/Linux/TrashFixture.h"
-#include "Tests/Support/ForwardingFileManager.h"
+#include "Tests/Platform/Linux/InterruptedFileManager.h"
 
 #include <fcntl.h>
-#include <functional>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -13,37 +11,8 @@ using namespace TrashTests;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Runs `between` at the n-th look at an item's identity, before it is answered: where an attacker would strike.
-class Interrupted final : public TestSupport::ForwardingFileManager {
-public:
-    Interrupted(const FileManager& inner, int nth, std::function<void()> between)
-        : ForwardingFileManager(inner)
-        , m_left(nth)
-        , m_between(std::move(between))
-    {
-    }
-
-    [[nodiscard]] Platform::FingerprintReadings fingerprintReadings(const Platform::ItemReference& item) const override
-    {
-        auto readings = inner().fingerprintReadings(item);
-        if (--m_left == 0) {
-            m_between();
-        }
-        return readings;
-    }
-
-private:
-    mutable int m_left;
-    std::function<void()> m_between;
-};
-
-class LinuxTrashRefusals : public TrashTest {
+class LinuxTrashRefusals : public InterruptedTrashTest {
 protected:
-    void exchange(const std::string& a, const std::string& b)
-    {
-        ASSERT_EQ(renameat2(AT_FDCWD, m_tree.path(a).c_str(), AT_FDCWD, m_tree.path(b).c_str(), RENAME_EXCHANGE), 0);
-    }
-
     void expectTrashRefusesTheHomesTrash(FileErrorKind kind = FileErrorKind::noTrash)
     {
         m_tree.add("home/Caches/data size=1");
@@ -228,7 +197,7 @@ TEST_F(LinuxTrashRefusals, PutsBackWhatSlippedInBetweenTheLookAndTheMove)
         home/Caches/data text="old"
         home/Caches/newer text="newer"
     )");
-    const Interrupted files(m_posix, 1, [&] { exchange("home/Caches/data", "home/Caches/newer"); });
+    const InterruptedFileManager files(m_posix, 1, [&] { exchange("home/Caches/data", "home/Caches/newer"); });
     Platform::LinuxTrash trash(files, m_tree.url("home/data/"));
     const auto result = trash.trashItem(item("home/Caches/data"));
     ASSERT_FALSE(result);
@@ -245,8 +214,8 @@ TEST_F(LinuxTrashRefusals, LeavesWhatSlippedInInTheTrashWhereItsPlaceIsTakenAgai
         home/Caches/data text="old"
         home/Caches/newer text="newer"
     )");
-    const Interrupted second(m_posix, 2, [&] { write(m_tree.path("home/Caches/data"), "newest"); });
-    const Interrupted first(second, 1, [&] { exchange("home/Caches/data", "home/Caches/newer"); });
+    const InterruptedFileManager second(m_posix, 2, [&] { write(m_tree.path("home/Caches/data"), "newest"); });
+    const InterruptedFileManager first(second, 1, [&] { exchange("home/Caches/data", "home/Caches/newer"); });
     Platform::LinuxTrash trash(first, m_tree.url("home/data/"));
     const auto result = trash.trashItem(item("home/Caches/data"));
     ASSERT_FALSE(result);
@@ -263,7 +232,7 @@ TEST_F(LinuxTrashRefusals, MovesFromTheFolderThatWasOpenedThoughItsPathLeadsElse
         home/precious/data text="precious"
         home/link -> precious
     )");
-    const Interrupted files(m_posix, 1, [&] { exchange("home/Caches/app", "home/link"); });
+    const InterruptedFileManager files(m_posix, 1, [&] { exchange("home/Caches/app", "home/link"); });
     Platform::LinuxTrash trash(files, m_tree.url("home/data/"));
     std::ignore = trash.trashItem(item("home/Caches/app/data"));
     EXPECT_EQ(contents(m_tree.path("home/precious/data")), "precious");
@@ -289,141 +258,6 @@ TEST_F(LinuxTrashRefusals, RefusesAnItemThatItCannotLookAt)
     EXPECT_EQ(result.error().kind, FileErrorKind::inputOutput);
     EXPECT_EQ(result.error().operation, Platform::FileOperation::trash);
     EXPECT_TRUE(stands(m_tree.path("home/Caches/data")));
-}
-
-TEST_F(LinuxTrashRefusals, RefusesToRestoreWithoutARecord)
-{
-    m_tree.add("home/Caches/data size=1");
-    const auto place = trashed("home/Caches/data");
-    std::filesystem::remove(infoFolder() + "/data.trashinfo");
-    const auto result = m_trash.restoreItem(restoring(place, "home/Caches/data"));
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().kind, FileErrorKind::noTrashRecord);
-    EXPECT_TRUE(stands(place.path()));
-    EXPECT_FALSE(stands(m_tree.path("home/Caches/data")));
-}
-
-TEST_F(LinuxTrashRefusals, RefusesToRestoreToAnotherPlaceThanTheRecordNames)
-{
-    m_tree.add("home/Caches/data size=1");
-    const auto place = trashed("home/Caches/data");
-    for (const auto* destination : {"home/Caches/other", "home/Caches/sub/data"}) {
-        m_tree.add("home/Caches/sub/");
-        const auto result = m_trash.restoreItem(restoring(place, destination));
-        ASSERT_FALSE(result);
-        EXPECT_EQ(result.error().kind, FileErrorKind::noTrashRecord);
-    }
-    EXPECT_TRUE(stands(place.path()));
-}
-
-TEST_F(LinuxTrashRefusals, RefusesToRestoreWithADamagedRecord)
-{
-    m_tree.add("home/Caches/data size=1");
-    const auto place = trashed("home/Caches/data");
-    for (const auto* text : {"", "[Trash Info]\n", "Path=/x\n"}) {
-        write(infoFolder() + "/data.trashinfo", text);
-        const auto result = m_trash.restoreItem(restoring(place, "home/Caches/data"));
-        ASSERT_FALSE(result);
-        EXPECT_EQ(result.error().kind, FileErrorKind::noTrashRecord);
-    }
-}
-
-TEST_F(LinuxTrashRefusals, NeverRestoresOntoAnotherItem)
-{
-    m_tree.add(R"(home/Caches/data text="old")");
-    const auto place = trashed("home/Caches/data");
-    const auto path = m_tree.path("home/Caches/data");
-    const auto expectUntouched = [&] {
-        const auto result = m_trash.restoreItem(restoring(place, "home/Caches/data"));
-        ASSERT_FALSE(result);
-        EXPECT_EQ(result.error().kind, FileErrorKind::fileExists);
-        EXPECT_EQ(contents(place.path()), "old");
-        EXPECT_NE(record("data"), "");
-    };
-    write(path, "new");
-    expectUntouched();
-    EXPECT_EQ(contents(path), "new");
-    std::filesystem::remove(path);
-    std::filesystem::create_symlink("nowhere", path);
-    expectUntouched();
-    EXPECT_TRUE(std::filesystem::is_symlink(path));
-    std::filesystem::remove(path);
-    std::filesystem::create_directory(path);
-    expectUntouched();
-}
-
-TEST_F(LinuxTrashRefusals, RefusesToRestoreAnItemThatChangedInTheTrash)
-{
-    m_tree.add("home/Caches/data size=1");
-    const auto place = trashed("home/Caches/data");
-    const auto anchor = restoring(place, "home/Caches/data");
-    write(place.path(), "another");
-    const auto result = m_trash.restoreItem(anchor);
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().kind, FileErrorKind::itemChanged);
-    EXPECT_TRUE(stands(place.path()));
-}
-
-TEST_F(LinuxTrashRefusals, TakesBackIntoTheTrashWhatSlippedInDuringARestore)
-{
-    m_tree.add(R"(
-        home/Caches/data text="old"
-        home/other text="other"
-    )");
-    const auto place = trashed("home/Caches/data");
-    const Interrupted files(m_posix, 1, [&] { exchange("home/data/Trash/files/data", "home/other"); });
-    Platform::LinuxTrash trash(files, m_tree.url("home/data/"));
-    const auto result = trash.restoreItem(restoring(place, "home/Caches/data"));
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().kind, FileErrorKind::itemChanged);
-    EXPECT_EQ(contents(place.path()), "other");
-    EXPECT_FALSE(stands(m_tree.path("home/Caches/data")));
-    EXPECT_NE(record("data"), "");
-}
-
-TEST_F(LinuxTrashRefusals, SaysThatAnUnconfirmedItemWasPutBack)
-{
-    m_tree.add(R"(
-        home/Caches/data text="old"
-        home/other text="other"
-    )");
-    const auto place = trashed("home/Caches/data");
-    const Interrupted second(m_posix, 2, [&] { write(place.path(), "taken"); });
-    const Interrupted first(second, 1, [&] { exchange("home/data/Trash/files/data", "home/other"); });
-    Platform::LinuxTrash trash(first, m_tree.url("home/data/"));
-    const auto result = trash.restoreItem(restoring(place, "home/Caches/data"));
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().kind, FileErrorKind::restoredUnconfirmed);
-    EXPECT_EQ(contents(m_tree.path("home/Caches/data")), "other");
-    EXPECT_EQ(contents(place.path()), "taken");
-}
-
-TEST_F(LinuxTrashRefusals, RestoresOnlyFromTheTrash)
-{
-    m_tree.add(R"(
-        home/Caches/
-        home/fake/files/data text="x"
-        home/fake/info/data.trashinfo text="[Trash Info]\nPath=/x\n"
-        home/data/Trash/files/sub/data size=1
-        home/data/Trash/info/
-        home/data/Trash/other/data size=1
-    )");
-    for (const auto* path : {"home/fake/files/data", "home/data/Trash/files/sub/data", "home/data/Trash/other/data"}) {
-        const auto result = m_trash.restoreItem(restoring(m_tree.url(path), "home/Caches/data"));
-        ASSERT_FALSE(result);
-        EXPECT_EQ(result.error().kind, FileErrorKind::noTrash) << path;
-    }
-}
-
-TEST_F(LinuxTrashRefusals, MakesNoFolderForARestore)
-{
-    m_tree.add("home/Caches/app/data size=1");
-    const auto place = trashed("home/Caches/app/data");
-    m_tree.remove("home/Caches/app");
-    const auto result = m_trash.restoreItem(restoring(place, "home/Caches/app/data"));
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().kind, FileErrorKind::noSuchFile);
-    EXPECT_THAT(names(m_tree.path("home/Caches")), IsEmpty());
 }
 
 TEST_F(LinuxTrashRefusals, RefusesAnItemInAFolderWithoutWritePermission)

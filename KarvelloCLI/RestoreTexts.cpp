@@ -110,6 +110,7 @@ std::string restoreAccount(
     std::span<const CleanedItem> requested, const CleanerCore::RestoreResult& result, const TextStyle& style)
 {
     std::vector<ItemLines::Item> back;
+    back.reserve(result.restoredItems.size());
     for (const auto& restored : result.restoredItems) {
         back.push_back(lineOf(restored.cleanedItem, style.path(restored.restoredURL), style));
     }

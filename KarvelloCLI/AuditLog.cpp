@@ -26,7 +26,9 @@ std::string complaintOn(const Platform::FileURL& log, std::string_view what)
 
 std::vector<CleanupAuditEntry> newest(std::vector<CleanupAuditEntry> entries, std::int64_t limit)
 {
-    std::ranges::stable_sort(entries, std::ranges::greater{}, &CleanupAuditEntry::occurredAt);
+    std::ranges::sort(entries, [](const CleanupAuditEntry& left, const CleanupAuditEntry& right) {
+        return std::tie(left.occurredAt, left.id) > std::tie(right.occurredAt, right.id);
+    });
     if (entries.size() > static_cast<std::size_t>(limit)) {
         entries.resize(static_cast<std::size_t>(limit));
     }

@@ -3,10 +3,9 @@
 #include "CleanerCore/Cleaning/CleaningService.h"
 #include "CleanerCore/Safety/CleaningError.h"
 #include "CleanerCore/Safety/CleanupEligibilityPolicy.h"
-#include "KarvelloCLI/AuditLog.h"
 #include "KarvelloCLI/CleanTexts.h"
 #include "KarvelloCLI/CommandOutput.h"
-#include "KarvelloCLI/Conversation.h"
+#include "KarvelloCLI/Errand.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/ScanRun.h"
@@ -19,7 +18,9 @@
 
 #include <algorithm>
 #include <optional>
-#include <tuple>
+#include <span>
+#include <string>
+#include <string_view>
 
 namespace KarvelloCLI {
 
@@ -59,6 +60,47 @@ bool mayHaveMoved(const FailedCleanItem& item)
     return item.reason == unverified.errorDescription() || item.reason == stranger.localizedDescription();
 }
 
+/// The move of the selected candidates of one scan.
+class CleanErrand final : public Errand {
+public:
+    /// All must outlive the errand.
+    CleanErrand(std::span<const CleanerCore::CleanupCandidate> candidates, const ScanRun& run,
+        const CleanerCore::CleanupEligibilityPolicy& eligibility, const Platform::FileManager& fileManager,
+        Platform::Trash& trash)
+        : m_candidates(candidates)
+        , m_run(run)
+        , m_eligibility(eligibility)
+        , m_fileManager(fileManager)
+        , m_trash(trash)
+    {
+    }
+
+    std::string_view participle() const override { return "moved"; }
+    std::string preview(const TextStyle& style) const override
+    {
+        return cleanPreview(m_candidates, m_run.report.scannedAt, style);
+    }
+    std::string question(const TextStyle& style) const override { return cleanQuestion(m_candidates, style); }
+    CleanupAuditEntry perform(const std::stop_token& stop) override
+    {
+        const ScanPlan& plan = m_run.plan;
+        m_result = CleanerCore::CleaningService(m_fileManager, m_trash)
+                       .clean(m_candidates, plan.locations, kMode, m_eligibility, stop, plan.subject.home);
+        return CleanupAuditEntry::clean(
+            m_result, kMode, m_candidates, CleanerCore::CleanupAuditSource::cleanupDashboard, Platform::Date::now());
+    }
+    std::string account(const TextStyle& style) const override { return cleanAccount(m_candidates, m_result, style); }
+    ExitCode exitCode() const override { return exitCodeOf(m_result); }
+
+private:
+    std::span<const CleanerCore::CleanupCandidate> m_candidates;
+    const ScanRun& m_run;
+    const CleanerCore::CleanupEligibilityPolicy& m_eligibility;
+    const Platform::FileManager& m_fileManager;
+    Platform::Trash& m_trash;
+    CleanResult m_result;
+};
+
 } // namespace
 
 ExitCode exitCodeOf(const CleanResult& result)
@@ -85,29 +127,24 @@ ExitCode CleanCommand::run(const CleanOptions& options) const
     if (!output) {
         return ExitCode::wrongUsage;
     }
-    if (!options.isConfirmed && !Conversation::isPossible()) {
-        printMessage("There is no terminal to ask on, so nothing was moved; --yes agrees beforehand.");
+    if (!mayBeAgreedTo(options.isConfirmed, "moved")) {
         return ExitCode::refused;
     }
 
     std::optional<Interruption> interruption(std::in_place);
-    const std::stop_token stop = interruption->token();
-    const auto run = ScanRun::perform(options.scan, *here, m_fileManager, m_environment, stop);
+    const auto run = ScanRun::perform(options.scan, *here, m_fileManager, m_environment, interruption->token());
     if (!run) {
         printMessage(run.error());
         return ExitCode::refused;
     }
-    const auto interrupted = [] {
+    if (run->plan.subject.isIncomplete) {
         printMessage("Interrupted: nothing was moved.");
         return ExitCode::interrupted;
-    };
-    if (run->plan.subject.isIncomplete) {
-        return interrupted();
     }
     // Now, so that a folder that is put in the place of another one while the question waits is found out.
-    const auto& locations = run->plan.locations;
     const auto& home = run->plan.subject.home;
-    const CleanerCore::CleanupEligibilityPolicy eligibility(locations, m_fileManager, kMostValidatedDescendants, home);
+    const CleanerCore::CleanupEligibilityPolicy eligibility(
+        run->plan.locations, m_fileManager, kMostValidatedDescendants, home);
 
     run->judgement.tellRefusals(m_fileManager);
     if (run->judgement.failures > 0) {
@@ -120,54 +157,22 @@ ExitCode CleanCommand::run(const CleanOptions& options) const
     for (const std::string& id : selected.unknownIds) {
         printMessage(fmt::format("The scan found no item with the id “{}”.", TerminalText(id).string()));
     }
-    const auto& candidates = selected.candidates;
-    if (candidates.empty()) {
+    if (selected.candidates.empty()) {
         return nothingToMove(options, *run, selected);
     }
 
-    const Conversation conversation(common,
-        options.isConfirmed ? Conversation::Consent::isGiven : Conversation::Consent::isAsked, home, m_environment);
-    const TextStyle& style = conversation.style();
-    if (!conversation.say(cleanPreview(candidates, run->report.scannedAt, style) + "\n")) {
-        printMessage("What would move could not be shown, so nothing was moved.");
-        return ExitCode::refused;
-    }
-    switch (conversation.ask(cleanQuestion(candidates, style), stop)) {
-    case Answer::yes:
-        break;
-    case Answer::no:
-        printMessage("Nothing was moved.");
-        return ExitCode::refused;
-    case Answer::interrupted:
-        return interrupted();
-    }
-
-    interruption->insistOnAnEnd();
-    const CleanResult result = CleanerCore::CleaningService(m_fileManager, m_trash)
-                                   .clean(candidates, locations, kMode, eligibility, stop, home);
-    const auto entry = CleanupAuditEntry::clean(
-        result, kMode, candidates, CleanerCore::CleanupAuditSource::cleanupDashboard, Platform::Date::now());
-    const Logged logged = appendToAuditLog(m_log, entry, m_fileManager);
-    if (!output->isReplacedAtomically()) {
-        interruption.reset();
-    }
-
-    Delivery delivery = Delivery::written;
-    if (common.format == OutputFormat::table) {
-        const auto outputStyle = TextStyle::of(common, output->descriptor(), home, m_environment);
-        delivery = deliver(cleanAccount(candidates, result, outputStyle), *output, m_fileManager);
-    } else {
-        std::ignore = conversation.say(cleanAccount(candidates, result, style));
-        delivery = deliverAuditExport(std::span(&entry, 1), common, *output, m_fileManager);
-    }
-    if (result.wasCancelled) {
-        printMessage(
-            logged == Logged::yes ? "Interrupted: what was moved until then has been logged." : "Interrupted.");
-    }
-    const bool isWhole = logged == Logged::yes && delivery == Delivery::written && selected.unknownIds.empty()
-        && run->judgement.exitCode == ExitCode::done;
-    const ExitCode code = exitCodeOf(result);
-    return code == ExitCode::done && !isWhole ? ExitCode::partial : code;
+    CleanErrand errand(selected.candidates, *run, eligibility, m_fileManager, m_trash);
+    const ExitCode code = runErrand(errand,
+        {.common = common,
+            .isConfirmed = options.isConfirmed,
+            .home = home,
+            .output = *output,
+            .fileManager = m_fileManager,
+            .log = m_log,
+            .environment = m_environment},
+        interruption);
+    const bool isAllThatWasAsked = selected.unknownIds.empty() && run->judgement.exitCode == ExitCode::done;
+    return code == ExitCode::done && !isAllThatWasAsked ? ExitCode::partial : code;
 }
 
 } // namespace KarvelloCLI

@@ -38,6 +38,7 @@ std::string countAndSize(std::span<const CleanupCandidate> candidates, const Tex
 std::string kinds(const CleanupSelectionPreview& preview, const TextStyle& style)
 {
     std::vector<ItemLines::Item> items;
+    items.reserve(preview.categorySummaries.size());
     for (const auto& summary : preview.categorySummaries) {
         items.push_back({.size = style.size(summary.bytes),
             .age = {},

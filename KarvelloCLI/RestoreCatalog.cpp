@@ -24,15 +24,7 @@ bool keepsItems(const CleanupAuditEntry& entry)
 RestoreCatalog::RestoreCatalog(std::span<const CleanupAuditEntry> entries, const Rehearse& rehearse)
 {
     std::vector<CleanedItem> all;
-    for (const CleanupAuditEntry& entry : entries) {
-        if (keepsItems(entry)) {
-            all.insert(all.end(), entry.cleanedItems.begin(), entry.cleanedItems.end());
-        }
-    }
-    const CleanerCore::RestoreResult rehearsed = rehearse(all);
-
-    // Both lists keep the order of the items.
-    auto failed = rehearsed.failedItems.begin();
+    std::unordered_set<std::string> takenPlaces;
     for (const CleanupAuditEntry& entry : entries) {
         if (!keepsItems(entry)) {
             continue;
@@ -40,14 +32,26 @@ RestoreCatalog::RestoreCatalog(std::span<const CleanupAuditEntry> entries, const
         RecordedClean clean{
             .entry = entry.id, .occurredAt = entry.occurredAt, .movedCount = entry.succeededItemCount, .items = {}};
         for (const CleanedItem& item : entry.cleanedItems) {
-            RecordedItem recorded{.item = item, .obstacle = std::nullopt};
-            if (failed != rehearsed.failedItems.end() && failed->cleanedItem == item) {
+            if (item.destinationURL && !takenPlaces.insert(item.destinationURL->path()).second) {
+                ++clean.repeatedCount;
+                continue;
+            }
+            clean.items.push_back({.item = item, .obstacle = std::nullopt});
+            all.push_back(item);
+        }
+        m_cleans.push_back(std::move(clean));
+    }
+
+    // What failed comes in the order of the items.
+    const CleanerCore::RestoreResult rehearsed = rehearse(all);
+    auto failed = rehearsed.failedItems.begin();
+    for (RecordedClean& clean : m_cleans) {
+        for (RecordedItem& recorded : clean.items) {
+            if (failed != rehearsed.failedItems.end() && failed->cleanedItem == recorded.item) {
                 recorded.obstacle = failed->reason;
                 ++failed;
             }
-            clean.items.push_back(std::move(recorded));
         }
-        m_cleans.push_back(std::move(clean));
     }
 }
 

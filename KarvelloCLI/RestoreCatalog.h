@@ -29,6 +29,8 @@ struct RecordedClean {
     /// How many items it moved; the log need not have kept all of them.
     std::int64_t movedCount = 0;
     std::vector<RecordedItem> items;
+    /// How many of its items are left out here, since a newer clean moved them once more to the same place.
+    std::int64_t repeatedCount = 0;
 };
 
 /// What the log keeps for a restore, the newest clean first.

@@ -4,7 +4,7 @@
 #include "CleanerCore/Safety/CleanupEligibilityPolicy.h"
 #include "KarvelloCLI/AuditLog.h"
 #include "KarvelloCLI/CommandOutput.h"
-#include "KarvelloCLI/Conversation.h"
+#include "KarvelloCLI/Errand.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/RestoreCatalog.h"
@@ -21,7 +21,8 @@
 #include <algorithm>
 #include <optional>
 #include <span>
-#include <tuple>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace KarvelloCLI {
@@ -80,6 +81,41 @@ bool mayHaveMoved(const CleanerCore::FailedRestoreItem& item)
     return item.reason == stranger.localizedDescription();
 }
 
+/// The way back of the selected items.
+class RestoreErrand final : public Errand {
+public:
+    /// All must outlive the errand.
+    RestoreErrand(std::span<const CleanedItem> items, std::int64_t bytes, const RestorePlaces& places,
+        const Platform::FileManager& fileManager, Platform::Trash& trash)
+        : m_items(items)
+        , m_bytes(bytes)
+        , m_places(places)
+        , m_fileManager(fileManager)
+        , m_trash(trash)
+    {
+    }
+
+    std::string_view participle() const override { return "put back"; }
+    std::string preview(const TextStyle& style) const override { return restorePreview(m_items, m_bytes, style); }
+    std::string question(const TextStyle& style) const override { return restoreQuestion(m_items, m_bytes, style); }
+    CleanupAuditEntry perform(const std::stop_token& stop) override
+    {
+        m_result = m_places.restore(m_items, m_fileManager, m_trash, stop);
+        return CleanupAuditEntry::restore(
+            m_result, m_items, CleanerCore::CleanupAuditSource::cleanupDashboard, Platform::Date::now());
+    }
+    std::string account(const TextStyle& style) const override { return restoreAccount(m_items, m_result, style); }
+    ExitCode exitCode() const override { return exitCodeOf(m_result); }
+
+private:
+    std::span<const CleanedItem> m_items;
+    std::int64_t m_bytes;
+    const RestorePlaces& m_places;
+    const Platform::FileManager& m_fileManager;
+    Platform::Trash& m_trash;
+    RestoreResult m_result;
+};
+
 } // namespace
 
 ExitCode exitCodeOf(const RestoreResult& result)
@@ -113,8 +149,7 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
         return ExitCode::wrongUsage;
     }
     const bool isListing = options.selection == RestoreSelection::none;
-    if (!isListing && !options.isConfirmed && !Conversation::isPossible()) {
-        printMessage("There is no terminal to ask on, so nothing was put back; --yes agrees beforehand.");
+    if (!isListing && !mayBeAgreedTo(options.isConfirmed, "put back")) {
         return ExitCode::refused;
     }
 
@@ -165,49 +200,18 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
     const RestorePlaces places(items, known, home, m_fileManager);
 
     std::optional<Interruption> interruption(std::in_place);
-    const std::stop_token stop = interruption->token();
-    const Conversation conversation(common,
-        options.isConfirmed ? Conversation::Consent::isGiven : Conversation::Consent::isAsked, home, m_environment);
-    const TextStyle& style = conversation.style();
-    if (!conversation.say(restorePreview(items, *bytes, style) + "\n")) {
-        printMessage("What would go back could not be shown, so nothing was put back.");
-        return ExitCode::refused;
-    }
-    switch (conversation.ask(restoreQuestion(items, *bytes, style), stop)) {
-    case Answer::yes:
-        break;
-    case Answer::no:
-        printMessage("Nothing was put back.");
-        return ExitCode::refused;
-    case Answer::interrupted:
-        printMessage("Interrupted: nothing was put back.");
-        return ExitCode::interrupted;
-    }
-
-    interruption->insistOnAnEnd();
-    const RestoreResult result = places.restore(items, m_fileManager, m_trash, stop);
-    const auto entry = CleanupAuditEntry::restore(
-        result, items, CleanerCore::CleanupAuditSource::cleanupDashboard, Platform::Date::now());
-    const Logged logged = appendToAuditLog(m_log, entry, m_fileManager);
-    if (!output->isReplacedAtomically()) {
-        interruption.reset();
-    }
-
-    Delivery delivery = Delivery::written;
-    if (common.format == OutputFormat::table) {
-        const auto outputStyle = TextStyle::of(common, output->descriptor(), home, m_environment);
-        delivery = deliver(restoreAccount(items, result, outputStyle), *output, m_fileManager);
-    } else {
-        std::ignore = conversation.say(restoreAccount(items, result, style));
-        delivery = deliverAuditExport(std::span(&entry, 1), common, *output, m_fileManager);
-    }
-    if (result.wasCancelled) {
-        printMessage(
-            logged == Logged::yes ? "Interrupted: what was put back until then has been logged." : "Interrupted.");
-    }
-    const bool isWhole = logged == Logged::yes && delivery == Delivery::written && selection.complaints.empty();
-    const ExitCode code = exitCodeOf(result);
-    return code == ExitCode::done && !isWhole ? ExitCode::partial : code;
+    RestoreErrand errand(items, *bytes, places, m_fileManager, m_trash);
+    const ExitCode code = runErrand(errand,
+        {.common = common,
+            .isConfirmed = options.isConfirmed,
+            .home = home,
+            .output = *output,
+            .fileManager = m_fileManager,
+            .log = m_log,
+            .environment = m_environment},
+        interruption);
+    const bool isAllThatWasAsked = selection.complaints.empty() && !log.complaint;
+    return code == ExitCode::done && !isAllThatWasAsked ? ExitCode::partial : code;
 }
 
 } // namespace KarvelloCLI

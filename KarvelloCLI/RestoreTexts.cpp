@@ -49,7 +49,13 @@ std::string listed(const RecordedClean& clean, const Platform::FileManager& file
         text += style.paragraph(
             fmt::format("{} no longer in the Trash.", gone == 1 ? "1 item is" : fmt::format("{} items are", gone)), 2);
     }
-    if (const auto kept = static_cast<std::int64_t>(clean.items.size()); clean.movedCount > kept) {
+    if (const auto count = clean.repeatedCount; count > 0) {
+        text += style.paragraph(fmt::format("{} cleaned once more, which is listed above.",
+                                    count == 1 ? "1 item was" : fmt::format("{} items were", count)),
+            2);
+    }
+    if (const auto kept = static_cast<std::int64_t>(clean.items.size()) + clean.repeatedCount;
+        clean.movedCount > kept) {
         text += style.paragraph(fmt::format("The log kept {} of {} items; the others can be put back from the Trash of "
                                             "the desktop.",
                                     kept, clean.movedCount),
@@ -104,6 +110,7 @@ std::string restoreAccount(
     std::span<const CleanedItem> requested, const CleanerCore::RestoreResult& result, const TextStyle& style)
 {
     std::vector<ItemLines::Item> back;
+    back.reserve(result.restoredItems.size());
     for (const auto& restored : result.restoredItems) {
         back.push_back(lineOf(restored.cleanedItem, style.path(restored.restoredURL), style));
     }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace KarvelloCLI;
@@ -15,14 +16,20 @@ std::expected<Command, UsageError> parse(const std::vector<std::string>& words)
     return parseCommandLine(words);
 }
 
-ScanOptions scanOptions(const std::vector<std::string>& words)
+template <typename Options>
+Options optionsOf(const std::vector<std::string>& words)
 {
     const auto command = parse(words);
-    if (!command || !std::holds_alternative<ScanOptions>(*command)) {
-        ADD_FAILURE() << "no scan: " << (command ? "information" : command.error().message);
+    if (!command || !std::holds_alternative<Options>(*command)) {
+        ADD_FAILURE() << "another command: " << (command ? "" : command.error().message);
         return {};
     }
-    return std::get<ScanOptions>(*command);
+    return std::get<Options>(*command);
+}
+
+ScanOptions scanOptions(const std::vector<std::string>& words)
+{
+    return optionsOf<ScanOptions>(words);
 }
 
 std::string information(const std::vector<std::string>& words)
@@ -177,17 +184,98 @@ TEST(CommandLine, AloneItHelps)
 
 TEST(CommandLine, HelpNamesEveryOptionAndFitsAScreen)
 {
-    const std::string help = information({"scan", "--help"});
-    for (const char* const option :
-        {"--mode", "--home", "--folder", "--root", "--min-age", "--hidden", "--packages", "--format", "--redacted",
-            "--output", "--progress", "--color", "--language", "--jobs", "--verbose", "--version", "--help", "130"}) {
-        EXPECT_NE(help.find(option), std::string::npos) << option;
+    const std::vector<std::string> common{"--format", "--redacted", "--output", "--progress", "--color", "--language",
+        "--jobs", "--verbose", "--version", "--help", "Exit status"};
+    const std::vector<std::string> scan{
+        "--mode", "--home", "--folder", "--root", "--min-age", "--hidden", "--packages"};
+    std::vector<std::string> clean = scan;
+    clean.insert(clean.end(), {"--default", "--id", "--all", "--yes", "130"});
+    const std::vector<std::pair<std::string, std::vector<std::string>>> commands{{"scan", scan}, {"clean", clean},
+        {"restore", {"--entry", "--id", "--all", "--home", "--yes", "130"}}, {"history", {"--limit"}}};
+    for (const auto& [command, options] : commands) {
+        const std::string help = information({command, "--help"});
+        EXPECT_NE(help.find("Usage: karvello-cli " + command), std::string::npos) << help;
+        for (const auto& names : {common, options}) {
+            for (const std::string& option : names) {
+                EXPECT_NE(help.find(option), std::string::npos) << command << " " << option;
+            }
+        }
+        std::size_t begin = 0;
+        for (std::size_t end = help.find('\n'); end != std::string::npos; end = help.find('\n', begin)) {
+            EXPECT_LE(end - begin, 80U) << help.substr(begin, end - begin);
+            begin = end + 1;
+        }
     }
-    std::size_t begin = 0;
-    for (std::size_t end = help.find('\n'); end != std::string::npos; end = help.find('\n', begin)) {
-        EXPECT_LE(end - begin, 80U) << help.substr(begin, end - begin);
-        begin = end + 1;
+}
+
+TEST(CommandLine, ACleanHasTheOptionsOfAScan)
+{
+    const CleanOptions options = optionsOf<CleanOptions>(
+        {"clean", "--root", "/r", "--min-age", "5", "--mode", "direct", "--format", "csv", "--all", "--yes"});
+    EXPECT_EQ(options.scan.roots, std::vector<std::string>{"/r"});
+    EXPECT_EQ(options.scan.minimumAge, 5);
+    EXPECT_EQ(options.scan.mode, CleanupScanMode::direct);
+    EXPECT_EQ(options.scan.common.format, OutputFormat::csv);
+    EXPECT_EQ(options.selection, CleanSelection::all);
+    EXPECT_TRUE(options.isConfirmed);
+}
+
+TEST(CommandLine, ACleanNeedsOneKindOfSelection)
+{
+    EXPECT_EQ(optionsOf<CleanOptions>({"clean", "--default"}).selection, CleanSelection::preselected);
+    EXPECT_FALSE(optionsOf<CleanOptions>({"clean", "--default"}).isConfirmed);
+    const CleanOptions named = optionsOf<CleanOptions>({"clean", "--id", "[a,b]", "--id", "c:/d e"});
+    EXPECT_EQ(named.selection, CleanSelection::byId);
+    EXPECT_EQ(named.ids, (std::vector<std::string>{"[a,b]", "c:/d e"}));
+    EXPECT_EQ(usageError({"clean"}).message, "What shall be moved? One of --default, --id and --all is needed.");
+    EXPECT_EQ(usageError({"clean"}).hint, "Try 'karvello-cli clean --help'.");
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"clean", "--default", "--all"},
+             {"clean", "--id", "x", "--all"}, {"clean", "--id", "x", "--default"}}) {
+        EXPECT_EQ(usageError(words).message, "--default, --id and --all exclude each other.");
     }
+    EXPECT_FALSE(parse({"clean", "--id", "a", "b"})) << "one mention takes one id";
+    EXPECT_FALSE(parse({"clean", "--id", ""}));
+    EXPECT_FALSE(parse({"clean", "--all", "--permanently"}));
+}
+
+TEST(CommandLine, ARestoreListsUnlessItIsToldWhatToPutBack)
+{
+    EXPECT_EQ(optionsOf<RestoreOptions>({"restore"}).selection, RestoreSelection::none);
+    EXPECT_EQ(optionsOf<RestoreOptions>({"restore", "--all"}).selection, RestoreSelection::all);
+    const RestoreOptions options = optionsOf<RestoreOptions>(
+        {"restore", "--entry", "9b6c2d0e-7a41-4e53-8e11-0c6e7c5a2f10", "--id", "x", "--yes", "--home", "/h"});
+    EXPECT_EQ(options.selection, RestoreSelection::byId);
+    EXPECT_EQ(options.ids, std::vector<std::string>{"x"});
+    EXPECT_EQ(options.entry->string(), "9B6C2D0E-7A41-4E53-8E11-0C6E7C5A2F10");
+    EXPECT_EQ(options.home, "/h");
+    EXPECT_TRUE(options.isConfirmed);
+    EXPECT_EQ(usageError({"restore", "--yes"}).message, "--yes needs --id or --all.");
+    EXPECT_EQ(usageError({"restore", "--id", "x", "--all"}).message, "--id and --all exclude each other.");
+    EXPECT_EQ(usageError({"restore", "--entry", "12"}).message, "--entry: “12” is no id of an entry.");
+}
+
+TEST(CommandLine, ATableOfWhatMovesIsNotRedacted)
+{
+    EXPECT_FALSE(parse({"clean", "--all", "--redacted"}));
+    EXPECT_FALSE(parse({"restore", "--redacted"}));
+    EXPECT_TRUE(parse({"clean", "--all", "--redacted", "--format", "json"}));
+    EXPECT_TRUE(parse({"restore", "--redacted", "--format", "csv"}));
+    EXPECT_TRUE(parse({"history", "--redacted"}));
+}
+
+TEST(CommandLine, AHistoryHasALimit)
+{
+    EXPECT_FALSE(optionsOf<HistoryOptions>({"history"}).limit);
+    EXPECT_EQ(optionsOf<HistoryOptions>({"history", "--limit", "3"}).limit, 3);
+    for (const char* const limit : {"0", "-1", "some", "1.5", ""}) {
+        EXPECT_FALSE(parse({"history", "--limit", limit})) << limit;
+    }
+}
+
+TEST(CommandLine, OneLineHoldsOneCommand)
+{
+    EXPECT_FALSE(parse({"scan", "clean", "--all"}));
+    EXPECT_FALSE(parse({"clean", "--all", "restore"}));
 }
 
 TEST(CommandLine, TellsItsVersion)

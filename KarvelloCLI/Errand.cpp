@@ -1,0 +1,80 @@
+#include "KarvelloCLI/Errand.h"
+
+#include "KarvelloCLI/AuditLog.h"
+#include "KarvelloCLI/CommandOutput.h"
+#include "KarvelloCLI/Conversation.h"
+#include "KarvelloCLI/Messages.h"
+
+#include <fmt/format.h>
+
+#include <span>
+#include <tuple>
+
+namespace KarvelloCLI {
+
+namespace {
+
+Delivery tell(const Errand& errand, const CleanerCore::CleanupAuditEntry& entry, const ErrandSetting& setting,
+    const Conversation& conversation)
+{
+    if (setting.common.format == OutputFormat::table) {
+        const auto style =
+            TextStyle::of(setting.common, setting.output.descriptor(), setting.home, setting.environment);
+        return deliver(errand.account(style), setting.output, setting.fileManager);
+    }
+    std::ignore = conversation.say(errand.account(conversation.style()));
+    return deliverAuditExport(std::span(&entry, 1), setting.common, setting.output, setting.fileManager);
+}
+
+} // namespace
+
+bool mayBeAgreedTo(bool isConfirmed, std::string_view participle)
+{
+    if (isConfirmed || Conversation::isPossible()) {
+        return true;
+    }
+    printMessage(
+        fmt::format("There is no terminal to ask on, so nothing was {}; --yes agrees beforehand.", participle));
+    return false;
+}
+
+ExitCode runErrand(Errand& errand, const ErrandSetting& setting, std::optional<Interruption>& interruption)
+{
+    const std::stop_token stop = interruption->token();
+    using Consent = Conversation::Consent;
+    const Conversation conversation(
+        setting.common, setting.isConfirmed ? Consent::isGiven : Consent::isAsked, setting.home, setting.environment);
+    const TextStyle& style = conversation.style();
+    if (!conversation.say(errand.preview(style) + "\n")) {
+        printMessage(fmt::format("What would be {0} could not be shown, so nothing was {0}.", errand.participle()));
+        return ExitCode::refused;
+    }
+    switch (conversation.ask(errand.question(style), stop)) {
+    case Answer::yes:
+        break;
+    case Answer::no:
+        printMessage(fmt::format("Nothing was {}.", errand.participle()));
+        return ExitCode::refused;
+    case Answer::interrupted:
+        printMessage(fmt::format("Interrupted: nothing was {}.", errand.participle()));
+        return ExitCode::interrupted;
+    }
+
+    interruption->insistOnAnEnd();
+    const CleanerCore::CleanupAuditEntry entry = errand.perform(stop);
+    const Logged logged = appendToAuditLog(setting.log, entry, setting.fileManager);
+    if (!setting.output.isReplacedAtomically()) {
+        interruption.reset();
+    }
+    const Delivery delivery = tell(errand, entry, setting, conversation);
+    if (entry.wasCancelled) {
+        printMessage(logged == Logged::yes
+                ? fmt::format("Interrupted: what was {} until then has been logged.", errand.participle())
+                : "Interrupted.");
+    }
+    const ExitCode code = errand.exitCode();
+    const bool isTold = logged == Logged::yes && delivery == Delivery::written;
+    return code == ExitCode::done && !isTold ? ExitCode::partial : code;
+}
+
+} // namespace KarvelloCLI

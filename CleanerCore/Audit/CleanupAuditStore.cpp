@@ -52,7 +52,11 @@ std::size_t countThatFits(const std::vector<CleanupAuditEntry>& entries)
     std::size_t count = 0;
     for (const auto& entry : entries) {
         const auto alone = Platform::encodeJSON(std::vector{entry});
-        if (!alone || (bytes += alone->size() - sharedBytes) > CleanupAuditStore::kMaximumBytes) {
+        if (!alone) {
+            break;
+        }
+        bytes += alone->size() - sharedBytes;
+        if (bytes > CleanupAuditStore::kMaximumBytes) {
             break;
         }
         ++count;

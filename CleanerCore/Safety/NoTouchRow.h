@@ -45,7 +45,7 @@ enum class NoTouchEffect : std::uint8_t {
 };
 
 /// Whose layout a row speaks of.
-enum class NoTouchTable : std::uint8_t { apple, linux_ };
+enum class NoTouchTable : std::uint8_t { apple, linuxDesktop };
 
 /// One rule about the shape of a path, lower-cased.
 struct NoTouchRow {

@@ -33,7 +33,7 @@ constexpr void forEachRow(Visitor visit)
         visit(row, NoTouchTable::apple);
     }
     for (const NoTouchRow& row : kLinuxNoTouchTable) {
-        visit(row, NoTouchTable::linux_);
+        visit(row, NoTouchTable::linuxDesktop);
     }
 }
 

@@ -31,8 +31,7 @@ public:
 
     [[nodiscard]] RestoreResult restore(std::span<const CleanedItem> items,
         std::span<const ScanLocation> allowedLocations, const CleanupEligibilityPolicy& cleanupEligibilityPolicy,
-        const std::stop_token& stop = {},
-        const std::optional<Platform::FileURL>& homeDirectory = std::nullopt) const;
+        const std::stop_token& stop = {}, const std::optional<Platform::FileURL>& homeDirectory = std::nullopt) const;
 
 private:
     const Platform::FileManager& m_fileManager;

@@ -34,8 +34,7 @@ public:
         std::uint64_t m_bits = 0;
     };
 
-    [[nodiscard]] static bool isNoTouchPath(
-        const Platform::FileURL& url, NoTouchScope scope = NoTouchScope::everywhere)
+    [[nodiscard]] static bool isNoTouchPath(const Platform::FileURL& url, NoTouchScope scope = NoTouchScope::everywhere)
     {
         return State::of(url, scope).isNoTouch();
     }

@@ -9,11 +9,11 @@ namespace Platform {
 int makeFolders(const FileURL& folder)
 {
     constexpr mode_t kPrivateFolder = 0700; // as the base directory specification asks for
-    struct stat found {};
+    struct stat found{};
     if (stat(folder.path().c_str(), &found) == 0) {
         return S_ISDIR(found.st_mode) ? 0 : ENOTDIR;
     }
-    std::string path = folder.path();
+    const std::string& path = folder.path();
     for (std::size_t slash = path.find('/', 1); true; slash = path.find('/', slash + 1)) {
         const auto prefix = path.substr(0, slash);
         if (mkdir(prefix.c_str(), kPrivateFolder) != 0 && errno != EEXIST) {

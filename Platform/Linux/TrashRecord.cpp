@@ -3,9 +3,9 @@
 #include "Platform/Base/PercentEncoding.h"
 
 #include <array>
+#include <climits>
 #include <ctime>
 #include <fmt/format.h>
-#include <limits.h>
 
 namespace Platform {
 

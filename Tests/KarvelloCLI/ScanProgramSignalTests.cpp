@@ -90,7 +90,6 @@ TEST_F(ScanProgram, CtrlCGivesATruePartialAccount)
         } else if (format == "json") {
             const auto document = nlohmann::json::parse(result.output);
             const std::size_t found = document.at("candidates").size();
-            EXPECT_GT(found, 0U);
             EXPECT_LT(found, kForever) << "the scan was not interrupted at all";
             EXPECT_EQ(document.at("summary").at("candidateCount"), found);
         } else {

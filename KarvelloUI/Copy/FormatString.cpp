@@ -53,7 +53,7 @@ std::optional<Conversion> takeConversion(std::string_view& rest)
     if (take(ahead, '.')) {
         conversion.fractionDigits = std::min(static_cast<int>(takeNumber(ahead).value_or(0)), kMaximumFractionDigits);
     }
-    while (take(ahead, 'l')) { }
+    while (take(ahead, 'l')) {}
     if (ahead.empty() || std::string_view("@diuf").find(ahead.front()) == std::string_view::npos) {
         return std::nullopt;
     }

@@ -19,7 +19,8 @@ KarvelloCopyTranslationTemplate::KarvelloCopyTranslationTemplate(
     : pattern(englishPattern)
     , replacement(translatedReplacement)
     , regex(SentencePattern::shared(pattern))
-{ }
+{
+}
 
 std::expected<std::optional<std::string>, MatchBudgetExhausted> KarvelloCopyTranslationTemplate::translation(
     MatchableSentence& sentence, MatchBudget& budget) const

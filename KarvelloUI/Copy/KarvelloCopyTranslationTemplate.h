@@ -14,8 +14,8 @@ namespace KarvelloUI {
 struct KarvelloCopyTranslationTemplate {
     KarvelloCopyTranslationTemplate(std::string_view englishPattern, std::string_view translatedReplacement);
 
-    std::string pattern;     // an expression over the whole English sentence
-    std::string replacement; // with {0}, {1}... for what the groups catch
+    std::string pattern;                          // an expression over the whole English sentence
+    std::string replacement;                      // with {0}, {1}... for what the groups catch
     std::shared_ptr<const SentencePattern> regex; // none if the pattern is no expression: then the row never matches
 
     /// The sentence in the other language, or nothing if it has another shape. The parts are put in one after another, so

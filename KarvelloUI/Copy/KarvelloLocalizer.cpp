@@ -1,20 +1,19 @@
 #include "KarvelloUI/Copy/KarvelloLocalizer.h"
 
-#include "KarvelloUI/Copy/KarvelloLocalizationResources.h"
-
 #include <span>
 
 namespace KarvelloUI {
 
-std::string KarvelloLocalizer::string(KarvelloI18nKey key) const
+std::string KarvelloLocalizer::string(KarvelloI18nKey key, const KarvelloLocalizationResources& resources) const
 {
-    return KarvelloLocalizationResources::bundled().resolve(Platform::rawValue(key), language).value;
+    return resources.resolve(Platform::rawValue(key), language).value;
 }
 
-std::string KarvelloLocalizer::string(KarvelloI18nKey key, std::initializer_list<FormatArgument> arguments) const
+std::string KarvelloLocalizer::string(KarvelloI18nKey key, std::initializer_list<FormatArgument> arguments,
+    const KarvelloLocalizationResources& resources) const
 {
-    const std::string format = string(key);
-    return arguments.size() == 0 ? format : formatted(format, std::span(arguments), Platform::rawValue(language));
+    std::string text = string(key, resources);
+    return arguments.size() == 0 ? text : formatted(text, std::span(arguments), Platform::rawValue(language));
 }
 
 } // namespace KarvelloUI

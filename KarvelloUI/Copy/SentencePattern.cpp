@@ -79,12 +79,14 @@ std::string_view MatchableSentence::bytes(std::int32_t start, std::int32_t end) 
 SentencePattern::SentencePattern(std::unique_ptr<icu::RegexPattern> expression, std::string_view pattern)
     : m_expression(std::move(expression))
     , m_literals(literalsOf(pattern).value_or(std::vector<std::string>()))
-{ }
+{
+}
 
 std::shared_ptr<const SentencePattern> SentencePattern::compile(std::string_view pattern)
 {
     UErrorCode status = U_ZERO_ERROR;
-    const auto source = icu::UnicodeString::fromUTF8(icu::StringPiece(pattern.data(), static_cast<int>(pattern.size())));
+    const auto source =
+        icu::UnicodeString::fromUTF8(icu::StringPiece(pattern.data(), static_cast<int>(pattern.size())));
     std::unique_ptr<icu::RegexPattern> expression(icu::RegexPattern::compile(source, 0, status));
     if (U_FAILURE(status) || !expression) {
         return nullptr;

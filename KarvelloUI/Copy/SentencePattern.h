@@ -19,7 +19,8 @@ class MatchableSentence {
 public:
     explicit MatchableSentence(std::string_view text)
         : m_text(text)
-    { }
+    {
+    }
 
     [[nodiscard]] std::string_view text() const { return m_text; }
     /// Made at the first call: most sentences are known without it.
@@ -37,7 +38,7 @@ private:
 struct MatchBudget {
     int ticks = 20; // of 10,000 steps of ICU each, about a quarter of a millisecond
 };
-struct MatchBudgetExhausted { };
+struct MatchBudgetExhausted {};
 
 /// The parts that the groups caught, in order; none for a group that took no part.
 using CapturedParts = std::vector<std::optional<std::string_view>>;

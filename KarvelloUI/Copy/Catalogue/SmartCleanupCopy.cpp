@@ -1,0 +1,64 @@
+#include "KarvelloUI/Copy/KarvelloCopy.h"
+
+namespace KarvelloUI {
+
+std::string KarvelloCopy::smartCleanupSizeDetail(std::int64_t bytes) const
+{
+    return byteSize(bytes);
+}
+
+std::string KarvelloCopy::smartCleanupOpenSectionCTA(std::string_view sectionTitle) const
+{
+    return sentence("{} 열기", "Open {}", sectionTitle);
+}
+
+std::string KarvelloCopy::smartCleanupLowDiskBody(std::int64_t freeBytes, std::string_view sectionTitle) const
+{
+    return sentence("남은 공간이 {}입니다. ‘{}’에서 큰 후보부터 검토해 보세요.",
+        "Free space is {}. Start by reviewing larger candidates in {}.", byteSize(freeBytes), sectionTitle);
+}
+
+std::string KarvelloCopy::smartCleanupDuplicatesBody(std::int64_t groupCount) const
+{
+    return sentence("해시가 일치하는 그룹 {}개를 찾았습니다. 추가 사본을 선택하기 전에 보관할 파일을 확인하세요.",
+        "Found {} hash-matched groups. Confirm the keeper before selecting extras.", groupCount);
+}
+
+std::string KarvelloCopy::smartCleanupPermissionBody(std::int64_t blockedCount) const
+{
+    if (blockedCount <= 0) {
+        return text("빠짐없는 스캔 결과를 얻으려면 홈 폴더 접근 권한이 필요합니다. 설정에서 접근 상태를 확인하세요.",
+            "Home folder access is needed for complete scan results. Review access status in Settings.");
+    }
+    return sentence("권한 또는 보안 범위 때문에 항목 {}개를 건너뛰었습니다. 설정에서 접근 상태를 확인하세요.",
+        "{} items were skipped because of permissions or security scope. Review access status in Settings.",
+        blockedCount);
+}
+
+std::string KarvelloCopy::smartCleanupPermissionDetail(std::int64_t blockedCount) const
+{
+    return blockedCount <= 0 ? text("접근 권한 확인 필요", "Access check needed")
+                             : sentence("{}개 건너뜀", "{} skipped", blockedCount);
+}
+
+std::string KarvelloCopy::smartCleanupCandidatesBody(std::int64_t candidateCount) const
+{
+    return sentence(
+        "정리 후보 {}개가 준비되었습니다. 선택한 항목을 휴지통으로 옮기기 전에 경로와 안전 등급을 검토하세요.",
+        "{} candidates are ready. Review paths and safety before moving selected items to Trash.", candidateCount);
+}
+
+std::string KarvelloCopy::smartCleanupLargeFilesBody(std::int64_t fileCount) const
+{
+    return sentence(
+        "큰 파일 {}개를 크기순으로 보여 줍니다. 아는 파일부터 검토하세요. 자동으로 정리되는 파일은 없습니다.",
+        "Shows {} large files by size. Review what you recognize; nothing is removed automatically.", fileCount);
+}
+
+std::string KarvelloCopy::smartCleanupDownloadsBody(std::int64_t itemCount) const
+{
+    return sentence(
+        "다운로드 후보 {}개를 크기순으로 검토하세요.", "Review {} Downloads candidates by size.", itemCount);
+}
+
+} // namespace KarvelloUI

@@ -27,7 +27,9 @@ MAY_CHANGE_FILES = ("Platform/Files/", "Platform/Linux/", "Platform/macOS/")
 
 MAXIMUM_LINES = 400
 # Tables that are longer, each a list of rows and no code.
-LONG_TABLES = ()
+LONG_TABLES = tuple(
+    f"KarvelloUI/Copy/Translations/{name}.txt"
+    for name in ("english", "japanese", "simplifiedChinese", "traditionalChinese", "spanish", "french", "german"))
 
 _INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
 

@@ -56,8 +56,8 @@ class EveryLanguage : public testing::TestWithParam<AppLanguage> {};
 INSTANTIATE_TEST_SUITE_P(Copy, EveryLanguage,
     testing::Values(AppLanguage::japanese, AppLanguage::simplifiedChinese, AppLanguage::traditionalChinese,
         AppLanguage::spanish, AppLanguage::french, AppLanguage::german),
-    [](const auto& info) {
-        std::string name(Platform::rawValue(info.param));
+    [](const auto& language) {
+        std::string name(Platform::rawValue(language.param));
         std::erase(name, '-');
         return name;
     });

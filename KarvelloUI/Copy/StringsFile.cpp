@@ -19,7 +19,10 @@ public:
     std::optional<StringsEntries> entries()
     {
         StringsEntries entries;
-        while (skipBlanks() && !m_rest.empty()) {
+        while (skipBlanks()) {
+            if (m_rest.empty()) {
+                return entries;
+            }
             const auto key = quoted();
             if (!key || !takeNext("=")) {
                 return std::nullopt;
@@ -30,7 +33,7 @@ public:
             }
             entries.insert_or_assign(*key, std::move(*text));
         }
-        return m_rest.empty() ? std::optional(std::move(entries)) : std::nullopt;
+        return std::nullopt;
     }
 
 private:

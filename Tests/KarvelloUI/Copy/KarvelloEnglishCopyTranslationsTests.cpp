@@ -206,7 +206,7 @@ TEST_P(EveryLanguage, LeavesTheSentencesOfDeadRowsInEnglish)
             "Open Downloads", "Safe 3 · Review 2 · Manual 1", "Duplicate candidates · 1.5 GB",
             "Safari uses 12% of total CPU capacity", "Safari uses 12% of total physical memory",
             "Review confidence levels and categories before moving 5 items (1 GB) to Trash.",
-            "5 items\n\nPreview: Caches (3). Cleanup moves items to Trash only.",
+            "5 items\n\nPreview: Caches · 3 items · 1 GB. Cleanup moves items to Trash only.",
             "Clean, Mac insights, 10:30, 5 succeeded, 2 failed, 1 GB",
             "The item no longer exists, so the parent folder was opened.\n~/a",
             "Finder could not open this item.\n~/a"}) {

@@ -181,13 +181,13 @@ TEST_P(EveryLanguage, CarriesEveryPartAcross)
 {
     const Texts parts{"<a>", "<b>", "<c>", "<d>", "<e>", "<f>", "<g>", "<h>", "<i>", "<j>", "<k>"};
     for (const auto& row : Translations::tables(GetParam())->templates()) {
+        if (cannotMatch(row.pattern)) {
+            continue;
+        }
         const std::string text = sentenceOf(row.pattern, parts);
         MatchableSentence sentence(text);
         MatchBudget budget;
         const auto translation = row.translation(sentence, budget).value();
-        if (cannotMatch(row.pattern) || row.pattern.find("\\\\n") != std::string::npos) {
-            continue;
-        }
         ASSERT_TRUE(translation) << row.pattern;
         for (const std::string& part : parts) {
             if (text.find(part) != std::string::npos) {

@@ -36,7 +36,7 @@ private:
 
 /// The steps that the search for one sentence may take over all expressions, so that no name can make it slow.
 struct MatchBudget {
-    int ticks = 20; // of 10,000 steps of ICU each, about a quarter of a millisecond
+    int ticks = 20; // of 10,000 steps of ICU each, about a tenth of a millisecond
 };
 struct MatchBudgetExhausted {};
 

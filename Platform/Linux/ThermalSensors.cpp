@@ -1,0 +1,10 @@
+#include "Platform/Linux/ThermalSensors.h"
+
+namespace Platform {
+
+ThermalState thermalStateOfSensors(const std::string& /*sysRoot*/)
+{
+    return ThermalState::unknown;
+}
+
+} // namespace Platform

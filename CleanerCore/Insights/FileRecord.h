@@ -18,10 +18,10 @@ struct FileRecord {
     FileRecord() = default;
     /// A record by itself, with a folder path of its own.
     explicit FileRecord(const Platform::FileURL& url);
-    /// `folderPath` is standardised and not null; `name` is one component.
-    FileRecord(std::shared_ptr<const std::string> folderPath, std::string_view name)
-        : folderPath(std::move(folderPath))
-        , name(name)
+    /// `folder` is standardised and not null; `entryName` is one component.
+    FileRecord(std::shared_ptr<const std::string> folder, std::string_view entryName)
+        : folderPath(std::move(folder))
+        , name(entryName)
     {
     }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fcntl.h>
+#include <filesystem>
 
 namespace Platform::KernelText {
 
@@ -18,6 +19,16 @@ std::optional<std::string> read(const std::string& path)
 {
     auto bytes = readWholeFile(AT_FDCWD, path.c_str(), kMaximumBytes);
     return bytes ? std::optional(*std::move(bytes)) : std::nullopt;
+}
+
+std::vector<std::string> namesIn(const std::string& path)
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(path, error), end; !error && entry != end; entry.increment(error)) {
+        names.push_back(entry->path().filename().string());
+    }
+    return names;
 }
 
 std::optional<std::string_view> takeLine(std::string_view& text)

@@ -7,12 +7,16 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 /// The small texts in which the kernel tells of itself below /proc and /sys.
 namespace Platform::KernelText {
 
 /// The whole text at `path`, or nothing if it cannot be read: processes end and sensors fail while one looks at them.
 [[nodiscard]] std::optional<std::string> read(const std::string& path);
+
+/// The names of what lies in the folder at `path`, in no order; none if it cannot be listed.
+[[nodiscard]] std::vector<std::string> namesIn(const std::string& path);
 
 /// Takes the next line off `text`, without its end; nothing when `text` is empty.
 [[nodiscard]] std::optional<std::string_view> takeLine(std::string_view& text);

@@ -10,12 +10,13 @@
 
 namespace KarvelloCLI {
 
-/// One candidate as a table shows it.
+/// One candidate, or another file, as a table shows it.
 struct CandidateRow {
     bool isMarked = false;
     TerminalText size;
     TerminalText age;
     TerminalText name;
+    /// Empty in all rows: there is no column for it.
     TerminalText kind;
     /// The folder that holds the item, or its token.
     TerminalText place;

@@ -29,7 +29,8 @@ constexpr const char* kProgramFooter =
     "  karvello-cli scan --root ~/builds   the items of one folder\n"
     "  karvello-cli scan --format json --output scan.json\n"
     "  karvello-cli clean --default        what a scan marks with *, after a question\n"
-    "  karvello-cli restore                what can be put back\n";
+    "  karvello-cli restore                what can be put back\n"
+    "  karvello-cli insights               where the space went\n";
 
 constexpr const char* kScanIntroduction =
     "Look for what could be cleaned up, without changing anything.\n"
@@ -159,7 +160,7 @@ void addRestoreOptions(CLI::App& app, RestoreOptions& options, bool& wantsAll)
 void addHistoryOptions(CLI::App& app, HistoryOptions& options)
 {
     app.add_option("--limit", options.limit, "The newest so many entries (all)")
-        ->check(countFromOne())
+        ->check(countFrom(1))
         ->type_name("N")
         ->group("What to show");
     addCommonOptions(app, options.common);
@@ -258,10 +259,14 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
     CLI::App* const history = addCommand("history", kHistoryIntroduction, kHistoryFooter);
     addHistoryOptions(*history, historyOptions);
 
+    InsightsOptions insightsOptions;
+    CLI::App* const insights = addCommand("insights", kInsightsIntroduction, kInsightsFooter);
+    addInsightsOptions(*insights, insightsOptions);
+
     if (arguments.empty()) {
         return Information{helpOf(app)};
     }
-    const std::vector<CLI::App*> commands{scan, clean, restore, history};
+    const std::vector<CLI::App*> commands{scan, clean, restore, history, insights};
     const bool isKnown = std::ranges::find(commands, arguments.front(), [](const CLI::App* each) {
         return each->get_name();
     }) != commands.end();
@@ -309,6 +314,9 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
     }
     if (history->parsed()) {
         return historyOptions;
+    }
+    if (insights->parsed()) {
+        return insightsOptions;
     }
     return Information{helpOf(app)};
 }

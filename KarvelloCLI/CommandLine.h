@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KarvelloCLI/InsightsOptions.h"
 #include "KarvelloCLI/Options.h"
 
 #include <expected>
@@ -20,7 +21,7 @@ struct UsageError {
     std::string hint;
 };
 
-using Command = std::variant<Information, ScanOptions, CleanOptions, RestoreOptions, HistoryOptions>;
+using Command = std::variant<Information, ScanOptions, CleanOptions, RestoreOptions, HistoryOptions, InsightsOptions>;
 
 /// Reads the arguments that follow the program's name. Looks at nothing but the words: no disk, no environment.
 [[nodiscard]] std::expected<Command, UsageError> parseCommandLine(std::span<const std::string> arguments);

@@ -4,6 +4,7 @@
 #include "KarvelloCLI/CleanCommand.h"
 #include "KarvelloCLI/CommandLine.h"
 #include "KarvelloCLI/HistoryCommand.h"
+#include "KarvelloCLI/InsightsCommand.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/OutputFile.h"
 #include "KarvelloCLI/RestoreCommand.h"
@@ -69,6 +70,9 @@ ExitCode runProgram(std::span<const std::string> arguments)
     const Platform::Environment environment = Platform::Environment::current();
     if (const auto* const options = std::get_if<ScanOptions>(&*command)) {
         return ScanCommand(fileManager, environment).run(*options);
+    }
+    if (const auto* const options = std::get_if<InsightsOptions>(&*command)) {
+        return InsightsCommand(fileManager, environment).run(*options);
     }
     // Trash and log are those of the user who runs this, whatever home is cleaned.
     const CleanupAuditStore log(fileManager, CleanupAuditStore::defaultFileURL(environment));

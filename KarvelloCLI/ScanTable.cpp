@@ -24,8 +24,6 @@ using CleanerCore::CleanupSafety;
 constexpr std::size_t kNamedFolders = 4;
 
 constexpr std::string_view kCandidateLabel = "cleanup-candidate";
-constexpr std::string_view kSkippedLabel = "skipped";
-constexpr std::string_view kSkippedReasonLabel = "skipped-reason";
 
 std::int64_t totalBytes(std::span<const CleanupCandidate> candidates)
 {
@@ -92,17 +90,9 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
 void ScanTable::makeSkippedRows(CleanerCore::ReportExportRedactionContext& redaction)
 {
     m_skippedRows.reserve(m_report.skippedItems.size());
+    const auto paths = m_settings.isVerbose ? SkippedRow::Paths::shown : SkippedRow::Paths::leftOut;
     for (const CleanerCore::SkippedItem& item : m_report.skippedItems) {
-        SkippedRow row{item.reason, {}};
-        std::string path = item.url.path();
-        if (m_settings.isRedacted) {
-            path = redaction.path(path, kSkippedLabel);
-            row.reason = redaction.freeText(item.reason, kSkippedReasonLabel);
-        }
-        if (m_settings.isVerbose) {
-            row.path = TerminalText(m_paths.abbreviate(path));
-        }
-        m_skippedRows.push_back(std::move(row));
+        m_skippedRows.push_back(SkippedRow::of(item, m_paths, paths, m_settings.isRedacted ? &redaction : nullptr));
     }
 }
 

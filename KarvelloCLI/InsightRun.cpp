@@ -39,8 +39,8 @@ std::expected<InsightRun, std::string> InsightRun::perform(const InsightsOptions
     const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager,
     const Platform::Environment& environment, const std::stop_token& stop)
 {
-    auto plan = InsightPlan::make(
-        options, workingDirectory, Platform::homeDirectoryForCurrentUser(), environment, fileManager);
+    auto plan =
+        InsightPlan::make(options, workingDirectory, Platform::homeDirectoryForCurrentUser(), environment, fileManager);
     if (!plan) {
         return std::unexpected(plan.error());
     }

@@ -15,8 +15,7 @@
 namespace KarvelloCLI {
 
 /// Which limits a report of all parts met, as far as the report tells.
-[[nodiscard]] InsightCuts cutsOf(
-    const CleanerCore::MacStorageInsightReport& report, const InsightSubject& subject);
+[[nodiscard]] InsightCuts cutsOf(const CleanerCore::MacStorageInsightReport& report, const InsightSubject& subject);
 
 /// One insight scan as the words of a command line ask for it.
 struct InsightRun {

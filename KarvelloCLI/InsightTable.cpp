@@ -228,9 +228,8 @@ std::string InsightTable::findings() const
     if (findings.empty()) {
         return title(words, "none");
     }
-    std::string text = title(words,
-                           fmt::format("{}, {}; told by their names alone, for you to look at",
-                               counted(findings.size(), "item"), size(totalBytes(findings))))
+    std::string text =
+        title(words, fmt::format("{}, {}, by name alone", counted(findings.size(), "item"), size(totalBytes(findings))))
         + m_columns.header() + '\n';
     for (const Sort& sort : sortsOf(findings)) {
         const std::size_t shown =
@@ -255,7 +254,7 @@ std::string InsightTable::findings() const
 
 std::string InsightTable::machine() const
 {
-    return m_subject.only ? std::string() : title("Machine", machineWords(m_report.systemSnapshot, m_settings.style));
+    return m_subject.only ? std::string() : title("System", machineWords(m_report.systemSnapshot, m_settings.style));
 }
 
 std::string InsightTable::skipped() const

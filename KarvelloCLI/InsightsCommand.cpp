@@ -65,8 +65,8 @@ ExitCode InsightsCommand::run(const InsightsOptions& options) const
         // A reader may be slow; from here on a signal simply ends the program.
         interruption.reset();
     }
-    const auto data = common.format == OutputFormat::table ? tableOf(*run, common, *output, m_environment)
-                                                           : exportOf(*run, common);
+    const auto data =
+        common.format == OutputFormat::table ? tableOf(*run, common, *output, m_environment) : exportOf(*run, common);
     if (!data) {
         printMessage(data.error().localizedDescription());
         return ExitCode::partial;

@@ -10,6 +10,7 @@ namespace KarvelloCLI {
 namespace {
 
 constexpr std::int64_t kMebibyte = 1'048'576;
+constexpr std::int64_t kGibibyte = 1024 * kMebibyte;
 constexpr double kLongestReviewAge = 30 * 86400.0;
 
 std::string withDefault(std::string_view description, std::int64_t value)
@@ -20,7 +21,8 @@ std::string withDefault(std::string_view description, std::int64_t value)
 /// As an option takes it: "100M".
 std::string withDefaultSize(std::string_view description, std::int64_t bytes)
 {
-    return fmt::format("{} ({}M)", description, bytes / kMebibyte);
+    return bytes % kGibibyte == 0 ? fmt::format("{} ({}G)", description, bytes / kGibibyte)
+                                  : fmt::format("{} ({}M)", description, bytes / kMebibyte);
 }
 
 CLI::Option* addCount(

@@ -124,9 +124,10 @@ std::string ProgressLine::line(const CleanerCore::StorageScanProgress& progress,
 std::string ProgressLine::line(const CleanerCore::MacStorageInsightScanner::Progress& progress, std::size_t columns,
     const std::optional<HomePathAbbreviation>& paths)
 {
-    const std::string brief = fmt::format("{} looked at", counted(static_cast<std::size_t>(progress.visitedItems), "item"));
-    const std::string facts = fmt::format("folder {} of {}, {}",
-        std::min(progress.completedRoots + 1, progress.totalRoots), progress.totalRoots, brief);
+    const std::string brief =
+        fmt::format("{} looked at", counted(static_cast<std::size_t>(progress.visitedItems), "item"));
+    const std::string facts = fmt::format(
+        "folder {} of {}, {}", std::min(progress.completedRoots + 1, progress.totalRoots), progress.totalRoots, brief);
     return lineOf(facts, brief, &progress.root, columns, paths);
 }
 

@@ -34,8 +34,8 @@ public:
 
     struct Settings {
         /// For standard error, as the options ask for it.
-        static Settings of(const CommonOptions& options, const Platform::FileURL& home,
-            const Platform::Environment& environment);
+        static Settings of(
+            const CommonOptions& options, const Platform::FileURL& home, const Platform::Environment& environment);
 
         Style style = Style::none;
         /// Absent: the current path is not shown.

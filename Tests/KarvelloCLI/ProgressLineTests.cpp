@@ -155,3 +155,18 @@ TEST(ProgressLine, StaysSilentWhenItIsOff)
     watched.line.report(someProgress());
     EXPECT_TRUE(watched.written.empty());
 }
+
+TEST(ProgressLine, TellsTheFolderAndTheCountOfAnInsightScan)
+{
+    const CleanerCore::MacStorageInsightScanner::Progress progress{
+        .root = Platform::FileURL::folder("/home/ada/Down\nloads"),
+        .completedRoots = 1,
+        .totalRoots = 8,
+        .visitedItems = 1234,
+    };
+    EXPECT_EQ(ProgressLine::line(progress, 200, kPaths), "folder 2 of 8, 1234 items looked at  ~/Down\\nloads");
+    EXPECT_EQ(ProgressLine::line(progress, 200, std::nullopt), "folder 2 of 8, 1234 items looked at");
+    for (std::size_t columns = 20; columns < 80; ++columns) {
+        EXPECT_LE(TerminalText(ProgressLine::line(progress, columns, kPaths)).columns(), columns);
+    }
+}

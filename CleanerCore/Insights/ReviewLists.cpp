@@ -1,24 +1,11 @@
 #include "CleanerCore/Insights/ReviewLists.h"
 
-#include "CleanerCore/Insights/BoundedTopN.h"
-#include "CleanerCore/Insights/ReviewOrder.h"
+#include "CleanerCore/Safety/ComparisonForm.h"
 
-#include <limits>
 #include <string>
 #include <utility>
 
 namespace CleanerCore {
-
-namespace {
-
-struct PrefersRecord {
-    bool operator()(const FileRecord* record, const FileRecord* other) const
-    {
-        return prefersReviewRecord(*record, *other);
-    }
-};
-
-} // namespace
 
 ReviewLists::ReviewLists(const InsightConfiguration& configuration, Platform::Date scannedAt, const InsightMaker& maker,
     std::vector<SkippedItem>& skipped)
@@ -31,29 +18,38 @@ ReviewLists::ReviewLists(const InsightConfiguration& configuration, Platform::Da
 
 std::vector<FileInsight> ReviewLists::largeFiles(std::span<const FileRecord> records)
 {
-    return pick(records, m_configuration.minimumLargeFileBytes, FileInsightKind::largeFile, "Large file");
-}
-
-std::vector<FileInsight> ReviewLists::downloads(std::span<const FileRecord> records)
-{
-    constexpr auto anySize = std::numeric_limits<std::int64_t>::min();
-    return pick(records, anySize, FileInsightKind::download, "Downloads item");
-}
-
-std::vector<FileInsight> ReviewLists::pick(
-    std::span<const FileRecord> records, std::int64_t minimumBytes, FileInsightKind kind, std::string_view detail)
-{
-    BoundedTopN<const FileRecord*, PrefersRecord> best(m_configuration.maximumResultCount);
+    Best best(m_configuration.maximumResultCount);
     for (const auto& record : records) {
-        if (record.isDirectory || record.allocatedSizeBytes < minimumBytes) {
-            continue;
-        }
-        if (isTooNew(record)) {
-            noteTooNew(record);
-        } else {
-            best.insert(&record);
+        if (!record.isDirectory && record.allocatedSizeBytes >= m_configuration.minimumLargeFileBytes) {
+            offer(record, best);
         }
     }
+    return insights(std::move(best), FileInsightKind::largeFile, "Large file");
+}
+
+std::vector<FileInsight> ReviewLists::downloads(
+    std::span<const FileRecord> records, const Platform::FileURL& downloadsFolder)
+{
+    Best best(m_configuration.maximumResultCount);
+    for (const auto& record : records) {
+        if (!record.isDirectory && equalsOrIsInside(*record.folderPath, downloadsFolder.path())) {
+            offer(record, best);
+        }
+    }
+    return insights(std::move(best), FileInsightKind::download, "Downloads item");
+}
+
+void ReviewLists::offer(const FileRecord& record, Best& best)
+{
+    if (isTooNew(record)) {
+        noteTooNew(record);
+    } else {
+        best.insert(&record);
+    }
+}
+
+std::vector<FileInsight> ReviewLists::insights(Best best, FileInsightKind kind, std::string_view detail) const
+{
     std::vector<FileInsight> insights;
     for (const auto* const record : std::move(best).takeSorted()) {
         insights.push_back(m_maker.insight(*record, kind, std::string(detail)));

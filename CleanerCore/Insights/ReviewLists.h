@@ -1,13 +1,17 @@
 #pragma once
 
+#include "CleanerCore/Insights/BoundedTopN.h"
 #include "CleanerCore/Insights/FileInsight.h"
 #include "CleanerCore/Insights/FileRecord.h"
 #include "CleanerCore/Insights/InsightConfiguration.h"
 #include "CleanerCore/Insights/InsightMaker.h"
+#include "CleanerCore/Insights/ReviewOrder.h"
 #include "CleanerCore/Scan/SkippedItem.h"
 #include "Platform/Base/Date.h"
+#include "Platform/Base/FileURL.h"
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
@@ -25,15 +29,25 @@ public:
         std::vector<SkippedItem>& skipped);
 
     [[nodiscard]] std::vector<FileInsight> largeFiles(std::span<const FileRecord> records);
-    [[nodiscard]] std::vector<FileInsight> downloads(std::span<const FileRecord> records);
+    /// Files of any size in `downloadsFolder`, at any depth.
+    [[nodiscard]] std::vector<FileInsight> downloads(
+        std::span<const FileRecord> records, const Platform::FileURL& downloadsFolder);
 
     /// Whether there were more items that are too new than may be named.
     [[nodiscard]] bool isTruncated() const { return m_isTruncated; }
 
 private:
-    /// The best files of at least `minimumBytes`.
-    [[nodiscard]] std::vector<FileInsight> pick(
-        std::span<const FileRecord> records, std::int64_t minimumBytes, FileInsightKind kind, std::string_view detail);
+    struct PrefersRecord {
+        bool operator()(const FileRecord* record, const FileRecord* other) const
+        {
+            return prefersReviewRecord(*record, *other);
+        }
+    };
+    using Best = BoundedTopN<const FileRecord*, PrefersRecord>;
+
+    /// Offers a file to the list, unless it is too new.
+    void offer(const FileRecord& record, Best& best);
+    [[nodiscard]] std::vector<FileInsight> insights(Best best, FileInsightKind kind, std::string_view detail) const;
     [[nodiscard]] bool isTooNew(const FileRecord& record) const;
     void noteTooNew(const FileRecord& record);
 

@@ -7,9 +7,6 @@ import statistics
 import subprocess
 import sys
 
-# The scripts run from anywhere, and leave nothing beside themselves.
-sys.dont_write_bytecode = True
-
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 

@@ -31,6 +31,8 @@ template <Platform::RawRepresentable E>
 [[nodiscard]] CLI::Validator oneOfTheLanguages();
 [[nodiscard]] CLI::Validator notEmpty(std::string complaint);
 [[nodiscard]] CLI::Validator secondsFromZero();
+/// A tenth of a second to a day.
+[[nodiscard]] CLI::Validator watchInterval();
 [[nodiscard]] CLI::Validator countOfJobs();
 [[nodiscard]] CLI::Validator countFromOne();
 [[nodiscard]] CLI::Validator entryId();

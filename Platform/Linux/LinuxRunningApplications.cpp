@@ -1,27 +1,14 @@
 #include "Platform/Linux/LinuxRunningApplications.h"
 
+#include "Platform/Base/Waiting.h"
 #include "Platform/Linux/KernelText.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <condition_variable>
-#include <mutex>
 #include <unistd.h>
 #include <utility>
 
 namespace Platform {
-
-namespace {
-
-void sleepUnlessStopped(std::chrono::milliseconds time, const std::stop_token& stop)
-{
-    std::mutex lock;
-    std::unique_lock guard(lock);
-    std::condition_variable_any never;
-    never.wait_for(guard, stop, time, [] { return false; });
-}
-
-} // namespace
 
 LinuxRunningApplications::Settings LinuxRunningApplications::Settings::current(const Environment& environment)
 {
@@ -35,7 +22,7 @@ LinuxRunningApplications::Settings LinuxRunningApplications::Settings::current(c
         .languages = DesktopEntries::languagesOf(environment),
         .ticksPerSecond = positive(sysconf(_SC_CLK_TCK), 100),
         .pageBytes = positive(sysconf(_SC_PAGESIZE), 4096),
-        .wait = sleepUnlessStopped,
+        .wait = waitUnlessStopped,
     };
 }
 

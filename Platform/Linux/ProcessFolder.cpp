@@ -16,9 +16,10 @@ namespace Platform {
 namespace {
 
 /// The fields behind the name, by their numbers in proc_pid_stat(5).
-enum Field : std::size_t { stateField = 3, parent = 4, userTime = 14, systemTime = 15, start = 22, pages = 24 };
+enum class Field : std::size_t { state = 3, parent = 4, userTime = 14, systemTime = 15, start = 22, pages = 24 };
 
-constexpr std::size_t kFirstField = stateField;
+constexpr auto kFirstField = static_cast<std::size_t>(Field::state);
+constexpr auto kLastField = static_cast<std::size_t>(Field::pages);
 
 } // namespace
 
@@ -31,28 +32,29 @@ std::optional<ProcessState> ProcessState::parse(std::string_view stat)
         return std::nullopt;
     }
     const auto process = KernelText::number<std::int32_t>(KernelText::stripped(stat.substr(0, open)));
-    std::array<std::string_view, pages + 1> fields{};
+    std::array<std::string_view, kLastField + 1> fields{};
     auto rest = KernelText::stripped(stat.substr(close + 1));
-    for (auto field = kFirstField; field <= pages; ++field) {
+    for (auto field = kFirstField; field <= kLastField; ++field) {
         const auto word = KernelText::takeWord(rest);
         if (!word) {
             return std::nullopt;
         }
         fields[field] = *word;
     }
-    const auto number = [&fields](Field field) { return KernelText::number<std::uint64_t>(fields[field]); };
-    const auto parentProcess = KernelText::number<std::int32_t>(fields[parent]);
-    const auto user = number(userTime);
-    const auto system = number(systemTime);
-    const auto startTime = number(start);
-    const auto resident = number(pages);
+    const auto text = [&fields](Field field) { return fields[static_cast<std::size_t>(field)]; };
+    const auto number = [&text](Field field) { return KernelText::number<std::uint64_t>(text(field)); };
+    const auto parentProcess = KernelText::number<std::int32_t>(text(Field::parent));
+    const auto user = number(Field::userTime);
+    const auto system = number(Field::systemTime);
+    const auto startTime = number(Field::start);
+    const auto resident = number(Field::pages);
     if (!process || !parentProcess || !user || !system || !startTime || !resident) {
         return std::nullopt;
     }
     return ProcessState{
         .processIdentifier = *process,
         .parent = *parentProcess,
-        .isTerminated = fields[stateField] == "Z" || fields[stateField] == "X",
+        .isTerminated = text(Field::state) == "Z" || text(Field::state) == "X",
         .cpuTicks = *user + *system,
         .startTicks = *startTime,
         .residentPages = *resident,

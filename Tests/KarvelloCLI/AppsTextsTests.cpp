@@ -35,13 +35,13 @@ std::vector<AppsRow> rows()
                 .launchDate = Platform::Date{2800},
                 .processCount = 3,
                 .cpuFractionOfTotalCapacity = 0.125,
-                .residentMemoryBytes = 2'000'000,
+                .residentMemoryBytes = 2 * 1024 * 1024,
                 .memoryFractionOfPhysicalMemory = 0.004},
             {.displayName = "Editor",
                 .bundleIdentifier = "editor",
                 .processIdentifier = 200,
                 .isUserVisible = true,
-                .residentMemoryBytes = 5'000'000},
+                .residentMemoryBytes = 5 * 1024 * 1024},
             {.displayName = "GNOME Shell",
                 .bundleIdentifier = "org.gnome.Shell",
                 .processIdentifier = 300,
@@ -140,6 +140,6 @@ TEST(AppsTexts, JSONTellsTheTruthOfTheCommandLine)
 TEST(AppsTexts, CSVHasARowForEach)
 {
     const auto csv = appsCSV(rows(), ReportExportPrivacyMode::full);
-    EXPECT_THAT(csv, HasSubstr("\neditor:200,Editor,editor,200,1,,,5000000,,false,sandboxUnavailable\n"));
+    EXPECT_THAT(csv, HasSubstr("\neditor:200,Editor,editor,200,1,,,5242880,,false,sandboxUnavailable\n"));
     EXPECT_THAT(csv, HasSubstr("\npid:400,syncd,,400,1,,,,,false,notUserVisible\n"));
 }

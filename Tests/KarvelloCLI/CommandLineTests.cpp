@@ -283,3 +283,22 @@ TEST(CommandLine, TellsItsVersion)
     EXPECT_TRUE(information({"--version"}).starts_with("karvello-cli ")) << information({"--version"});
     EXPECT_EQ(information({"scan", "--version"}), information({"--version"}));
 }
+
+TEST(CommandLine, ReadsHowOftenToTellTheStatus)
+{
+    EXPECT_EQ(optionsOf<StatusOptions>({"status"}).watch, std::nullopt);
+    EXPECT_EQ(optionsOf<StatusOptions>({"status", "--watch", "0.1"}).watch, 0.1);
+    EXPECT_EQ(optionsOf<StatusOptions>({"status", "--format", "csv", "--watch", "86400"}).watch, 86400);
+    for (const auto* const interval : {"0", "0.09", "86401", "-1", "nan", "inf", "x", ""}) {
+        EXPECT_FALSE(parse({"status", "--watch", interval})) << interval;
+    }
+    EXPECT_FALSE(parse({"status", "--watch", "1", "--output", "file"}));
+    EXPECT_FALSE(parse({"status", "more"}));
+}
+
+TEST(CommandLine, ReadsHowToListTheApplications)
+{
+    EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--verbose"}).common.isVerbose);
+    EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--redacted"}).common.isRedacted);
+    EXPECT_FALSE(parse({"apps", "--yes"}));
+}

@@ -11,7 +11,7 @@ using testing::Not;
 
 namespace {
 
-constexpr std::uint64_t kGigabyte = 1'000'000'000;
+constexpr std::uint64_t kGigabyte = std::uint64_t{1} << 30U;
 
 TextStyle style(std::size_t columns, bool usesColor = false)
 {
@@ -95,9 +95,9 @@ TEST(StatusTexts, JSONHasEveryField)
     const auto json = statusJSON(reading());
     ASSERT_TRUE(json);
     for (const auto* const member :
-        {"\"capturedAt\" : \"2001-01-01T00:00:00.000Z\"", "\"freeMemoryBytes\" : 12000000000",
+        {"\"capturedAt\" : \"2001-01-01T00:00:00.000Z\"", "\"freeMemoryBytes\" : 12884901888",
             "\"normalizedCPULoad\" : 0.23", "\"temperatureDetail\" : \"a sentence\"", "\"thermalState\" : \"Nominal\"",
-            "\"availableBytes\" : 50000000000", "\"uptime\" : 7200", "\"activeProcessorCount\" : 8"}) {
+            "\"availableBytes\" : 53687091200", "\"uptime\" : 7200", "\"activeProcessorCount\" : 8"}) {
         EXPECT_THAT(*json, HasSubstr(member));
     }
     EXPECT_TRUE(json->ends_with("}\n"));
@@ -108,8 +108,8 @@ TEST(StatusTexts, CSVHasARowForTheHeader)
     EXPECT_THAT(
         statusCSVHeader(CleanerCore::ReportExportPrivacyMode::full), HasSubstr("captured_at,physical_memory_bytes"));
     EXPECT_EQ(statusCSVRow(reading()),
-        "2001-01-01T00:00:00.000Z,16000000000,4000000000,12000000000,Normal,1.5,0.23,8,8,Nominal,7200,500000000000,"
-        "50000000000\n");
+        "2001-01-01T00:00:00.000Z,17179869184,4294967296,12884901888,Normal,1.5,0.23,8,8,Nominal,7200,536870912000,"
+        "53687091200\n");
 }
 
 TEST(StatusTrend, ShowsTheCourseOfTheLastReadings)

@@ -20,6 +20,8 @@ struct CandidateRow {
     TerminalText kind;
     /// The folder that holds the item, or its token.
     TerminalText place;
+    /// Something more to say, on a line of its own; empty where there is nothing.
+    TerminalText note;
     /// The whole path for tables too narrow for `name` and `place`.
     TerminalText path;
 };

@@ -30,7 +30,8 @@ constexpr const char* kProgramFooter =
     "  karvello-cli scan --format json --output scan.json\n"
     "  karvello-cli clean --default        what a scan marks with *, after a question\n"
     "  karvello-cli restore                what can be put back\n"
-    "  karvello-cli insights               where the space went\n";
+    "  karvello-cli insights               where the space went\n"
+    "  karvello-cli status --watch 2       how the machine is, every two seconds\n";
 
 constexpr const char* kScanIntroduction =
     "Look for what could be cleaned up, without changing anything.\n"
@@ -166,6 +167,16 @@ void addHistoryOptions(CLI::App& app, HistoryOptions& options)
     addCommonOptions(app, options.common);
 }
 
+void addStatusOptions(CLI::App& app, StatusOptions& options)
+{
+    addCommonOptions(app, options.common);
+    app.add_option("--watch", options.watch, "A reading every so many seconds, until interrupted")
+        ->check(watchInterval())
+        ->excludes(app.get_option("--output"))
+        ->type_name("SECONDS")
+        ->group("What to show");
+}
+
 /// The library puts two blank lines between groups, where one is enough.
 std::string helpOf(const CLI::App& app)
 {
@@ -263,10 +274,18 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
     CLI::App* const insights = addCommand("insights", kInsightsIntroduction, kInsightsFooter);
     addInsightsOptions(*insights, insightsOptions);
 
+    StatusOptions statusOptions;
+    CLI::App* const status = addCommand("status", kStatusIntroduction, kStatusFooter);
+    addStatusOptions(*status, statusOptions);
+
+    AppsOptions appsOptions;
+    CLI::App* const apps = addCommand("apps", kAppsIntroduction, kAppsFooter);
+    addCommonOptions(*apps, appsOptions.common);
+
     if (arguments.empty()) {
         return Information{helpOf(app)};
     }
-    const std::vector<CLI::App*> commands{scan, clean, restore, history, insights};
+    const std::vector<CLI::App*> commands{scan, clean, restore, history, insights, status, apps};
     const bool isKnown = std::ranges::find(commands, arguments.front(), [](const CLI::App* each) {
         return each->get_name();
     }) != commands.end();
@@ -317,6 +336,12 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
     }
     if (insights->parsed()) {
         return insightsOptions;
+    }
+    if (status->parsed()) {
+        return statusOptions;
+    }
+    if (apps->parsed()) {
+        return appsOptions;
     }
     return Information{helpOf(app)};
 }

@@ -2,10 +2,13 @@
 
 #include "CleanerCore/Audit/CleanupAuditExporter.h"
 #include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/WorkingDirectory.h"
 
 #include <fmt/format.h>
 
+#include <string>
 #include <system_error>
+#include <vector>
 
 namespace KarvelloCLI {
 
@@ -32,6 +35,20 @@ std::optional<OutputFile> openOutput(
         return std::nullopt;
     }
     return *std::move(named);
+}
+
+std::optional<OutputFile> outputOf(const CommonOptions& options, const Platform::FileManager& fileManager)
+{
+    std::vector<std::string> paths;
+    if (options.output) {
+        paths.push_back(*options.output);
+    }
+    const auto here = workingDirectoryFor(paths);
+    if (!here) {
+        printMessage(here.error());
+        return std::nullopt;
+    }
+    return openOutput(options, *here, fileManager);
 }
 
 Delivery deliver(std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager)

@@ -21,6 +21,10 @@ enum class Delivery : std::uint8_t { written, failed };
 [[nodiscard]] std::optional<OutputFile> openOutput(
     const CommonOptions& options, const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager);
 
+/// The same for a command that has no other paths: a relative one counts from where the user is.
+[[nodiscard]] std::optional<OutputFile> outputOf(
+    const CommonOptions& options, const Platform::FileManager& fileManager);
+
 /// Writes all of it; a failure is told to the user.
 [[nodiscard]] Delivery deliver(
     std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager);

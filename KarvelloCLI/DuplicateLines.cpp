@@ -83,7 +83,7 @@ std::string duplicateLines(
     for (const DuplicateFileGroup& group : groups.subspan(rows.size())) {
         moreBytes = Platform::saturatingAdd(moreBytes, group.wastedBytes());
     }
-    std::size_t sizeWidth = style.size(moreBytes).size();
+    std::size_t sizeWidth = rows.size() < groups.size() ? style.size(moreBytes).size() : 0;
     std::size_t ageWidth = 0;
     for (std::size_t index = 0; index < rows.size(); ++index) {
         sizeWidth = std::max(sizeWidth, style.size(groups[index].wastedBytes()).size());

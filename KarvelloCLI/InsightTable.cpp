@@ -2,8 +2,8 @@
 
 #include "KarvelloCLI/DuplicateLines.h"
 #include "KarvelloCLI/InsightLimits.h"
-#include "KarvelloCLI/MachineWords.h"
 #include "KarvelloCLI/SizeMapChart.h"
+#include "KarvelloCLI/StatusTexts.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
 
@@ -112,12 +112,12 @@ std::string InsightTable::text() const
     return text;
 }
 
-std::string InsightTable::title(std::string_view words, std::string_view rest) const
+std::string InsightTable::title(std::string_view words, std::string_view rest, Ink ink) const
 {
     const TextStyle& style = m_settings.style;
     std::string text = style.paragraph(fmt::format("{}: {}", words, rest));
     // The words themselves may go on in the next line where it is very narrow.
-    return text.starts_with(words) ? style.painter(Ink::title, words) + text.substr(words.size()) : text;
+    return text.starts_with(words) ? style.painter(ink, words) + text.substr(words.size()) : text;
 }
 
 std::string InsightTable::heading() const
@@ -245,9 +245,9 @@ std::string InsightTable::findings() const
                 lines += m_columns.line(m_rows.findings[index]) + '\n';
             }
         }
-        text += m_settings.style.painter(Ink::manualReview, sort.detail)
-            + fmt::format(": {}, {}\n", counted(sort.findings.size(), "item"), size(bytes)) + lines
-            + rest(sort.findings.size() - shown, bytes - shownBytes, "more item");
+        text += title(sort.detail, fmt::format("{}, {}", counted(sort.findings.size(), "item"), size(bytes)),
+                    Ink::manualReview)
+            + lines + rest(sort.findings.size() - shown, bytes - shownBytes, "more item");
     }
     return text;
 }

@@ -79,6 +79,19 @@ CLI::Validator secondsFromZero(std::optional<double> most)
         std::string{});
 }
 
+CLI::Validator watchInterval()
+{
+    return CLI::Validator(
+        [](std::string& value) -> std::string {
+            double seconds = 0;
+            if (CLI::detail::lexical_cast(value, seconds) && seconds >= 0.1 && seconds <= 86'400) {
+                return {};
+            }
+            return fmt::format("“{}” is no number of seconds from 0.1 to 86400", TerminalText(value).string());
+        },
+        std::string{});
+}
+
 CLI::Validator countOfJobs()
 {
     return CLI::Validator(

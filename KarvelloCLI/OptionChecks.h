@@ -33,6 +33,8 @@ template <Platform::RawRepresentable E>
 [[nodiscard]] CLI::Validator oneOfTheLanguages();
 [[nodiscard]] CLI::Validator notEmpty(std::string complaint);
 [[nodiscard]] CLI::Validator secondsFromZero(std::optional<double> most = std::nullopt);
+/// A tenth of a second to a day.
+[[nodiscard]] CLI::Validator watchInterval();
 [[nodiscard]] CLI::Validator countOfJobs();
 [[nodiscard]] CLI::Validator countFrom(std::int64_t least);
 /// Takes "104857600", "100M", "100 MB" and "100MiB" for the same, with K, M, G and T in either case, and puts the plain

@@ -1,6 +1,7 @@
 #include "KarvelloCLI/Program.h"
 
 #include "CleanerCore/Audit/CleanupAuditStore.h"
+#include "KarvelloCLI/AppsCommand.h"
 #include "KarvelloCLI/CleanCommand.h"
 #include "KarvelloCLI/CommandLine.h"
 #include "KarvelloCLI/HistoryCommand.h"
@@ -9,7 +10,9 @@
 #include "KarvelloCLI/OutputFile.h"
 #include "KarvelloCLI/RestoreCommand.h"
 #include "KarvelloCLI/ScanCommand.h"
+#include "KarvelloCLI/StatusCommand.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Linux/LinuxTrash.h"
 #include "Platform/Services/UserDirectories.h"
 
@@ -73,6 +76,15 @@ ExitCode runProgram(std::span<const std::string> arguments)
     }
     if (const auto* const options = std::get_if<InsightsOptions>(&*command)) {
         return InsightsCommand(fileManager, environment).run(*options);
+    }
+    if (const auto* const options = std::get_if<StatusOptions>(&*command)) {
+        return StatusCommand(fileManager, environment).run(*options);
+    }
+    if (const auto* const options = std::get_if<AppsOptions>(&*command)) {
+        const Platform::LinuxRunningApplications applications(
+            Platform::LinuxRunningApplications::Settings::current(environment),
+            Platform::SystemStatistics::ofThisMachine());
+        return AppsCommand(fileManager, applications, environment).run(*options);
     }
     // Trash and log are those of the user who runs this, whatever home is cleaned.
     const CleanupAuditStore log(fileManager, CleanupAuditStore::defaultFileURL(environment));

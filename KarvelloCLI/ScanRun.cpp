@@ -1,17 +1,21 @@
 #include "KarvelloCLI/ScanRun.h"
 
+#include "CleanerCore/Scan/AppCacheContextEnricher.h"
 #include "CleanerCore/Scan/StorageScanner.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/ProgressLine.h"
 #include "KarvelloCLI/SkipKind.h"
 #include "KarvelloCLI/Words.h"
+#include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Services/HomeDirectory.h"
+#include "Platform/Services/SystemStatistics.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace KarvelloCLI {
 
@@ -38,6 +42,29 @@ std::optional<std::string> hintForLink(const FileURL& folder, const Platform::Fi
     }
     return fmt::format("Its path leads through a symbolic link, and none is followed; the folder itself is {}",
         TerminalText(real.path()).string());
+}
+
+/// Tells the candidates in containers whether their application runs. Only this user's programs can be seen, so nothing
+/// is said of a home that is not this user's own, nor if they cannot be seen at all.
+void addRunningOwners(ScanReport& report, const FileURL& home, const Platform::FileManager& fileManager,
+    const Platform::Environment& environment)
+{
+    const auto hasContext = [](const auto& candidate) { return candidate.appCacheContext.has_value(); };
+    const auto ownHome = fileManager.resolvingSymbolicLinks(Platform::homeDirectoryForCurrentUser());
+    if (std::ranges::none_of(report.candidates, hasContext) || home != ownHome) {
+        return;
+    }
+    const Platform::LinuxRunningApplications runtime(Platform::LinuxRunningApplications::Settings::current(environment),
+        Platform::SystemStatistics::ofThisMachine());
+    const auto applications = runtime.applications();
+    if (!applications) {
+        return;
+    }
+    std::vector<CleanerCore::AppCacheRunningApplicationIdentity> identities;
+    for (const auto& application : *applications) {
+        identities.push_back(CleanerCore::AppCacheRunningApplicationIdentity::of(application));
+    }
+    report.candidates = CleanerCore::AppCacheContextEnricher::enrich(std::move(report.candidates), identities);
 }
 
 } // namespace
@@ -117,6 +144,7 @@ std::expected<ScanRun, std::string> ScanRun::perform(const ScanOptions& options,
             run.plan.locations, Platform::Date::now(), [&](const auto& step) { progress.report(step); }, stop,
             run.plan.subject.home);
     }
+    addRunningOwners(run.report, run.plan.subject.home, fileManager, environment);
     run.plan.subject.isIncomplete = stop.stop_requested();
     run.judgement = ScanJudgement::of(run.report, run.plan);
     run.plan.subject.isRefused = run.judgement.exitCode == ExitCode::refused;

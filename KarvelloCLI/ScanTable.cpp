@@ -81,6 +81,7 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
     row.name = TerminalText(name);
     row.kind = TerminalText(displayName(candidate.category));
     row.path = TerminalText(path);
+    row.note = TerminalText(ownerNote(candidate.appCacheContext));
     row.place = m_settings.isRedacted
         ? row.path
         : TerminalText(m_paths.abbreviate(candidate.url.deletingLastPathComponent().path()));
@@ -94,6 +95,16 @@ void ScanTable::makeSkippedRows(CleanerCore::ReportExportRedactionContext& redac
     for (const CleanerCore::SkippedItem& item : m_report.skippedItems) {
         m_skippedRows.push_back(SkippedRow::of(item, m_paths, paths, m_settings.isRedacted ? &redaction : nullptr));
     }
+}
+
+std::string ScanTable::ownerNote(const std::optional<CleanerCore::AppCacheContext>& context) const
+{
+    if (!context || context->runningState != CleanerCore::AppCacheRunningState::running) {
+        return {};
+    }
+    const auto& name = context->matchedRunningDisplayName;
+    return name && !m_settings.isRedacted ? fmt::format("{} is running and may be using it", *name)
+                                          : "its application is running and may be using it";
 }
 
 std::string ScanTable::size(std::int64_t bytes) const
@@ -177,6 +188,10 @@ std::string ScanTable::lines(const Group& group, const CandidateColumns& columns
     for (const CandidateRow& row : group.rows) {
         text += columns.line(row);
         text += '\n';
+        if (row.note.columns() > 0) {
+            text += columns.summaryLine(TerminalText(), row.note);
+            text += '\n';
+        }
     }
     return text + rest(candidates.subspan(group.rows.size()), columns);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/Base/Date.h"
+#include "Platform/Services/RunningApplications.h"
 
 #include <cstdint>
 #include <optional>
@@ -31,6 +32,8 @@ struct ResourceReliefProcessSnapshot {
     bool isUserVisible = false;
     std::optional<Platform::Date> launchDate = {};
     ResourceReliefUsageMetrics usage = {};
+
+    static ResourceReliefProcessSnapshot of(const Platform::RunningApplication& application);
 
     friend bool operator==(const ResourceReliefProcessSnapshot&, const ResourceReliefProcessSnapshot&) = default;
 };

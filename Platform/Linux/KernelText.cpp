@@ -17,8 +17,20 @@ constexpr std::string_view kBlanks = " \t";
 
 std::optional<std::string> read(const std::string& path)
 {
-    auto bytes = readWholeFile(AT_FDCWD, path.c_str(), kMaximumBytes);
+    return readIn(AT_FDCWD, path.c_str());
+}
+
+std::optional<std::string> readIn(int folderDescriptor, const char* name)
+{
+    auto bytes = readWholeFile(folderDescriptor, name, kMaximumBytes);
     return bytes ? std::optional(*std::move(bytes)) : std::nullopt;
+}
+
+std::optional<std::string> readThroughLinks(const std::string& path)
+{
+    std::error_code error;
+    const auto real = std::filesystem::canonical(path, error);
+    return error ? std::nullopt : read(real.string());
 }
 
 std::vector<std::string> namesIn(const std::string& path)

@@ -15,6 +15,11 @@ namespace Platform::KernelText {
 /// The whole text at `path`, or nothing if it cannot be read: processes end and sensors fail while one looks at them.
 [[nodiscard]] std::optional<std::string> read(const std::string& path);
 
+/// The same in an open folder.
+[[nodiscard]] std::optional<std::string> readIn(int folderDescriptor, const char* name);
+/// The same for a file that may lie behind symbolic links: files that people install, not those of the kernel.
+[[nodiscard]] std::optional<std::string> readThroughLinks(const std::string& path);
+
 /// The names of what lies in the folder at `path`, in no order; none if it cannot be listed.
 [[nodiscard]] std::vector<std::string> namesIn(const std::string& path);
 

@@ -82,6 +82,8 @@ MacStorageInsightReport::Fields ordinaryFields()
             .usedMemoryBytes = 4ULL << 30U,
             .memoryPressure = "Normal",
             .cpuLoadAverage = 0.523,
+            .normalizedCPULoad = 0.13,
+            .processorCount = 2,
             .activeProcessorCount = 2,
             .thermalState = "Unknown",
             .uptime = 3 * 86400.0},
@@ -193,8 +195,8 @@ TEST(InsightTable, ShowsEverySectionOfAReport)
             "Installer package: 1 item, 1 KB",
             "       1 KB   3 d  tool.pkg  ~/Downloads",
             "",
-            "System: 4 GB of 16 GB memory used (pressure normal), load 0.52 on 2 processors,",
-            "thermal state unknown, up 3 d",
+            "System: memory 4 GB of 16 GB used (25%), pressure normal; processors 13% busy,",
+            "load 0.52 on 2 processors; thermal state unknown; up 3 d",
             "",
             "Skipped: 1 item",
             "  1  Recently modified",
@@ -266,14 +268,14 @@ TEST(InsightTable, ShowsTheFirstOfEachListAndSumsUpTheRest)
     }
     const MacStorageInsightReport report(std::move(fields));
     const std::string text = table(report, settings(80));
-    EXPECT_THAT(text, HasSubstr("    6 MB  3 d  6     ~/Downloads\n    15 MB  in 5 more files\n"));
-    EXPECT_THAT(text, HasSubstr("   16 MB  3 d  16    ~/Downloads\n   120 MB  in 15 more items\n"));
+    EXPECT_THAT(text, HasSubstr("   6 MB  3 d  6     ~/Downloads\n  15 MB  in 5 more files\n"));
+    EXPECT_THAT(text, HasSubstr("  16 MB  3 d  16    ~/Downloads\n  120 MB  in 15 more items\n"));
     EXPECT_THAT(text, HasSubstr("and 19 more copies\n"));
     EXPECT_THAT(text, HasSubstr("in the extra copies of 15 more sets\n"));
     EXPECT_THAT(text, HasSubstr("--verbose lists every item."));
 
     const std::string verbose = table(report, settings(80, true));
-    EXPECT_THAT(verbose, HasSubstr("    1 MB  3 d  1     ~/Downloads\n"));
+    EXPECT_THAT(verbose, HasSubstr("   1 MB  3 d  1     ~/Downloads\n"));
     EXPECT_THAT(verbose, Not(HasSubstr(" more files")));
     EXPECT_THAT(verbose, Not(HasSubstr("more copies")));
     EXPECT_THAT(verbose, Not(HasSubstr("more sets")));
@@ -306,7 +308,7 @@ TEST(InsightTable, SaysWhatIsNotThere)
     EXPECT_THAT(text, HasSubstr("Older downloads: none\n"));
     EXPECT_THAT(text, HasSubstr("Duplicates, 20 MB and more: none\n"));
     EXPECT_THAT(text, HasSubstr("Installers and scripts: none\n"));
-    EXPECT_THAT(text, HasSubstr("memory unknown, "));
+    EXPECT_THAT(text, HasSubstr("memory unknown; "));
 
     InsightSubject subject = homeSubject();
     subject.hasNothingToLookAt = true;

@@ -1,5 +1,6 @@
 #include "KarvelloCLI/ProgressLine.h"
 
+#include "CleanerCore/Scan/ByteSizeFormatter.h"
 #include "KarvelloCLI/OutputFile.h"
 #include "KarvelloCLI/Words.h"
 
@@ -126,6 +127,11 @@ std::string ProgressLine::line(const CleanerCore::MacStorageInsightScanner::Prog
 {
     const std::string brief =
         fmt::format("{} looked at", counted(static_cast<std::size_t>(progress.visitedItems), "item"));
+    if (progress.readBytes > 0) {
+        const std::string read =
+            fmt::format("comparing files, {} read", CleanerCore::ByteSizeFormatter::string(progress.readBytes));
+        return lineOf(fmt::format("{}, {}", brief, read), read, nullptr, columns, paths);
+    }
     const std::string facts = fmt::format(
         "folder {} of {}, {}", std::min(progress.completedRoots + 1, progress.totalRoots), progress.totalRoots, brief);
     return lineOf(facts, brief, &progress.root, columns, paths);

@@ -38,6 +38,8 @@ struct InsightScanProgress {
     std::int64_t totalRoots = 0;
     /// In all roots so far, those inside packages too.
     std::int64_t visitedItems = 0;
+    /// Of files that may be duplicates, once all roots were walked.
+    std::int64_t readBytes = 0;
 };
 
 } // namespace CleanerCore

@@ -1,5 +1,6 @@
 #include "CleanerCore/Insights/MacStorageInsightScanner.h"
 
+#include "CleanerCore/Insights/DuplicateFinder.h"
 #include "CleanerCore/Insights/InsightMaker.h"
 #include "CleanerCore/Insights/InsightRoots.h"
 #include "CleanerCore/Insights/ReviewLists.h"
@@ -19,11 +20,11 @@ namespace {
 
 using Report = MacStorageInsightReport;
 
-/// Walks all roots and fills in the map.
-void walkRoots(const InsightRoots& roots, InsightScanRun& run, const MacStorageInsightScanner& scanner,
+/// Walks all roots and fills in the map. Gives what was told last.
+InsightScanProgress walkRoots(const InsightRoots& roots, InsightScanRun& run, const MacStorageInsightScanner& scanner,
     const MacStorageInsightScanner::ProgressHandler& progressHandler, Report::Fields& report)
 {
-    MacStorageInsightScanner::Progress progress;
+    InsightScanProgress progress;
     progress.totalRoots = static_cast<std::int64_t>(roots.folders.size());
     const auto tell = [&] {
         if (progressHandler) {
@@ -36,7 +37,7 @@ void walkRoots(const InsightRoots& roots, InsightScanRun& run, const MacStorageI
     };
     for (const auto& root : roots.folders) {
         if (run.stop.stop_requested()) {
-            return;
+            return progress;
         }
         progress.root = root;
         tell();
@@ -52,6 +53,7 @@ void walkRoots(const InsightRoots& roots, InsightScanRun& run, const MacStorageI
         report.isTruncated = report.isTruncated || result.isTruncated;
         ++progress.completedRoots;
     }
+    return progress;
 }
 
 } // namespace
@@ -89,7 +91,7 @@ Report MacStorageInsightScanner::scan(
         .skippedItems = {},
     };
     Report::Fields report{.scannedAt = now};
-    walkRoots(roots, run, *this, progressHandler, report);
+    auto progress = walkRoots(roots, run, *this, progressHandler, report);
     pool.reset();
 
     const auto& analyses = m_options.analyses;
@@ -102,6 +104,18 @@ Report MacStorageInsightScanner::scan(
         report.downloadFiles = lists.downloads(run.records, *roots.downloadsFolder);
     }
     report.isTruncated = report.isTruncated || lists.isTruncated();
+    if (analyses.duplicates) {
+        const auto tell = [&](std::int64_t bytes) {
+            if (progressHandler) {
+                progress.readBytes = bytes;
+                progressHandler(progress);
+            }
+        };
+        auto search =
+            DuplicateFinder(m_configuration, m_fileManager, jobs(), tell).find(run.records, run.skippedItems, stop);
+        report.duplicateGroups = std::move(search.groups);
+        report.isTruncated = report.isTruncated || search.isTruncated;
+    }
     if (analyses.securityFindings) {
         report.securityFindings = securityFindings(run.records, m_configuration.maximumResultCount, maker);
     }

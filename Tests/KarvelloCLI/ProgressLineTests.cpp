@@ -166,7 +166,12 @@ TEST(ProgressLine, TellsTheFolderAndTheCountOfAnInsightScan)
     };
     EXPECT_EQ(ProgressLine::line(progress, 200, kPaths), "folder 2 of 8, 1234 items looked at  ~/Down\\nloads");
     EXPECT_EQ(ProgressLine::line(progress, 200, std::nullopt), "folder 2 of 8, 1234 items looked at");
+    auto reading = progress;
+    reading.completedRoots = 8;
+    reading.readBytes = 5 * 1'048'576;
+    EXPECT_EQ(ProgressLine::line(reading, 200, kPaths), "1234 items looked at, comparing files, 5 MB read");
     for (std::size_t columns = 20; columns < 80; ++columns) {
         EXPECT_LE(TerminalText(ProgressLine::line(progress, columns, kPaths)).columns(), columns);
+        EXPECT_LE(TerminalText(ProgressLine::line(reading, columns, kPaths)).columns(), columns);
     }
 }

@@ -60,16 +60,22 @@ Delivery deliver(std::string_view data, const OutputFile& output, const Platform
     return Delivery::written;
 }
 
-Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries, const CommonOptions& options,
-    const OutputFile& output, const Platform::FileManager& fileManager)
+Delivery deliverExport(const std::expected<std::string, CleanerCore::ExportError>& data, const OutputFile& output,
+    const Platform::FileManager& fileManager)
 {
-    const auto data = CleanerCore::CleanupAuditExporter::data(
-        entries, exportFormat(options), exportPrivacy(options), Platform::Date::now());
     if (!data) {
         printMessage(data.error().localizedDescription());
         return Delivery::failed;
     }
     return deliver(*data, output, fileManager);
+}
+
+Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries, const CommonOptions& options,
+    const OutputFile& output, const Platform::FileManager& fileManager)
+{
+    const auto data = CleanerCore::CleanupAuditExporter::data(
+        entries, exportFormat(options), exportPrivacy(options), Platform::Date::now());
+    return deliverExport(data, output, fileManager);
 }
 
 CleanerCore::ScanResultExportFormat exportFormat(const CommonOptions& options)

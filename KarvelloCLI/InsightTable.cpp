@@ -1,6 +1,7 @@
 #include "KarvelloCLI/InsightTable.h"
 
 #include "KarvelloCLI/DuplicateLines.h"
+#include "KarvelloCLI/FolderNames.h"
 #include "KarvelloCLI/InsightLimits.h"
 #include "KarvelloCLI/SizeMapChart.h"
 #include "KarvelloCLI/StatusTexts.h"
@@ -19,8 +20,6 @@ namespace {
 
 using CleanerCore::FileInsight;
 
-/// How many of the folders that the user named the heading repeats.
-constexpr std::size_t kNamedFolders = 4;
 /// How many reasons of skipped items a table that is not verbose shows.
 constexpr std::size_t kShownReasons = 12;
 /// How many findings of one sort it shows.
@@ -127,17 +126,8 @@ std::string InsightTable::heading() const
     if (m_subject.looksAtHome) {
         places.push_back(m_settings.isRedacted ? "the home folder" : TerminalText(m_subject.home.path()).string());
     }
-    const auto& folders = m_subject.folders;
-    if (m_settings.isRedacted && !folders.empty()) {
-        places.push_back(counted(folders.size(), "given folder"));
-    } else {
-        const std::size_t named = std::min(folders.size(), kNamedFolders);
-        for (const Platform::FileURL& folder : std::span(folders).first(named)) {
-            places.push_back(style.path(folder));
-        }
-        if (named < folders.size()) {
-            places.push_back(counted(folders.size() - named, "more folder"));
-        }
+    for (const std::string& name : folderNames(m_subject.folders, style.paths, m_settings.isRedacted)) {
+        places.push_back(TerminalText(name).string());
     }
     std::string text = style.paragraph(
         fmt::format("Insights of {}: {}", fmt::join(places, ", "), localTime(m_report.scannedAt)), 0, Ink::title);

@@ -67,11 +67,7 @@ ExitCode InsightsCommand::run(const InsightsOptions& options) const
     }
     const auto data =
         common.format == OutputFormat::table ? tableOf(*run, common, *output, m_environment) : exportOf(*run, common);
-    if (!data) {
-        printMessage(data.error().localizedDescription());
-        return ExitCode::partial;
-    }
-    if (deliver(*data, *output, m_fileManager) == Delivery::failed) {
+    if (deliverExport(data, *output, m_fileManager) == Delivery::failed) {
         return ExitCode::partial;
     }
     return run->judgement.conclude(run->plan.subject.isIncomplete, m_fileManager);

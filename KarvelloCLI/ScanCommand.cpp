@@ -83,11 +83,7 @@ ExitCode ScanCommand::run(const ScanOptions& options) const
     const auto data = common.format == OutputFormat::table
         ? tableOf(report, run->plan.subject, common, *output, m_environment)
         : exportOf(report, common);
-    if (!data) {
-        printMessage(data.error().localizedDescription());
-        return ExitCode::partial;
-    }
-    if (deliver(*data, *output, m_fileManager) == Delivery::failed) {
+    if (deliverExport(data, *output, m_fileManager) == Delivery::failed) {
         return ExitCode::partial;
     }
     return run->judgement.conclude(run->plan.subject.isIncomplete, m_fileManager);

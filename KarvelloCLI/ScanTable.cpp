@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Scan/ByteSizeFormatter.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
+#include "KarvelloCLI/FolderNames.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
 
@@ -19,9 +20,6 @@ namespace {
 
 using CleanerCore::CleanupCandidate;
 using CleanerCore::CleanupSafety;
-
-/// How many of the folders that the user named the heading repeats.
-constexpr std::size_t kNamedFolders = 4;
 
 constexpr std::string_view kCandidateLabel = "cleanup-candidate";
 
@@ -142,16 +140,8 @@ std::string ScanTable::heading() const
         const std::string home = m_settings.isRedacted ? "the home folder" : m_subject.home.path();
         places.push_back(fmt::format("{} (mode {})", home, Platform::rawValue(*m_subject.mode)));
     }
-    if (m_settings.isRedacted && !m_subject.folders.empty()) {
-        places.push_back(counted(m_subject.folders.size(), "given folder"));
-    } else {
-        const std::size_t named = std::min(m_subject.folders.size(), kNamedFolders);
-        for (const Platform::FileURL& folder : std::span(m_subject.folders).first(named)) {
-            places.push_back(m_paths.abbreviate(folder.path()));
-        }
-        if (named < m_subject.folders.size()) {
-            places.push_back(counted(m_subject.folders.size() - named, "more folder"));
-        }
+    for (std::string& name : folderNames(m_subject.folders, m_paths, m_settings.isRedacted)) {
+        places.push_back(std::move(name));
     }
     std::string text =
         paragraph(fmt::format("Scan of {}: {}", fmt::join(places, ", "), localTime(m_report.scannedAt)), Ink::title);

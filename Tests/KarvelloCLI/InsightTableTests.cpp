@@ -2,6 +2,8 @@
 
 #include "CleanerCore/Export/ScanResultExporter.h"
 
+#include "Tests/KarvelloCLI/TextLines.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -15,6 +17,8 @@ using CleanerCore::FileInsight;
 using CleanerCore::FileInsightKind;
 using CleanerCore::MacStorageInsightReport;
 using CleanerCore::StorageMapItem;
+using KarvelloCLITests::linesOf;
+using KarvelloCLITests::plain;
 using Platform::Date;
 using Platform::FileURL;
 using testing::HasSubstr;
@@ -112,17 +116,6 @@ std::string table(const MacStorageInsightReport& report, const InsightTable::Set
     const InsightSubject& subject = homeSubject())
 {
     return InsightTable(report, subject, settings).text();
-}
-
-std::vector<std::string> linesOf(std::string_view text)
-{
-    std::vector<std::string> lines;
-    while (!text.empty()) {
-        const std::size_t end = text.find('\n');
-        lines.emplace_back(text.substr(0, end));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    }
-    return lines;
 }
 
 /// A report with a hundred of everything, names included that want to harm.
@@ -332,15 +325,7 @@ TEST(InsightTable, UsesColourOnlyWhenToldAndForNothingElse)
     chosen.style.painter = Painter(true);
     const std::string text = table(hostileReport(), chosen, cutSubject());
     EXPECT_THAT(text, HasSubstr("\x1b[1mSize map\x1b[0m: "));
-    std::string plain;
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        if (text[index] == '\x1b') {
-            index = text.find('m', index);
-        } else {
-            plain += text[index];
-        }
-    }
-    EXPECT_EQ(plain, table(hostileReport(), settings(80), cutSubject()));
+    EXPECT_EQ(plain(text), table(hostileReport(), settings(80), cutSubject()));
 }
 
 TEST(InsightTable, RedactsWithTheTokensOfTheExport)

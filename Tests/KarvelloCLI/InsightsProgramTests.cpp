@@ -44,12 +44,7 @@ elsewhere/
     [[nodiscard]] ProgramSettings with(std::vector<std::string> arguments) const
     {
         arguments.insert(arguments.begin(), {"insights", "--min-large", "64K", "--min-duplicate", "64K"});
-        ProgramSettings settings;
-        settings.arguments = std::move(arguments);
-        settings.environment = {
-            {"HOME", m_tree.path("home")}, {"TERM", "xterm-256color"}, {"TZ", "UTC"}, {"LANG", "C.UTF-8"}};
-        settings.workingDirectory = m_tree.root().path();
-        return settings;
+        return settingsIn(m_tree, std::move(arguments));
     }
 
     [[nodiscard]] ProgramResult run(std::vector<std::string> arguments) const

@@ -263,6 +263,7 @@ TEST(InsightTable, ShowsTheFirstOfEachListAndSumsUpTheRest)
     const std::string text = table(report, settings(80));
     EXPECT_THAT(text, HasSubstr("   6 MB  3 d  6     ~/Downloads\n  15 MB  in 5 more files\n"));
     EXPECT_THAT(text, HasSubstr("  16 MB  3 d  16    ~/Downloads\n  120 MB  in 15 more items\n"));
+    EXPECT_THAT(text, HasSubstr("because its path comes first, where nothing else decides\n"));
     EXPECT_THAT(text, HasSubstr("and 19 more copies\n"));
     EXPECT_THAT(text, HasSubstr("in the extra copies of 15 more sets\n"));
     EXPECT_THAT(text, HasSubstr("--verbose lists every item."));

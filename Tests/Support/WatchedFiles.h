@@ -104,8 +104,7 @@ private:
     static void raise(std::atomic<std::size_t>& most, std::size_t value)
     {
         auto known = most.load();
-        while (known < value && !most.compare_exchange_weak(known, value)) {
-        }
+        while (known < value && !most.compare_exchange_weak(known, value)) {}
     }
 
     Hooks m_hooks;

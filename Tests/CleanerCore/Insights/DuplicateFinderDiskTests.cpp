@@ -120,15 +120,15 @@ TEST_F(DuplicateFinderOnDisk, FindsEqualFiles)
 TEST_F(DuplicateFinderOnDisk, DropsAFileThatShrinksWhileItIsRead)
 {
     addRecords();
-    expectOnlyTheOthers(findWhile(2 * kPiece, [&] { std::filesystem::resize_file(m_tree.path("b"), 2 * kPiece + 1); }),
-        kChanging);
+    expectOnlyTheOthers(
+        findWhile(2 * kPiece, [&] { std::filesystem::resize_file(m_tree.path("b"), 2 * kPiece + 1); }), kChanging);
 }
 
 TEST_F(DuplicateFinderOnDisk, DropsAFileThatGrowsWhileItIsRead)
 {
     addRecords();
-    expectOnlyTheOthers(findWhile(2 * kPiece, [&] { std::ofstream(m_tree.path("b"), std::ios::app) << "more"; }),
-        kChanging);
+    expectOnlyTheOthers(
+        findWhile(2 * kPiece, [&] { std::ofstream(m_tree.path("b"), std::ios::app) << "more"; }), kChanging);
 }
 
 TEST_F(DuplicateFinderOnDisk, DropsAFileThatChangesWhereItWasReadAlready)

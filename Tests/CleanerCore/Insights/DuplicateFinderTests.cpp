@@ -1,5 +1,5 @@
-#include "CleanerCore/Insights/DuplicateFinder.h"
 #include "CleanerCore/Insights/ContentComparison.h"
+#include "CleanerCore/Insights/DuplicateFinder.h"
 #include "Tests/CleanerCore/Insights/DuplicateTestLimits.h"
 #include "Tests/CleanerCore/Insights/FilesInMemory.h"
 #include "Tests/Support/WatchedFiles.h"
@@ -50,7 +50,10 @@ std::string changedAt(std::string contents, std::size_t offset)
 
 class DuplicateFinderTest : public testing::Test {
 protected:
-    void add(std::string_view path, std::string contents) { m_records.push_back(m_files.add(path, std::move(contents))); }
+    void add(std::string_view path, std::string contents)
+    {
+        m_records.push_back(m_files.add(path, std::move(contents)));
+    }
 
     DuplicateSearchResult find(const Platform::FileManager& files, unsigned jobs = 2, const std::stop_token& stop = {})
     {
@@ -170,8 +173,8 @@ TEST_F(DuplicateFinderTest, GivesUpAtFilesThatAreTooLargeForTheBudget)
     const auto result = find();
     EXPECT_THAT(result.groups, IsEmpty());
     EXPECT_TRUE(result.isTruncated);
-    EXPECT_THAT(skips(),
-        ElementsAre("/large1: Duplicate hash budget exceeded", "/large2: Duplicate hash budget exceeded"));
+    EXPECT_THAT(
+        skips(), ElementsAre("/large1: Duplicate hash budget exceeded", "/large2: Duplicate hash budget exceeded"));
 }
 
 TEST_F(DuplicateFinderTest, GoesOnBehindFilesThatAreTooLargeButHaveNoCompanion)
@@ -308,8 +311,7 @@ TEST_F(DuplicateFinderTest, LetsTheOthersGoOnWhereTheFirstFileFailsHalfway)
     const auto result = find(files);
     ASSERT_EQ(result.groups.size(), 1U);
     EXPECT_THAT(pathsOf(result.groups.front()), ElementsAre("/b", "/c"));
-    EXPECT_EQ(result.groups.front().id,
-        Platform::hexDigest(Platform::SHA256::of(std::as_bytes(std::span(contents)))));
+    EXPECT_EQ(result.groups.front().id, Platform::hexDigest(Platform::SHA256::of(std::as_bytes(std::span(contents)))));
     EXPECT_EQ(m_skipped.size(), 1U);
 }
 
@@ -374,7 +376,7 @@ TEST_F(DuplicateFinderTest, TellsHowMuchItReadOnTheCallingThread)
     EXPECT_THAT(threads, ElementsAre(std::this_thread::get_id()));
     ASSERT_FALSE(told.empty());
     EXPECT_TRUE(std::ranges::is_sorted(told));
-    EXPECT_EQ(told.back(), static_cast<std::int64_t>(2 * contents.size() + 4 * 65'536));
+    EXPECT_EQ(told.back(), static_cast<std::int64_t>(2 * contents.size() + 6 * 65'536));
 }
 
 /// A search that is stopped at the n-th read, for every n.

@@ -34,8 +34,7 @@ public:
     FileRecord add(std::string_view path, std::string contents, std::optional<std::uint64_t> number = {},
         std::optional<std::int64_t> size = {})
     {
-        const File file{
-            .contents = std::move(contents), .size = 0, .number = number.value_or(m_files.size() + 1'000)};
+        const File file{.contents = std::move(contents), .size = 0, .number = number.value_or(m_files.size() + 1'000)};
         auto& added = m_files[std::string(path)] = file;
         added.size = size.value_or(static_cast<std::int64_t>(added.contents.size()));
         FileRecord record{Platform::FileURL(path)};
@@ -85,8 +84,8 @@ private:
         [[nodiscard]] std::expected<std::size_t, Platform::FileError> read(
             std::int64_t offset, std::span<std::byte> buffer) override
         {
-            const auto count = static_cast<std::size_t>(
-                std::clamp<std::int64_t>(m_file.size - offset, 0, std::ssize(buffer)));
+            const auto count =
+                static_cast<std::size_t>(std::clamp<std::int64_t>(m_file.size - offset, 0, std::ssize(buffer)));
             std::memset(buffer.data(), 0, count);
             const auto length = std::ssize(m_file.contents);
             if (offset < length) {

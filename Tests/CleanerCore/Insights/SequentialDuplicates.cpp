@@ -15,8 +15,7 @@ using Platform::FileError;
 using Platform::hexDigest;
 using Platform::SHA256;
 
-DuplicateSearchResult SequentialDuplicates::find(
-    std::span<const FileRecord> records, std::vector<SkippedItem>& skipped)
+DuplicateSearchResult SequentialDuplicates::find(std::span<const FileRecord> records, std::vector<SkippedItem>& skipped)
 {
     DuplicateSearchResult result;
     std::map<std::int64_t, std::vector<const FileRecord*>, std::greater<>> bySize;
@@ -30,7 +29,8 @@ DuplicateSearchResult SequentialDuplicates::find(
     for (const auto& [size, sameSize] : bySize) {
         bool isLast = false;
         auto sorted = sameSize;
-        std::ranges::sort(sorted, [](const auto* left, const auto* right) { return prefersReviewRecord(*left, *right); });
+        std::ranges::sort(
+            sorted, [](const auto* left, const auto* right) { return prefersReviewRecord(*left, *right); });
         std::vector<const FileRecord*> files;
         std::set<std::pair<std::uint64_t, std::uint64_t>> seen;
         for (const auto* const record : sorted) {
@@ -84,9 +84,8 @@ DuplicateSearchResult SequentialDuplicates::find(
             break;
         }
     }
-    std::ranges::stable_sort(result.groups, [](const auto& left, const auto& right) {
-        return left.wastedBytes() > right.wastedBytes();
-    });
+    std::ranges::stable_sort(
+        result.groups, [](const auto& left, const auto& right) { return left.wastedBytes() > right.wastedBytes(); });
     if (result.groups.size() > static_cast<std::size_t>(m_configuration.maximumResultCount)) {
         result.groups.resize(static_cast<std::size_t>(m_configuration.maximumResultCount));
     }

@@ -24,8 +24,7 @@ public:
     {
     }
 
-    [[nodiscard]] DuplicateSearchResult find(
-        std::span<const FileRecord> records, std::vector<SkippedItem>& skipped);
+    [[nodiscard]] DuplicateSearchResult find(std::span<const FileRecord> records, std::vector<SkippedItem>& skipped);
 
     /// The paths that were hashed, those with the same fingerprint under it.
     [[nodiscard]] const std::map<std::string, std::vector<std::string>>& hashedPaths() const { return m_hashedPaths; }

@@ -132,7 +132,8 @@ TEST(RegularFile, LeavesTheAccessTimeAlone)
 {
     const TemporaryTree tree("file size=10");
     // Older than the modification: where access times are kept at all, reading would set it.
-    const std::array<timespec, 2> times{timespec{.tv_sec = 1'000, .tv_nsec = 0}, timespec{.tv_sec = 2'000, .tv_nsec = 0}};
+    const std::array<timespec, 2> times{
+        timespec{.tv_sec = 1'000, .tv_nsec = 0}, timespec{.tv_sec = 2'000, .tv_nsec = 0}};
     ASSERT_EQ(utimensat(AT_FDCWD, tree.path("file").c_str(), times.data(), 0), 0);
     {
         const auto file = openRegularFile(tree.url("file"), ReadingPlan::wholeFile);

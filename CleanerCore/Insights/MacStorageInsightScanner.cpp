@@ -1,5 +1,6 @@
 #include "CleanerCore/Insights/MacStorageInsightScanner.h"
 
+#include "CleanerCore/Insights/DuplicateFinder.h"
 #include "CleanerCore/Insights/InsightMaker.h"
 #include "CleanerCore/Insights/InsightRoots.h"
 #include "CleanerCore/Insights/ReviewLists.h"
@@ -102,6 +103,11 @@ Report MacStorageInsightScanner::scan(
         report.downloadFiles = lists.downloads(run.records, *roots.downloadsFolder);
     }
     report.isTruncated = report.isTruncated || lists.isTruncated();
+    if (analyses.duplicates) {
+        auto found = DuplicateFinder(m_configuration, m_fileManager, jobs()).find(run.records, run.skippedItems, stop);
+        report.duplicateGroups = std::move(found.groups);
+        report.isTruncated = report.isTruncated || found.isTruncated;
+    }
     if (analyses.securityFindings) {
         report.securityFindings = securityFindings(run.records, m_configuration.maximumResultCount, maker);
     }

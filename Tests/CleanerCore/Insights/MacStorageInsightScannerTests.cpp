@@ -273,6 +273,32 @@ TEST_F(InsightTest, CountsWhatASparseFileOccupies)
     EXPECT_EQ(report.downloadFiles.back().sizeBytes, 0);
 }
 
+TEST_F(InsightTest, FindsDuplicatesAcrossRoots)
+{
+    m_limits.minimumDuplicateFileBytes = 4;
+    m_tree.add(R"(
+        home/Documents/a text="same"
+        home/Downloads/b text="same"
+        home/Downloads/c text="else"
+        home/Music/a => home/Documents/a
+    )");
+    const auto report = scan();
+    ASSERT_EQ(report.duplicateGroups.size(), 1U);
+    EXPECT_EQ(report.duplicateGroups.front().sizeBytes, 4);
+    EXPECT_EQ(names(report.duplicateGroups.front().files).back(), "b");
+    EXPECT_EQ(report.duplicateGroups.front().files.size(), 2U);
+    m_options.analyses.duplicates = false;
+    EXPECT_THAT(scan().duplicateGroups, IsEmpty());
+}
+
+TEST_F(InsightTest, TellsThatTheSearchForDuplicatesWasCut)
+{
+    m_limits.minimumDuplicateFileBytes = 4;
+    m_limits.maximumDuplicateHashFiles = 1;
+    m_tree.add("home/Documents/a count=3 text=same");
+    EXPECT_TRUE(scan().isTruncated);
+}
+
 TEST_F(InsightTest, MakesOnlyTheListsThatAreAskedFor)
 {
     m_tree.add("home/Downloads/SETUP.PKG size=4K\nhome/Downloads/new size=4K age=1s");

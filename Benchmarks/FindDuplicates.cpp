@@ -39,6 +39,8 @@ std::vector<FileRecord> recordsBelow(const Platform::FileManager& fileManager, c
         record.allocatedSizeBytes = values->totalFileAllocatedSize.value_or(0);
         record.logicalSizeBytes = *values->fileSize;
         record.lastModified = values->contentModificationDate;
+        record.fileNumber = values->systemFileNumber.value_or(0);
+        record.deviceNumber = values->systemNumber.value_or(0);
         records.push_back(std::move(record));
     }
     return records;

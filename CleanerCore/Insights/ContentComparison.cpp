@@ -22,67 +22,94 @@ ContentComparison::ContentComparison(FileReading& reading, std::span<std::byte> 
 
 void ContentComparison::compare(std::span<SearchedFile* const> files)
 {
-    Class all;
+    std::vector<Copy> copies;
+    copies.reserve(files.size());
     for (auto* const file : files) {
-        all.copies.push_back({.file = file, .open = nullptr});
+        copies.push_back({.file = file, .open = nullptr});
     }
-    m_classes.push_back(std::move(all));
-    while (!m_classes.empty()) {
+    bool goesOn = splitByEnd(std::move(copies));
+    while (goesOn && !m_classes.empty()) {
         auto next = std::move(m_classes.back());
         m_classes.pop_back();
-        follow(std::move(next));
+        goesOn = follow(std::move(next));
     }
+    m_classes.clear();
     m_heldFiles = 0;
 }
 
-void ContentComparison::follow(Class equals)
+bool ContentComparison::splitByEnd(std::vector<Copy> copies)
+{
+    const auto size = copies.front().file->state.size;
+    const bool isOnePiece = size <= static_cast<std::int64_t>(kPieceBytes);
+    while (!isOnePiece && copies.size() > 1) {
+        auto different = splitByPiece(copies, size - static_cast<std::int64_t>(kEndBytes), kEndBytes);
+        if (!different) {
+            return false;
+        }
+        proceed({.copies = std::move(copies), .offset = 0, .hash = {}});
+        copies = *std::move(different);
+    }
+    proceed({.copies = std::move(copies), .offset = 0, .hash = {}});
+    return true;
+}
+
+bool ContentComparison::follow(Class equals)
 {
     const auto size = equals.copies.front().file->state.size;
-    while (equals.copies.size() > 1 && equals.offset < size) {
+    while (equals.offset < size) {
         const auto length =
             static_cast<std::size_t>(std::min(static_cast<std::int64_t>(kPieceBytes), size - equals.offset));
-        std::vector<Copy> different;
-        if (!readPiece(equals, length, different)) {
-            m_classes.clear();
-            return;
+        auto different = splitByPiece(equals.copies, equals.offset, length);
+        if (!different) {
+            return false;
         }
-        if (different.size() > 1) {
-            m_classes.push_back({.copies = std::move(different), .offset = equals.offset, .hash = equals.hash});
-        } else if (!different.empty()) {
-            leave(different.front(), std::nullopt);
+        if (!different->empty()) {
+            proceed({.copies = *std::move(different), .offset = equals.offset, .hash = equals.hash});
         }
-        if (equals.copies.size() > 1) {
-            equals.hash.update(m_leaderPiece.first(length));
-            equals.offset += static_cast<std::int64_t>(length);
+        if (equals.copies.size() < 2) {
+            proceed(std::move(equals));
+            return true;
         }
+        equals.hash.update(m_leaderPiece.first(length));
+        equals.offset += static_cast<std::int64_t>(length);
     }
-    const bool isLikeOthers = equals.copies.size() > 1;
-    const auto digest = isLikeOthers ? std::optional(equals.hash.finish()) : std::nullopt;
+    const auto digest = equals.hash.finish();
     for (auto& copy : equals.copies) {
         leave(copy, digest);
     }
+    return true;
 }
 
-bool ContentComparison::readPiece(Class& equals, std::size_t length, std::vector<Copy>& different)
+void ContentComparison::proceed(Class equals)
+{
+    if (equals.copies.size() > 1) {
+        m_classes.push_back(std::move(equals));
+    } else if (!equals.copies.empty()) {
+        leave(equals.copies.front(), std::nullopt);
+    }
+}
+
+std::optional<std::vector<ContentComparison::Copy>> ContentComparison::splitByPiece(
+    std::vector<Copy>& copies, std::int64_t offset, std::size_t length)
 {
     const auto leaderPiece = m_leaderPiece.first(length);
     const auto otherPiece = m_otherPiece.first(length);
     std::vector<Copy> same;
-    same.reserve(equals.copies.size());
-    for (auto& copy : equals.copies) {
+    std::vector<Copy> different;
+    same.reserve(copies.size());
+    for (auto& copy : copies) {
         if (isStopped()) {
-            return false;
+            return std::nullopt;
         }
         const bool isLeader = same.empty();
-        const auto piece = isLeader ? leaderPiece : otherPiece;
-        if (!readPiece(copy, equals.offset, piece)) {
+        if (!readPiece(copy, offset, isLeader ? leaderPiece : otherPiece)) {
             continue;
         }
         const bool isSame = isLeader || std::memcmp(leaderPiece.data(), otherPiece.data(), length) == 0;
         (isSame ? same : different).push_back(std::move(copy));
     }
-    equals.copies = std::move(same);
-    return true;
+    copies = std::move(same);
+    return different;
 }
 
 bool ContentComparison::readPiece(Copy& copy, std::int64_t offset, std::span<std::byte> piece)

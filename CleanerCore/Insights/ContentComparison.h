@@ -14,12 +14,14 @@
 
 namespace CleanerCore {
 
-/// Finds out which of some files of one size are equal. They are read side by side, a piece of each at a time; what
-/// differs goes on apart, what is like no other is left there and then, and of those that stay equal one is hashed for
-/// all. A few files are held open; the others are opened for each piece, so there may be any number of them.
+/// Finds out which of some files of one size are equal. Their ends are looked at first, since that is where a file often
+/// differs from its older version. Then they are read side by side, a piece of each at a time; what differs goes on
+/// apart, what is like no other is left there and then, and of those that stay equal one is hashed for all. A few files are held open; the others are opened for each piece, so there may be any number of them.
 class ContentComparison {
 public:
     static constexpr std::size_t kPieceBytes = std::size_t{256} * 1024;
+    /// How much of the end is looked at first, of files that have more than one piece.
+    static constexpr std::size_t kEndBytes = std::size_t{64} * 1024;
     /// Two pieces: one of the file that leads, one of the file that is compared.
     static constexpr std::size_t kBufferBytes = 2 * kPieceBytes;
 
@@ -43,10 +45,17 @@ private:
     };
 
     [[nodiscard]] bool isStopped() const { return m_reading.stop.stop_requested(); }
-    /// Takes a class to the end, or until fewer than two are left; those that split off are put on the list.
-    void follow(Class equals);
-    /// Reads the next piece of all; gives those that differ from the first one that can be read. False after a stop.
-    [[nodiscard]] bool readPiece(Class& equals, std::size_t length, std::vector<Copy>& different);
+    /// Puts those with the same end on the list, a class each. False after a stop.
+    [[nodiscard]] bool splitByEnd(std::vector<Copy> copies);
+    /// Takes a class to the end, or until fewer than two are left; those that split off are put on the list. False after
+    /// a stop.
+    [[nodiscard]] bool follow(Class equals);
+    /// Reads the same piece of all, and takes out those that differ from the first one that can be read. Nothing after a
+    /// stop.
+    [[nodiscard]] std::optional<std::vector<Copy>> splitByPiece(
+        std::vector<Copy>& copies, std::int64_t offset, std::size_t length);
+    /// Goes on with these as one class, unless it is only one.
+    void proceed(Class equals);
     [[nodiscard]] bool readPiece(Copy& copy, std::int64_t offset, std::span<std::byte> piece);
     [[nodiscard]] std::expected<void, Platform::FileError> open(Copy& copy, const Platform::FileURL& url);
     void leave(Copy& copy, std::optional<Platform::SHA256::Digest> digest);

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <fmt/format.h>
+#include <vector>
 
 namespace CleanerCore {
 
@@ -28,20 +30,54 @@ std::expected<void, FileError> requireFileOf(const FileRecord& record, const Con
     return {};
 }
 
+/// The contents of small files of one size, side by side: what is equal is hashed once.
+class SmallContents {
+public:
+    explicit SmallContents(std::span<std::byte> buffer)
+        : m_free(buffer)
+    {
+    }
+
+    [[nodiscard]] std::span<std::byte> place(std::size_t length) const { return m_free.first(length); }
+    /// The digest of what was read to the place.
+    [[nodiscard]] SHA256::Digest digestOfPlaced(std::size_t length)
+    {
+        const auto placed = m_free.first(length);
+        for (const auto& known : m_known) {
+            if (std::memcmp(known.contents, placed.data(), length) == 0) {
+                return known.digest;
+            }
+        }
+        m_free = m_free.subspan(length);
+        m_known.push_back({.contents = placed.data(), .digest = SHA256::of(placed)});
+        return m_known.back().digest;
+    }
+
+private:
+    struct Known {
+        const std::byte* contents;
+        SHA256::Digest digest;
+    };
+
+    std::span<std::byte> m_free;
+    std::vector<Known> m_known;
+};
+
 /// Nothing after a stop.
 std::expected<std::optional<SHA256::Digest>, FileError> fingerprintOfAll(
-    ReadableFile& file, const FileURL& url, FileReading& reading, std::span<std::byte> contents)
+    ReadableFile& file, const FileURL& url, FileReading& reading, SmallContents& others)
 {
+    const auto length = static_cast<std::size_t>(file.stateAtOpening().size);
     if (reading.stop.stop_requested()) {
         return std::nullopt;
     }
-    if (const auto filled = reading.fill(file, url, 0, contents); !filled) {
+    if (const auto filled = reading.fill(file, url, 0, others.place(length)); !filled) {
         return std::unexpected(filled.error());
     }
     if (const auto same = requireStillInState(file.stateAtOpening(), file, url); !same) {
         return std::unexpected(same.error());
     }
-    return SHA256::of(contents);
+    return others.digestOfPlaced(length);
 }
 
 std::expected<std::optional<SHA256::Digest>, FileError> fingerprintOfSamples(
@@ -63,9 +99,7 @@ std::expected<std::optional<SHA256::Digest>, FileError> fingerprintOfSamples(
     return hash.finish();
 }
 
-} // namespace
-
-void takeFingerprint(SearchedFile& file, FileReading& reading, std::span<std::byte> buffer)
+void takeFingerprint(SearchedFile& file, FileReading& reading, SmallContents& others, std::span<std::byte> sample)
 {
     if (reading.stop.stop_requested()) {
         return;
@@ -84,8 +118,7 @@ void takeFingerprint(SearchedFile& file, FileReading& reading, std::span<std::by
         return fail(right.error());
     }
     file.isFingerprintOfAll = state.size <= kFingerprintSampleBytes;
-    const auto sample = buffer.first(static_cast<std::size_t>(std::min(state.size, kFingerprintSampleBytes)));
-    const auto fingerprint = file.isFingerprintOfAll ? fingerprintOfAll(**open, url, reading, sample)
+    const auto fingerprint = file.isFingerprintOfAll ? fingerprintOfAll(**open, url, reading, others)
                                                      : fingerprintOfSamples(**open, url, reading, sample);
     if (!fingerprint) {
         return fail(fingerprint.error());
@@ -94,6 +127,16 @@ void takeFingerprint(SearchedFile& file, FileReading& reading, std::span<std::by
         file.fingerprint = **fingerprint;
         file.state = state;
         file.fingerprinting = SearchStep::done;
+    }
+}
+
+} // namespace
+
+void takeFingerprints(std::span<SearchedFile> files, FileReading& reading, std::span<std::byte> buffer)
+{
+    SmallContents smallContents(buffer);
+    for (auto& file : files) {
+        takeFingerprint(file, reading, smallContents, buffer.first(kFingerprintSampleBytes));
     }
 }
 

@@ -39,7 +39,7 @@ DuplicateSearch::DuplicateSearch(const InsightConfiguration& configuration, cons
     , m_maximumHeldFiles(kMaximumHeldFiles / jobs)
     , m_sizes(records, configuration)
     , m_budget(configuration)
-    , m_pool(jobs, std::max<std::size_t>(ContentComparison::kBufferBytes, kFingerprintSampleBytes))
+    , m_pool(jobs, std::max(ContentComparison::kBufferBytes, fingerprintBufferBytes(kFingerprintsPerTask)))
 {
 }
 
@@ -83,10 +83,8 @@ void DuplicateSearch::admitSizes()
         for (std::size_t begin = 0; begin < all.size(); begin += kFingerprintsPerTask) {
             const auto some = all.subspan(begin, std::min(kFingerprintsPerTask, all.size() - begin));
             tasks.emplace_back([this, some](const Size& owner, std::span<std::byte> buffer) {
-                for (auto& file : some) {
-                    if (!owner.isAbandoned) {
-                        takeFingerprint(file, m_reading, buffer);
-                    }
+                if (!owner.isAbandoned) {
+                    takeFingerprints(some, m_reading, buffer);
                 }
             });
         }
@@ -141,7 +139,7 @@ void DuplicateSearch::submit(
         m_pool.submit(urgency, [this, size, task = std::move(task)](std::span<std::byte> buffer) {
             task(*size, buffer);
             if (--size->pendingTasks == 0) {
-                m_pool.announce();
+                m_pool.announceIfShortOfWork();
             }
         });
     }

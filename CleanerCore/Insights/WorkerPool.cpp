@@ -5,6 +5,12 @@
 
 namespace CleanerCore {
 
+namespace {
+
+constexpr std::size_t kTasksToGoOn = 8;
+
+} // namespace
+
 WorkerPool::WorkerPool(unsigned threads, std::size_t bufferBytes)
 {
     m_threads.reserve(threads);
@@ -22,10 +28,13 @@ void WorkerPool::submit(Urgency urgency, Task task)
     m_taskWaits.notify_one();
 }
 
-void WorkerPool::announce()
+void WorkerPool::announceIfShortOfWork()
 {
     {
         const std::scoped_lock guard(m_lock);
+        if (m_next.size() + m_later.size() > kTasksToGoOn * m_threads.size()) {
+            return;
+        }
         m_hasAnnouncement = true;
     }
     m_announced.notify_one();

@@ -29,8 +29,9 @@ public:
     /// What is to be done next is taken before all that is for later; apart from that the order stays.
     void submit(Urgency urgency, Task task);
 
-    /// For a task: the owner has something to look at.
-    void announce();
+    /// For a task: the owner has something to look at. It is not woken for that while the threads still have enough to
+    /// do: many small tasks would keep it from letting them work.
+    void announceIfShortOfWork();
     /// For the owner: returns at the first announcement since the last call, or when the time is over.
     void awaitAnnouncement(std::chrono::milliseconds limit);
 

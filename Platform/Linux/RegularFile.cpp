@@ -88,6 +88,9 @@ public:
         if (m_plan == ReadingPlan::samples) {
             filled = readSampleFromCache(offset, buffer);
         } else if (m_isFromDisk) {
+            if (offset != m_nextOffset) {
+                m_readAheadEnd = m_released = offset;
+            }
             readAhead(offset, std::ssize(buffer));
         }
         int interruptions = 0;
@@ -104,7 +107,8 @@ public:
             filled += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
         }
         if (m_plan == ReadingPlan::wholeFile && m_isFromDisk) {
-            releaseBehind(offset + static_cast<std::int64_t>(filled));
+            m_nextOffset = offset + static_cast<std::int64_t>(filled);
+            releaseBehind(m_nextOffset);
         }
         return filled;
     }
@@ -167,6 +171,7 @@ private:
     std::string m_path;
     ReadingPlan m_plan;
     bool m_isFromDisk = false;
+    std::int64_t m_nextOffset = 0;
     std::int64_t m_readAheadEnd = 0;
     std::int64_t m_released = 0;
 };

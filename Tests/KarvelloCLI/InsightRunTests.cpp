@@ -41,7 +41,7 @@ TEST(InsightCuts, AreNoneInAReportThatIsComplete)
 TEST(InsightCuts, AreOfTheDuplicatesWhereNothingElseWasCut)
 {
     EXPECT_EQ(cuts(cutFields()).duplicates, Duplicates::yes);
-    EXPECT_EQ(cuts(cutFields(), {.only = InsightPart::large}).duplicates, Duplicates::no);
+    EXPECT_EQ(cuts(cutFields(), {.home = {}, .only = InsightPart::large}).duplicates, Duplicates::no);
     auto fields = cutFields();
     skip(fields, 249, "Recently modified");
     EXPECT_FALSE(cuts(fields).recentFiles);
@@ -49,7 +49,8 @@ TEST(InsightCuts, AreOfTheDuplicatesWhereNothingElseWasCut)
     skip(fields, 1, "Recently modified");
     EXPECT_TRUE(cuts(fields).recentFiles);
     EXPECT_EQ(cuts(fields).duplicates, Duplicates::maybe);
-    EXPECT_FALSE(cuts(fields, {.only = InsightPart::duplicates}).recentFiles) << "no list of files was made";
+    EXPECT_FALSE(cuts(fields, {.home = {}, .only = InsightPart::duplicates}).recentFiles)
+        << "no list of files was made";
 }
 
 TEST(InsightCuts, AreOfTheVisitsWhereAFolderIsALowerBound)

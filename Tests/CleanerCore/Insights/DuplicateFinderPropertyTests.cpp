@@ -137,19 +137,44 @@ protected:
         };
     }
 
-    /// Whether the finder comes to the piece in which a file that is hashed fails: a companion is needed that is equal
-    /// up to there and has not failed before.
+    /// Where the part starts that the finder reads in one go with `offset`, and whether that is the end, which comes
+    /// before the other parts.
+    struct Part {
+        std::size_t start;
+        bool isEnd;
+    };
+    static Part partAt(std::int64_t offset, const std::string& contents)
+    {
+        const auto end = contents.size() - ContentComparison::kEndBytes;
+        const auto place = static_cast<std::size_t>(offset);
+        if (contents.size() > ContentComparison::kPieceBytes && place >= end) {
+            return {.start = end, .isEnd = true};
+        }
+        return {.start = place / ContentComparison::kPieceBytes * ContentComparison::kPieceBytes, .isEnd = false};
+    }
+
+    /// Whether the finder comes to the part in which a file that is hashed fails: a companion is needed that is equal in
+    /// all that is read before, and has not failed by then.
     [[nodiscard]] bool isFailureMet(const std::string& path, const std::vector<std::string>& companions) const
     {
-        constexpr auto piece = static_cast<std::int64_t>(ContentComparison::kPieceBytes);
-        const auto start = m_failingOffsets.at(path) / piece * piece;
+        const auto& contents = m_files.file(path).contents;
+        const auto part = partAt(m_failingOffsets.at(path), contents);
         return std::ranges::any_of(companions, [&](const std::string& other) {
+            if (other == path || part.isEnd) {
+                return other != path;
+            }
+            const auto& otherContents = m_files.file(other).contents;
             const auto failing = m_failingOffsets.find(other);
-            const auto& contents = m_files.file(path).contents;
-            return other != path && (failing == m_failingOffsets.end() || failing->second >= start)
-                && contents.compare(0, static_cast<std::size_t>(start), m_files.file(other).contents, 0,
-                       static_cast<std::size_t>(start))
-                == 0;
+            if (failing != m_failingOffsets.end()) {
+                const auto otherPart = partAt(failing->second, otherContents);
+                if (otherPart.isEnd || otherPart.start < part.start) {
+                    return false;
+                }
+            }
+            const auto end =
+                contents.size() > ContentComparison::kPieceBytes ? contents.size() - ContentComparison::kEndBytes : 0;
+            return contents.compare(0, part.start, otherContents, 0, part.start) == 0
+                && (end == 0 || contents.compare(end, std::string::npos, otherContents, end, std::string::npos) == 0);
         });
     }
 

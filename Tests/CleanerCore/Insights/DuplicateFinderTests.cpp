@@ -376,7 +376,7 @@ TEST_F(DuplicateFinderTest, TellsHowMuchItReadOnTheCallingThread)
     EXPECT_THAT(threads, ElementsAre(std::this_thread::get_id()));
     ASSERT_FALSE(told.empty());
     EXPECT_TRUE(std::ranges::is_sorted(told));
-    EXPECT_EQ(told.back(), static_cast<std::int64_t>(2 * contents.size() + 4 * 65'536));
+    EXPECT_EQ(told.back(), static_cast<std::int64_t>(2 * contents.size() + 6 * 65'536));
 }
 
 /// A search that is stopped at the n-th read, for every n.

@@ -358,22 +358,23 @@ TEST(CommandLine, RefusesLimitsThatTheScanWouldRaise)
         EXPECT_EQ(error.hint, "Try 'karvello-cli insights --help'.");
     }
     EXPECT_NE(usageError({"insights", "--min-age", "2592001"}).message.find("from 0 to 2592000"), std::string::npos);
+}
 
-    TEST(CommandLine, ReadsHowOftenToTellTheStatus)
-    {
-        EXPECT_EQ(optionsOf<StatusOptions>({"status"}).watch, std::nullopt);
-        EXPECT_EQ(optionsOf<StatusOptions>({"status", "--watch", "0.1"}).watch, 0.1);
-        EXPECT_EQ(optionsOf<StatusOptions>({"status", "--format", "csv", "--watch", "86400"}).watch, 86400);
-        for (const auto* const interval : {"0", "0.09", "86401", "-1", "nan", "inf", "x", ""}) {
-            EXPECT_FALSE(parse({"status", "--watch", interval})) << interval;
-        }
-        EXPECT_FALSE(parse({"status", "--watch", "1", "--output", "file"}));
-        EXPECT_FALSE(parse({"status", "more"}));
+TEST(CommandLine, ReadsHowOftenToTellTheStatus)
+{
+    EXPECT_EQ(optionsOf<StatusOptions>({"status"}).watch, std::nullopt);
+    EXPECT_EQ(optionsOf<StatusOptions>({"status", "--watch", "0.1"}).watch, 0.1);
+    EXPECT_EQ(optionsOf<StatusOptions>({"status", "--format", "csv", "--watch", "86400"}).watch, 86400);
+    for (const auto* const interval : {"0", "0.09", "86401", "-1", "nan", "inf", "x", ""}) {
+        EXPECT_FALSE(parse({"status", "--watch", interval})) << interval;
     }
+    EXPECT_FALSE(parse({"status", "--watch", "1", "--output", "file"}));
+    EXPECT_FALSE(parse({"status", "more"}));
+}
 
-    TEST(CommandLine, ReadsHowToListTheApplications)
-    {
-        EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--verbose"}).common.isVerbose);
-        EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--redacted"}).common.isRedacted);
-        EXPECT_FALSE(parse({"apps", "--yes"}));
-    }
+TEST(CommandLine, ReadsHowToListTheApplications)
+{
+    EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--verbose"}).common.isVerbose);
+    EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--redacted"}).common.isRedacted);
+    EXPECT_FALSE(parse({"apps", "--yes"}));
+}

@@ -45,9 +45,8 @@ std::string duplicateSentence(
             counted(count, "file"), style.size(limits.maximumDuplicateFullHashBytesPerFile),
             count == 1 ? "was" : "were");
     }
-    return fmt::format("The search for duplicates {} before the smallest files: it reads at most {} and {} whole, "
+    return fmt::format("The search for duplicates ended before the smallest files: it reads at most {} and {} whole, "
                        "and of one size it takes {}. --max-hash-files, --max-hash-bytes and --max-results go further.",
-        subject.cuts.duplicates == InsightCuts::Duplicates::maybe ? "may have ended" : "ended",
         counted(static_cast<std::size_t>(limits.maximumDuplicateHashFiles), "file"),
         style.size(limits.maximumDuplicateHashBytes),
         counted(static_cast<std::size_t>(limits.maximumResultCount), "file"));
@@ -72,7 +71,7 @@ std::vector<std::string> limitSentences(
                                         "--max-recent names more, and --min-age 0 lists them all.",
             limits.maximumRecentReviewSkippedItems));
     }
-    if (subject.cuts.duplicates != InsightCuts::Duplicates::no) {
+    if (subject.cuts.duplicates) {
         sentences.push_back(duplicateSentence(report, subject, style));
     }
     const auto full = fullLists(report, static_cast<std::size_t>(limits.maximumResultCount));

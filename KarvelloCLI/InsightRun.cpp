@@ -1,39 +1,31 @@
 #include "KarvelloCLI/InsightRun.h"
 
 #include "CleanerCore/Insights/MacStorageInsightScanner.h"
-#include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloCLI/ProgressLine.h"
 #include "Platform/Services/HomeDirectory.h"
 
-#include <algorithm>
-
 namespace KarvelloCLI {
 
-using CleanerCore::MacStorageInsightReport;
 using CleanerCore::MacStorageInsightScanner;
 
-namespace Reason = CleanerCore::StorageScannerSkipReason;
+namespace {
 
-InsightCuts cutsOf(const MacStorageInsightReport& report, const InsightSubject& subject)
+void note(InsightCuts& cuts, CleanerCore::InsightLimit limit)
 {
-    InsightCuts cuts;
-    if (!report.isTruncated) {
-        return cuts;
+    switch (limit) {
+    case CleanerCore::InsightLimit::visits:
+        cuts.visits = true;
+        return;
+    case CleanerCore::InsightLimit::recentFiles:
+        cuts.recentFiles = true;
+        return;
+    case CleanerCore::InsightLimit::duplicates:
+        cuts.duplicates = true;
+        return;
     }
-    const auto skippedFor = [&](std::string_view reason) {
-        return std::ranges::count(report.skippedItems, reason, &CleanerCore::SkippedItem::reason);
-    };
-    const bool listsFiles = subject.wants(InsightPart::large) || subject.wants(InsightPart::downloads);
-    cuts.visits = std::ranges::any_of(report.heatmapItems, &CleanerCore::StorageMapItem::isTruncated);
-    cuts.recentFiles = listsFiles && subject.configuration.minimumReviewFileAge > 0
-        && skippedFor(Reason::recentlyModified) >= subject.configuration.maximumRecentReviewSkippedItems;
-    if (subject.wants(InsightPart::duplicates)) {
-        const bool isCertain =
-            skippedFor(Reason::duplicateHashBudgetExceeded) > 0 || (!cuts.visits && !cuts.recentFiles);
-        cuts.duplicates = isCertain ? InsightCuts::Duplicates::yes : InsightCuts::Duplicates::maybe;
-    }
-    return cuts;
 }
+
+} // namespace
 
 std::expected<InsightRun, std::string> InsightRun::perform(const InsightsOptions& options,
     const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager,
@@ -57,13 +49,13 @@ std::expected<InsightRun, std::string> InsightRun::perform(const InsightsOptions
                     .duplicates = subject.wants(InsightPart::duplicates),
                     .securityFindings = subject.wants(InsightPart::security)},
                 .jobs = options.common.jobs,
+                .limitHandler = [&subject](CleanerCore::InsightLimit limit) { note(subject.cuts, limit); },
             });
         run.report = scanner.scan(
             Platform::Date::now(), [&](const MacStorageInsightScanner::Progress& step) { progress.report(step); },
             stop);
     }
     subject.isIncomplete = stop.stop_requested();
-    subject.cuts = cutsOf(run.report, subject);
     run.judgement = ScanJudgement::of(run.report.skippedItems, run.plan.refusedFolders,
         {.folders = subject.folders, .count = subject.folders.size(), .areAll = !subject.looksAtHome});
     subject.isRefused = run.judgement.exitCode == ExitCode::refused;

@@ -14,9 +14,6 @@
 
 namespace KarvelloCLI {
 
-/// Which limits a report of all parts met, as far as the report tells.
-[[nodiscard]] InsightCuts cutsOf(const CleanerCore::MacStorageInsightReport& report, const InsightSubject& subject);
-
 /// One insight scan as the words of a command line ask for it.
 struct InsightRun {
     /// Its subject tells whether the scan was interrupted or refused, and where it was cut short.

@@ -3,7 +3,6 @@
 #include "KarvelloCLI/InsightsOptions.h"
 #include "Platform/Base/FileURL.h"
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -11,11 +10,9 @@ namespace KarvelloCLI {
 
 /// Which limits an insight scan met.
 struct InsightCuts {
-    enum class Duplicates : std::uint8_t { no, maybe, yes };
-
     bool visits = false;
     bool recentFiles = false;
-    Duplicates duplicates = Duplicates::no;
+    bool duplicates = false;
 };
 
 /// What an insight scan was asked to look at, for the words around its result.

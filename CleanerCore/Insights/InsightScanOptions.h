@@ -19,6 +19,16 @@ struct InsightAnalyses {
     bool securityFindings = true;
 };
 
+/// What ends an insight scan before it is complete: the report is truncated then.
+enum class InsightLimit : std::uint8_t {
+    /// Of a root, or of the insides of all packages.
+    visits,
+    /// More files are too new to judge than may be named.
+    recentFiles,
+    /// One of those of the search for duplicates.
+    duplicates,
+};
+
 /// What a caller may decide of an insight scan, its limits apart.
 struct InsightScanOptions {
     /// The folders to scan in place of the home's own; each must still pass the rules for scan roots.
@@ -29,6 +39,8 @@ struct InsightScanOptions {
     InsightAnalyses analyses = {};
     /// How many processors may be kept busy; 0 for all of them. The report is the same for every value.
     unsigned jobs = 0;
+    /// Told of each kind of limit that the scan met, once, on the calling thread.
+    std::function<void(InsightLimit)> limitHandler = {};
 };
 
 /// Where the walk of an insight scan is.

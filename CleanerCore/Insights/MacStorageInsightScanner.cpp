@@ -94,6 +94,14 @@ Report MacStorageInsightScanner::scan(
     auto progress = walkRoots(roots, run, *this, progressHandler, report);
     pool.reset();
 
+    const auto note = [&](InsightLimit limit, bool isMet) {
+        report.isTruncated = report.isTruncated || isMet;
+        if (isMet && m_options.limitHandler) {
+            m_options.limitHandler(limit);
+        }
+    };
+    note(InsightLimit::visits, report.isTruncated);
+
     const auto& analyses = m_options.analyses;
     const InsightMaker maker(m_fileManager, stop);
     ReviewLists lists(m_configuration, now, maker, run.skippedItems);
@@ -103,7 +111,7 @@ Report MacStorageInsightScanner::scan(
     if (analyses.downloads && roots.downloadsFolder) {
         report.downloadFiles = lists.downloads(run.records, *roots.downloadsFolder);
     }
-    report.isTruncated = report.isTruncated || lists.isTruncated();
+    note(InsightLimit::recentFiles, lists.isTruncated());
     if (analyses.duplicates) {
         const auto tell = [&](std::int64_t bytes) {
             if (progressHandler) {
@@ -114,7 +122,7 @@ Report MacStorageInsightScanner::scan(
         auto search =
             DuplicateFinder(m_configuration, m_fileManager, jobs(), tell).find(run.records, run.skippedItems, stop);
         report.duplicateGroups = std::move(search.groups);
-        report.isTruncated = report.isTruncated || search.isTruncated;
+        note(InsightLimit::duplicates, search.isTruncated);
     }
     if (analyses.securityFindings) {
         report.securityFindings = securityFindings(run.records, m_configuration.maximumResultCount, maker);

@@ -143,7 +143,7 @@ InsightSubject cutSubject()
     InsightSubject subject = homeSubject();
     subject.folders = {FileURL::folder("/home/ada/" + std::string(120, 'f')), FileURL::folder("/srv/\x1b[2J")};
     subject.isIncomplete = true;
-    subject.cuts = {.visits = true, .recentFiles = true, .duplicates = InsightCuts::Duplicates::maybe};
+    subject.cuts = {.visits = true, .recentFiles = true, .duplicates = true};
     return subject;
 }
 
@@ -366,11 +366,9 @@ TEST(InsightTable, TellsOfEachLimitAndItsOption)
     EXPECT_EQ(cutShort(ordinaryReport(), subject),
         "Cut short\n  More files changed too lately to be listed than the 250 that are named. --max-recent names more, "
         "and --min-age 0 lists them all.");
-    subject.cuts = {.duplicates = InsightCuts::Duplicates::yes};
+    subject.cuts = {.duplicates = true};
     EXPECT_THAT(cutShort(ordinaryReport(), subject),
         HasSubstr("The search for duplicates ended before the smallest files: it reads at most 500 files and 1 GB "));
-    subject.cuts = {.duplicates = InsightCuts::Duplicates::maybe};
-    EXPECT_THAT(cutShort(ordinaryReport(), subject), HasSubstr("The search for duplicates may have ended before "));
     auto fields = ordinaryFields();
     fields.skippedItems.assign(2, {FileURL("/home/ada/x"), "Duplicate hash budget exceeded"});
     EXPECT_THAT(cutShort(MacStorageInsightReport(std::move(fields)), subject),

@@ -139,6 +139,12 @@ TEST_F(InsightsProgram, LimitsAndAgesAreThoseOfTheOptions)
     EXPECT_THAT(run({"--max-visits", "128", "--only", "large"}).output, HasSubstr("Cut short\n  Not every item"))
         << "the map is not shown, and what it tells of the walk holds all the same";
     EXPECT_THAT(run({"--max-recent", "0"}).output, HasSubstr("--min-age 0 lists them all."));
+    EXPECT_THAT(run({"--max-recent", "0", "--only", "duplicates"}).output, Not(HasSubstr("Cut short")))
+        << "no list of files was made";
+    EXPECT_THAT(run({"--max-hash-files", "1"}).output,
+        HasSubstr(
+            "Cut short\n  The search for duplicates ended before the smallest files: it reads at most 1 file and "))
+        << "and nothing else was cut";
 }
 
 TEST_F(InsightsProgram, ARedactedResultTellsNoName)

@@ -171,7 +171,9 @@ TEST(ProgressLine, TellsTheFolderAndTheCountOfAnInsightScan)
     reading.readBytes = 5 * 1'048'576;
     EXPECT_EQ(ProgressLine::line(reading, 200, kPaths), "1234 items looked at, comparing files, 5 MB read");
     for (std::size_t columns = 20; columns < 80; ++columns) {
-        EXPECT_LE(TerminalText(ProgressLine::line(progress, columns, kPaths)).columns(), columns);
-        EXPECT_LE(TerminalText(ProgressLine::line(reading, columns, kPaths)).columns(), columns);
+        for (const auto& each : {progress, reading}) {
+            const TerminalText line(ProgressLine::line(each, columns, kPaths), TerminalText::Kind::sentence);
+            EXPECT_LE(line.columns(), columns);
+        }
     }
 }

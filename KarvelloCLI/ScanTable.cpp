@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Scan/ByteSizeFormatter.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
+#include "KarvelloCLI/OwnerNote.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
 
@@ -83,7 +84,8 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
     row.name = TerminalText(name);
     row.kind = TerminalText(displayName(candidate.category));
     row.path = TerminalText(path);
-    row.note = TerminalText(ownerNote(candidate.appCacheContext));
+    row.note = TerminalText(
+        ownerNote(candidate.appCacheContext, m_settings.isRedacted ? OwnerName::hidden : OwnerName::shown));
     row.place = m_settings.isRedacted
         ? row.path
         : TerminalText(m_paths.abbreviate(candidate.url.deletingLastPathComponent().path()));
@@ -105,16 +107,6 @@ void ScanTable::makeSkippedRows(CleanerCore::ReportExportRedactionContext& redac
         }
         m_skippedRows.push_back(std::move(row));
     }
-}
-
-std::string ScanTable::ownerNote(const std::optional<CleanerCore::AppCacheContext>& context) const
-{
-    if (!context || context->runningState != CleanerCore::AppCacheRunningState::running) {
-        return {};
-    }
-    const auto& name = context->matchedRunningDisplayName;
-    return name && !m_settings.isRedacted ? fmt::format("{} is running and may be using it", *name)
-                                          : "its application is running and may be using it";
 }
 
 std::string ScanTable::size(std::int64_t bytes) const

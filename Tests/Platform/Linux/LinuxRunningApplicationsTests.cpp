@@ -350,6 +350,7 @@ TEST_F(LinuxRunningApplicationsTest, WhatAnApplicationStartsBelongsToIt)
     add({.number = 13, .start = 130, .parent = 12, .program = "notes"});
     add({.number = 14, .start = 90, .parent = 10, .program = "older"});
     add({.number = 20, .start = 100, .program = "helper"});
+    write("proc/20/root/.flatpak-info", "[Application]\nname=helper\n");
     add({.number = 21, .start = 110, .parent = 20, .program = "bash"});
     const auto found = list();
     ASSERT_EQ(found.size(), 3U);

@@ -20,7 +20,7 @@ constexpr std::string_view kGap = "  ";
 /// There is room for the number of the process, and for all that there is to tell.
 constexpr std::size_t kWide = 76;
 constexpr std::size_t kVeryWide = 120;
-constexpr std::size_t kNarrowestName = 12;
+constexpr std::size_t kNarrowestText = 10;
 
 enum Column : std::size_t { cpu, memory, share, process, processes, running, quit, name, identifier, columnCount };
 
@@ -88,12 +88,12 @@ std::string tableOf(const std::vector<Row>& rows, const TextStyle& style)
         }
         taken += widths[column];
     }
-    // Names give way first; of the rest, the identifiers.
-    for (const std::size_t column : {name, identifier}) {
+    // Names give way first, then the identifiers, and in the narrowest of windows the words.
+    for (const std::size_t column : {name, identifier, quit}) {
         const bool isShown = std::ranges::find(columns, column) != columns.end();
         const std::size_t excess = taken > style.columns ? taken - style.columns : 0;
-        if (isShown && widths[column] > kNarrowestName) {
-            const std::size_t cut = std::min(excess, widths[column] - kNarrowestName);
+        if (isShown && widths[column] > kNarrowestText) {
+            const std::size_t cut = std::min(excess, widths[column] - kNarrowestText);
             widths[column] -= cut;
             taken -= cut;
         }

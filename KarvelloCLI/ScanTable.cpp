@@ -3,6 +3,7 @@
 #include "CleanerCore/Scan/ByteSizeFormatter.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloCLI/FolderNames.h"
+#include "KarvelloCLI/OwnerNote.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
 
@@ -79,7 +80,8 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
     row.name = TerminalText(name);
     row.kind = TerminalText(displayName(candidate.category));
     row.path = TerminalText(path);
-    row.note = TerminalText(ownerNote(candidate.appCacheContext));
+    row.note = TerminalText(
+        ownerNote(candidate.appCacheContext, m_settings.isRedacted ? OwnerName::hidden : OwnerName::shown));
     row.place = m_settings.isRedacted
         ? row.path
         : TerminalText(m_paths.abbreviate(candidate.url.deletingLastPathComponent().path()));
@@ -93,16 +95,6 @@ void ScanTable::makeSkippedRows(CleanerCore::ReportExportRedactionContext& redac
     for (const CleanerCore::SkippedItem& item : m_report.skippedItems) {
         m_skippedRows.push_back(SkippedRow::of(item, m_paths, paths, m_settings.isRedacted ? &redaction : nullptr));
     }
-}
-
-std::string ScanTable::ownerNote(const std::optional<CleanerCore::AppCacheContext>& context) const
-{
-    if (!context || context->runningState != CleanerCore::AppCacheRunningState::running) {
-        return {};
-    }
-    const auto& name = context->matchedRunningDisplayName;
-    return name && !m_settings.isRedacted ? fmt::format("{} is running and may be using it", *name)
-                                          : "its application is running and may be using it";
 }
 
 std::string ScanTable::size(std::int64_t bytes) const

@@ -68,8 +68,6 @@ private:
     void makeSkippedRows(CleanerCore::ReportExportRedactionContext& redaction);
     [[nodiscard]] CandidateRow row(
         const CleanerCore::CleanupCandidate& candidate, std::string_view name, std::string_view path) const;
-    /// That the application which owns the item runs; empty if it does not, or if nobody knows.
-    [[nodiscard]] std::string ownerNote(const std::optional<CleanerCore::AppCacheContext>& context) const;
     [[nodiscard]] std::string size(std::int64_t bytes) const;
     [[nodiscard]] std::string heading() const;
     [[nodiscard]] std::string candidates() const;

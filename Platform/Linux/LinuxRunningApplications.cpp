@@ -85,10 +85,14 @@ RunningApplication LinuxRunningApplications::applicationOf(const ApplicationGrou
     return application;
 }
 
-void LinuxRunningApplications::addMemory(RunningApplication& application, const ApplicationGroup& group) const
+void LinuxRunningApplications::addMemory(
+    RunningApplication& application, const ApplicationGroup& group, const std::stop_token& stop) const
 {
     std::optional<std::uint64_t> sum;
     for (const auto& member : group.members) {
+        if (stop.stop_requested()) {
+            return;
+        }
         const auto folder = ProcessFolder::open(m_settings.procRoot, member.processIdentifier);
         const auto state = folder ? folder->state() : std::nullopt;
         if (!state || state->startTicks != member.startTicks) {
@@ -173,13 +177,13 @@ RunningApplications::Listing LinuxRunningApplications::measuredApplications(cons
     }
     std::vector<RunningApplication> applications;
     for (const auto& group : *found) {
+        auto application = applicationOf(group);
+        application.cpuFractionOfTotalCapacity = cpuFraction(group, *first, now);
+        addMemory(application, group, stop);
+        applications.push_back(std::move(application));
         if (stop.stop_requested()) {
             return std::unexpected(ECANCELED);
         }
-        auto application = applicationOf(group);
-        application.cpuFractionOfTotalCapacity = cpuFraction(group, *first, now);
-        addMemory(application, group);
-        applications.push_back(std::move(application));
     }
     return applications;
 }

@@ -64,7 +64,8 @@ private:
         const std::function<void(const ProcessFolder&, ProcessState)>& take) const;
     [[nodiscard]] std::expected<std::vector<ApplicationGroup>, int> groups(DesktopEntries& entries) const;
     [[nodiscard]] RunningApplication applicationOf(const ApplicationGroup& group) const;
-    void addMemory(RunningApplication& application, const ApplicationGroup& group) const;
+    void addMemory(
+        RunningApplication& application, const ApplicationGroup& group, const std::stop_token& stop = {}) const;
     [[nodiscard]] std::optional<double> cpuFraction(
         const ApplicationGroup& group, const Sample& first, Clock::time_point now) const;
 

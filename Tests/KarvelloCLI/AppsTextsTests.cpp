@@ -64,7 +64,7 @@ TEST(AppsTexts, TheWidestTableTellsEverythingTheHeaviestFirst)
     EXPECT_THAT(table(140),
         HasSubstr("CPU  Memory  Share  PID  Processes  Running  Name          Identifier         Quit\n"
                   "  -    5 MB      -  200          1        -  Editor        editor             not from here\n"
-                  "13%    2 MB    <1%  100          3      2 h  Notes\\n\\xff  org.example.Notes  not from here\n"));
+                  "12%    2 MB    <1%  100          3      2 h  Notes\\n\\xff   org.example.Notes  not from here\n"));
 }
 
 TEST(AppsTexts, NarrowerTablesTellLess)

@@ -8,7 +8,6 @@
 namespace CleanerCore {
 
 using Platform::FileError;
-using Platform::FileErrorKind;
 using Platform::FileURL;
 using Platform::SHA256;
 

@@ -66,7 +66,8 @@ CandidateColumns::CandidateColumns(
         m_placeWidth = left;
         return;
     }
-    if (columns >= kVeryWide) {
+    const bool hasKinds = std::ranges::any_of(rows, [](const CandidateRow* row) { return row->kind.columns() > 0; });
+    if (columns >= kVeryWide && hasKinds) {
         m_kindWidth = widest(rows, &CandidateRow::kind, kindTitle());
         left -= m_kindWidth + kGap.size();
     }

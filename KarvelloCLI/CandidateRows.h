@@ -10,15 +10,18 @@
 
 namespace KarvelloCLI {
 
-/// One candidate as a table shows it.
+/// One candidate, or another file, as a table shows it.
 struct CandidateRow {
     bool isMarked = false;
     TerminalText size;
     TerminalText age;
     TerminalText name;
+    /// Empty in all rows: there is no column for it.
     TerminalText kind;
     /// The folder that holds the item, or its token.
     TerminalText place;
+    /// Something more to say, on a line of its own; empty where there is nothing.
+    TerminalText note;
     /// The whole path for tables too narrow for `name` and `place`.
     TerminalText path;
 };

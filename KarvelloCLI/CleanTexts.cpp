@@ -3,6 +3,7 @@
 #include "CleanerCore/Audit/CleanupAuditEntry.h"
 #include "CleanerCore/Cleaning/CleanupSelectionPreview.h"
 #include "KarvelloCLI/ItemLines.h"
+#include "KarvelloCLI/OwnerNote.h"
 #include "KarvelloCLI/Words.h"
 
 #include <fmt/format.h>
@@ -53,11 +54,15 @@ std::string group(std::span<const CleanupCandidate> candidates, Platform::Date s
 {
     std::vector<ItemLines::Item> items;
     for (const CleanupCandidate& candidate : candidates) {
-        items.push_back({.mark = candidate.requiresManualReview() ? "!" : " ",
+        ItemLines::Item item{.mark = candidate.requiresManualReview() ? "!" : " ",
             .size = style.size(candidate.sizeBytes),
             .age = candidate.lastModified ? shortAge(scannedAt.secondsSince(*candidate.lastModified)) : "-",
             .words = style.path(candidate.url),
-            .notes = {}});
+            .notes = {}};
+        if (const auto note = ownerNote(candidate.appCacheContext, OwnerName::shown); !note.empty()) {
+            item.notes.push_back(TerminalText(note).string());
+        }
+        items.push_back(std::move(item));
     }
     const CleanupSafety safety = candidates.front().safety;
     return fmt::format("{}: {}\n{}", style.painter(inkOf(safety), displayName(safety)), countAndSize(candidates, style),

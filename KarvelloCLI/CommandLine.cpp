@@ -2,6 +2,7 @@
 
 #include "KarvelloCLI/HelpFormatter.h"
 #include "KarvelloCLI/OptionChecks.h"
+#include "KarvelloCLI/SharedOptions.h"
 #include "KarvelloCLI/TerminalText.h"
 
 #include <CLI/CLI.hpp>
@@ -28,7 +29,9 @@ constexpr const char* kProgramFooter =
     "  karvello-cli scan --root ~/builds   the items of one folder\n"
     "  karvello-cli scan --format json --output scan.json\n"
     "  karvello-cli clean --default        what a scan marks with *, after a question\n"
-    "  karvello-cli restore                what can be put back\n";
+    "  karvello-cli restore                what can be put back\n"
+    "  karvello-cli insights               where the space went\n"
+    "  karvello-cli status --watch 2       how the machine is, every two seconds\n";
 
 constexpr const char* kScanIntroduction =
     "Look for what could be cleaned up, without changing anything.\n"
@@ -81,72 +84,12 @@ constexpr const char* kHistoryFooter = "\nExit status:\n"
                                        "  1    the log could not be read, or not all of it; nothing was changed in it\n"
                                        "  2    wrong usage\n";
 
-/// The words of an enumeration's option, read into its value once the whole line is known to be good.
-template <Platform::RawRepresentable E>
-CLI::Option* addChoice(CLI::App& app, const std::string& name, E& target, const std::string& description)
-{
-    return app
-        .add_option_function<std::string>(
-            name, [&target](const std::string& value) { target = *Platform::fromRawValue<E>(value); }, description)
-        ->check(oneOf<E>())
-        ->type_name(fmt::format("{}", fmt::join(Platform::RawValues<E>::names, "|")));
-}
-
-/// One value for each mention: a name in brackets stays one name, and what follows is no value by accident.
-CLI::Option* addRepeated(
-    CLI::App& app, const std::string& name, std::vector<std::string>& target, const std::string& description)
-{
-    return app.add_option(name, target, description)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-        ->allow_extra_args(false);
-}
-
-CLI::Option* addFolders(
-    CLI::App& app, const std::string& name, std::vector<std::string>& target, const std::string& description)
-{
-    return addRepeated(app, name, target, description)->check(notEmpty("needs a folder"))->type_name("DIR");
-}
-
-CLI::Option* addHome(CLI::App& app, std::optional<std::string>& target, const std::string& description)
-{
-    return app.add_option("--home", target, description)->check(notEmpty("needs a folder"))->type_name("DIR");
-}
-
-void addCommonOptions(CLI::App& app, CommonOptions& options)
-{
-    const std::string group = "Output";
-    addChoice(app, "--format", options.format, "A table to read, or a file for programs (table)")->group(group);
-    app.add_flag("--redacted", options.isRedacted, "Show tokens in place of paths and names")->group(group);
-    app.add_option("--output", options.output, "Write the result to this file, whole or not at all")
-        ->check(notEmpty("needs a file"))
-        ->type_name("FILE")
-        ->group(group);
-    app.add_flag("--verbose", options.isVerbose, "List every item, the skipped ones too")->group(group);
-    addChoice(app, "--progress", options.progress, "A line on standard error while it works (auto)")->group(group);
-    addChoice(app, "--color", options.color, "Colours; auto: on a terminal, unless NO_COLOR is set")->group(group);
-    app.add_option(
-           "--language", options.language, fmt::format("The form of sizes: {} (en)", fmt::join(kLanguageCodes, ", ")))
-        ->check(oneOfTheLanguages())
-        ->type_name("CODE")
-        ->group(group);
-    app.add_option("--jobs", options.jobs, "How many processors to keep busy (all of them)")
-        ->check(countOfJobs())
-        ->type_name("N")
-        ->group(group);
-}
-
 void addScanOptions(CLI::App& app, ScanOptions& options)
 {
     const std::string where = "What to scan";
-    app.add_option_function<std::string>(
-           "--mode",
-           [&options](const std::string& value) {
-               options.mode = Platform::fromRawValue<CleanerCore::CleanupScanMode>(value);
-           },
-           "How far to look: well-known places; more of them, for review; and package and developer caches "
-           "too (standard)")
-        ->check(oneOf<CleanerCore::CleanupScanMode>())
-        ->type_name("standard|aggressive|direct")
+    addChoice<CleanerCore::CleanupScanMode>(app, "--mode", options.mode,
+        "How far to look: well-known places; more of them, for review; and package and developer caches "
+        "too (standard)")
         ->group(where);
     addHome(app, options.home, "The home folder to scan (yours)")->group(where);
     addFolders(app, "--folder", options.folders,
@@ -218,10 +161,20 @@ void addRestoreOptions(CLI::App& app, RestoreOptions& options, bool& wantsAll)
 void addHistoryOptions(CLI::App& app, HistoryOptions& options)
 {
     app.add_option("--limit", options.limit, "The newest so many entries (all)")
-        ->check(countFromOne())
+        ->check(countFrom(1))
         ->type_name("N")
         ->group("What to show");
     addCommonOptions(app, options.common);
+}
+
+void addStatusOptions(CLI::App& app, StatusOptions& options)
+{
+    addCommonOptions(app, options.common);
+    app.add_option("--watch", options.watch, "A reading every so many seconds, until interrupted")
+        ->check(watchInterval())
+        ->excludes(app.get_option("--output"))
+        ->type_name("SECONDS")
+        ->group("What to show");
 }
 
 /// The library puts two blank lines between groups, where one is enough.
@@ -317,10 +270,22 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
     CLI::App* const history = addCommand("history", kHistoryIntroduction, kHistoryFooter);
     addHistoryOptions(*history, historyOptions);
 
+    InsightsOptions insightsOptions;
+    CLI::App* const insights = addCommand("insights", kInsightsIntroduction, kInsightsFooter);
+    addInsightsOptions(*insights, insightsOptions);
+
+    StatusOptions statusOptions;
+    CLI::App* const status = addCommand("status", kStatusIntroduction, kStatusFooter);
+    addStatusOptions(*status, statusOptions);
+
+    AppsOptions appsOptions;
+    CLI::App* const apps = addCommand("apps", kAppsIntroduction, kAppsFooter);
+    addCommonOptions(*apps, appsOptions.common);
+
     if (arguments.empty()) {
         return Information{helpOf(app)};
     }
-    const std::vector<CLI::App*> commands{scan, clean, restore, history};
+    const std::vector<CLI::App*> commands{scan, clean, restore, history, insights, status, apps};
     const bool isKnown = std::ranges::find(commands, arguments.front(), [](const CLI::App* each) {
         return each->get_name();
     }) != commands.end();
@@ -368,6 +333,15 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
     }
     if (history->parsed()) {
         return historyOptions;
+    }
+    if (insights->parsed()) {
+        return insightsOptions;
+    }
+    if (status->parsed()) {
+        return statusOptions;
+    }
+    if (apps->parsed()) {
+        return appsOptions;
     }
     return Information{helpOf(app)};
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "KarvelloCLI/InsightsOptions.h"
 #include "KarvelloCLI/Options.h"
+#include "KarvelloCLI/SystemOptions.h"
 
 #include <expected>
 #include <span>
@@ -20,7 +22,8 @@ struct UsageError {
     std::string hint;
 };
 
-using Command = std::variant<Information, ScanOptions, CleanOptions, RestoreOptions, HistoryOptions>;
+using Command = std::variant<Information, ScanOptions, CleanOptions, RestoreOptions, HistoryOptions, InsightsOptions,
+    StatusOptions, AppsOptions>;
 
 /// Reads the arguments that follow the program's name. Looks at nothing but the words: no disk, no environment.
 [[nodiscard]] std::expected<Command, UsageError> parseCommandLine(std::span<const std::string> arguments);

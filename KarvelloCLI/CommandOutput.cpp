@@ -2,10 +2,13 @@
 
 #include "CleanerCore/Audit/CleanupAuditExporter.h"
 #include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/WorkingDirectory.h"
 
 #include <fmt/format.h>
 
+#include <string>
 #include <system_error>
+#include <vector>
 
 namespace KarvelloCLI {
 
@@ -34,6 +37,20 @@ std::optional<OutputFile> openOutput(
     return *std::move(named);
 }
 
+std::optional<OutputFile> outputOf(const CommonOptions& options, const Platform::FileManager& fileManager)
+{
+    std::vector<std::string> paths;
+    if (options.output) {
+        paths.push_back(*options.output);
+    }
+    const auto here = workingDirectoryFor(paths);
+    if (!here) {
+        printMessage(here.error());
+        return std::nullopt;
+    }
+    return openOutput(options, *here, fileManager);
+}
+
 Delivery deliver(std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager)
 {
     if (const auto written = output.write(data, fileManager); !written) {
@@ -43,16 +60,22 @@ Delivery deliver(std::string_view data, const OutputFile& output, const Platform
     return Delivery::written;
 }
 
-Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries, const CommonOptions& options,
-    const OutputFile& output, const Platform::FileManager& fileManager)
+Delivery deliverExport(const std::expected<std::string, CleanerCore::ExportError>& data, const OutputFile& output,
+    const Platform::FileManager& fileManager)
 {
-    const auto data = CleanerCore::CleanupAuditExporter::data(
-        entries, exportFormat(options), exportPrivacy(options), Platform::Date::now());
     if (!data) {
         printMessage(data.error().localizedDescription());
         return Delivery::failed;
     }
     return deliver(*data, output, fileManager);
+}
+
+Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries, const CommonOptions& options,
+    const OutputFile& output, const Platform::FileManager& fileManager)
+{
+    const auto data = CleanerCore::CleanupAuditExporter::data(
+        entries, exportFormat(options), exportPrivacy(options), Platform::Date::now());
+    return deliverExport(data, output, fileManager);
 }
 
 CleanerCore::ScanResultExportFormat exportFormat(const CommonOptions& options)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CleanerCore/Audit/CleanupAuditEntry.h"
+#include "CleanerCore/Export/ExportError.h"
 #include "CleanerCore/Export/ReportExportPrivacyMode.h"
 #include "CleanerCore/Export/ScanResultExportFormat.h"
 #include "KarvelloCLI/Options.h"
@@ -9,8 +10,10 @@
 #include "Platform/Files/FileManager.h"
 
 #include <cstdint>
+#include <expected>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace KarvelloCLI {
@@ -21,9 +24,17 @@ enum class Delivery : std::uint8_t { written, failed };
 [[nodiscard]] std::optional<OutputFile> openOutput(
     const CommonOptions& options, const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager);
 
+/// The same for a command that has no other paths: a relative one counts from where the user is.
+[[nodiscard]] std::optional<OutputFile> outputOf(
+    const CommonOptions& options, const Platform::FileManager& fileManager);
+
 /// Writes all of it; a failure is told to the user.
 [[nodiscard]] Delivery deliver(
     std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager);
+
+/// The same for an export, whose own failure is told as well.
+[[nodiscard]] Delivery deliverExport(const std::expected<std::string, CleanerCore::ExportError>& data,
+    const OutputFile& output, const Platform::FileManager& fileManager);
 
 /// Writes entries of the log in the form for programs that the options name; a failure is told to the user.
 [[nodiscard]] Delivery deliverAuditExport(std::span<const CleanerCore::CleanupAuditEntry> entries,

@@ -5,28 +5,16 @@
 #include "KarvelloCLI/HistoryTable.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/TextStyle.h"
-#include "KarvelloCLI/WorkingDirectory.h"
 #include "Platform/Services/HomeDirectory.h"
 
 #include <span>
-#include <string>
-#include <vector>
 
 namespace KarvelloCLI {
 
 ExitCode HistoryCommand::run(const HistoryOptions& options) const
 {
     const CommonOptions& common = options.common;
-    std::vector<std::string> paths;
-    if (common.output) {
-        paths.push_back(*common.output);
-    }
-    const auto here = workingDirectoryFor(paths);
-    if (!here) {
-        printMessage(here.error());
-        return ExitCode::wrongUsage;
-    }
-    const auto output = openOutput(common, *here, m_fileManager);
+    const auto output = outputOf(common, m_fileManager);
     if (!output) {
         return ExitCode::wrongUsage;
     }

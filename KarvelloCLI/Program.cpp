@@ -1,14 +1,18 @@
 #include "KarvelloCLI/Program.h"
 
 #include "CleanerCore/Audit/CleanupAuditStore.h"
+#include "KarvelloCLI/AppsCommand.h"
 #include "KarvelloCLI/CleanCommand.h"
 #include "KarvelloCLI/CommandLine.h"
 #include "KarvelloCLI/HistoryCommand.h"
+#include "KarvelloCLI/InsightsCommand.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/OutputFile.h"
 #include "KarvelloCLI/RestoreCommand.h"
 #include "KarvelloCLI/ScanCommand.h"
+#include "KarvelloCLI/StatusCommand.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Linux/LinuxTrash.h"
 #include "Platform/Services/UserDirectories.h"
 
@@ -69,6 +73,18 @@ ExitCode runProgram(std::span<const std::string> arguments)
     const Platform::Environment environment = Platform::Environment::current();
     if (const auto* const options = std::get_if<ScanOptions>(&*command)) {
         return ScanCommand(fileManager, environment).run(*options);
+    }
+    if (const auto* const options = std::get_if<InsightsOptions>(&*command)) {
+        return InsightsCommand(fileManager, environment).run(*options);
+    }
+    if (const auto* const options = std::get_if<StatusOptions>(&*command)) {
+        return StatusCommand(fileManager, environment).run(*options);
+    }
+    if (const auto* const options = std::get_if<AppsOptions>(&*command)) {
+        const Platform::LinuxRunningApplications applications(
+            Platform::LinuxRunningApplications::Settings::current(environment),
+            Platform::SystemStatistics::ofThisMachine());
+        return AppsCommand(fileManager, applications, environment).run(*options);
     }
     // Trash and log are those of the user who runs this, whatever home is cleaned.
     const CleanupAuditStore log(fileManager, CleanupAuditStore::defaultFileURL(environment));

@@ -1,8 +1,14 @@
 #include "KarvelloCLI/ProgressLine.h"
 
+#include "CleanerCore/Scan/ByteSizeFormatter.h"
+#include "KarvelloCLI/OutputFile.h"
 #include "KarvelloCLI/Words.h"
 
 #include <fmt/format.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <tuple>
 
 namespace KarvelloCLI {
 
@@ -12,7 +18,46 @@ namespace {
 constexpr std::size_t kLeastColumnsForPath = 12;
 constexpr std::string_view kEraseLine = "\r\x1b[K";
 
+std::size_t columnsOf(std::string_view text)
+{
+    return TerminalText(text, TerminalText::Kind::sentence).columns();
+}
+
+/// The facts that fit, and the place behind them if there is room for it.
+std::string lineOf(std::string_view facts, std::string_view brief, const Platform::FileURL* place, std::size_t columns,
+    const std::optional<HomePathAbbreviation>& paths)
+{
+    const bool showsPath = place != nullptr && paths;
+    const std::size_t leastForPath = showsPath ? 2 + kLeastColumnsForPath : 0;
+    std::string text(facts.size() + leastForPath <= columns ? facts : brief);
+    if (showsPath && text.size() + leastForPath <= columns) {
+        const TerminalText path(paths->abbreviate(place->path()));
+        text += "  " + path.elidedInMiddle(columns - text.size() - 2).string();
+    }
+    return columnsOf(text) <= columns ? text : text.substr(0, columns);
+}
+
 } // namespace
+
+ProgressLine::Settings ProgressLine::Settings::of(
+    const CommonOptions& options, const Platform::FileURL& home, const Platform::Environment& environment)
+{
+    const Terminal terminal = Terminal::of(STDERR_FILENO, environment);
+    ProgressLine::Settings settings;
+    if (options.progress != When::never) {
+        if (terminal.understandsEscapes) {
+            settings.style = ProgressLine::Style::rewritten;
+        } else if (options.progress == When::always) {
+            settings.style = ProgressLine::Style::appended;
+        }
+    }
+    if (!options.isRedacted) {
+        settings.paths.emplace(home);
+    }
+    settings.columns = [&environment] { return terminalColumns(STDERR_FILENO, environment); };
+    settings.write = [](std::string_view text) { std::ignore = writeWholly(STDERR_FILENO, text); };
+    return settings;
+}
 
 ProgressLine::ProgressLine(Settings settings)
     : m_settings(std::move(settings))
@@ -27,7 +72,8 @@ std::chrono::milliseconds ProgressLine::interval() const
     return m_settings.style == Style::appended ? kAppendInterval : kRewriteInterval;
 }
 
-void ProgressLine::report(const CleanerCore::StorageScanProgress& progress)
+template <typename Progress>
+void ProgressLine::show(const Progress& progress)
 {
     if (m_settings.style == Style::none) {
         return;
@@ -47,6 +93,16 @@ void ProgressLine::report(const CleanerCore::StorageScanProgress& progress)
     m_isShown = true;
 }
 
+void ProgressLine::report(const CleanerCore::StorageScanProgress& progress)
+{
+    show(progress);
+}
+
+void ProgressLine::report(const CleanerCore::MacStorageInsightScanner::Progress& progress)
+{
+    show(progress);
+}
+
 void ProgressLine::clear()
 {
     if (m_isShown) {
@@ -63,14 +119,22 @@ std::string ProgressLine::line(const CleanerCore::StorageScanProgress& progress,
         progress.skippedItems);
     const std::string brief = fmt::format("{:3}%  {} found", progress.percentage(), progress.foundCandidates);
 
-    const bool showsPath = progress.currentURL && paths;
-    const std::size_t leastForPath = showsPath ? 2 + kLeastColumnsForPath : 0;
-    std::string text = facts.size() + leastForPath <= columns ? facts : brief;
-    if (showsPath && text.size() + leastForPath <= columns) {
-        const TerminalText path(paths->abbreviate(progress.currentURL->path()));
-        text += "  " + path.elidedInMiddle(columns - text.size() - 2).string();
+    return lineOf(facts, brief, progress.currentURL ? &*progress.currentURL : nullptr, columns, paths);
+}
+
+std::string ProgressLine::line(const CleanerCore::MacStorageInsightScanner::Progress& progress, std::size_t columns,
+    const std::optional<HomePathAbbreviation>& paths)
+{
+    const std::string brief =
+        fmt::format("{} looked at", counted(static_cast<std::size_t>(progress.visitedItems), "item"));
+    if (progress.readBytes > 0) {
+        const std::string read =
+            fmt::format("comparing files, {} read", CleanerCore::ByteSizeFormatter::string(progress.readBytes));
+        return lineOf(fmt::format("{}, {}", brief, read), read, nullptr, columns, paths);
     }
-    return TerminalText(text).columns() <= columns ? text : text.substr(0, columns);
+    const std::string facts = fmt::format(
+        "folder {} of {}, {}", std::min(progress.completedRoots + 1, progress.totalRoots), progress.totalRoots, brief);
+    return lineOf(facts, brief, &progress.root, columns, paths);
 }
 
 } // namespace KarvelloCLI

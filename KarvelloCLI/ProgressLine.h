@@ -1,7 +1,10 @@
 #pragma once
 
+#include "CleanerCore/Insights/MacStorageInsightScanner.h"
 #include "CleanerCore/Scan/StorageScanProgress.h"
+#include "KarvelloCLI/Options.h"
 #include "KarvelloCLI/TerminalText.h"
+#include "Platform/Services/Environment.h"
 
 #include <chrono>
 #include <cstddef>
@@ -30,6 +33,10 @@ public:
     static constexpr std::chrono::milliseconds kAppendInterval{2000};
 
     struct Settings {
+        /// For standard error, as the options ask for it.
+        static Settings of(
+            const CommonOptions& options, const Platform::FileURL& home, const Platform::Environment& environment);
+
         Style style = Style::none;
         /// Absent: the current path is not shown.
         std::optional<HomePathAbbreviation> paths;
@@ -47,15 +54,20 @@ public:
     ProgressLine& operator=(const ProgressLine&) = delete;
 
     void report(const CleanerCore::StorageScanProgress& progress);
+    void report(const CleanerCore::MacStorageInsightScanner::Progress& progress);
     /// Takes a rewritten line off the screen.
     void clear();
 
     /// The line for a report, at most `columns` wide.
     [[nodiscard]] static std::string line(const CleanerCore::StorageScanProgress& progress, std::size_t columns,
         const std::optional<HomePathAbbreviation>& paths);
+    [[nodiscard]] static std::string line(const CleanerCore::MacStorageInsightScanner::Progress& progress,
+        std::size_t columns, const std::optional<HomePathAbbreviation>& paths);
 
 private:
     [[nodiscard]] std::chrono::milliseconds interval() const;
+    template <typename Progress>
+    void show(const Progress& progress);
 
     Settings m_settings;
     Clock::time_point m_nextDue;

@@ -5,7 +5,6 @@
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/ScanRun.h"
-#include "KarvelloCLI/Words.h"
 #include "KarvelloCLI/WorkingDirectory.h"
 
 #include <expected>
@@ -46,19 +45,6 @@ std::expected<std::string, CleanerCore::ExportError> exportOf(const ScanReport& 
         report, selected, exportFormat(options), exportPrivacy(options), Platform::Date::now());
 }
 
-ExitCode conclude(const ScanRun& run, const Platform::FileManager& fileManager)
-{
-    run.judgement.tellRefusals(fileManager);
-    if (run.judgement.failures > 0) {
-        printMessage(counted(run.judgement.failures, "item") + " could not be read, which the skipped items tell of.");
-    }
-    if (run.plan.subject.isIncomplete) {
-        printMessage("Interrupted: the result is incomplete.");
-        return ExitCode::interrupted;
-    }
-    return run.judgement.exitCode;
-}
-
 } // namespace
 
 ScanCommand::ScanCommand(const Platform::FileManager& fileManager, const Platform::Environment& environment)
@@ -97,14 +83,10 @@ ExitCode ScanCommand::run(const ScanOptions& options) const
     const auto data = common.format == OutputFormat::table
         ? tableOf(report, run->plan.subject, common, *output, m_environment)
         : exportOf(report, common);
-    if (!data) {
-        printMessage(data.error().localizedDescription());
+    if (deliverExport(data, *output, m_fileManager) == Delivery::failed) {
         return ExitCode::partial;
     }
-    if (deliver(*data, *output, m_fileManager) == Delivery::failed) {
-        return ExitCode::partial;
-    }
-    return conclude(*run, m_fileManager);
+    return run->judgement.conclude(run->plan.subject.isIncomplete, m_fileManager);
 }
 
 } // namespace KarvelloCLI

@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageProfiles.h"
+#include "KarvelloCLI/NamedHome.h"
 #include "KarvelloCLI/TerminalText.h"
 #include "KarvelloCLI/WorkingDirectory.h"
 
@@ -16,19 +17,6 @@ namespace {
 
 using CleanerCore::ScanLocation;
 using Platform::FileURL;
-
-/// A folder that is named twice is one folder.
-std::vector<FileURL> foldersNamed(const std::vector<std::string>& names, const FileURL& workingDirectory)
-{
-    std::vector<FileURL> folders;
-    for (const std::string& name : names) {
-        FileURL folder = absoluteFolder(name, workingDirectory);
-        if (std::ranges::find(folders, folder) == folders.end()) {
-            folders.push_back(std::move(folder));
-        }
-    }
-    return folders;
-}
 
 ScanLocation plainLocation(const FileURL& root, const ScanOptions& options)
 {
@@ -57,22 +45,20 @@ std::expected<ScanPlan, std::string> ScanPlan::make(const ScanOptions& options, 
     const std::stop_token& stop)
 {
     ScanPlan plan;
-    const FileURL namedHome = options.home ? absoluteFolder(*options.home, workingDirectory) : ownHome;
-    // A home that is reached through a link is still the home: what lies in it is judged by its real path.
-    const FileURL home = FileURL::folder(fileManager.resolvingSymbolicLinks(namedHome).path());
+    const NamedHome namedHome = NamedHome::of(options.home, workingDirectory, ownHome, fileManager);
+    const FileURL& home = namedHome.real;
     plan.subject.home = home;
     plan.subject.leavesOutHiddenFiles = !options.includesHiddenFiles;
 
     if (options.scansHome()) {
         if (!fileManager.directoryExists(home)) {
-            return std::unexpected(
-                fmt::format("There is no home folder at “{}”.", TerminalText(namedHome.path()).string()));
+            return std::unexpected(namedHome.absence());
         }
         plan.subject.mode = options.mode.value_or(CleanerCore::CleanupScanMode::standard);
         plan.locations = homeLocations(*plan.subject.mode, home, ownHome, environment, fileManager, stop);
     }
 
-    for (const FileURL& folder : foldersNamed(options.folders, workingDirectory)) {
+    for (const FileURL& folder : absoluteFolders(options.folders, workingDirectory)) {
         plan.subject.folders.push_back(folder);
         auto location =
             CleanerCore::customFolderLocation(folder, std::string(folder.lastPathComponent()), fileManager, home);
@@ -83,7 +69,7 @@ std::expected<ScanPlan, std::string> ScanPlan::make(const ScanOptions& options, 
         }
     }
 
-    plan.roots = foldersNamed(options.roots, workingDirectory);
+    plan.roots = absoluteFolders(options.roots, workingDirectory);
     for (const FileURL& root : plan.roots) {
         plan.subject.folders.push_back(root);
         plan.locations.push_back(plainLocation(root, options));

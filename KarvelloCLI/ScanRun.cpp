@@ -1,19 +1,21 @@
 #include "KarvelloCLI/ScanRun.h"
 
+#include "CleanerCore/Scan/AppCacheContextEnricher.h"
 #include "CleanerCore/Scan/StorageScanner.h"
 #include "KarvelloCLI/Messages.h"
-#include "KarvelloCLI/OutputFile.h"
 #include "KarvelloCLI/ProgressLine.h"
 #include "KarvelloCLI/SkipKind.h"
+#include "KarvelloCLI/Words.h"
+#include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Services/HomeDirectory.h"
+#include "Platform/Services/SystemStatistics.h"
 
 #include <fmt/format.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <optional>
-#include <tuple>
 #include <utility>
+#include <vector>
 
 namespace KarvelloCLI {
 
@@ -22,26 +24,6 @@ namespace {
 using CleanerCore::ScanReport;
 using CleanerCore::SkippedItem;
 using Platform::FileURL;
-
-ProgressLine::Settings progressSettings(
-    const CommonOptions& options, const FileURL& home, const Platform::Environment& environment)
-{
-    const Terminal terminal = Terminal::of(STDERR_FILENO, environment);
-    ProgressLine::Settings settings;
-    if (options.progress != When::never) {
-        if (terminal.understandsEscapes) {
-            settings.style = ProgressLine::Style::rewritten;
-        } else if (options.progress == When::always) {
-            settings.style = ProgressLine::Style::appended;
-        }
-    }
-    if (!options.isRedacted) {
-        settings.paths.emplace(home);
-    }
-    settings.columns = [&environment] { return terminalColumns(STDERR_FILENO, environment); };
-    settings.write = [](std::string_view text) { std::ignore = writeWholly(STDERR_FILENO, text); };
-    return settings;
-}
 
 /// The reason, with the path where it does not name it itself.
 std::string sentenceOn(const SkippedItem& item)
@@ -62,18 +44,48 @@ std::optional<std::string> hintForLink(const FileURL& folder, const Platform::Fi
         TerminalText(real.path()).string());
 }
 
+/// Tells the candidates in containers whether their application runs. Only this user's programs can be seen, so nothing
+/// is said of a home that is not this user's own, nor if they cannot be seen at all.
+void addRunningOwners(ScanReport& report, const FileURL& home, const Platform::FileManager& fileManager,
+    const Platform::Environment& environment)
+{
+    const auto hasContext = [](const auto& candidate) { return candidate.appCacheContext.has_value(); };
+    const auto ownHome = fileManager.resolvingSymbolicLinks(Platform::homeDirectoryForCurrentUser());
+    if (std::ranges::none_of(report.candidates, hasContext) || home != ownHome) {
+        return;
+    }
+    const Platform::LinuxRunningApplications runtime(Platform::LinuxRunningApplications::Settings::current(environment),
+        Platform::SystemStatistics::ofThisMachine());
+    const auto applications = runtime.applications();
+    if (!applications) {
+        return;
+    }
+    std::vector<CleanerCore::AppCacheRunningApplicationIdentity> identities;
+    for (const auto& application : *applications) {
+        identities.push_back(CleanerCore::AppCacheRunningApplicationIdentity::of(application));
+    }
+    report.candidates = CleanerCore::AppCacheContextEnricher::enrich(std::move(report.candidates), identities);
+}
+
 } // namespace
 
 ScanJudgement ScanJudgement::of(const ScanReport& report, const ScanPlan& plan)
 {
+    return of(report.skippedItems, plan.refusedFolders,
+        {.folders = plan.roots, .count = plan.subject.folders.size(), .areAll = !plan.subject.mode});
+}
+
+ScanJudgement ScanJudgement::of(
+    std::span<const SkippedItem> skippedItems, std::vector<SkippedItem> refusedBeforehand, const NamedFolders& named)
+{
     ScanJudgement judgement;
-    judgement.refusals = plan.refusedFolders;
-    for (const SkippedItem& item : report.skippedItems) {
+    judgement.refusals = std::move(refusedBeforehand);
+    for (const SkippedItem& item : skippedItems) {
         switch (skipKind(item.reason)) {
         case SkipKind::protection:
             break;
         case SkipKind::refusal:
-            if (std::ranges::find(plan.roots, item.url.path(), &FileURL::path) != plan.roots.end()) {
+            if (std::ranges::find(named.folders, item.url.path(), &FileURL::path) != named.folders.end()) {
                 judgement.refusals.push_back(item);
             }
             break;
@@ -82,8 +94,7 @@ ScanJudgement ScanJudgement::of(const ScanReport& report, const ScanPlan& plan)
             break;
         }
     }
-    const bool nothingElse = !plan.subject.mode;
-    if (nothingElse && !judgement.refusals.empty() && judgement.refusals.size() == plan.subject.folders.size()) {
+    if (named.areAll && !judgement.refusals.empty() && judgement.refusals.size() == named.count) {
         judgement.exitCode = ExitCode::refused;
     } else if (!judgement.refusals.empty() || judgement.failures > 0) {
         judgement.exitCode = ExitCode::partial;
@@ -101,6 +112,19 @@ void ScanJudgement::tellRefusals(const Platform::FileManager& fileManager) const
     }
 }
 
+ExitCode ScanJudgement::conclude(bool isInterrupted, const Platform::FileManager& fileManager) const
+{
+    tellRefusals(fileManager);
+    if (failures > 0) {
+        printMessage(counted(failures, "item") + " could not be read, which the skipped items tell of.");
+    }
+    if (isInterrupted) {
+        printMessage("Interrupted: the result is incomplete.");
+        return ExitCode::interrupted;
+    }
+    return exitCode;
+}
+
 std::expected<ScanRun, std::string> ScanRun::perform(const ScanOptions& options, const FileURL& workingDirectory,
     const Platform::FileManager& fileManager, const Platform::Environment& environment, const std::stop_token& stop)
 {
@@ -114,12 +138,13 @@ std::expected<ScanRun, std::string> ScanRun::perform(const ScanOptions& options,
     }
     ScanRun run{.plan = *std::move(plan), .report = {}, .judgement = {}};
     {
-        ProgressLine progress(progressSettings(options.common, run.plan.subject.home, environment));
+        ProgressLine progress(ProgressLine::Settings::of(options.common, run.plan.subject.home, environment));
         const CleanerCore::StorageScanner scanner(fileManager, {.jobs = options.common.jobs});
         run.report = scanner.scan(
             run.plan.locations, Platform::Date::now(), [&](const auto& step) { progress.report(step); }, stop,
             run.plan.subject.home);
     }
+    addRunningOwners(run.report, run.plan.subject.home, fileManager, environment);
     run.plan.subject.isIncomplete = stop.stop_requested();
     run.judgement = ScanJudgement::of(run.report, run.plan);
     run.plan.subject.isRefused = run.judgement.exitCode == ExitCode::refused;

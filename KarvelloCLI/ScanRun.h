@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <expected>
+#include <span>
 #include <stop_token>
 #include <string>
 #include <vector>
@@ -24,11 +25,24 @@ struct ScanJudgement {
     /// How many items could not be judged since something could not be read.
     std::size_t failures = 0;
 
+    /// The folders that the user named.
+    struct NamedFolders {
+        /// Those of which the scanner says whether they may be scanned.
+        std::span<const Platform::FileURL> folders;
+        std::size_t count = 0;
+        /// Nothing else was to be scanned.
+        bool areAll = false;
+    };
+
     /// `report` is the scanner's own: what the plan refused is not in it.
     static ScanJudgement of(const CleanerCore::ScanReport& report, const ScanPlan& plan);
+    static ScanJudgement of(std::span<const CleanerCore::SkippedItem> skippedItems,
+        std::vector<CleanerCore::SkippedItem> refusedBeforehand, const NamedFolders& named);
 
     /// A message on each refusal, with advice where there is some.
     void tellRefusals(const Platform::FileManager& fileManager) const;
+    /// Tells the refusals, what could not be read, and an interruption; gives the exit code that follows.
+    [[nodiscard]] ExitCode conclude(bool isInterrupted, const Platform::FileManager& fileManager) const;
 };
 
 /// One scan as the words of a command line ask for it, whatever the command makes of it then.

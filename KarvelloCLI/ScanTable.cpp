@@ -2,6 +2,8 @@
 
 #include "CleanerCore/Scan/ByteSizeFormatter.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
+#include "KarvelloCLI/FolderNames.h"
+#include "KarvelloCLI/OwnerNote.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
 
@@ -20,12 +22,7 @@ namespace {
 using CleanerCore::CleanupCandidate;
 using CleanerCore::CleanupSafety;
 
-/// How many of the folders that the user named the heading repeats.
-constexpr std::size_t kNamedFolders = 4;
-
 constexpr std::string_view kCandidateLabel = "cleanup-candidate";
-constexpr std::string_view kSkippedLabel = "skipped";
-constexpr std::string_view kSkippedReasonLabel = "skipped-reason";
 
 std::int64_t totalBytes(std::span<const CleanupCandidate> candidates)
 {
@@ -83,6 +80,8 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
     row.name = TerminalText(name);
     row.kind = TerminalText(displayName(candidate.category));
     row.path = TerminalText(path);
+    row.note = TerminalText(
+        ownerNote(candidate.appCacheContext, m_settings.isRedacted ? OwnerName::hidden : OwnerName::shown));
     row.place = m_settings.isRedacted
         ? row.path
         : TerminalText(m_paths.abbreviate(candidate.url.deletingLastPathComponent().path()));
@@ -92,17 +91,9 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
 void ScanTable::makeSkippedRows(CleanerCore::ReportExportRedactionContext& redaction)
 {
     m_skippedRows.reserve(m_report.skippedItems.size());
+    const auto paths = m_settings.isVerbose ? SkippedRow::Paths::shown : SkippedRow::Paths::leftOut;
     for (const CleanerCore::SkippedItem& item : m_report.skippedItems) {
-        SkippedRow row{item.reason, {}};
-        std::string path = item.url.path();
-        if (m_settings.isRedacted) {
-            path = redaction.path(path, kSkippedLabel);
-            row.reason = redaction.freeText(item.reason, kSkippedReasonLabel);
-        }
-        if (m_settings.isVerbose) {
-            row.path = TerminalText(m_paths.abbreviate(path));
-        }
-        m_skippedRows.push_back(std::move(row));
+        m_skippedRows.push_back(SkippedRow::of(item, m_paths, paths, m_settings.isRedacted ? &redaction : nullptr));
     }
 }
 
@@ -141,16 +132,8 @@ std::string ScanTable::heading() const
         const std::string home = m_settings.isRedacted ? "the home folder" : m_subject.home.path();
         places.push_back(fmt::format("{} (mode {})", home, Platform::rawValue(*m_subject.mode)));
     }
-    if (m_settings.isRedacted && !m_subject.folders.empty()) {
-        places.push_back(counted(m_subject.folders.size(), "given folder"));
-    } else {
-        const std::size_t named = std::min(m_subject.folders.size(), kNamedFolders);
-        for (const Platform::FileURL& folder : std::span(m_subject.folders).first(named)) {
-            places.push_back(m_paths.abbreviate(folder.path()));
-        }
-        if (named < m_subject.folders.size()) {
-            places.push_back(counted(m_subject.folders.size() - named, "more folder"));
-        }
+    for (std::string& name : folderNames(m_subject.folders, m_paths, m_settings.isRedacted)) {
+        places.push_back(std::move(name));
     }
     std::string text =
         paragraph(fmt::format("Scan of {}: {}", fmt::join(places, ", "), localTime(m_report.scannedAt)), Ink::title);
@@ -187,6 +170,10 @@ std::string ScanTable::lines(const Group& group, const CandidateColumns& columns
     for (const CandidateRow& row : group.rows) {
         text += columns.line(row);
         text += '\n';
+        if (row.note.columns() > 0) {
+            text += columns.summaryLine(TerminalText(), row.note);
+            text += '\n';
+        }
     }
     return text + rest(candidates.subspan(group.rows.size()), columns);
 }

@@ -20,6 +20,7 @@ constexpr std::array kRules{
     Reason::recentlyModified,
     Reason::emptyItem,
     Reason::inventoryItemLimitExceeded,
+    Reason::duplicateHashBudgetExceeded,
 };
 
 bool isRefusalOfRoot(std::string_view reason)

@@ -1,5 +1,6 @@
 #include "KarvelloCLI/SkippedSummary.h"
 
+#include "CleanerCore/Export/SkippedItemExportRow.h"
 #include "KarvelloCLI/Words.h"
 
 #include <fmt/format.h>
@@ -46,6 +47,22 @@ std::string countedLine(std::size_t count, const TerminalText& words, std::size_
 }
 
 } // namespace
+
+SkippedRow SkippedRow::of(const CleanerCore::SkippedItem& item, const HomePathAbbreviation& abbreviation, Paths paths,
+    CleanerCore::ReportExportRedactionContext* redaction)
+{
+    using CleanerCore::SkippedItemExportRow;
+    SkippedRow row{item.reason, {}};
+    std::string path = item.url.path();
+    if (redaction != nullptr) {
+        path = redaction->path(path, SkippedItemExportRow::kLabel);
+        row.reason = redaction->freeText(item.reason, SkippedItemExportRow::kReasonLabel);
+    }
+    if (paths == Paths::shown) {
+        row.path = TerminalText(abbreviation.abbreviate(path));
+    }
+    return row;
+}
 
 SkippedSummary::SkippedSummary(std::span<const SkippedRow> rows)
     : m_count(rows.size())

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "CleanerCore/Export/ReportExportRedactionContext.h"
+#include "CleanerCore/Scan/SkippedItem.h"
 #include "KarvelloCLI/TerminalText.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
@@ -11,6 +14,13 @@ namespace KarvelloCLI {
 
 /// A skipped item as a table shows it.
 struct SkippedRow {
+    /// Tables that are not verbose show none.
+    enum class Paths : std::uint8_t { shown, leftOut };
+
+    /// With a `redaction`, the tokens of an export stand in place of paths.
+    static SkippedRow of(const CleanerCore::SkippedItem& item, const HomePathAbbreviation& abbreviation, Paths paths,
+        CleanerCore::ReportExportRedactionContext* redaction);
+
     std::string reason;
     TerminalText path;
 };

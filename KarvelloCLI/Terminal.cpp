@@ -1,5 +1,7 @@
 #include "KarvelloCLI/Terminal.h"
 
+#include "Platform/Base/Text.h"
+
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -66,6 +68,17 @@ bool usesColor(When choice, const Terminal& terminal, const Platform::Environmen
         break;
     }
     return terminal.understandsEscapes && !environment.value("NO_COLOR");
+}
+
+bool usesUTF8(const Platform::Environment& environment)
+{
+    for (const char* const name : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+        const std::string locale = Platform::Text::lowercased(environment.value(name).value_or(""));
+        if (!locale.empty()) {
+            return locale.find("utf-8") != std::string::npos || locale.find("utf8") != std::string::npos;
+        }
+    }
+    return false;
 }
 
 } // namespace KarvelloCLI

@@ -30,6 +30,10 @@ struct Terminal {
 /// Whether output is coloured: left to the program, only on a terminal and only where `$NO_COLOR` is not set.
 [[nodiscard]] bool usesColor(When choice, const Terminal& terminal, const Platform::Environment& environment);
 
+/// Whether the locale that `$LC_ALL`, `$LC_CTYPE` or `$LANG` names, the first of them that is set, is of UTF-8. Names
+/// are shown as they are in any case; it is for ornaments, which have a plain form.
+[[nodiscard]] bool usesUTF8(const Platform::Environment& environment);
+
 } // namespace KarvelloCLI
 
 template <>

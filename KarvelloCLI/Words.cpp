@@ -16,6 +16,14 @@ constexpr double kDay = 24 * kHour;
 constexpr double kYear = 365.2425 * kDay;
 constexpr double kMonth = kYear / 12;
 
+std::tm localParts(Platform::Date date)
+{
+    const auto seconds = static_cast<std::time_t>(std::floor(date.secondsSince1970()));
+    std::tm parts{};
+    localtime_r(&seconds, &parts);
+    return parts;
+}
+
 } // namespace
 
 std::string counted(std::size_t count, std::string_view noun)
@@ -47,12 +55,23 @@ std::string shortAge(double seconds)
     return fmt::format("{} y", whole(kYear));
 }
 
+std::string percentage(std::optional<double> fraction)
+{
+    if (!fraction) {
+        return "-";
+    }
+    const double percent = *fraction * 100;
+    return percent > 0 && percent < 1 ? "<1%" : fmt::format("{:.0f}%", percent);
+}
+
+std::string localClock(Platform::Date date)
+{
+    return fmt::format("{:%H:%M:%S}", localParts(date));
+}
+
 std::string localTime(Platform::Date date)
 {
-    const auto seconds = static_cast<std::time_t>(std::floor(date.secondsSince1970()));
-    std::tm parts{};
-    localtime_r(&seconds, &parts);
-    return fmt::format("{:%Y-%m-%d %H:%M}", parts);
+    return fmt::format("{:%Y-%m-%d %H:%M}", localParts(date));
 }
 
 } // namespace KarvelloCLI

@@ -27,4 +27,16 @@ FileURL absoluteFolder(std::string_view words, const FileURL& workingDirectory)
                                   : workingDirectory.appending(words, Platform::DirectoryHint::isFolder);
 }
 
+std::vector<FileURL> absoluteFolders(std::span<const std::string> words, const FileURL& workingDirectory)
+{
+    std::vector<FileURL> folders;
+    for (const std::string& name : words) {
+        FileURL folder = absoluteFolder(name, workingDirectory);
+        if (std::ranges::find(folders, folder) == folders.end()) {
+            folders.push_back(std::move(folder));
+        }
+    }
+    return folders;
+}
+
 } // namespace KarvelloCLI

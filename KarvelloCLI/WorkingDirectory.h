@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace KarvelloCLI {
 
@@ -15,5 +16,9 @@ namespace KarvelloCLI {
 
 /// The folder that a user means; a relative one counts from `workingDirectory`.
 [[nodiscard]] Platform::FileURL absoluteFolder(std::string_view words, const Platform::FileURL& workingDirectory);
+
+/// The folders of several words, in their order; one that is named twice is one folder.
+[[nodiscard]] std::vector<Platform::FileURL> absoluteFolders(
+    std::span<const std::string> words, const Platform::FileURL& workingDirectory);
 
 } // namespace KarvelloCLI

@@ -5,6 +5,7 @@
 #include "CleanerCore/Export/ReportExportText.h"
 #include "CleanerCore/Export/ScanResultCSVRow.h"
 #include "CleanerCore/Export/ScanResultExportFormat.h"
+#include "CleanerCore/Export/SkippedItemExportRow.h"
 #include "Platform/Base/DateFormat.h"
 
 #include <algorithm>
@@ -20,8 +21,6 @@ constexpr int kSchemaVersion = 1;
 constexpr auto kKind = Platform::rawValue(ScanResultExportSource::cleanup);
 
 constexpr std::string_view kCandidateLabel = "cleanup-candidate";
-constexpr std::string_view kSkippedLabel = "skipped";
-constexpr std::string_view kSkippedReasonLabel = "skipped-reason";
 
 // What a row takes beside its texts, and a little more: a text of half a gigabyte had better not grow.
 constexpr std::size_t kBytesPerJSONRow = 352;
@@ -56,11 +55,6 @@ CleanupScanExportSummary summaryOf(const ScanReport& report, const SelectedIDs& 
     };
 }
 
-std::optional<std::string> dateText(const std::optional<Platform::Date>& date)
-{
-    return date ? std::optional(Platform::DateFormat::iso8601(*date)) : std::nullopt;
-}
-
 CleanupCandidateExportRow candidateRow(
     const CleanupCandidate& candidate, const SelectedIDs& selectedIDs, ReportExportText& text)
 {
@@ -70,19 +64,11 @@ CleanupCandidateExportRow candidateRow(
         .displayName = text.name(candidate.displayName, kCandidateLabel),
         .category = candidate.category,
         .sizeBytes = candidate.sizeBytes,
-        .lastModified = dateText(candidate.lastModified),
+        .lastModified = exportedDate(candidate.lastModified),
         .safety = candidate.safety,
         .selectedByDefault = candidate.isSelectedByDefault,
         .selected = selectedIDs.contains(candidate.id),
         .requiresManualReviewBySource = candidate.requiresManualReviewBySource,
-    };
-}
-
-SkippedItemExportRow skippedRow(const SkippedItem& item, ReportExportText& text)
-{
-    return {
-        .path = text.path(item.url.path(), kSkippedLabel),
-        .reason = text.freeText(item.reason, kSkippedReasonLabel),
     };
 }
 
@@ -104,8 +90,8 @@ std::expected<std::string, Platform::JSONError> json(const ScanReport& report, c
     payload.field("privacyMode", text.privacyMark());
     payload.field("scannedAt", Platform::DateFormat::iso8601(report.scannedAt));
     payload.field("schemaVersion", kSchemaVersion);
-    payload.elements(
-        "skippedItems", report.skippedItems, [&](const SkippedItem& item) { return skippedRow(item, text); });
+    payload.elements("skippedItems", report.skippedItems,
+        [&](const SkippedItem& item) { return SkippedItemExportRow::of(item, text); });
     payload.field("summary", summaryOf(report, selectedIDs));
     writer.endObject();
     return std::move(writer).finish();
@@ -120,7 +106,7 @@ std::string csv(const ScanReport& report, const SelectedIDs& selectedIDs, Report
         const auto path = text.path(candidate.url.path(), kCandidateLabel);
         const auto name = text.name(candidate.displayName, kCandidateLabel);
         const fmt::format_int sizeBytes(candidate.sizeBytes);
-        const auto lastModified = dateText(candidate.lastModified);
+        const auto lastModified = exportedDate(candidate.lastModified);
         const ScanResultCSVRow row{
             .exportKind = kKind,
             .recordType = "candidate",
@@ -138,7 +124,7 @@ std::string csv(const ScanReport& report, const SelectedIDs& selectedIDs, Report
         writer.addRow(row.cells());
     }
     for (const auto& item : report.skippedItems) {
-        const auto exported = skippedRow(item, text);
+        const auto exported = SkippedItemExportRow::of(item, text);
         const ScanResultCSVRow row{
             .exportKind = kKind,
             .recordType = "skipped",

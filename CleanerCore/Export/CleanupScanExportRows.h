@@ -31,11 +31,6 @@ struct CleanupCandidateExportRow {
     bool requiresManualReviewBySource;
 };
 
-struct SkippedItemExportRow {
-    std::string path;
-    std::string reason;
-};
-
 } // namespace CleanerCore
 
 namespace Platform {
@@ -66,15 +61,6 @@ struct JSONFields<CleanerCore::CleanupCandidateExportRow> {
         coder.field("selected", row.selected);
         coder.field("selectedByDefault", row.selectedByDefault);
         coder.field("sizeBytes", row.sizeBytes);
-    }
-};
-
-template <>
-struct JSONFields<CleanerCore::SkippedItemExportRow> {
-    static void code(auto& coder, auto& row)
-    {
-        coder.field("path", row.path);
-        coder.field("reason", row.reason);
     }
 };
 

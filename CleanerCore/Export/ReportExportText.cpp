@@ -1,5 +1,6 @@
 #include "CleanerCore/Export/ReportExportText.h"
 
+#include "Platform/Base/DateFormat.h"
 #include "Platform/Base/Text.h"
 
 namespace CleanerCore {
@@ -39,6 +40,11 @@ std::optional<std::string_view> ReportExportText::privacyMark() const
         return std::nullopt;
     }
     return Platform::rawValue(m_privacyMode);
+}
+
+std::optional<std::string> exportedDate(const std::optional<Platform::Date>& date)
+{
+    return date ? std::optional(Platform::DateFormat::iso8601(*date)) : std::nullopt;
 }
 
 } // namespace CleanerCore

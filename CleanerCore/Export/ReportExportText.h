@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Export/ReportExportPrivacyMode.h"
 #include "CleanerCore/Export/ReportExportRedactionContext.h"
+#include "Platform/Base/Date.h"
 
 #include <optional>
 #include <string>
@@ -31,5 +32,8 @@ private:
     ReportExportPrivacyMode m_privacyMode;
     ReportExportRedactionContext m_context;
 };
+
+/// The form of a date in every export; a missing one stays missing.
+[[nodiscard]] std::optional<std::string> exportedDate(const std::optional<Platform::Date>& date);
 
 } // namespace CleanerCore

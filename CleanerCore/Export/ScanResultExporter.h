@@ -3,6 +3,7 @@
 #include "CleanerCore/Export/ExportError.h"
 #include "CleanerCore/Export/ReportExportPrivacyMode.h"
 #include "CleanerCore/Export/ScanResultExportFormat.h"
+#include "CleanerCore/Insights/MacStorageInsightReport.h"
 #include "CleanerCore/Scan/ScanReport.h"
 #include "Platform/Base/Date.h"
 #include "Platform/Base/FileURL.h"
@@ -21,14 +22,21 @@ namespace CleanerCore::ScanResultExporter {
 [[nodiscard]] std::string defaultFilename(ScanResultExportSource source, Platform::Date scannedAt,
     ScanResultExportFormat format, ReportExportPrivacyMode privacyMode);
 
-/// The whole file, UTF-8. An id in `selectedIDs` that the report does not hold is of no account. A CSV file does not
-/// tell `exportedAt`.
+/// The whole file, UTF-8. An id in `selectedIDs` that the report does not hold is of no account: the ids are those of
+/// candidates, or of file insights. A CSV file does not tell `exportedAt`.
 [[nodiscard]] std::expected<std::string, ExportError> data(const ScanReport& report,
+    const std::unordered_set<std::string>& selectedIDs, ScanResultExportFormat format,
+    ReportExportPrivacyMode privacyMode, Platform::Date exportedAt);
+[[nodiscard]] std::expected<std::string, ExportError> data(const MacStorageInsightReport& report,
     const std::unordered_set<std::string>& selectedIDs, ScanResultExportFormat format,
     ReportExportPrivacyMode privacyMode, Platform::Date exportedAt);
 
 /// Writes `data` to `url`, atomically. Makes no folder.
 [[nodiscard]] std::expected<void, ExportError> write(const ScanReport& report,
+    const std::unordered_set<std::string>& selectedIDs, ScanResultExportFormat format,
+    ReportExportPrivacyMode privacyMode, const Platform::FileURL& url, Platform::Date exportedAt,
+    const Platform::FileManager& fileManager);
+[[nodiscard]] std::expected<void, ExportError> write(const MacStorageInsightReport& report,
     const std::unordered_set<std::string>& selectedIDs, ScanResultExportFormat format,
     ReportExportPrivacyMode privacyMode, const Platform::FileURL& url, Platform::Date exportedAt,
     const Platform::FileManager& fileManager);

@@ -14,4 +14,17 @@ AppCacheRunningApplicationIdentity::AppCacheRunningApplicationIdentity(const Fie
 {
 }
 
+AppCacheRunningApplicationIdentity AppCacheRunningApplicationIdentity::of(
+    const Platform::RunningApplication& application)
+{
+    return AppCacheRunningApplicationIdentity({
+        .displayName = application.displayName,
+        .bundleIdentifier = application.bundleIdentifier,
+        .processIdentifier = application.processIdentifier,
+        .isFrontmost = application.isFrontmost,
+        .isTerminated = application.isTerminated,
+        .isUserVisible = application.isUserVisible,
+    });
+}
+
 } // namespace CleanerCore

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Services/RunningApplications.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -20,6 +22,7 @@ struct AppCacheRunningApplicationIdentity {
 
     AppCacheRunningApplicationIdentity() = default;
     explicit AppCacheRunningApplicationIdentity(const Fields& fields);
+    static AppCacheRunningApplicationIdentity of(const Platform::RunningApplication& application);
 
     std::optional<std::string> displayName;
     std::optional<std::string> bundleIdentifier;

@@ -1,6 +1,6 @@
 #include "CleanerCore/Scan/CleanupCandidate.h"
 
-#include "Platform/Base/Text.h"
+#include "CleanerCore/Scan/ItemIdentifier.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,17 +31,7 @@ CleanupCandidate::CleanupCandidate(Fields fields)
 
 std::string CleanupCandidate::makeId(CleanupCategory category, const Platform::FileURL& url)
 {
-    const auto prefix = Platform::rawValue(category);
-    const auto& path = url.path();
-    std::string id;
-    id.reserve(prefix.size() + 1 + path.size());
-    id.append(prefix).append(":");
-    if (Platform::Text::isValidUTF8(path)) {
-        id.append(path);
-    } else {
-        id.append(Platform::Text::escapingInvalidUTF8(path, "//x"));
-    }
-    return id;
+    return itemIdentifier(Platform::rawValue(category), url);
 }
 
 CleanupRecommendationReason CleanupCandidate::recommendationReason() const

@@ -39,8 +39,7 @@ struct CleanupCandidate {
     CleanupCandidate() = default;
     explicit CleanupCandidate(Fields fields);
 
-    /// The category's raw value, a colon and the path. Where the path is not UTF-8, each byte that is part of no
-    /// character stands as "//xHH": a path never holds two slashes in a row, so no other path has the same id.
+    /// The category's raw value, a colon and the path (`itemIdentifier`).
     static std::string makeId(CleanupCategory category, const Platform::FileURL& url);
 
     std::string id;

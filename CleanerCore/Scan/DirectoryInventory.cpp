@@ -1,6 +1,7 @@
 #include "CleanerCore/Scan/DirectoryInventory.h"
 
 #include "CleanerCore/Safety/NoTouchWalk.h"
+#include "CleanerCore/Scan/AllocatedSize.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "Platform/Base/CheckedMath.h"
 
@@ -10,15 +11,6 @@ using Platform::EnumerationErrorAnswer;
 using Platform::FileError;
 using Platform::FileErrorKind;
 using Platform::FileURL;
-
-namespace {
-
-std::int64_t sizeOf(const Platform::ResourceValues& values)
-{
-    return values.totalFileAllocatedSize.value_or(values.fileAllocatedSize.value_or(values.fileSize.value_or(0)));
-}
-
-} // namespace
 
 DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item, const Platform::ResourceValues& values,
     NoTouchPathPolicy::State state, SizeCollection sizes, const InventoryRules& rules,
@@ -30,7 +22,7 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
         return inventory;
     }
     if (!values.isDirectory.value_or(false)) {
-        inventory.byteSize = sizes == SizeCollection::collect ? sizeOf(values) : 0;
+        inventory.byteSize = sizes == SizeCollection::collect ? allocatedSizeOf(values) : 0;
         inventory.containsRecentlyModifiedItem = rules.isYoung(values.contentModificationDate);
         return inventory;
     }
@@ -101,7 +93,7 @@ DirectoryInventory DirectoryInventory::take(const Platform::ItemReference& item,
             || inventory.containsRecentlyModifiedItem) {
             continue;
         }
-        inventory.byteSize = Platform::checkedAdd(inventory.byteSize, sizeOf(*found));
+        inventory.byteSize = Platform::checkedAdd(inventory.byteSize, allocatedSizeOf(*found));
     }
     return inventory;
 }

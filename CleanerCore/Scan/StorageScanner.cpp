@@ -2,33 +2,18 @@
 
 #include "CleanerCore/Scan/ChildPipeline.h"
 #include "CleanerCore/Scan/LocationScan.h"
+#include "CleanerCore/Scan/WalkThreads.h"
 
 #include <algorithm>
-#include <thread>
 
 namespace CleanerCore {
-
-namespace {
-
-// A walk waits for the disk more than it computes: with nothing cached, several walks for each processor keep the disk
-// busy (on two processors and a solid-state disk, 16 took a third of the time of 2), and with everything cached the
-// surplus costs nothing. Each walk may hold some 17 folders open, which bounds their number.
-constexpr unsigned kWalksPerProcessor = 8;
-constexpr unsigned kMaximumSurplusWalks = 32;
-
-unsigned processors()
-{
-    return std::max(std::thread::hardware_concurrency(), 1U);
-}
-
-} // namespace
 
 StorageScanner::Configuration StorageScanner::Configuration::normalized() const
 {
     return {
         .maximumInventoryItemsPerCandidate = std::max<std::int64_t>(maximumInventoryItemsPerCandidate, 1),
         .inventoryProgressItemInterval = std::max<std::int64_t>(inventoryProgressItemInterval, 1),
-        .jobs = jobs == 0 ? processors() : jobs,
+        .jobs = jobs == 0 ? availableProcessors() : jobs,
     };
 }
 
@@ -43,9 +28,8 @@ ScanReport StorageScanner::scan(std::span<const ScanLocation> locations, Platfor
     const std::optional<Platform::FileURL>& homeDirectory) const
 {
     std::optional<ChildPipeline> pipeline;
-    if (m_configuration.jobs > 1 && !locations.empty()) {
-        const auto jobs = m_configuration.jobs;
-        pipeline.emplace(std::max(std::min(jobs * kWalksPerProcessor, kMaximumSurplusWalks), jobs));
+    if (const auto threads = walkThreads(m_configuration.jobs); threads > 0 && !locations.empty()) {
+        pipeline.emplace(threads);
     }
     ScanRun run{
         .fileManager = m_fileManager,

@@ -104,9 +104,7 @@ std::string_view FileURL::lastPathComponent() const
 
 std::string_view FileURL::pathExtension() const
 {
-    const auto name = lastPathComponent();
-    const auto point = name.rfind('.');
-    return point == std::string_view::npos || point == 0 ? std::string_view() : name.substr(point + 1);
+    return pathExtensionOf(lastPathComponent());
 }
 
 std::vector<std::string_view> FileURL::pathComponents() const
@@ -147,6 +145,12 @@ FileURL FileURL::entry(std::string_view folderPath, std::string_view entryName, 
     url.m_path.append("/").append(entryName);
     url.m_hint = hint;
     return url;
+}
+
+std::string_view pathExtensionOf(std::string_view name)
+{
+    const auto point = name.rfind('.');
+    return point == std::string_view::npos || point == 0 ? std::string_view() : name.substr(point + 1);
 }
 
 bool isPathInside(std::string_view path, std::string_view parent)

@@ -43,8 +43,7 @@ public:
 
     /// "/" for the root folder.
     [[nodiscard]] std::string_view lastPathComponent() const;
-    /// What follows the last point of the last component, without it; empty for none, and for a name that only begins
-    /// with its point.
+    /// `pathExtensionOf` the last component.
     [[nodiscard]] std::string_view pathExtension() const;
     /// "/" first, then each component. The views live as long as this URL.
     [[nodiscard]] std::vector<std::string_view> pathComponents() const;
@@ -66,6 +65,9 @@ private:
     std::string m_path = "/";
     DirectoryHint m_hint = DirectoryHint::isFolder;
 };
+
+/// What follows the last point of a name, without it; empty for none, and for a name that only begins with its point.
+[[nodiscard]] std::string_view pathExtensionOf(std::string_view name);
 
 /// True if `path` lies strictly below `parent`: it begins with `parent` and a slash. Both are standardised paths, and
 /// the comparison is by bytes. Nothing lies inside "/" by this rule, since the root folder already ends in its slash.

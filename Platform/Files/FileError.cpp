@@ -102,6 +102,10 @@ std::string_view readFailureCause(FileErrorKind kind)
         return " because the volume reported a read error";
     case FileErrorKind::corrupt:
         return " because it isn’t in the correct format";
+    case FileErrorKind::notRegularFile:
+        return " because it isn’t a regular file";
+    case FileErrorKind::contentsChanged:
+        return " because its contents are changing";
     default:
         return commonCause(kind);
     }

@@ -23,6 +23,10 @@ enum class FileErrorKind : std::uint8_t {
     corrupt,
     /// Not the item that was meant: another one has taken its place.
     itemChanged,
+    /// Something else than a regular file.
+    notRegularFile,
+    /// The item that was meant, but its contents are not the ones that were looked at before.
+    contentsChanged,
     /// An item came to lie in the Trash that is not the confirmed one, and its old place is taken by now.
     movedUnconfirmed,
     /// An item was put back that is not the confirmed one, and its name in the Trash is taken by now.

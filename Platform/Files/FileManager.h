@@ -4,6 +4,7 @@
 #include "Platform/Files/DirectoryEnumerator.h"
 #include "Platform/Files/FileError.h"
 #include "Platform/Files/ItemReference.h"
+#include "Platform/Files/ReadableFile.h"
 #include "Platform/Files/ResourceValues.h"
 
 #include <cstddef>
@@ -23,8 +24,9 @@ struct FingerprintReadings {
     std::expected<FileAttributes, FileError> attributes;
 };
 
-/// The seam to the file system, in the terms of the rules. Reading changes nothing on disk: files are not opened, and
-/// folders are read without touching their access time where the system allows it. Every function may be called from
+/// The seam to the file system, in the terms of the rules. Reading changes nothing on disk: files are opened only by
+/// the two calls that read them, and files and folders are read without touching their access time where the system
+/// allows it. Every function may be called from
 /// any thread.
 class FileManager {
 public:
@@ -68,6 +70,10 @@ public:
     /// it; more than `maximumBytes` is an error of kind `tooLarge`.
     [[nodiscard]] virtual std::expected<std::string, FileError> readFile(
         const FileURL& url, std::size_t maximumBytes) const = 0;
+    /// Opens a regular file, and never anything else, whatever takes its place meanwhile: that is an error of kind
+    /// `notRegularFile`. The access time stays where the system allows it.
+    [[nodiscard]] virtual std::expected<std::unique_ptr<ReadableFile>, FileError> openFile(
+        const FileURL& url, ReadingPlan plan) const = 0;
     /// Makes the folder and those on the way that are missing, each for its user alone (0700). A folder that is there
     /// already is no error, and keeps its permissions.
     [[nodiscard]] virtual std::expected<void, FileError> createDirectory(const FileURL& folder) const = 0;

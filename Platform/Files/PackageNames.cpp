@@ -1,6 +1,7 @@
 #include "Platform/Files/PackageNames.h"
 
 #include "Platform/Base/ASCII.h"
+#include "Platform/Base/FileURL.h"
 
 #include <algorithm>
 
@@ -8,11 +9,7 @@ namespace Platform {
 
 bool isPackageName(std::string_view folderName)
 {
-    const auto point = folderName.rfind('.');
-    if (point == std::string_view::npos || point == 0) {
-        return false;
-    }
-    const auto extension = folderName.substr(point + 1);
+    const auto extension = pathExtensionOf(folderName);
     return std::ranges::any_of(
         kPackageExtensions, [&](std::string_view known) { return ASCII::equalsIgnoringCase(extension, known); });
 }

@@ -7,6 +7,7 @@
 #include "Platform/Files/PathResolution.h"
 #include "Platform/Files/PosixDirectoryEnumerator.h"
 #include "Platform/Files/PosixResourceValues.h"
+#include "Platform/Files/RegularFile.h"
 #include "Platform/Files/VolumeFacts.h"
 #include "Platform/Files/WholeFile.h"
 
@@ -190,6 +191,12 @@ std::expected<std::string, FileError> PosixFileManager::readFile(const FileURL& 
         return std::unexpected(readError(url, bytes.error()));
     }
     return *std::move(bytes);
+}
+
+std::expected<std::unique_ptr<ReadableFile>, FileError> PosixFileManager::openFile(
+    const FileURL& url, ReadingPlan plan) const
+{
+    return openRegularFile(url, plan);
 }
 
 std::expected<void, FileError> PosixFileManager::createDirectory(const FileURL& folder) const

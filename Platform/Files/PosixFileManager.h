@@ -22,6 +22,8 @@ public:
         std::string_view bytes, const FileURL& url) const override;
     [[nodiscard]] std::expected<std::string, FileError> readFile(
         const FileURL& url, std::size_t maximumBytes) const override;
+    [[nodiscard]] std::expected<std::unique_ptr<ReadableFile>, FileError> openFile(
+        const FileURL& url, ReadingPlan plan) const override;
     [[nodiscard]] std::expected<void, FileError> createDirectory(const FileURL& folder) const override;
     [[nodiscard]] std::expected<void, FileError> moveItem(
         const FileURL& source, const FileURL& destination) const override;

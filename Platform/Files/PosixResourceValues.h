@@ -16,6 +16,8 @@ namespace Platform {
     values.fileAllocatedSize = status.allocatedSize;
     values.totalFileAllocatedSize = status.allocatedSize;
     values.contentModificationDate = status.modificationDate;
+    values.systemFileNumber = status.fileNumber;
+    values.systemNumber = status.deviceNumber;
     // Only a folder's device number tells a volume: overlayfs gives files those of its layers (kernel documentation,
     // filesystems/overlayfs). A file that is mounted over shows in the mount number.
     values.isOnOtherVolume = folderStatus != nullptr

@@ -21,6 +21,9 @@ struct ResourceValues {
     /// `fileAllocatedSize` and what belongs to the item beside its content.
     std::optional<std::int64_t> totalFileAllocatedSize = {};
     std::optional<Date> contentModificationDate = {};
+    /// Inode and device: items that agree in both are names of one file.
+    std::optional<std::uint64_t> systemFileNumber = {};
+    std::optional<std::uint64_t> systemNumber = {};
     /// The item lies on another volume than the folder that holds it: a mount point, a bind mount, a subvolume.
     bool isOnOtherVolume = false;
 };

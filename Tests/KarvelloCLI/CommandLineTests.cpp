@@ -283,3 +283,98 @@ TEST(CommandLine, TellsItsVersion)
     EXPECT_TRUE(information({"--version"}).starts_with("karvello-cli ")) << information({"--version"});
     EXPECT_EQ(information({"scan", "--version"}), information({"--version"}));
 }
+
+TEST(CommandLine, InsightsHaveTheApplicationsLimitsUnlessTold)
+{
+    const auto options = optionsOf<InsightsOptions>({"insights"});
+    EXPECT_EQ(options.configuration, CleanerCore::InsightConfiguration::standard());
+    EXPECT_TRUE(options.looksAtHome());
+    EXPECT_FALSE(options.only);
+    EXPECT_TRUE(options.wants(InsightPart::map) && options.wants(InsightPart::security));
+    const std::string help = information({"insights", "--help"});
+    for (const char* const text : {"(100M)", "(20M)", "(86400)", "(250)", "(8000)", "(500)", "(1G)", "(512M)"}) {
+        EXPECT_NE(help.find(text), std::string::npos) << text;
+    }
+}
+
+TEST(CommandLine, ReadsEveryOptionOfInsights)
+{
+    const auto options = optionsOf<InsightsOptions>({"insights", "--home", "/h", "--root", "a", "--root", "b", "--only",
+        "duplicates", "--min-large", "1", "--min-duplicate", "2k", "--min-age", "3.5", "--max-visits", "128",
+        "--max-results", "20", "--max-recent", "0", "--max-hash-files", "1", "--max-hash-bytes", "3 GiB",
+        "--max-hash-file-bytes", "1M", "--format", "csv", "--redacted", "--jobs", "2", "--verbose"});
+    EXPECT_EQ(options.home, "/h");
+    EXPECT_EQ(options.roots, (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(options.only, InsightPart::duplicates);
+    EXPECT_TRUE(options.wants(InsightPart::duplicates));
+    EXPECT_FALSE(options.wants(InsightPart::map));
+    EXPECT_EQ(options.configuration,
+        CleanerCore::InsightConfiguration({
+            .minimumLargeFileBytes = 1,
+            .minimumDuplicateFileBytes = 2048,
+            .minimumReviewFileAge = 3.5,
+            .maximumVisitedItemsPerRoot = 128,
+            .maximumResultCount = 20,
+            .maximumRecentReviewSkippedItems = 0,
+            .maximumDuplicateHashFiles = 1,
+            .maximumDuplicateFullHashBytesPerFile = 1'048'576,
+            .maximumDuplicateHashBytes = 3'221'225'472,
+        }));
+    EXPECT_EQ(options.common.format, OutputFormat::csv);
+    EXPECT_TRUE(options.common.isRedacted && options.common.isVerbose);
+    EXPECT_EQ(options.common.jobs, 2U);
+    EXPECT_FALSE(optionsOf<InsightsOptions>({"insights", "--root", "a"}).looksAtHome());
+    EXPECT_EQ(options.paths(), (std::vector<std::string>{"a", "b", "/h"}));
+}
+
+TEST(CommandLine, SizesTakeAUnit)
+{
+    const auto sizeOf = [](const char* text) {
+        return optionsOf<InsightsOptions>({"insights", "--min-large", text}).configuration.minimumLargeFileBytes;
+    };
+    EXPECT_EQ(sizeOf("104857600"), 104'857'600);
+    for (const char* const text : {"100M", "100m", "100MB", "100 MB", "100MiB", "102400K", "102400kb"}) {
+        EXPECT_EQ(sizeOf(text), 104'857'600) << text;
+    }
+    EXPECT_EQ(sizeOf("7B"), 7);
+    EXPECT_EQ(sizeOf("2T"), 2'199'023'255'552);
+    EXPECT_EQ(sizeOf("9223372036854775807"), INT64_MAX);
+    for (const char* const text :
+        {"", "M", "0", "-1", "1.5G", "100X", "100MBB", "1M2", "8388608T", "1e6", "0x10", " 1"}) {
+        EXPECT_NE(usageError({"insights", "--min-large", text}).message.find("is no number of bytes from 1 on"),
+            std::string::npos)
+            << text;
+    }
+}
+
+TEST(CommandLine, RefusesLimitsThatTheScanWouldRaise)
+{
+    for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{{"--max-visits", "127"},
+             {"--max-results", "19"}, {"--max-recent", "-1"}, {"--max-hash-files", "0"},
+             {"--max-hash-bytes", "1048575"}, {"--max-hash-file-bytes", "1023K"}, {"--min-duplicate", "0"},
+             {"--min-age", "2592001"}, {"--min-age", "-1"}, {"--min-age", "nan"}, {"--only", "Map"}, {"--root", ""}}) {
+        const UsageError error = usageError({"insights", words[0], words[1]});
+        EXPECT_NE(error.message.find(words[0]), std::string::npos) << error.message;
+        EXPECT_EQ(error.hint, "Try 'karvello-cli insights --help'.");
+    }
+    EXPECT_NE(usageError({"insights", "--min-age", "2592001"}).message.find("from 0 to 2592000"), std::string::npos);
+}
+
+TEST(CommandLine, ReadsHowOftenToTellTheStatus)
+{
+    EXPECT_EQ(optionsOf<StatusOptions>({"status"}).watch, std::nullopt);
+    EXPECT_EQ(optionsOf<StatusOptions>({"status", "--watch", "0.1"}).watch, 0.1);
+    EXPECT_EQ(optionsOf<StatusOptions>({"status", "--format", "csv", "--watch", "86400"}).watch, 86400);
+    for (const auto* const interval : {"0", "0.09", "86401", "-1", "nan", "inf", "x", ""}) {
+        EXPECT_FALSE(parse({"status", "--watch", interval})) << interval;
+    }
+    EXPECT_FALSE(parse({"status", "--watch", "1", "--output", "file"}));
+    EXPECT_FALSE(parse({"status", "more"}));
+}
+
+TEST(CommandLine, ReadsHowToListTheApplications)
+{
+    EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--verbose"}).common.isVerbose);
+    EXPECT_TRUE(optionsOf<AppsOptions>({"apps", "--redacted"}).common.isRedacted);
+    EXPECT_FALSE(parse({"apps", "--yes"}));
+}

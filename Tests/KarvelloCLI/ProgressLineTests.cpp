@@ -155,3 +155,25 @@ TEST(ProgressLine, StaysSilentWhenItIsOff)
     watched.line.report(someProgress());
     EXPECT_TRUE(watched.written.empty());
 }
+
+TEST(ProgressLine, TellsTheFolderAndTheCountOfAnInsightScan)
+{
+    const CleanerCore::MacStorageInsightScanner::Progress progress{
+        .root = Platform::FileURL::folder("/home/ada/Down\nloads"),
+        .completedRoots = 1,
+        .totalRoots = 8,
+        .visitedItems = 1234,
+    };
+    EXPECT_EQ(ProgressLine::line(progress, 200, kPaths), "folder 2 of 8, 1234 items looked at  ~/Down\\nloads");
+    EXPECT_EQ(ProgressLine::line(progress, 200, std::nullopt), "folder 2 of 8, 1234 items looked at");
+    auto reading = progress;
+    reading.completedRoots = 8;
+    reading.readBytes = 5 * 1'048'576;
+    EXPECT_EQ(ProgressLine::line(reading, 200, kPaths), "1234 items looked at, comparing files, 5 MB read");
+    for (std::size_t columns = 20; columns < 80; ++columns) {
+        for (const auto& each : {progress, reading}) {
+            const TerminalText line(ProgressLine::line(each, columns, kPaths), TerminalText::Kind::sentence);
+            EXPECT_LE(line.columns(), columns);
+        }
+    }
+}

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tests/KarvelloCLI/RunningProgram.h"
+#include "Tests/KarvelloCLI/TextLines.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,17 @@
 #include <vector>
 
 namespace KarvelloCLITests {
+
+/// The settings of a run on the home in `tree`, from the top of it.
+inline ProgramSettings settingsIn(const TestSupport::TemporaryTree& tree, std::vector<std::string> arguments)
+{
+    ProgramSettings settings;
+    settings.arguments = std::move(arguments);
+    settings.environment = {
+        {"HOME", tree.path("home")}, {"TERM", "xterm-256color"}, {"TZ", "UTC"}, {"LANG", "C.UTF-8"}};
+    settings.workingDirectory = tree.root().path();
+    return settings;
+}
 
 /// The built program as a user meets it: in a process of its own, on a home of its own.
 class ScanProgram : public testing::Test {
@@ -40,12 +52,7 @@ elsewhere/
     /// The settings of a run on this test's home.
     [[nodiscard]] ProgramSettings with(std::vector<std::string> arguments) const
     {
-        ProgramSettings settings;
-        settings.arguments = std::move(arguments);
-        settings.environment = {
-            {"HOME", m_tree.path("home")}, {"TERM", "xterm-256color"}, {"TZ", "UTC"}, {"LANG", "C.UTF-8"}};
-        settings.workingDirectory = m_tree.root().path();
-        return settings;
+        return settingsIn(m_tree, std::move(arguments));
     }
 
     [[nodiscard]] ProgramResult run(std::vector<std::string> arguments) const
@@ -57,19 +64,5 @@ elsewhere/
 
     TestSupport::TemporaryTree m_tree{kHome};
 };
-
-/// Without colours, and with the line ends of a file.
-inline std::string plain(std::string_view text)
-{
-    std::string result;
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        if (text[index] == '\x1b') {
-            index = text.find_first_of("mK", index);
-        } else if (text[index] != '\r') {
-            result += text[index];
-        }
-    }
-    return result;
-}
 
 } // namespace KarvelloCLITests

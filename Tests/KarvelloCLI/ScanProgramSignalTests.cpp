@@ -1,5 +1,5 @@
 #include "Tests/KarvelloCLI/ScanProgramFixture.h"
-#include "Tests/Support/TemporaryTree.h"
+#include "Tests/KarvelloCLI/SlowScan.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,35 +15,8 @@ using namespace KarvelloCLITests;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
-using TestSupport::TemporaryTree;
 
 namespace {
-
-/// A tree that costs little and takes long to scan: each of the nested roots holds all the files of the innermost.
-class SlowScan {
-public:
-    explicit SlowScan(std::size_t levels)
-    {
-        for (std::size_t level = 0; level < levels; ++level) {
-            m_arguments.insert(m_arguments.end(), {"--root", m_tree.path(m_path)});
-            m_path += "d/";
-        }
-        m_tree.add(m_path + "file count=2000 size=1");
-    }
-
-    std::vector<std::string> arguments(std::vector<std::string> more) const
-    {
-        std::vector<std::string> all = m_arguments;
-        all.insert(all.begin(), "scan");
-        all.insert(all.end(), more.begin(), more.end());
-        return all;
-    }
-
-private:
-    TemporaryTree m_tree;
-    std::string m_path;
-    std::vector<std::string> m_arguments;
-};
 
 /// Enough for half a minute.
 constexpr std::size_t kForever = 1000;
@@ -55,7 +28,7 @@ constexpr std::size_t kAWhile = 150;
 TEST_F(ScanProgram, ProgressStaysOffStandardOutputAndLeavesNoLineBehind)
 {
     const SlowScan slow(kAWhile);
-    ProgramSettings settings = with(slow.arguments({"--format", "csv"}));
+    ProgramSettings settings = with(slow.arguments("scan", {"--format", "csv"}));
     settings.messagesOnTerminal = true;
     const ProgramResult result = runProgram(settings);
     EXPECT_EQ(result.status, 0);
@@ -74,7 +47,7 @@ TEST_F(ScanProgram, CtrlCGivesATruePartialAccount)
 {
     const SlowScan slow(kForever);
     for (const std::string format : {"table", "json", "csv"}) {
-        ProgramSettings settings = with(slow.arguments({"--format", format}));
+        ProgramSettings settings = with(slow.arguments("scan", {"--format", format}));
         settings.messagesOnTerminal = true;
         RunningProgram program(settings);
         ASSERT_TRUE(program.hasSaid("items looked at"));
@@ -101,7 +74,7 @@ TEST_F(ScanProgram, CtrlCGivesATruePartialAccount)
 TEST_F(ScanProgram, TerminationEndsAScanAsCtrlCDoes)
 {
     const SlowScan slow(kForever);
-    ProgramSettings settings = with(slow.arguments({}));
+    ProgramSettings settings = with(slow.arguments("scan", {}));
     settings.messagesOnTerminal = true;
     RunningProgram program(settings);
     ASSERT_TRUE(program.hasSaid("items looked at"));

@@ -2,6 +2,8 @@
 
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 
+#include "Tests/KarvelloCLI/TextLines.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -16,6 +18,8 @@ using CleanerCore::CleanupSafety;
 using CleanerCore::CleanupScanMode;
 using CleanerCore::ScanReport;
 using CleanerCore::SkippedItem;
+using KarvelloCLITests::linesOf;
+using KarvelloCLITests::plain;
 using Platform::Date;
 using Platform::FileURL;
 using testing::HasSubstr;
@@ -69,17 +73,6 @@ ScanReport ordinaryReport()
 std::string table(const ScanReport& report, ScanTable::Settings settings, const ScanSubject& subject = homeSubject())
 {
     return ScanTable(report, subject, std::move(settings)).text();
-}
-
-std::vector<std::string> linesOf(std::string_view text)
-{
-    std::vector<std::string> lines;
-    while (!text.empty()) {
-        const std::size_t end = text.find('\n');
-        lines.emplace_back(text.substr(0, end));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    }
-    return lines;
 }
 
 } // namespace
@@ -255,15 +248,7 @@ TEST(ScanTable, UsesColourOnlyWhenTold)
     EXPECT_THAT(table(ordinaryReport(), {}), Not(HasSubstr("\x1b")));
     const std::string text = table(ordinaryReport(), {.usesColor = true});
     EXPECT_THAT(text, HasSubstr("\x1b[1;32mSafe\x1b[0m: 2 items, 65 MB\n"));
-    std::string plain;
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        if (text[index] == '\x1b') {
-            index = text.find('m', index);
-        } else {
-            plain += text[index];
-        }
-    }
-    EXPECT_EQ(plain, table(ordinaryReport(), {})) << "colour changes no column";
+    EXPECT_EQ(plain(text), table(ordinaryReport(), {})) << "colour changes no column";
 }
 
 TEST(ScanTable, SizesFollowTheLanguage)

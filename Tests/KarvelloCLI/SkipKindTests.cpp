@@ -15,8 +15,9 @@ namespace Reason = CleanerCore::StorageScannerSkipReason;
 
 TEST(SkipKind, WhatTheRulesLeaveOutIsProtection)
 {
-    for (const auto reason : {Reason::symbolicLink, Reason::noTouchPath, Reason::noTouchDescendant,
-             Reason::recentlyModified, Reason::emptyItem, Reason::inventoryItemLimitExceeded}) {
+    for (const auto reason :
+        {Reason::symbolicLink, Reason::noTouchPath, Reason::noTouchDescendant, Reason::recentlyModified,
+            Reason::emptyItem, Reason::inventoryItemLimitExceeded, Reason::duplicateHashBudgetExceeded}) {
         EXPECT_EQ(skipKind(reason), SkipKind::protection) << reason;
     }
 }

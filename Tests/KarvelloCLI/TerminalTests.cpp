@@ -84,3 +84,13 @@ TEST(Terminal, ColoursFollowTheChoiceAndTheVariable)
     EXPECT_TRUE(usesColor(When::always, file, environment({{"NO_COLOR", "1"}})));
     EXPECT_FALSE(usesColor(When::never, terminal, environment({})));
 }
+
+TEST(Terminal, UTF8IsWhatTheFirstLocaleThatIsSetSays)
+{
+    EXPECT_TRUE(usesUTF8(environment({{"LANG", "de_DE.UTF-8"}})));
+    EXPECT_TRUE(usesUTF8(environment({{"LANG", "C"}, {"LC_CTYPE", "C.utf8"}})));
+    EXPECT_TRUE(usesUTF8(environment({{"LC_ALL", ""}, {"LC_CTYPE", "en_US.Utf-8"}}))) << "an empty one is not set";
+    EXPECT_FALSE(usesUTF8(environment({{"LANG", "C.UTF-8"}, {"LC_ALL", "POSIX"}})));
+    EXPECT_FALSE(usesUTF8(environment({{"LANG", "de_DE.ISO-8859-1"}})));
+    EXPECT_FALSE(usesUTF8(environment({})));
+}

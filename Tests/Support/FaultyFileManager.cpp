@@ -286,6 +286,15 @@ std::expected<std::string, FileError> FaultyFileManager::readFile(const FileURL&
     return m_inner.readFile(url, maximumBytes);
 }
 
+std::expected<std::unique_ptr<Platform::ReadableFile>, FileError> FaultyFileManager::openFile(
+    const FileURL& url, Platform::ReadingPlan plan) const
+{
+    if (const int error = m_ledger->enter(FileManagerCall::openFile, [&] { return url; }); error != 0) {
+        return failure(error, FileOperation::read, url);
+    }
+    return m_inner.openFile(url, plan);
+}
+
 std::expected<void, FileError> FaultyFileManager::createDirectory(const FileURL& folder) const
 {
     if (const int error = m_ledger->enter(FileManagerCall::createDirectory, [&] { return folder; }); error != 0) {

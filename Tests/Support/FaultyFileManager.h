@@ -23,6 +23,8 @@ enum class FileManagerCall : std::uint8_t {
     resolvingSymbolicLinks,
     writeAtomically,
     readFile,
+    /// Opening only: what is read from an open file does not fail here.
+    openFile,
     createDirectory,
     moveItem,
     /// The listing of one folder, counted when its first entry comes (an empty folder is not counted). Its failure
@@ -93,6 +95,8 @@ public:
         std::string_view bytes, const Platform::FileURL& url) const override;
     [[nodiscard]] std::expected<std::string, Platform::FileError> readFile(
         const Platform::FileURL& url, std::size_t maximumBytes) const override;
+    [[nodiscard]] std::expected<std::unique_ptr<Platform::ReadableFile>, Platform::FileError> openFile(
+        const Platform::FileURL& url, Platform::ReadingPlan plan) const override;
     [[nodiscard]] std::expected<void, Platform::FileError> createDirectory(
         const Platform::FileURL& folder) const override;
     [[nodiscard]] std::expected<void, Platform::FileError> moveItem(

@@ -59,6 +59,11 @@ public:
     {
         return m_inner.readFile(url, maximumBytes);
     }
+    [[nodiscard]] std::expected<std::unique_ptr<Platform::ReadableFile>, Platform::FileError> openFile(
+        const Platform::FileURL& url, Platform::ReadingPlan plan) const override
+    {
+        return m_inner.openFile(url, plan);
+    }
     [[nodiscard]] std::expected<void, Platform::FileError> createDirectory(
         const Platform::FileURL& folder) const override
     {

@@ -91,6 +91,12 @@ std::expected<std::string, FileError> RootedFileManager::readFile(const FileURL&
     return m_inner.readFile(inside(url), maximumBytes);
 }
 
+std::expected<std::unique_ptr<Platform::ReadableFile>, FileError> RootedFileManager::openFile(
+    const FileURL& url, Platform::ReadingPlan plan) const
+{
+    return m_inner.openFile(inside(url), plan);
+}
+
 std::expected<void, FileError> RootedFileManager::createDirectory(const FileURL& folder) const
 {
     return m_inner.createDirectory(inside(folder));

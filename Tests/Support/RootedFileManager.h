@@ -28,6 +28,8 @@ public:
         std::string_view bytes, const Platform::FileURL& url) const override;
     [[nodiscard]] std::expected<std::string, Platform::FileError> readFile(
         const Platform::FileURL& url, std::size_t maximumBytes) const override;
+    [[nodiscard]] std::expected<std::unique_ptr<Platform::ReadableFile>, Platform::FileError> openFile(
+        const Platform::FileURL& url, Platform::ReadingPlan plan) const override;
     [[nodiscard]] std::expected<void, Platform::FileError> createDirectory(
         const Platform::FileURL& folder) const override;
     [[nodiscard]] std::expected<void, Platform::FileError> moveItem(

@@ -1,30 +1,22 @@
 #include "CleanerCore/Export/ScanResultExporter.h"
 
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
-#include "Platform/Base/JSONReader.h"
 #include "Platform/Base/Text.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/CleanerCore/Export/ExportFixture.h"
 #include "Tests/Support/FaultyFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <cerrno>
-#include <cstdlib>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace CleanerCore {
 
 namespace {
 
+using namespace ExportFixture;
 using Platform::Date;
 using Platform::FileURL;
-using Format = ScanResultExportFormat;
-using Mode = ReportExportPrivacyMode;
-using SelectedIDs = std::unordered_set<std::string>;
-
-const Date kScannedAt = Date::fromUnixTime(1'794'780'245, 123'000'000);
-const Date kExportedAt = Date::fromUnixTime(1'794'866'645, 0);
 
 /// One candidate for each thing that an export can get wrong.
 ScanReport report()
@@ -68,40 +60,6 @@ ScanReport report()
 SelectedIDs selectedIDs()
 {
     return {"userCaches:/home/ada/.cache/=SUM(A1), \"x\"", "userCaches:/not/in/the/report"};
-}
-
-std::string exported(const ScanReport& scanReport, const SelectedIDs& ids, Format format, Mode privacyMode)
-{
-    const auto data = ScanResultExporter::data(scanReport, ids, format, privacyMode, kExportedAt);
-    EXPECT_TRUE(data);
-    return data ? *data : "";
-}
-
-std::string content(const std::string& path)
-{
-    std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
-    return bytes.str();
-}
-
-std::string golden(std::string_view name)
-{
-    return content(std::string(KARVELLO_SOURCE_DIR "/Tests/Golden/").append(name));
-}
-
-Platform::JSONValue parsed(const std::string& text)
-{
-    auto value = Platform::JSONReader::parse(text);
-    EXPECT_TRUE(value);
-    return value ? *std::move(value) : Platform::JSONValue();
-}
-
-std::optional<std::int64_t> summaryNumber(const std::string& json, std::string_view key)
-{
-    const auto document = parsed(json);
-    const auto* const summary = document.member("summary");
-    const auto* const number = summary != nullptr ? summary->member(key) : nullptr;
-    return number != nullptr ? number->integer() : std::nullopt;
 }
 
 } // namespace

@@ -1,0 +1,32 @@
+#include "KarvelloCLI/FolderNames.h"
+
+#include "KarvelloCLI/Words.h"
+
+#include <algorithm>
+
+namespace KarvelloCLI {
+
+namespace {
+
+constexpr std::size_t kNamedFolders = 4;
+
+} // namespace
+
+std::vector<std::string> folderNames(
+    std::span<const Platform::FileURL> folders, const HomePathAbbreviation& paths, bool isRedacted)
+{
+    if (isRedacted && !folders.empty()) {
+        return {counted(folders.size(), "given folder")};
+    }
+    std::vector<std::string> names;
+    const std::size_t named = std::min(folders.size(), kNamedFolders);
+    for (const Platform::FileURL& folder : folders.first(named)) {
+        names.push_back(paths.abbreviate(folder.path()));
+    }
+    if (named < folders.size()) {
+        names.push_back(counted(folders.size() - named, "more folder"));
+    }
+    return names;
+}
+
+} // namespace KarvelloCLI

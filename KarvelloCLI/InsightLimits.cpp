@@ -1,0 +1,86 @@
+#include "KarvelloCLI/InsightLimits.h"
+
+#include "CleanerCore/Scan/StorageScannerSkipReason.h"
+#include "KarvelloCLI/Words.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+
+namespace KarvelloCLI {
+
+namespace {
+
+namespace Reason = CleanerCore::StorageScannerSkipReason;
+
+std::size_t countOfReason(const CleanerCore::MacStorageInsightReport& report, std::string_view reason)
+{
+    return static_cast<std::size_t>(std::ranges::count(report.skippedItems, reason, &CleanerCore::SkippedItem::reason));
+}
+
+/// The lists that are as long as a list may be, so that there may be more.
+std::vector<std::string_view> fullLists(const CleanerCore::MacStorageInsightReport& report, std::size_t most)
+{
+    std::vector<std::string_view> lists;
+    const auto look = [&](const auto& list, std::string_view name) {
+        if (list.size() >= most) {
+            lists.push_back(name);
+        }
+    };
+    look(report.largeFiles, "large files");
+    look(report.downloadFiles, "downloads");
+    look(report.duplicateGroups, "duplicates");
+    look(report.securityFindings, "installers and scripts");
+    return lists;
+}
+
+std::string duplicateSentence(
+    const CleanerCore::MacStorageInsightReport& report, const InsightSubject& subject, const TextStyle& style)
+{
+    const auto& limits = subject.configuration;
+    if (const std::size_t count = countOfReason(report, Reason::duplicateHashBudgetExceeded); count > 0) {
+        return fmt::format("{} above {} of the same size as others {} not read, and no smaller files were compared. "
+                           "--max-hash-file-bytes goes further, and --max-hash-bytes with it.",
+            counted(count, "file"), style.size(limits.maximumDuplicateFullHashBytesPerFile),
+            count == 1 ? "was" : "were");
+    }
+    return fmt::format("The search for duplicates ended before the smallest files: it reads at most {} and {} whole, "
+                       "and of one size it takes {}. --max-hash-files, --max-hash-bytes and --max-results go further.",
+        counted(static_cast<std::size_t>(limits.maximumDuplicateHashFiles), "file"),
+        style.size(limits.maximumDuplicateHashBytes),
+        counted(static_cast<std::size_t>(limits.maximumResultCount), "file"));
+}
+
+} // namespace
+
+std::vector<std::string> limitSentences(
+    const CleanerCore::MacStorageInsightReport& report, const InsightSubject& subject, const TextStyle& style)
+{
+    const auto& limits = subject.configuration;
+    std::vector<std::string> sentences;
+    if (subject.cuts.visits) {
+        sentences.push_back(
+            fmt::format("Not every item was visited, so there may be more of everything{}: a folder gets "
+                        "{} visits, and the insides of packages as many in all. --max-visits goes "
+                        "further.",
+                report.heatmapItems.empty() ? "" : " in the folders marked >", limits.maximumVisitedItemsPerRoot));
+    }
+    if (subject.cuts.recentFiles) {
+        sentences.push_back(fmt::format("More files changed too lately to be listed than the {} that are named. "
+                                        "--max-recent names more, and --min-age 0 lists them all.",
+            limits.maximumRecentReviewSkippedItems));
+    }
+    if (subject.cuts.duplicates) {
+        sentences.push_back(duplicateSentence(report, subject, style));
+    }
+    const auto full = fullLists(report, static_cast<std::size_t>(limits.maximumResultCount));
+    if (!full.empty()) {
+        sentences.push_back(
+            fmt::format("No list gets longer than {}; there may be more {}. --max-results goes further.",
+                limits.maximumResultCount, fmt::join(full, ", ")));
+    }
+    return sentences;
+}
+
+} // namespace KarvelloCLI

@@ -1,0 +1,60 @@
+#include "KarvelloCLI/SizeMapChart.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+namespace KarvelloCLI {
+
+namespace {
+
+constexpr std::string_view kSizeTitle = "Size";
+constexpr std::string_view kItemsTitle = "Items";
+constexpr std::string_view kFolderTitle = "Folder";
+
+constexpr std::size_t kMarkWidth = 2;
+constexpr std::size_t kGap = 2;
+/// A shorter bar tells nothing, and a longer one nothing more.
+constexpr std::size_t kShortestBar = 8;
+constexpr std::size_t kLongestBar = 60;
+constexpr std::size_t kShortestName = 16;
+
+} // namespace
+
+std::string sizeMapChart(std::span<const CleanerCore::StorageMapItem> folders, std::span<const TerminalText> names,
+    const TextStyle& style, BarGlyphs glyphs)
+{
+    std::size_t sizeWidth = kSizeTitle.size();
+    std::size_t itemsWidth = kItemsTitle.size();
+    std::size_t longestName = kFolderTitle.size();
+    std::int64_t largest = 0;
+    for (std::size_t index = 0; index < folders.size(); ++index) {
+        sizeWidth = std::max(sizeWidth, style.size(folders[index].sizeBytes).size());
+        itemsWidth = std::max(itemsWidth, fmt::format_int(folders[index].itemCount).size());
+        longestName = std::max(longestName, names[index].columns());
+        largest = std::max(largest, folders[index].sizeBytes);
+    }
+    const std::size_t taken = kMarkWidth + sizeWidth + kGap + itemsWidth + kGap;
+    const std::size_t left = style.columns > taken ? style.columns - taken : 1;
+    const std::size_t forBar = kShortestBar + kGap;
+    const bool hasBars = left >= kShortestName + forBar || left >= longestName + forBar;
+    const std::size_t nameWidth = std::min(longestName, hasBars ? std::max(left / 2, kShortestName) : left);
+    const std::size_t barWidth = hasBars ? std::min(left - nameWidth - kGap, kLongestBar) : 0;
+
+    std::string text = style.painter(Ink::quiet,
+                           fmt::format("{:{}}{:>{}}  {:>{}}  {}", "", kMarkWidth, kSizeTitle, sizeWidth, kItemsTitle,
+                               itemsWidth, kFolderTitle))
+        + "\n";
+    for (std::size_t index = 0; index < folders.size(); ++index) {
+        const auto& folder = folders[index];
+        text += folder.isTruncated ? style.painter(Ink::warning, ">") : " ";
+        text += fmt::format(" {:>{}}  {:>{}}  ", style.size(folder.sizeBytes), sizeWidth, folder.itemCount, itemsWidth);
+        const TerminalText name = names[index].elidedInMiddle(nameWidth);
+        const std::string itsBar = bar(folder.sizeBytes, largest, barWidth, glyphs);
+        text += itsBar.empty() ? name.string() : name.paddedRight(nameWidth + kGap) + itsBar;
+        text += '\n';
+    }
+    return text;
+}
+
+} // namespace KarvelloCLI

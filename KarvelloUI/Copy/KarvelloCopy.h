@@ -1,275 +1,35 @@
 #pragma once
 
-#include "CleanerCore/Audit/CleanupAuditEntry.h"
-#include "CleanerCore/Cleaning/CleanResult.h"
-#include "CleanerCore/Cleaning/CleaningMode.h"
-#include "CleanerCore/Cleaning/CleanupRestoreCenterSnapshot.h"
-#include "CleanerCore/Cleaning/CleanupSelectionPreview.h"
-#include "CleanerCore/Cleaning/CleanupStorageImpactReport.h"
-#include "CleanerCore/Cleaning/RestoreResult.h"
-#include "CleanerCore/Insights/FileInsight.h"
-#include "CleanerCore/Scan/CleanupScanMode.h"
-#include "KarvelloUI/Copy/AppLanguage.h"
-#include "KarvelloUI/Copy/Vocabulary/CandidateListGroupingMode.h"
-#include "KarvelloUI/Copy/Vocabulary/CleanupIgnoreDuration.h"
-#include "KarvelloUI/Copy/Vocabulary/CleanupReviewCadenceStatusKind.h"
-#include "KarvelloUI/Copy/Vocabulary/CleanupReviewProfileID.h"
-#include "KarvelloUI/Copy/Vocabulary/StoragePermissionIssueKind.h"
-#include "KarvelloUI/Copy/Vocabulary/StoragePermissionWizardStepRole.h"
+#include "CleanerCore/Insights/DuplicateKeeperRecommendation.h"
+#include "CleanerCore/Relief/ResourceReliefActionResult.h"
+#include "CleanerCore/Relief/ResourceReliefCandidate.h"
+#include "CleanerCore/Scan/AppCacheContext.h"
+#include "CleanerCore/Scan/CleanupCategory.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
+#include "KarvelloUI/Copy/Vocabulary/DeveloperCleanupAdvisory.h"
+#include "KarvelloUI/Copy/Vocabulary/DeveloperProjectActivityLevel.h"
+#include "KarvelloUI/Copy/Vocabulary/DeveloperProjectArtifact.h"
+#include "KarvelloUI/Copy/Vocabulary/HomeScanState.h"
+#include "KarvelloUI/Copy/Vocabulary/IOSStorageChecklistStep.h"
+#include "KarvelloUI/Copy/Vocabulary/LoadLevel.h"
+#include "KarvelloUI/Copy/Vocabulary/MacDashboardSection.h"
+#include "KarvelloUI/Copy/Vocabulary/MacInsightFileSection.h"
+#include "KarvelloUI/Copy/Vocabulary/ResourceReliefMetric.h"
+#include "KarvelloUI/Copy/Vocabulary/StorageTrendTimelinePointKind.h"
 
 #include <cstdint>
-#include <fmt/format.h>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace KarvelloUI {
 
 /// Every text of Karvello in one language. Making one costs nothing, so nobody keeps it. Texts are whole sentences:
 /// callers neither join nor cut them. Sizes are bytes; a negative one counts as 0.
-struct KarvelloCopy {
-    AppLanguage language;
-
-    [[nodiscard]] std::string_view locale() const { return Platform::rawValue(language); }
-
-    // Catalogue/AuditLogCopy.cpp
-    [[nodiscard]] std::string auditLogTitle() const;
-    [[nodiscard]] std::string auditLogEmpty() const;
-    [[nodiscard]] std::string auditLogLoading() const;
-    [[nodiscard]] std::string auditLogExportBody() const;
-    [[nodiscard]] std::string auditLogExportPanelMessage() const;
-    [[nodiscard]] std::string auditLogExportFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string auditOperationName(CleanerCore::CleanupAuditOperation operation) const;
-    [[nodiscard]] std::string auditSourceName(CleanerCore::CleanupAuditSource source) const;
-    [[nodiscard]] std::string auditEntrySummary(const CleanerCore::CleanupAuditEntry& entry) const;
-    /// `occurredAt` is the entry's date as the screen shows it.
-    [[nodiscard]] std::string auditEntryAccessibilityLabel(
-        const CleanerCore::CleanupAuditEntry& entry, std::string_view occurredAt) const;
-
-    // Catalogue/ScanCopy.cpp
-    [[nodiscard]] std::string scanningMessage() const;
-    [[nodiscard]] std::string scanAgain() const;
-    [[nodiscard]] std::string scanAppCache() const;
-    [[nodiscard]] std::string scanModeTitle() const;
-    [[nodiscard]] std::string scanModeName(CleanerCore::CleanupScanMode mode) const;
-    [[nodiscard]] std::string scanModeAccessibilityHint(bool includesDirectDistribution) const;
-    [[nodiscard]] std::string aggressiveWarningTitle() const;
-    [[nodiscard]] std::string aggressiveWarningBody() const;
-    [[nodiscard]] std::string scanRunnerPreparing() const;
-    [[nodiscard]] std::string scanRunnerVisiting() const;
-    [[nodiscard]] std::string scanRunnerHint() const;
-    [[nodiscard]] std::string scanRunnerProgressLabel() const;
-    [[nodiscard]] std::string scanRunnerProgress(int percentage) const;
-    [[nodiscard]] std::string scanRunnerScannedLabel() const;
-    [[nodiscard]] std::string scanRunnerCandidatesLabel() const;
-    [[nodiscard]] std::string scanRunnerSkippedLabel() const;
-    [[nodiscard]] std::string itemsScannedCount(std::int64_t itemCount) const;
-    [[nodiscard]] std::string reclaimableTitle() const;
-    [[nodiscard]] std::string skippedTitle() const;
-    [[nodiscard]] std::string skippedSummary(std::int64_t itemCount) const;
-    [[nodiscard]] std::string skippedMore(std::int64_t itemCount) const;
-    /// A reason of the scanner; one that it does not have itself comes back as it is.
-    [[nodiscard]] std::string skippedReason(std::string_view reason) const;
-    [[nodiscard]] std::string cancel() const;
-    [[nodiscard]] std::string cancelOperation() const;
-
-    // Catalogue/CandidateListCopy.cpp
-    [[nodiscard]] std::string cleanupCandidatesTitle() const;
-    [[nodiscard]] std::string candidateListSearchPrompt() const;
-    [[nodiscard]] std::string candidateListCategoryFilterTitle() const;
-    [[nodiscard]] std::string candidateListAllCategoriesFilter() const;
-    [[nodiscard]] std::string candidateListSafetyFilterTitle() const;
-    [[nodiscard]] std::string candidateListAllSafetyFilter() const;
-    [[nodiscard]] std::string candidateListGroupingTitle() const;
-    [[nodiscard]] std::string candidateListGroupingModeName(CandidateListGroupingMode mode) const;
-    [[nodiscard]] std::string noCleanupCandidatesTitle() const;
-    [[nodiscard]] std::string noCleanupCandidatesDescription() const;
-    [[nodiscard]] std::string noFilteredCleanupCandidatesTitle() const;
-    [[nodiscard]] std::string noFilteredCleanupCandidatesDescription() const;
-    [[nodiscard]] std::string visibleCleanupCandidatesSummary(std::int64_t visibleCount, std::int64_t totalCount) const;
-    [[nodiscard]] std::string selectAll() const;
-    [[nodiscard]] std::string clearSelection() const;
-    [[nodiscard]] std::string selectVisibleCandidates() const;
-    [[nodiscard]] std::string clearVisibleSelection() const;
-    [[nodiscard]] std::string partialSelectionCaption() const;
-    [[nodiscard]] std::string bulkSelectionAccessibilityValue(
-        std::int64_t selectedCount, std::int64_t totalCount) const;
-    [[nodiscard]] std::string visibleBulkSelectionAccessibilityValue(
-        std::int64_t selectedCount, std::int64_t visibleCount) const;
-    [[nodiscard]] std::string selectionState(bool isSelected) const;
-    [[nodiscard]] std::string openInFinder() const;
-    [[nodiscard]] std::string moveSelectedToTrash() const;
-
-    // Catalogue/CandidateCopy.cpp
-    [[nodiscard]] std::string categoryName(CleanerCore::CleanupCategory category) const;
-    [[nodiscard]] std::string categoryExplanation(CleanerCore::CleanupCategory category) const;
-    [[nodiscard]] std::string categoryRecommendedAction(CleanerCore::CleanupCategory category) const;
-    [[nodiscard]] std::string recommendationReason(CleanerCore::CleanupRecommendationReason reason) const;
-    [[nodiscard]] std::string safetyName(CleanerCore::CleanupSafety safety) const;
-    [[nodiscard]] std::string cleanupCandidateTrustExplanation(const CleanerCore::CleanupCandidate& candidate) const;
-    /// `appContext` and `developerGuidance` are texts of this language for the candidate, empty where there are none.
-    [[nodiscard]] std::string cleanupCandidateAccessibilityLabel(const CleanerCore::CleanupCandidate& candidate,
-        std::string_view appContext, std::string_view developerGuidance) const;
-    /// "3 months"; never less than a day.
-    [[nodiscard]] std::string reviewAgeText(Platform::Date lastModified, Platform::Date now) const;
-    [[nodiscard]] std::string reviewDetail(const CleanerCore::FileInsight& file, Platform::Date now) const;
-
-    // Catalogue/CleanupPreviewCopy.cpp
-    [[nodiscard]] std::string cleanupPreviewSummary(const CleanerCore::CleanupSelectionPreview& preview) const;
-    [[nodiscard]] std::string cleanupPreviewItemCount(std::int64_t itemCount) const;
-    [[nodiscard]] std::string cleanupPreviewCategoryLine(
-        const CleanerCore::CleanupPreviewCategorySummary& summary) const;
-    [[nodiscard]] std::string cleanupPreviewMoreCategories(std::int64_t categoryCount) const;
-    [[nodiscard]] std::string cleanupPreviewConfidenceSummary(
-        const CleanerCore::CleanupSafetyBreakdown& breakdown) const;
-    [[nodiscard]] std::string confidenceCountText(CleanerCore::CleanupSafety safety, std::int64_t itemCount) const;
-    [[nodiscard]] std::string cleanupPreviewConfirmationSuffix(
-        const CleanerCore::CleanupSelectionPreview& preview) const;
-    [[nodiscard]] std::string selectedTitle() const;
-    [[nodiscard]] std::string selectedSubtitle(std::int64_t itemCount) const;
-    /// `hiddenCount`: how many of the selected items the list does not show at the moment.
-    [[nodiscard]] std::string selectedSummary(
-        std::int64_t itemCount, std::int64_t bytes, std::int64_t hiddenCount) const;
-    [[nodiscard]] std::string hiddenSelectionConfirmationWarning(std::int64_t hiddenCount) const;
-    [[nodiscard]] std::string confirmMoveTitle() const;
-    [[nodiscard]] std::string confirmMoveMessage(std::int64_t itemCount, std::int64_t bytes) const;
-    /// All that the dialog says: the move, what moves, and what of it is hidden.
-    [[nodiscard]] std::string confirmMovePreviewMessage(
-        const CleanerCore::CleanupSelectionPreview& preview, std::int64_t hiddenCount) const;
-    [[nodiscard]] std::string confirmDuplicateExtrasMoveMessage(std::int64_t itemCount, std::int64_t bytes) const;
-    [[nodiscard]] std::string confirmDeleteTitle() const;
-    [[nodiscard]] std::string confirmDeleteMessage(std::int64_t itemCount, std::int64_t bytes) const;
-    [[nodiscard]] std::string deleteSelectedAppCache() const;
-
-    // Catalogue/CleanRunCopy.cpp
-    [[nodiscard]] std::string cleaningMessage() const;
-    [[nodiscard]] std::string cleanFailureMessage() const;
-    [[nodiscard]] std::string cleanCancelledMessage() const;
-    [[nodiscard]] std::string lastCleanTitle(std::optional<CleanerCore::CleaningMode> mode) const;
-    [[nodiscard]] std::string lastCleanSubtitle(
-        const CleanerCore::CleanResult& result, std::optional<CleanerCore::CleaningMode> mode) const;
-    [[nodiscard]] std::string restoringMessage() const;
-    [[nodiscard]] std::string restoreFailureMessage() const;
-    [[nodiscard]] std::string restoreCancelledMessage() const;
-    [[nodiscard]] std::string lastRestoreTitle() const;
-    [[nodiscard]] std::string lastRestoreSubtitle(const CleanerCore::RestoreResult& result) const;
-
-    // Catalogue/CleanupImpactCopy.cpp
-    /// The labels and the summary speak of a move, of a deletion, or of neither where the mode is unknown.
-    [[nodiscard]] std::string cleanupImpactTitle() const;
-    [[nodiscard]] std::string cleanupImpactExpectedLabel(std::optional<CleanerCore::CleaningMode> mode) const;
-    [[nodiscard]] std::string cleanupImpactActualLabel(std::optional<CleanerCore::CleaningMode> mode) const;
-    [[nodiscard]] std::string cleanupImpactUnreclaimedLabel(std::optional<CleanerCore::CleaningMode> mode) const;
-    [[nodiscard]] std::string cleanupImpactUnavailablePercent() const;
-    [[nodiscard]] std::string cleanupImpactSummary(const CleanerCore::CleanupStorageImpactReport& report) const;
-    [[nodiscard]] std::string cleanupImpactAccessibilityLabel(
-        const CleanerCore::CleanupStorageImpactReport& report) const;
-
-    // Catalogue/RestoreCenterCopy.cpp
-    [[nodiscard]] std::string restoreCenterTitle() const;
-    [[nodiscard]] std::string restoreCenterBody() const;
-    [[nodiscard]] std::string restoreCenterSummary(const CleanerCore::CleanupRestoreCenterSnapshot& snapshot) const;
-    /// `recordedAt` is the date as the screen shows it.
-    [[nodiscard]] std::string restoreCenterLedgerNote(
-        CleanerCore::CleanupAuditSource source, std::string_view recordedAt) const;
-    [[nodiscard]] std::string restoreCenterSelectionHint(std::int64_t selectedCount, std::int64_t eligibleCount) const;
-    [[nodiscard]] std::string restoreCenterRestoreSelected(std::int64_t itemCount) const;
-    [[nodiscard]] std::string restoreCenterItemSubtitle(
-        std::int64_t bytes, std::optional<std::string_view> trashLocation) const;
-    [[nodiscard]] std::string restoreCenterTrashLocationLabel() const;
-    [[nodiscard]] std::string restoreCenterTrashLocationUnavailable() const;
-    [[nodiscard]] std::string restoreCenterReadyStatus() const;
-    [[nodiscard]] std::string restoreCenterUnavailableStatus() const;
-    [[nodiscard]] std::string restoreCenterHistoryOnlyStatus() const;
-    [[nodiscard]] std::string restoreCenterRevealOriginal() const;
-    [[nodiscard]] std::string restoreCenterRevealTrashLocation() const;
-
-    // Catalogue/IgnoreListCopy.cpp
-    [[nodiscard]] std::string ignoreCleanupCandidate() const;
-    [[nodiscard]] std::string cleanupIgnoreDurationTitle(CleanupIgnoreDuration duration) const;
-    [[nodiscard]] std::string ignoredCandidatesTitle() const;
-    [[nodiscard]] std::string ignoredCandidatesDescription() const;
-    [[nodiscard]] std::string ignoredCandidatesEmpty() const;
-    [[nodiscard]] std::string ignoredCandidatesSummary(std::int64_t itemCount) const;
-    /// `expiresAt` is the date as the screen shows it; empty where it is not known.
-    [[nodiscard]] std::string ignoredCandidateDurationDescription(
-        CleanupIgnoreDuration duration, std::string_view expiresAt) const;
-    [[nodiscard]] std::string showIgnoredCandidateAgain() const;
-    [[nodiscard]] std::string clearIgnoredCandidates() const;
-    [[nodiscard]] std::string cleanupIgnoreLoadFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string cleanupIgnoreSaveFailedMessage(std::string_view reason) const;
-
-    // Catalogue/CleanupReviewCopy.cpp
-    [[nodiscard]] std::string cleanupReviewCadenceStatus(
-        CleanupReviewCadenceStatusKind kind, std::int64_t daysUntilNextReview) const;
-    [[nodiscard]] std::string cleanupReviewProfileName(CleanupReviewProfileID profile) const;
-    [[nodiscard]] std::string cleanupReviewProfileSummary(CleanerCore::CleanupScanMode mode,
-        std::span<const CleanerCore::CleanupCategory> categories, std::int64_t ignoredCount) const;
-    [[nodiscard]] std::string cleanupReviewProfileGuardrail(CleanerCore::CleanupScanMode mode) const;
-
-    // Catalogue/HomeAccessCopy.cpp
-    [[nodiscard]] std::string homeAccessOnboardingTitle() const;
-    [[nodiscard]] std::string homeAccessOnboardingMessage() const;
-    [[nodiscard]] std::string homeAccessGrantButton() const;
-    [[nodiscard]] std::string homeAccessGrantedStatus() const;
-    [[nodiscard]] std::string homeAccessRevokeButton() const;
-    [[nodiscard]] std::string homeAccessPendingHintFromBanner() const;
-    [[nodiscard]] std::string homeAccessPanelPrompt() const;
-    [[nodiscard]] std::string homeAccessPanelMessage() const;
-    [[nodiscard]] std::string homeAccessBookmarkLoadFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string homeAccessBookmarkSaveFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string homeAccessBookmarkResolveFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string homeAccessBookmarkStaleMessage() const;
-    [[nodiscard]] std::string customScanFoldersLoadFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string customScanFoldersSaveFailedMessage(std::string_view reason) const;
-
-    // Catalogue/PermissionGuideCopy.cpp
-    [[nodiscard]] std::string permissionDiagnosticTitle(StoragePermissionIssueKind kind, std::int64_t itemCount) const;
-    [[nodiscard]] std::string permissionDiagnosticAction(StoragePermissionIssueKind kind) const;
-    [[nodiscard]] std::string permissionDiagnosticSamples(std::span<const std::string> paths) const;
-    [[nodiscard]] std::string permissionDiagnosticSamplePathsTitle(std::int64_t pathCount) const;
-    [[nodiscard]] std::string permissionDiagnosticSamplePathsCopyButton() const;
-    [[nodiscard]] std::string permissionDiagnosticSampleCopyPayload(std::span<const std::string> paths) const;
-    [[nodiscard]] std::string permissionWizardTitle() const;
-    [[nodiscard]] std::string permissionWizardIntro() const;
-    [[nodiscard]] std::string permissionWizardStepLabel(std::int64_t step, std::int64_t stepCount) const;
-    [[nodiscard]] std::string permissionWizardStepTitle(StoragePermissionWizardStepRole role) const;
-    [[nodiscard]] std::string permissionWizardStepBody(
-        StoragePermissionWizardStepRole role, std::optional<StoragePermissionIssueKind> kind) const;
-    /// Of the folders that a scan was kept from; both know whether the user has added folders.
-    [[nodiscard]] std::string storageAccessBody(std::int64_t blockedCount, bool hasCustomFolders) const;
-    [[nodiscard]] std::string settingsAccessDiagnosticsTitle(std::int64_t blockedCount, bool hasCustomFolders) const;
-    [[nodiscard]] std::string settingsAccessDiagnosticsBody(std::int64_t blockedCount, bool hasCustomFolders) const;
-
-    // Catalogue/ExportCopy.cpp
-    [[nodiscard]] std::string scanExportTitle() const;
-    [[nodiscard]] std::string scanExportBody() const;
-    [[nodiscard]] std::string scanExportPanelMessage() const;
-    [[nodiscard]] std::string scanExportFailedTitle() const;
-    [[nodiscard]] std::string scanExportFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string exportJSON() const;
-    [[nodiscard]] std::string exportCSV() const;
-    [[nodiscard]] std::string exportRedactedJSON() const;
-    [[nodiscard]] std::string exportRedactedCSV() const;
-    [[nodiscard]] std::string redactedExportHint() const;
-
-    // Catalogue/SafetyModelCopy.cpp
-    [[nodiscard]] std::string cleanupControlTitle() const;
-    [[nodiscard]] std::string cleanupControlSubtitle() const;
-    [[nodiscard]] std::string trustBriefTitle() const;
-    [[nodiscard]] std::string trustBriefBody() const;
-    [[nodiscard]] std::string trustReviewPill() const;
-    [[nodiscard]] std::string trustTrashPill() const;
-    [[nodiscard]] std::string trustScopePill() const;
-    [[nodiscard]] std::string safetyModelTitle() const;
-    [[nodiscard]] std::string safetyTrashRule() const;
-    [[nodiscard]] std::string safetyScopeRule() const;
-    [[nodiscard]] std::string safetySkipRule() const;
-    [[nodiscard]] std::string recommendedActionsTitle() const;
-    [[nodiscard]] std::string recommendedActionsSettings() const;
-    [[nodiscard]] std::string recommendedActionsSandboxWarning() const;
-
+struct KarvelloCopy : CleanupCopy {
     // Catalogue/SmartCleanupCopy.cpp
     [[nodiscard]] std::string smartCleanupSizeDetail(std::int64_t bytes) const;
     [[nodiscard]] std::string smartCleanupOpenSectionCTA(std::string_view sectionTitle) const;
@@ -282,45 +42,161 @@ struct KarvelloCopy {
     [[nodiscard]] std::string smartCleanupLargeFilesBody(std::int64_t fileCount) const;
     [[nodiscard]] std::string smartCleanupDownloadsBody(std::int64_t itemCount) const;
 
+    // Catalogue/AppCopy.cpp
+    [[nodiscard]] std::string appTitle() const;
+    [[nodiscard]] std::string appSubtitle() const;
+    [[nodiscard]] std::string macCleanupBadge() const;
+    [[nodiscard]] std::string platformBoundaryTitle() const;
+    [[nodiscard]] std::string macBoundaryStatement() const;
+    [[nodiscard]] std::string iOSBoundaryStatement() const;
+    [[nodiscard]] std::string languageTitle() const;
+    [[nodiscard]] std::string okButtonTitle() const;
+    [[nodiscard]] std::string foundLabel() const;
+    [[nodiscard]] std::string foundAcrossItems(std::int64_t itemCount) const;
+    [[nodiscard]] std::string finderItemMissingTitle() const;
+    /// `path` as the screen shows it, here and below.
+    [[nodiscard]] std::string finderItemMissingMessage(std::string_view path) const;
+    [[nodiscard]] std::string finderRevealFailedTitle() const;
+    [[nodiscard]] std::string finderRevealFailedMessage(std::string_view path) const;
+
+    // Catalogue/AppCacheContextCopy.cpp
+    [[nodiscard]] std::string appCacheContextSummary(const CleanerCore::AppCacheContext& context) const;
+    [[nodiscard]] static std::string koreanAppCacheContextSummary(const CleanerCore::AppCacheContext& context);
+    /// For every language but Korean.
+    [[nodiscard]] std::string englishAppCacheContextSummary(const CleanerCore::AppCacheContext& context) const;
+
+    // Catalogue/DashboardCopy.cpp
+    [[nodiscard]] std::string macDashboardSectionTitle(MacDashboardSection section) const;
+    [[nodiscard]] std::string dashboardAccessButtonTitle(bool hasAccess) const;
+    [[nodiscard]] std::string dashboardHomeScanSummaryBody(HomeScanState state) const;
+    /// Says so when there are no projects.
+    [[nodiscard]] std::string dashboardReviewEvidenceProjectSummary(
+        std::int64_t projectCount, std::int64_t estimatedBytes) const;
+
+    // Catalogue/MacOnboardingCopy.cpp
+    [[nodiscard]] std::string macOnboardingEyebrow() const;
+    [[nodiscard]] std::string macOnboardingTitle() const;
+    [[nodiscard]] std::string macOnboardingBody() const;
+    [[nodiscard]] std::string macOnboardingLanguageTitle() const;
+    [[nodiscard]] std::string macOnboardingLanguageBody() const;
+    [[nodiscard]] std::string macOnboardingScanFirstTitle() const;
+    [[nodiscard]] std::string macOnboardingScanFirstBody() const;
+    [[nodiscard]] std::string macOnboardingAccessTitle(bool supportsDirectScans) const;
+    [[nodiscard]] std::string macOnboardingAccessBody(bool supportsDirectScans) const;
+    [[nodiscard]] std::string macOnboardingSafetyTitle() const;
+    [[nodiscard]] std::string macOnboardingSafetyBody() const;
+    [[nodiscard]] std::string macOnboardingPrimaryButton(bool hasAccess) const;
+    [[nodiscard]] std::string macOnboardingSecondaryButton() const;
+    [[nodiscard]] std::string macOnboardingSkipCaption() const;
+
+    // Catalogue/DeveloperCopy.cpp
+    /// Nothing for a category that needs no guidance.
+    [[nodiscard]] std::optional<DeveloperCleanupAdvisory> developerCleanupAdvisory(
+        CleanerCore::CleanupCategory category, std::string_view path) const;
+    [[nodiscard]] DeveloperCleanupAdvisory developerCleanupAdvisory(DeveloperCleanupAdvisoryKind kind) const;
+    [[nodiscard]] std::string developerProjectAdvisoryArtifactName(DeveloperProjectArtifact artifact) const;
+    /// The age is shown for a project at rest.
+    [[nodiscard]] std::string developerProjectAdvisoryActivity(
+        DeveloperProjectActivityLevel level, std::int64_t ageInDays) const;
+    [[nodiscard]] std::string developerProjectAdvisoryNote(DeveloperProjectArtifact artifact) const;
+
+    // Catalogue/DuplicateReviewCopy.cpp
+    [[nodiscard]] std::string duplicateReviewCenterSubtitle(std::int64_t groupCount, std::int64_t fileCount) const;
+    /// `number` is the group's place in the list, from 1.
+    [[nodiscard]] std::string duplicateGroupTitle(std::int64_t number, std::int64_t copyCount) const;
+    [[nodiscard]] std::string duplicateGroupByteSummary(std::int64_t extraBytes, std::int64_t selectableBytes) const;
+    [[nodiscard]] std::string duplicateGroupSelectionSummary(
+        std::int64_t selectedCount, std::int64_t selectableCount, std::int64_t extraCount) const;
+    [[nodiscard]] std::string duplicateSelectedExtrasSubtitle(std::int64_t selectedCount) const;
+    [[nodiscard]] std::string duplicateKeeperReasonName(CleanerCore::DuplicateKeeperRecommendationReason reason) const;
+    [[nodiscard]] std::string duplicateKeeperRecommendationSummary(
+        const CleanerCore::DuplicateKeeperRecommendation& recommendation) const;
+
+    // Catalogue/InsightCopy.cpp
+    [[nodiscard]] std::string insightSectionTitle(MacInsightFileSection section) const;
+    [[nodiscard]] std::string insightDetail(MacInsightFileSection section) const;
+    [[nodiscard]] std::string noInsightItemsDescription(MacInsightFileSection section) const;
+    [[nodiscard]] std::string insightControlDescription() const;
+    [[nodiscard]] std::string insightExportBody() const;
+    [[nodiscard]] std::string insightSkippedBody(std::int64_t itemCount) const;
+
+    // Catalogue/IOSSandboxCopy.cpp
+    [[nodiscard]] std::string iOSTagline() const;
+    [[nodiscard]] std::string iOSAllowsTitle() const;
+    [[nodiscard]] std::string iOSAllowsAppCacheOnly() const;
+    [[nodiscard]] std::string iOSAllowsGuideSettings() const;
+    [[nodiscard]] std::string iOSAllowsNoSystemDataPromise() const;
+    [[nodiscard]] std::string iOSSandboxTitle() const;
+    [[nodiscard]] std::string iOSReviewAppCacheSelectionHint() const;
+    [[nodiscard]] std::string iOSAppCacheScanPending() const;
+    [[nodiscard]] std::string iOSAppCacheScanInProgress() const;
+    [[nodiscard]] std::string iOSNoAppCacheCandidates() const;
+    [[nodiscard]] std::string iOSAppCacheCandidateAccessibilityLabel(
+        std::string_view name, std::string_view location, std::int64_t bytes) const;
+    [[nodiscard]] std::string iOSAppCacheCandidateAccessibilityHint(bool isSelected) const;
+    [[nodiscard]] std::string iOSAppCacheCandidateBusyAccessibilityHint() const;
+
+    // Catalogue/IOSStorageChecklistCopy.cpp
+    [[nodiscard]] std::string iOSStorageChecklistTitle() const;
+    [[nodiscard]] std::string iOSStorageChecklistSubtitle() const;
+    [[nodiscard]] std::string iOSStorageChecklistReset() const;
+    [[nodiscard]] std::string iOSStorageChecklistActorName(IOSStorageChecklistActor actor) const;
+    [[nodiscard]] std::string iOSStorageChecklistStatusName(IOSStorageChecklistStatus status) const;
+    [[nodiscard]] std::string iOSStorageChecklistProgress(std::int64_t reviewedCount, std::int64_t stepCount) const;
+    [[nodiscard]] std::string iOSStorageChecklistStatusPickerLabel(std::string_view stepTitle) const;
+    [[nodiscard]] std::string iOSStorageChecklistStatusAccessibilityHint() const;
+    [[nodiscard]] IOSStorageChecklistStep iOSStorageChecklistStep(
+        IOSStorageChecklistStepID id, IOSStorageChecklistStatus status) const;
+    [[nodiscard]] static IOSStorageChecklistStep koreanIOSStorageChecklistStep(
+        IOSStorageChecklistStepID id, IOSStorageChecklistStatus status);
+    /// For every language but Korean.
+    [[nodiscard]] IOSStorageChecklistStep englishIOSStorageChecklistStep(
+        IOSStorageChecklistStepID id, IOSStorageChecklistStatus status) const;
+    /// All steps, in their order.
+    [[nodiscard]] std::vector<IOSStorageChecklistStep> iOSStorageChecklistSteps(
+        const std::function<IOSStorageChecklistStatus(IOSStorageChecklistStepID)>& statusOf) const;
+
+    // Catalogue/SystemStatusCopy.cpp
+    /// Pressures and thermal states are the words of a `SystemResourceSnapshot`; other words stay as they are, and are
+    /// unknown in Korean.
+    [[nodiscard]] std::string localizedPressure(std::string_view pressure) const;
+    [[nodiscard]] std::string localizedThermalState(std::string_view state) const;
+    [[nodiscard]] std::string memoryPressure(std::string_view pressure) const;
+    [[nodiscard]] std::string processorSubtitle(std::int64_t processorCount, std::int64_t activeProcessorCount) const;
+    [[nodiscard]] std::string cpuSubtitle(double loadAverage, std::int64_t activeProcessorCount) const;
+    [[nodiscard]] std::string cpuLoadAverageSubtitle(double loadAverage) const;
+    [[nodiscard]] std::string cpuAnalysisInterpretation(LoadLevel level) const;
+    [[nodiscard]] std::string cpuAnalysisPrimaryAction(LoadLevel level) const;
+    [[nodiscard]] std::string memoryAnalysisInterpretation(LoadLevel level) const;
+    [[nodiscard]] std::string memoryAnalysisPrimaryAction(LoadLevel level) const;
+    [[nodiscard]] std::string systemTrendName(std::string_view metricName) const;
+    [[nodiscard]] std::string systemTrendSubtitle(std::int64_t sampleCount) const;
+    /// The samples are fractions, the oldest first.
+    [[nodiscard]] std::string metricTrendAccessibilityValue(std::span<const double> samples) const;
+
+    // Catalogue/ResourceReliefCopy.cpp
+    [[nodiscard]] std::string resourceReliefPercent(std::optional<double> fraction) const;
+    /// Why it cannot be asked to quit, if so, its bundle and its memory.
+    [[nodiscard]] std::string resourceReliefCandidateDetail(
+        const CleanerCore::ResourceReliefCandidate& candidate) const;
+    [[nodiscard]] std::string resourceReliefMetricAccessibility(
+        std::string_view appName, ResourceReliefMetric metric, std::optional<double> fraction) const;
+    [[nodiscard]] std::string resourceReliefQuitButton(std::int64_t selectedCount) const;
+    [[nodiscard]] std::string resourceReliefConfirmButton(std::int64_t selectedCount) const;
+    [[nodiscard]] std::string resourceReliefConfirmMessage(std::int64_t selectedCount) const;
+    [[nodiscard]] std::string resourceReliefProtectionReason(CleanerCore::ResourceReliefProtectionReason reason) const;
+    [[nodiscard]] std::string resourceReliefResultText(const CleanerCore::ResourceReliefActionResult& result) const;
+
+    // Catalogue/StorageTimelineCopy.cpp
+    [[nodiscard]] std::string storageTimelinePointTitle(StorageTrendTimelinePointKind kind) const;
+    /// `section` is where the point leads; without one, cleanup is named.
+    [[nodiscard]] std::string storageTimelinePointBody(StorageTrendTimelinePointKind kind, std::int64_t bytes,
+        std::int64_t secondaryBytes, std::optional<MacDashboardSection> section) const;
+    /// Empty for a kind that has none.
+    [[nodiscard]] std::string storageTimelinePointDetail(
+        StorageTrendTimelinePointKind kind, std::int64_t itemCount) const;
+
     friend bool operator==(const KarvelloCopy&, const KarvelloCopy&) = default;
-
-private:
-    /// The rule of every entry: Korean stands in the code, and what is not Korean comes from the English.
-    [[nodiscard]] std::string text(std::string_view korean, std::string_view english) const
-    {
-        return language == AppLanguage::korean ? std::string(korean) : localizedEnglishCopy(language, english);
-    }
-
-    /// The same for a sentence with values, which is put together before it is looked up.
-    template <typename... Values>
-    [[nodiscard]] std::string sentence(fmt::format_string<const Values&...> korean,
-        fmt::format_string<const Values&...> english, const Values&... values) const
-    {
-        return language == AppLanguage::korean ? fmt::format(korean, values...)
-                                               : localizedEnglishCopy(language, fmt::format(english, values...));
-    }
-
-    /// The same for a sentence about a number of things. The tables know the shape for many alone, so the one for 1 is
-    /// English only.
-    template <typename... Values>
-    [[nodiscard]] std::string counted(std::int64_t count, fmt::format_string<const Values&...> korean,
-        fmt::format_string<const Values&...> englishOne, fmt::format_string<const Values&...> english,
-        const Values&... values) const
-    {
-        return language == AppLanguage::english && count == 1 ? fmt::format(englishOne, values...)
-                                                              : sentence<Values...>(korean, english, values...);
-    }
-
-    /// The copy for the parts of a sentence that stays English, so that it does not change its language midway.
-    [[nodiscard]] KarvelloCopy ofParts() const
-    {
-        return {language == AppLanguage::korean ? AppLanguage::korean : AppLanguage::english};
-    }
-
-    [[nodiscard]] std::string byteSize(std::int64_t bytes) const;
-    [[nodiscard]] std::string cleanupImpactOutcome(const CleanerCore::CleanupStorageImpactReport& report) const;
-    /// "85%" of a fraction from 0 to 1.
-    [[nodiscard]] static std::string percent(double fraction);
 };
 
 } // namespace KarvelloUI

@@ -1,4 +1,4 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 #include "KarvelloUI/Copy/ReviewAge.h"
 
 #include <array>
@@ -127,28 +127,28 @@ std::string_view withoutFullStop(std::string_view sentence)
 
 } // namespace
 
-std::string KarvelloCopy::categoryName(CleanupCategory category) const
+std::string CleanupCopy::categoryName(CleanupCategory category) const
 {
     return text(wordsOf(category).koreanName, CleanerCore::displayName(category));
 }
 
-std::string KarvelloCopy::categoryExplanation(CleanupCategory category) const
+std::string CleanupCopy::categoryExplanation(CleanupCategory category) const
 {
     return text(wordsOf(category).koreanExplanation, CleanerCore::explanation(category));
 }
 
-std::string KarvelloCopy::categoryRecommendedAction(CleanupCategory category) const
+std::string CleanupCopy::categoryRecommendedAction(CleanupCategory category) const
 {
     return text(wordsOf(category).koreanAction, wordsOf(category).englishAction);
 }
 
-std::string KarvelloCopy::recommendationReason(CleanupRecommendationReason reason) const
+std::string CleanupCopy::recommendationReason(CleanupRecommendationReason reason) const
 {
     const CategoryWords& words = kWords.at(static_cast<std::size_t>(reason));
     return text(words.koreanReason, words.englishReason);
 }
 
-std::string KarvelloCopy::safetyName(CleanupSafety safety) const
+std::string CleanupCopy::safetyName(CleanupSafety safety) const
 {
     switch (safety) {
     case CleanupSafety::safe:
@@ -161,13 +161,13 @@ std::string KarvelloCopy::safetyName(CleanupSafety safety) const
     return {};
 }
 
-std::string KarvelloCopy::cleanupCandidateTrustExplanation(const CleanupCandidate& candidate) const
+std::string CleanupCopy::cleanupCandidateTrustExplanation(const CleanupCandidate& candidate) const
 {
     return recommendationReason(candidate.recommendationReason()) + text(" ", " ")
         + categoryRecommendedAction(candidate.category);
 }
 
-std::string KarvelloCopy::cleanupCandidateAccessibilityLabel(
+std::string CleanupCopy::cleanupCandidateAccessibilityLabel(
     const CleanupCandidate& candidate, std::string_view appContext, std::string_view developerGuidance) const
 {
     const std::string gap = text(" ", " ");
@@ -190,12 +190,12 @@ std::string KarvelloCopy::cleanupCandidateAccessibilityLabel(
     return label;
 }
 
-std::string KarvelloCopy::reviewAgeText(Platform::Date lastModified, Platform::Date now) const
+std::string CleanupCopy::reviewAgeText(Platform::Date lastModified, Platform::Date now) const
 {
     return reviewAge(now.secondsSince(lastModified), locale());
 }
 
-std::string KarvelloCopy::reviewDetail(const FileInsight& file, Platform::Date now) const
+std::string CleanupCopy::reviewDetail(const FileInsight& file, Platform::Date now) const
 {
     const auto label = [&] {
         switch (file.kind) {

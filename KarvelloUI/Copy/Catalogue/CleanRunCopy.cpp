@@ -1,4 +1,4 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 
 namespace KarvelloUI {
 
@@ -6,18 +6,18 @@ using CleanerCore::CleaningMode;
 using CleanerCore::CleanResult;
 using CleanerCore::RestoreResult;
 
-std::string KarvelloCopy::cleaningMessage() const
+std::string CleanupCopy::cleaningMessage() const
 {
     return text("선택한 항목을 휴지통으로 이동하는 중…", "Moving selected items to Trash…");
 }
 
-std::string KarvelloCopy::cleanFailureMessage() const
+std::string CleanupCopy::cleanFailureMessage() const
 {
     return text("일부 항목을 정리하지 못했습니다. 결과의 세부 사항을 검토하세요.",
         "Some items could not be cleaned. Review the result details.");
 }
 
-std::string KarvelloCopy::cleanCancelledMessage() const
+std::string CleanupCopy::cleanCancelledMessage() const
 {
     return text("정리가 취소되었습니다. 이미 휴지통으로 이동한 항목은 기록에 남고 목록에서 빠지며, 나머지 후보는 계속 "
                 "검토할 수 있습니다.",
@@ -25,7 +25,7 @@ std::string KarvelloCopy::cleanCancelledMessage() const
         "candidates stay available for review.");
 }
 
-std::string KarvelloCopy::lastCleanTitle(std::optional<CleaningMode> mode) const
+std::string CleanupCopy::lastCleanTitle(std::optional<CleaningMode> mode) const
 {
     if (!mode) {
         return text("최근 정리 결과", "Last Cleanup Result");
@@ -34,7 +34,7 @@ std::string KarvelloCopy::lastCleanTitle(std::optional<CleaningMode> mode) const
                                               : text("최근 정리: 공간 확보", "Last Cleanup: Space Recovered");
 }
 
-std::string KarvelloCopy::lastCleanSubtitle(const CleanResult& result, std::optional<CleaningMode> mode) const
+std::string CleanupCopy::lastCleanSubtitle(const CleanResult& result, std::optional<CleaningMode> mode) const
 {
     const std::size_t cleaned = result.cleanedItems.size();
     const std::size_t failed = result.failedItems.size();
@@ -50,18 +50,18 @@ std::string KarvelloCopy::lastCleanSubtitle(const CleanResult& result, std::opti
               failed, size, tail);
 }
 
-std::string KarvelloCopy::restoringMessage() const
+std::string CleanupCopy::restoringMessage() const
 {
     return text("휴지통에서 항목을 복원하는 중…", "Restoring items from Trash…");
 }
 
-std::string KarvelloCopy::restoreFailureMessage() const
+std::string CleanupCopy::restoreFailureMessage() const
 {
     return text("일부 항목을 휴지통에서 복원하지 못했습니다. 결과의 세부 사항을 검토하세요.",
         "Some items could not be restored from Trash. Review the result details.");
 }
 
-std::string KarvelloCopy::restoreCancelledMessage() const
+std::string CleanupCopy::restoreCancelledMessage() const
 {
     return text("복원이 취소되었습니다. 이미 복원한 항목은 후보에 다시 추가되며, 기록된 나머지 항목은 가능한 경우 "
                 "나중에 다시 시도할 수 있습니다.",
@@ -69,12 +69,12 @@ std::string KarvelloCopy::restoreCancelledMessage() const
         "be tried again later when possible.");
 }
 
-std::string KarvelloCopy::lastRestoreTitle() const
+std::string CleanupCopy::lastRestoreTitle() const
 {
     return text("최근 복원", "Last Restore");
 }
 
-std::string KarvelloCopy::lastRestoreSubtitle(const RestoreResult& result) const
+std::string CleanupCopy::lastRestoreSubtitle(const RestoreResult& result) const
 {
     // The tables know no tail of this sentence.
     const std::string tail = result.wasCancelled ? text(" · 취소됨", " · cancelled") : std::string();

@@ -1,16 +1,17 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
+#include "KarvelloUI/Copy/PercentText.h"
 
 namespace KarvelloUI {
 
 using CleanerCore::CleaningMode;
 using CleanerCore::CleanupStorageImpactReport;
 
-std::string KarvelloCopy::cleanupImpactTitle() const
+std::string CleanupCopy::cleanupImpactTitle() const
 {
     return text("정리 전후 비교", "Before / After Report");
 }
 
-std::string KarvelloCopy::cleanupImpactExpectedLabel(std::optional<CleaningMode> mode) const
+std::string CleanupCopy::cleanupImpactExpectedLabel(std::optional<CleaningMode> mode) const
 {
     if (!mode) {
         return text("예상 처리량", "Expected processing");
@@ -19,7 +20,7 @@ std::string KarvelloCopy::cleanupImpactExpectedLabel(std::optional<CleaningMode>
                                               : text("예상 확보량", "Expected recovery");
 }
 
-std::string KarvelloCopy::cleanupImpactActualLabel(std::optional<CleaningMode> mode) const
+std::string CleanupCopy::cleanupImpactActualLabel(std::optional<CleaningMode> mode) const
 {
     if (!mode) {
         return text("처리됨", "Processed");
@@ -28,7 +29,7 @@ std::string KarvelloCopy::cleanupImpactActualLabel(std::optional<CleaningMode> m
                                               : text("확보됨", "Recovered");
 }
 
-std::string KarvelloCopy::cleanupImpactUnreclaimedLabel(std::optional<CleaningMode> mode) const
+std::string CleanupCopy::cleanupImpactUnreclaimedLabel(std::optional<CleaningMode> mode) const
 {
     if (!mode) {
         return text("처리되지 않음", "Not processed");
@@ -37,27 +38,27 @@ std::string KarvelloCopy::cleanupImpactUnreclaimedLabel(std::optional<CleaningMo
                                               : text("확보되지 않음", "Not reclaimed");
 }
 
-std::string KarvelloCopy::cleanupImpactUnavailablePercent() const
+std::string CleanupCopy::cleanupImpactUnavailablePercent() const
 {
     return text("알 수 없음", "Unavailable");
 }
 
-std::string KarvelloCopy::cleanupImpactOutcome(const CleanupStorageImpactReport& report) const
+std::string CleanupCopy::cleanupImpactOutcome(const CleanupStorageImpactReport& report) const
 {
     const auto fraction = report.outcomeFraction();
     if (!report.mode) {
-        return fraction ? sentence("{} 처리됨", "{} processed", percent(*fraction))
+        return fraction ? sentence("{} 처리됨", "{} processed", percentText(*fraction))
                         : text("처리 비율을 알 수 없음", "Outcome percentage unavailable");
     }
     if (*report.mode == CleaningMode::moveToTrash) {
-        return fraction ? sentence("{}를 휴지통으로 이동함", "{} moved to Trash", percent(*fraction))
+        return fraction ? sentence("{}를 휴지통으로 이동함", "{} moved to Trash", percentText(*fraction))
                         : text("이동 비율을 알 수 없음", "Move percentage unavailable");
     }
-    return fraction ? sentence("{} 확보됨", "{} recovered", percent(*fraction))
+    return fraction ? sentence("{} 확보됨", "{} recovered", percentText(*fraction))
                     : text("확보 비율을 알 수 없음", "Recovery percentage unavailable");
 }
 
-std::string KarvelloCopy::cleanupImpactSummary(const CleanupStorageImpactReport& report) const
+std::string CleanupCopy::cleanupImpactSummary(const CleanupStorageImpactReport& report) const
 {
     const std::string outcome = cleanupImpactOutcome(report);
     const std::string tail =
@@ -81,9 +82,9 @@ std::string KarvelloCopy::cleanupImpactSummary(const CleanupStorageImpactReport&
         report.failedItemCount, outcome, tail);
 }
 
-std::string KarvelloCopy::cleanupImpactAccessibilityLabel(const CleanupStorageImpactReport& report) const
+std::string CleanupCopy::cleanupImpactAccessibilityLabel(const CleanupStorageImpactReport& report) const
 {
-    const KarvelloCopy parts = ofParts();
+    const CleanupCopy parts = ofParts();
     // What a move brought to the Trash takes its space until the Trash is emptied.
     const std::int64_t unreclaimed =
         report.mode == CleaningMode::moveToTrash ? report.pendingRecoveryBytes() : report.remainingExpectedBytes();

@@ -1,4 +1,4 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 
 #include <fmt/ranges.h>
 #include <vector>
@@ -10,7 +10,7 @@ using CleanerCore::CleanupSafety;
 using CleanerCore::CleanupSafetyBreakdown;
 using CleanerCore::CleanupSelectionPreview;
 
-std::string KarvelloCopy::cleanupPreviewSummary(const CleanupSelectionPreview& preview) const
+std::string CleanupCopy::cleanupPreviewSummary(const CleanupSelectionPreview& preview) const
 {
     if (preview.count == 0) {
         return text("선택한 항목이 없습니다. 항목을 선택하면 정리하기 전에 검토 요약을 볼 수 있습니다.",
@@ -21,25 +21,25 @@ std::string KarvelloCopy::cleanupPreviewSummary(const CleanupSelectionPreview& p
         ofParts().cleanupPreviewItemCount(preview.count), byteSize(preview.bytes));
 }
 
-std::string KarvelloCopy::cleanupPreviewItemCount(std::int64_t itemCount) const
+std::string CleanupCopy::cleanupPreviewItemCount(std::int64_t itemCount) const
 {
     return itemCount == 1 ? text("항목 1개", "1 item") : sentence("항목 {}개", "{} items", itemCount);
 }
 
-std::string KarvelloCopy::cleanupPreviewCategoryLine(const CleanupPreviewCategorySummary& summary) const
+std::string CleanupCopy::cleanupPreviewCategoryLine(const CleanupPreviewCategorySummary& summary) const
 {
-    const KarvelloCopy parts = ofParts();
+    const CleanupCopy parts = ofParts();
     return sentence("{} · {} · {}", "{} · {} · {}", parts.categoryName(summary.category),
         parts.cleanupPreviewItemCount(summary.count), byteSize(summary.bytes));
 }
 
-std::string KarvelloCopy::cleanupPreviewMoreCategories(std::int64_t categoryCount) const
+std::string CleanupCopy::cleanupPreviewMoreCategories(std::int64_t categoryCount) const
 {
     return categoryCount == 1 ? text("카테고리 1개 더", "1 more category")
                               : sentence("카테고리 {}개 더", "{} more categories", categoryCount);
 }
 
-std::string KarvelloCopy::cleanupPreviewConfidenceSummary(const CleanupSafetyBreakdown& breakdown) const
+std::string CleanupCopy::cleanupPreviewConfidenceSummary(const CleanupSafetyBreakdown& breakdown) const
 {
     std::vector<std::string> counts;
     for (const auto& [safety, count] :
@@ -51,10 +51,10 @@ std::string KarvelloCopy::cleanupPreviewConfidenceSummary(const CleanupSafetyBre
     }
     return counts.empty()
         ? text("항목을 선택하면 신뢰 수준 요약이 표시됩니다.", "No confidence summary until items are selected.")
-        : fmt::format("{}", fmt::join(counts, " · "));
+        : joinedParts(counts);
 }
 
-std::string KarvelloCopy::confidenceCountText(CleanupSafety safety, std::int64_t itemCount) const
+std::string CleanupCopy::confidenceCountText(CleanupSafety safety, std::int64_t itemCount) const
 {
     const auto label = [&] {
         switch (safety) {
@@ -70,7 +70,7 @@ std::string KarvelloCopy::confidenceCountText(CleanupSafety safety, std::int64_t
     return fmt::format("{} {}", label, itemCount);
 }
 
-std::string KarvelloCopy::cleanupPreviewConfirmationSuffix(const CleanupSelectionPreview& preview) const
+std::string CleanupCopy::cleanupPreviewConfirmationSuffix(const CleanupSelectionPreview& preview) const
 {
     std::vector<std::string> categories;
     for (const CleanupPreviewCategorySummary& summary : preview.categorySummaries) {
@@ -81,18 +81,18 @@ std::string KarvelloCopy::cleanupPreviewConfirmationSuffix(const CleanupSelectio
         cleanupPreviewConfidenceSummary(preview.safetyBreakdown), fmt::format("{}", fmt::join(categories, ", ")));
 }
 
-std::string KarvelloCopy::selectedTitle() const
+std::string CleanupCopy::selectedTitle() const
 {
     return text("선택됨", "Selected");
 }
 
-std::string KarvelloCopy::selectedSubtitle(std::int64_t itemCount) const
+std::string CleanupCopy::selectedSubtitle(std::int64_t itemCount) const
 {
     return counted(itemCount, "항목 {}개가 휴지통으로 이동됩니다", "{} item will be moved to Trash",
         "{} items will be moved to Trash", itemCount);
 }
 
-std::string KarvelloCopy::selectedSummary(std::int64_t itemCount, std::int64_t bytes, std::int64_t hiddenCount) const
+std::string CleanupCopy::selectedSummary(std::int64_t itemCount, std::int64_t bytes, std::int64_t hiddenCount) const
 {
     const std::string size = byteSize(bytes);
     if (hiddenCount <= 0) {
@@ -106,7 +106,7 @@ std::string KarvelloCopy::selectedSummary(std::int64_t itemCount, std::int64_t b
         itemCount, size, hiddenCount);
 }
 
-std::string KarvelloCopy::hiddenSelectionConfirmationWarning(std::int64_t hiddenCount) const
+std::string CleanupCopy::hiddenSelectionConfirmationWarning(std::int64_t hiddenCount) const
 {
     if (hiddenCount == 1) {
         return text("현재 필터 때문에 보이지 않는 선택 항목 1개가 포함되어 있습니다. 휴지통으로 이동하기 전에 필터를 "
@@ -121,12 +121,12 @@ std::string KarvelloCopy::hiddenSelectionConfirmationWarning(std::int64_t hidden
         hiddenCount);
 }
 
-std::string KarvelloCopy::confirmMoveTitle() const
+std::string CleanupCopy::confirmMoveTitle() const
 {
     return text("선택한 항목을 휴지통으로 이동할까요?", "Move selected items to Trash?");
 }
 
-std::string KarvelloCopy::confirmMoveMessage(std::int64_t itemCount, std::int64_t bytes) const
+std::string CleanupCopy::confirmMoveMessage(std::int64_t itemCount, std::int64_t bytes) const
 {
     return counted(itemCount,
         "선택한 항목 {}개({})를 휴지통으로 이동합니다. 적극 스캔 항목과 주의, 수동 검토 항목은 실행 중인 앱이나 개발 "
@@ -138,7 +138,7 @@ std::string KarvelloCopy::confirmMoveMessage(std::int64_t itemCount, std::int64_
         itemCount, byteSize(bytes));
 }
 
-std::string KarvelloCopy::confirmMovePreviewMessage(
+std::string CleanupCopy::confirmMovePreviewMessage(
     const CleanupSelectionPreview& preview, std::int64_t hiddenCount) const
 {
     std::string message =
@@ -149,7 +149,7 @@ std::string KarvelloCopy::confirmMovePreviewMessage(
     return message;
 }
 
-std::string KarvelloCopy::confirmDuplicateExtrasMoveMessage(std::int64_t itemCount, std::int64_t bytes) const
+std::string CleanupCopy::confirmDuplicateExtrasMoveMessage(std::int64_t itemCount, std::int64_t bytes) const
 {
     return counted(itemCount,
         "선택한 중복 추가 사본 {}개({})를 휴지통으로 이동합니다. 유지할 파일은 선택되지 않은 채로 남습니다. 경로를 "
@@ -161,12 +161,12 @@ std::string KarvelloCopy::confirmDuplicateExtrasMoveMessage(std::int64_t itemCou
         itemCount, byteSize(bytes));
 }
 
-std::string KarvelloCopy::confirmDeleteTitle() const
+std::string CleanupCopy::confirmDeleteTitle() const
 {
     return text("선택한 항목을 영구적으로 삭제할까요?", "Permanently delete selected items?");
 }
 
-std::string KarvelloCopy::confirmDeleteMessage(std::int64_t itemCount, std::int64_t bytes) const
+std::string CleanupCopy::confirmDeleteMessage(std::int64_t itemCount, std::int64_t bytes) const
 {
     return counted(itemCount,
         "선택한 항목 {}개({})를 영구적으로 삭제합니다. 파일은 휴지통으로 이동되지 않으며 이 앱에서 복원할 수 없습니다.",
@@ -177,7 +177,7 @@ std::string KarvelloCopy::confirmDeleteMessage(std::int64_t itemCount, std::int6
         itemCount, byteSize(bytes));
 }
 
-std::string KarvelloCopy::deleteSelectedAppCache() const
+std::string CleanupCopy::deleteSelectedAppCache() const
 {
     return text("선택한 앱 캐시 삭제", "Delete Selected App Cache");
 }

@@ -1,4 +1,4 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 
 #include <fmt/ranges.h>
 #include <vector>
@@ -8,7 +8,7 @@ namespace KarvelloUI {
 using CleanerCore::CleanupCategory;
 using CleanerCore::CleanupScanMode;
 
-std::string KarvelloCopy::cleanupReviewCadenceStatus(
+std::string CleanupCopy::cleanupReviewCadenceStatus(
     CleanupReviewCadenceStatusKind kind, std::int64_t daysUntilNextReview) const
 {
     switch (kind) {
@@ -27,7 +27,7 @@ std::string KarvelloCopy::cleanupReviewCadenceStatus(
     return {};
 }
 
-std::string KarvelloCopy::cleanupReviewProfileName(CleanupReviewProfileID profile) const
+std::string CleanupCopy::cleanupReviewProfileName(CleanupReviewProfileID profile) const
 {
     switch (profile) {
     case CleanupReviewProfileID::balanced:
@@ -40,7 +40,7 @@ std::string KarvelloCopy::cleanupReviewProfileName(CleanupReviewProfileID profil
     return {};
 }
 
-std::string KarvelloCopy::cleanupReviewProfileSummary(
+std::string CleanupCopy::cleanupReviewProfileSummary(
     CleanupScanMode mode, std::span<const CleanupCategory> categories, std::int64_t ignoredCount) const
 {
     std::vector<std::string> names;
@@ -52,7 +52,7 @@ std::string KarvelloCopy::cleanupReviewProfileSummary(
         scanModeName(mode), fmt::format("{}", fmt::join(names, ", ")), ignoredCount);
 }
 
-std::string KarvelloCopy::cleanupReviewProfileGuardrail(CleanupScanMode mode) const
+std::string CleanupCopy::cleanupReviewProfileGuardrail(CleanupScanMode mode) const
 {
     return mode == CleanupScanMode::standard
         ? text("저장된 프로필은 스캔 위치를 넓히지 않습니다.", "Saved profiles do not widen scan roots.")

@@ -1,13 +1,13 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 
 namespace KarvelloUI {
 
-std::string KarvelloCopy::ignoreCleanupCandidate() const
+std::string CleanupCopy::ignoreCleanupCandidate() const
 {
     return text("후보 미루기/숨기기", "Snooze/Hide Candidate");
 }
 
-std::string KarvelloCopy::cleanupIgnoreDurationTitle(CleanupIgnoreDuration duration) const
+std::string CleanupCopy::cleanupIgnoreDurationTitle(CleanupIgnoreDuration duration) const
 {
     switch (duration) {
     case CleanupIgnoreDuration::oneDay:
@@ -20,12 +20,12 @@ std::string KarvelloCopy::cleanupIgnoreDurationTitle(CleanupIgnoreDuration durat
     return {};
 }
 
-std::string KarvelloCopy::ignoredCandidatesTitle() const
+std::string CleanupCopy::ignoredCandidatesTitle() const
 {
     return text("무시 목록", "Ignore List");
 }
 
-std::string KarvelloCopy::ignoredCandidatesDescription() const
+std::string CleanupCopy::ignoredCandidatesDescription() const
 {
     return text("미루거나 숨긴 정리 후보입니다. 이 기기의 정리 검토 화면에서만 걸러지며, 파일을 삭제하거나 정리하지 "
                 "않습니다. 목록에서 항목을 빼거나 미룬 기간이 끝나면 다음 스캔에서 다시 나타날 수 있습니다.",
@@ -34,18 +34,18 @@ std::string KarvelloCopy::ignoredCandidatesDescription() const
         "scan.");
 }
 
-std::string KarvelloCopy::ignoredCandidatesEmpty() const
+std::string CleanupCopy::ignoredCandidatesEmpty() const
 {
     return text("무시한 정리 후보가 없습니다.", "No ignored cleanup candidates.");
 }
 
-std::string KarvelloCopy::ignoredCandidatesSummary(std::int64_t itemCount) const
+std::string CleanupCopy::ignoredCandidatesSummary(std::int64_t itemCount) const
 {
     return sentence(
         "숨긴 {1} {0}개", "{} hidden {}", itemCount, itemCount == 1 ? text("항목", "item") : text("항목", "items"));
 }
 
-std::string KarvelloCopy::ignoredCandidateDurationDescription(
+std::string CleanupCopy::ignoredCandidateDurationDescription(
     CleanupIgnoreDuration duration, std::string_view expiresAt) const
 {
     if (duration == CleanupIgnoreDuration::untilShownAgain) {
@@ -58,23 +58,23 @@ std::string KarvelloCopy::ignoredCandidateDurationDescription(
               "{}까지 이 기기의 정리 검토에서 숨깁니다.", "Locally hidden from cleanup review until {}.", expiresAt);
 }
 
-std::string KarvelloCopy::showIgnoredCandidateAgain() const
+std::string CleanupCopy::showIgnoredCandidateAgain() const
 {
     return text("다시 표시", "Show Again");
 }
 
-std::string KarvelloCopy::clearIgnoredCandidates() const
+std::string CleanupCopy::clearIgnoredCandidates() const
 {
     return text("무시 목록 비우기", "Clear Ignore List");
 }
 
-std::string KarvelloCopy::cleanupIgnoreLoadFailedMessage(std::string_view reason) const
+std::string CleanupCopy::cleanupIgnoreLoadFailedMessage(std::string_view reason) const
 {
     return sentence("무시한 정리 항목을 불러오지 못했습니다. 저장된 무시 목록을 백업하고 초기화했습니다: {}",
         "Could not load ignored cleanup items. The saved ignore list was backed up and reset: {}", reason);
 }
 
-std::string KarvelloCopy::cleanupIgnoreSaveFailedMessage(std::string_view reason) const
+std::string CleanupCopy::cleanupIgnoreSaveFailedMessage(std::string_view reason) const
 {
     return sentence("무시한 정리 항목을 저장하지 못했습니다: {}", "Could not save ignored cleanup items: {}", reason);
 }

@@ -1,10 +1,10 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 
 #include <fmt/ranges.h>
 
 namespace KarvelloUI {
 
-std::string KarvelloCopy::permissionDiagnosticTitle(StoragePermissionIssueKind kind, std::int64_t itemCount) const
+std::string CleanupCopy::permissionDiagnosticTitle(StoragePermissionIssueKind kind, std::int64_t itemCount) const
 {
     switch (kind) {
     case StoragePermissionIssueKind::fullDiskAccess:
@@ -23,7 +23,7 @@ std::string KarvelloCopy::permissionDiagnosticTitle(StoragePermissionIssueKind k
     return {};
 }
 
-std::string KarvelloCopy::permissionDiagnosticAction(StoragePermissionIssueKind kind) const
+std::string CleanupCopy::permissionDiagnosticAction(StoragePermissionIssueKind kind) const
 {
     switch (kind) {
     case StoragePermissionIssueKind::fullDiskAccess:
@@ -48,32 +48,32 @@ std::string KarvelloCopy::permissionDiagnosticAction(StoragePermissionIssueKind 
     return {};
 }
 
-std::string KarvelloCopy::permissionDiagnosticSamples(std::span<const std::string> paths) const
+std::string CleanupCopy::permissionDiagnosticSamples(std::span<const std::string> paths) const
 {
     return sentence("예: {}", "Examples: {}", fmt::format("{}", fmt::join(paths, " · ")));
 }
 
-std::string KarvelloCopy::permissionDiagnosticSamplePathsTitle(std::int64_t pathCount) const
+std::string CleanupCopy::permissionDiagnosticSamplePathsTitle(std::int64_t pathCount) const
 {
     return sentence("예시 경로({})", "Sample paths ({})", pathCount);
 }
 
-std::string KarvelloCopy::permissionDiagnosticSamplePathsCopyButton() const
+std::string CleanupCopy::permissionDiagnosticSamplePathsCopyButton() const
 {
     return text("경로 복사", "Copy paths");
 }
 
-std::string KarvelloCopy::permissionDiagnosticSampleCopyPayload(std::span<const std::string> paths) const
+std::string CleanupCopy::permissionDiagnosticSampleCopyPayload(std::span<const std::string> paths) const
 {
     return fmt::format("{}", fmt::join(paths, "\n"));
 }
 
-std::string KarvelloCopy::permissionWizardTitle() const
+std::string CleanupCopy::permissionWizardTitle() const
 {
     return text("접근 안내", "Access Guidance");
 }
 
-std::string KarvelloCopy::permissionWizardIntro() const
+std::string CleanupCopy::permissionWizardIntro() const
 {
     return text("건너뛴 경로를 검토하고 필요한 macOS 권한이나 폴더 책갈피를 직접 바꾼 다음 다시 스캔하세요. Karvello가 "
                 "접근을 자동으로 허용할 수는 없습니다.",
@@ -81,12 +81,12 @@ std::string KarvelloCopy::permissionWizardIntro() const
         "Karvello cannot grant access automatically.");
 }
 
-std::string KarvelloCopy::permissionWizardStepLabel(std::int64_t step, std::int64_t stepCount) const
+std::string CleanupCopy::permissionWizardStepLabel(std::int64_t step, std::int64_t stepCount) const
 {
     return sentence("{1}단계 중 {0}단계", "Step {} of {}", step, stepCount);
 }
 
-std::string KarvelloCopy::permissionWizardStepTitle(StoragePermissionWizardStepRole role) const
+std::string CleanupCopy::permissionWizardStepTitle(StoragePermissionWizardStepRole role) const
 {
     switch (role) {
     case StoragePermissionWizardStepRole::reviewBlockedItems:
@@ -101,7 +101,7 @@ std::string KarvelloCopy::permissionWizardStepTitle(StoragePermissionWizardStepR
     return {};
 }
 
-std::string KarvelloCopy::permissionWizardStepBody(
+std::string CleanupCopy::permissionWizardStepBody(
     StoragePermissionWizardStepRole role, std::optional<StoragePermissionIssueKind> kind) const
 {
     switch (role) {
@@ -124,7 +124,7 @@ std::string KarvelloCopy::permissionWizardStepBody(
     return {};
 }
 
-std::string KarvelloCopy::storageAccessBody(std::int64_t blockedCount, bool hasCustomFolders) const
+std::string CleanupCopy::storageAccessBody(std::int64_t blockedCount, bool hasCustomFolders) const
 {
     if (blockedCount > 0) {
         return counted(blockedCount,
@@ -147,7 +147,7 @@ std::string KarvelloCopy::storageAccessBody(std::int64_t blockedCount, bool hasC
               "Settings yourself, then scan again.");
 }
 
-std::string KarvelloCopy::settingsAccessDiagnosticsTitle(std::int64_t blockedCount, bool hasCustomFolders) const
+std::string CleanupCopy::settingsAccessDiagnosticsTitle(std::int64_t blockedCount, bool hasCustomFolders) const
 {
     if (blockedCount > 0) {
         return text("최근 스캔의 접근 근거", "Latest Scan Access Evidence");
@@ -156,7 +156,7 @@ std::string KarvelloCopy::settingsAccessDiagnosticsTitle(std::int64_t blockedCou
                             : permissionWizardTitle();
 }
 
-std::string KarvelloCopy::settingsAccessDiagnosticsBody(std::int64_t blockedCount, bool hasCustomFolders) const
+std::string CleanupCopy::settingsAccessDiagnosticsBody(std::int64_t blockedCount, bool hasCustomFolders) const
 {
     if (blockedCount > 0) {
         return counted(blockedCount,

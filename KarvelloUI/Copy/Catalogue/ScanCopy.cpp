@@ -1,5 +1,5 @@
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 
 #include <algorithm>
 #include <array>
@@ -29,27 +29,27 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 11> kKoreanS
 
 } // namespace
 
-std::string KarvelloCopy::scanningMessage() const
+std::string CleanupCopy::scanningMessage() const
 {
     return text("안전한 기본 위치를 스캔하는 중…", "Scanning safe default locations…");
 }
 
-std::string KarvelloCopy::scanAgain() const
+std::string CleanupCopy::scanAgain() const
 {
     return text("다시 스캔", "Scan Again");
 }
 
-std::string KarvelloCopy::scanAppCache() const
+std::string CleanupCopy::scanAppCache() const
 {
     return text("앱 캐시 스캔", "Scan App Cache");
 }
 
-std::string KarvelloCopy::scanModeTitle() const
+std::string CleanupCopy::scanModeTitle() const
 {
     return text("스캔 모드", "Scan Mode");
 }
 
-std::string KarvelloCopy::scanModeName(CleanupScanMode mode) const
+std::string CleanupCopy::scanModeName(CleanupScanMode mode) const
 {
     switch (mode) {
     case CleanupScanMode::standard:
@@ -62,7 +62,7 @@ std::string KarvelloCopy::scanModeName(CleanupScanMode mode) const
     return {};
 }
 
-std::string KarvelloCopy::scanModeAccessibilityHint(bool includesDirectDistribution) const
+std::string CleanupCopy::scanModeAccessibilityHint(bool includesDirectDistribution) const
 {
     return includesDirectDistribution
         ? text("표준, 적극, 직접 배포 스캔 중에서 선택하세요. 결과의 범위가 넓어져도 정리하기 전에 직접 검토해야 "
@@ -73,12 +73,12 @@ std::string KarvelloCopy::scanModeAccessibilityHint(bool includesDirectDistribut
               "Choose Standard or Aggressive scans. Broader results still require manual review before cleanup.");
 }
 
-std::string KarvelloCopy::aggressiveWarningTitle() const
+std::string CleanupCopy::aggressiveWarningTitle() const
 {
     return text("적극 스캔 주의 사항", "Aggressive Scan Warning");
 }
 
-std::string KarvelloCopy::aggressiveWarningBody() const
+std::string CleanupCopy::aggressiveWarningBody() const
 {
     return text("앱 컨테이너와 개발 도구의 캐시를 더 많이 찾지만 자동으로 선택하지는 않습니다. 실행 중인 앱이나 개발 "
                 "작업에서 사용 중인 파일일 수 있으므로, 휴지통으로 이동하기 전에 경로를 검토하세요.",
@@ -86,17 +86,17 @@ std::string KarvelloCopy::aggressiveWarningBody() const
         "workflows may depend on these files, so review paths before moving anything to Trash.");
 }
 
-std::string KarvelloCopy::scanRunnerPreparing() const
+std::string CleanupCopy::scanRunnerPreparing() const
 {
     return text("스캔 준비 중", "Preparing scan");
 }
 
-std::string KarvelloCopy::scanRunnerVisiting() const
+std::string CleanupCopy::scanRunnerVisiting() const
 {
     return text("확인 중인 위치", "Visiting");
 }
 
-std::string KarvelloCopy::scanRunnerHint() const
+std::string CleanupCopy::scanRunnerHint() const
 {
     return text("큰 폴더는 시간이 걸릴 수 있습니다. 취소하면 현재 스캔만 중단됩니다. 파일은 정리되지 않으며, 일부만 "
                 "스캔한 결과는 적용되지 않습니다.",
@@ -104,47 +104,47 @@ std::string KarvelloCopy::scanRunnerHint() const
         "results are not applied.");
 }
 
-std::string KarvelloCopy::scanRunnerProgressLabel() const
+std::string CleanupCopy::scanRunnerProgressLabel() const
 {
     return text("진행률", "Progress");
 }
 
-std::string KarvelloCopy::scanRunnerProgress(int percentage) const
+std::string CleanupCopy::scanRunnerProgress(int percentage) const
 {
     return sentence("{}% 완료", "{}% complete", percentage);
 }
 
-std::string KarvelloCopy::scanRunnerScannedLabel() const
+std::string CleanupCopy::scanRunnerScannedLabel() const
 {
     return text("스캔됨", "Scanned");
 }
 
-std::string KarvelloCopy::scanRunnerCandidatesLabel() const
+std::string CleanupCopy::scanRunnerCandidatesLabel() const
 {
     return text("후보", "Candidates");
 }
 
-std::string KarvelloCopy::scanRunnerSkippedLabel() const
+std::string CleanupCopy::scanRunnerSkippedLabel() const
 {
     return text("건너뜀", "Skipped");
 }
 
-std::string KarvelloCopy::itemsScannedCount(std::int64_t itemCount) const
+std::string CleanupCopy::itemsScannedCount(std::int64_t itemCount) const
 {
     return counted(itemCount, "항목 {}개 스캔됨", "{} item scanned", "{} items scanned", itemCount);
 }
 
-std::string KarvelloCopy::reclaimableTitle() const
+std::string CleanupCopy::reclaimableTitle() const
 {
     return text("확보 가능", "Reclaimable");
 }
 
-std::string KarvelloCopy::skippedTitle() const
+std::string CleanupCopy::skippedTitle() const
 {
     return text("건너뜀", "Skipped");
 }
 
-std::string KarvelloCopy::skippedSummary(std::int64_t itemCount) const
+std::string CleanupCopy::skippedSummary(std::int64_t itemCount) const
 {
     return counted(itemCount,
         "항목 {}개를 건너뛰었습니다. 없거나, 비어 있거나, 최근에 수정되었거나, 심볼릭 링크이거나, 접근할 수 없는 "
@@ -157,23 +157,23 @@ std::string KarvelloCopy::skippedSummary(std::int64_t itemCount) const
         itemCount);
 }
 
-std::string KarvelloCopy::skippedMore(std::int64_t itemCount) const
+std::string CleanupCopy::skippedMore(std::int64_t itemCount) const
 {
     return counted(itemCount, "건너뛴 항목 {}개 더 있음", "{} more skipped item", "{} more skipped items", itemCount);
 }
 
-std::string KarvelloCopy::skippedReason(std::string_view reason) const
+std::string CleanupCopy::skippedReason(std::string_view reason) const
 {
     const auto known = std::ranges::find(kKoreanSkipReasons, reason, [](const auto& row) { return row.first; });
     return text(known == kKoreanSkipReasons.end() ? reason : known->second, reason);
 }
 
-std::string KarvelloCopy::cancel() const
+std::string CleanupCopy::cancel() const
 {
     return text("취소", "Cancel");
 }
 
-std::string KarvelloCopy::cancelOperation() const
+std::string CleanupCopy::cancelOperation() const
 {
     return text("작업 취소", "Cancel Operation");
 }

@@ -20,7 +20,7 @@ std::string KarvelloCopy::smartCleanupLowDiskBody(std::int64_t freeBytes, std::s
 
 std::string KarvelloCopy::smartCleanupDuplicatesBody(std::int64_t groupCount) const
 {
-    return sentence("해시가 일치하는 그룹 {}개를 찾았습니다. 추가 사본을 선택하기 전에 보관할 파일을 확인하세요.",
+    return sentence("해시가 일치하는 그룹 {}개를 찾았습니다. 추가 사본을 선택하기 전에 유지할 파일을 확인하세요.",
         "Found {} hash-matched groups. Confirm the keeper before selecting extras.", groupCount);
 }
 

@@ -1,5 +1,8 @@
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace KarvelloUI {
 
 namespace {
@@ -17,9 +20,10 @@ const CatalogueSamples& catalogueSamples()
     return registeredSamples();
 }
 
-CatalogueTheme::CatalogueTheme(std::string name, std::initializer_list<CatalogueSample> samples)
+CatalogueTheme::CatalogueTheme(const std::string& name, std::vector<CatalogueSample> samples)
 {
-    registeredSamples().try_emplace(std::move(name), samples);
+    auto& theme = registeredSamples()[name];
+    std::ranges::move(samples, std::back_inserter(theme));
 }
 
 } // namespace KarvelloUI

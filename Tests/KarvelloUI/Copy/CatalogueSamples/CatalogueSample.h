@@ -3,8 +3,8 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
 #include <cstdint>
+#include <fmt/format.h>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <string_view>
@@ -15,8 +15,13 @@ namespace KarvelloUI {
 /// What the six languages of the tables make of a sample.
 enum class SampleCoverage : std::uint8_t {
     translated,
-    /// No row takes the sentence, and none is meant to: it stays as the English has it.
+    /// Put together from texts that are looked up one by one; no row is for the whole.
+    assembled,
+    /// No row takes the sentence, and none is meant to: it stays English around the parts that come in.
     staysEnglish,
+    /// Korean or English whatever the language: half of a member that chooses.
+    korean,
+    english,
 };
 
 /// One text of the catalogue with sample values in it.
@@ -33,9 +38,22 @@ struct CatalogueSample {
 using CatalogueSamples = std::map<std::string, std::vector<CatalogueSample>>;
 [[nodiscard]] const CatalogueSamples& catalogueSamples();
 
-/// Adds the samples of a theme: a constant of this type in CatalogueSamples/ThemeSamples.cpp is all that it takes.
+/// Adds samples to a theme: constants of this type in CatalogueSamples/ThemeSamples.cpp are all that it takes.
 struct CatalogueTheme {
-    CatalogueTheme(std::string name, std::initializer_list<CatalogueSample> samples);
+    CatalogueTheme(const std::string& name, std::vector<CatalogueSample> samples);
 };
+
+/// One sample for each case of an enumeration that has raw values.
+template <typename Case>
+std::vector<CatalogueSample> samplesOfEachCase(const std::string& member,
+    std::function<std::string(const KarvelloCopy&, Case)> text, SampleCoverage coverage = SampleCoverage::translated)
+{
+    std::vector<CatalogueSample> samples;
+    for (const Case value : Platform::allCases<Case>()) {
+        samples.push_back({fmt::format("{} {}", member, Platform::rawValue(value)),
+            [text, value](const KarvelloCopy& copy) { return text(copy, value); }, coverage});
+    }
+    return samples;
+}
 
 } // namespace KarvelloUI

@@ -1,0 +1,67 @@
+#include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
+
+#include <array>
+
+namespace KarvelloUI {
+namespace {
+
+const CatalogueTheme kSystemStatus("SystemStatus",
+    {
+        {"localizedPressure Normal", [](const KarvelloCopy& copy) { return copy.localizedPressure("Normal"); }},
+        {"localizedPressure Moderate", [](const KarvelloCopy& copy) { return copy.localizedPressure("Moderate"); }},
+        {"localizedPressure High", [](const KarvelloCopy& copy) { return copy.localizedPressure("High"); }},
+        {"localizedPressure Unknown", [](const KarvelloCopy& copy) { return copy.localizedPressure("Unknown"); },
+            SampleCoverage::staysEnglish},
+        {"localizedThermalState Nominal",
+            [](const KarvelloCopy& copy) { return copy.localizedThermalState("Nominal"); }},
+        {"localizedThermalState Fair", [](const KarvelloCopy& copy) { return copy.localizedThermalState("Fair"); }},
+        {"localizedThermalState Serious",
+            [](const KarvelloCopy& copy) { return copy.localizedThermalState("Serious"); }},
+        {"localizedThermalState Critical",
+            [](const KarvelloCopy& copy) { return copy.localizedThermalState("Critical"); }},
+        {"localizedThermalState Unknown",
+            [](const KarvelloCopy& copy) { return copy.localizedThermalState("Unknown"); },
+            SampleCoverage::staysEnglish},
+        {"memoryPressure", [](const KarvelloCopy& copy) { return copy.memoryPressure("High"); }},
+        {"processorSubtitle", [](const KarvelloCopy& copy) { return copy.processorSubtitle(8, 4); }},
+        {"cpuSubtitle", [](const KarvelloCopy& copy) { return copy.cpuSubtitle(1.25, 4); }, SampleCoverage::assembled},
+        {"cpuLoadAverageSubtitle", [](const KarvelloCopy& copy) { return copy.cpuLoadAverageSubtitle(1.25); },
+            SampleCoverage::assembled},
+        {"cpuAnalysisInterpretation nominal",
+            [](const KarvelloCopy& copy) { return copy.cpuAnalysisInterpretation(LoadLevel::nominal); }},
+        {"cpuAnalysisInterpretation elevated",
+            [](const KarvelloCopy& copy) { return copy.cpuAnalysisInterpretation(LoadLevel::elevated); }},
+        {"cpuAnalysisInterpretation high",
+            [](const KarvelloCopy& copy) { return copy.cpuAnalysisInterpretation(LoadLevel::high); }},
+        {"cpuAnalysisPrimaryAction nominal",
+            [](const KarvelloCopy& copy) { return copy.cpuAnalysisPrimaryAction(LoadLevel::nominal); }},
+        {"cpuAnalysisPrimaryAction elevated",
+            [](const KarvelloCopy& copy) { return copy.cpuAnalysisPrimaryAction(LoadLevel::elevated); }},
+        {"cpuAnalysisPrimaryAction high",
+            [](const KarvelloCopy& copy) { return copy.cpuAnalysisPrimaryAction(LoadLevel::high); }},
+        {"memoryAnalysisInterpretation nominal",
+            [](const KarvelloCopy& copy) { return copy.memoryAnalysisInterpretation(LoadLevel::nominal); }},
+        {"memoryAnalysisInterpretation elevated",
+            [](const KarvelloCopy& copy) { return copy.memoryAnalysisInterpretation(LoadLevel::elevated); }},
+        {"memoryAnalysisInterpretation high",
+            [](const KarvelloCopy& copy) { return copy.memoryAnalysisInterpretation(LoadLevel::high); }},
+        {"memoryAnalysisPrimaryAction nominal",
+            [](const KarvelloCopy& copy) { return copy.memoryAnalysisPrimaryAction(LoadLevel::nominal); }},
+        {"memoryAnalysisPrimaryAction elevated",
+            [](const KarvelloCopy& copy) { return copy.memoryAnalysisPrimaryAction(LoadLevel::elevated); }},
+        {"memoryAnalysisPrimaryAction high",
+            [](const KarvelloCopy& copy) { return copy.memoryAnalysisPrimaryAction(LoadLevel::high); }},
+        {"systemTrendName", [](const KarvelloCopy& copy) { return copy.systemTrendName("CPU"); }},
+        {"systemTrendSubtitle 0", [](const KarvelloCopy& copy) { return copy.systemTrendSubtitle(0); }},
+        {"systemTrendSubtitle 1", [](const KarvelloCopy& copy) { return copy.systemTrendSubtitle(1); }},
+        {"systemTrendSubtitle 24", [](const KarvelloCopy& copy) { return copy.systemTrendSubtitle(24); }},
+        {"metricTrendAccessibilityValue 0",
+            [](const KarvelloCopy& copy) { return copy.metricTrendAccessibilityValue({}); }},
+        {"metricTrendAccessibilityValue 1",
+            [](const KarvelloCopy& copy) { return copy.metricTrendAccessibilityValue(std::array{0.42}); }},
+        {"metricTrendAccessibilityValue 3",
+            [](const KarvelloCopy& copy) { return copy.metricTrendAccessibilityValue(std::array{0.1, 0.8, 0.42}); }},
+    });
+
+} // namespace
+} // namespace KarvelloUI

@@ -47,10 +47,10 @@ const CatalogueTheme kAppCacheContext("AppCacheContext",
             SampleCoverage::assembled},
         {"koreanAppCacheContextSummary",
             [](const KarvelloCopy& copy) { return copy.koreanAppCacheContextSummary(groupContainer()); },
-            SampleCoverage::korean},
+            SampleCoverage::onlyKorean},
         {"englishAppCacheContextSummary",
             [](const KarvelloCopy& copy) { return copy.englishAppCacheContextSummary(runningApp()); },
-            SampleCoverage::english},
+            SampleCoverage::neverKorean},
     });
 
 } // namespace

@@ -5,7 +5,6 @@ namespace {
 
 const CatalogueTheme kApp("App",
     {
-        {"locale", [](const KarvelloCopy& copy) { return std::string(copy.locale()); }, SampleCoverage::staysEnglish},
         {"appTitle", &KarvelloCopy::appTitle, SampleCoverage::staysEnglish},
         {"appSubtitle", &KarvelloCopy::appSubtitle},
         {"macCleanupBadge", &KarvelloCopy::macCleanupBadge},

@@ -19,9 +19,9 @@ enum class SampleCoverage : std::uint8_t {
     assembled,
     /// No row takes the sentence, and none is meant to: it stays English around the parts that come in.
     staysEnglish,
-    /// Korean or English whatever the language: half of a member that chooses.
-    korean,
-    english,
+    /// Half of a member that chooses: for Korean alone, and for all others, put together like `assembled`.
+    onlyKorean,
+    neverKorean,
 };
 
 /// One text of the catalogue with sample values in it.

@@ -52,12 +52,12 @@ const CatalogueTheme kChecklist("IOSStorageChecklist",
             [](const KarvelloCopy& copy) {
                 return copy.koreanIOSStorageChecklistStep(kStep, IOSStorageChecklistStatus::done).title;
             },
-            SampleCoverage::korean},
+            SampleCoverage::onlyKorean},
         {"englishIOSStorageChecklistStep",
             [](const KarvelloCopy& copy) {
                 return copy.englishIOSStorageChecklistStep(kStep, IOSStorageChecklistStatus::done).title;
             },
-            SampleCoverage::english},
+            SampleCoverage::neverKorean},
     });
 const CatalogueTheme kActors("IOSStorageChecklist",
     samplesOfEachCase<IOSStorageChecklistActor>(

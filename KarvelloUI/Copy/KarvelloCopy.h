@@ -1,12 +1,11 @@
 #pragma once
 
-#include "CleanerCore/Audit/CleanupAuditEntry.h"
 #include "CleanerCore/Insights/DuplicateKeeperRecommendation.h"
 #include "CleanerCore/Relief/ResourceReliefActionResult.h"
 #include "CleanerCore/Relief/ResourceReliefCandidate.h"
 #include "CleanerCore/Scan/AppCacheContext.h"
 #include "CleanerCore/Scan/CleanupCategory.h"
-#include "KarvelloUI/Copy/AppLanguage.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 #include "KarvelloUI/Copy/Vocabulary/DeveloperCleanupAdvisory.h"
 #include "KarvelloUI/Copy/Vocabulary/DeveloperProjectActivityLevel.h"
 #include "KarvelloUI/Copy/Vocabulary/DeveloperProjectArtifact.h"
@@ -19,7 +18,6 @@
 #include "KarvelloUI/Copy/Vocabulary/StorageTrendTimelinePointKind.h"
 
 #include <cstdint>
-#include <fmt/format.h>
 #include <functional>
 #include <optional>
 #include <span>
@@ -31,25 +29,7 @@ namespace KarvelloUI {
 
 /// Every text of Karvello in one language. Making one costs nothing, so nobody keeps it. Texts are whole sentences:
 /// callers neither join nor cut them. Sizes are bytes; a negative one counts as 0.
-struct KarvelloCopy {
-    AppLanguage language;
-
-    [[nodiscard]] std::string_view locale() const { return Platform::rawValue(language); }
-
-    // Catalogue/AuditLogCopy.cpp
-    [[nodiscard]] std::string auditLogTitle() const;
-    [[nodiscard]] std::string auditLogEmpty() const;
-    [[nodiscard]] std::string auditLogLoading() const;
-    [[nodiscard]] std::string auditLogExportBody() const;
-    [[nodiscard]] std::string auditLogExportPanelMessage() const;
-    [[nodiscard]] std::string auditLogExportFailedMessage(std::string_view reason) const;
-    [[nodiscard]] std::string auditOperationName(CleanerCore::CleanupAuditOperation operation) const;
-    [[nodiscard]] std::string auditSourceName(CleanerCore::CleanupAuditSource source) const;
-    [[nodiscard]] std::string auditEntrySummary(const CleanerCore::CleanupAuditEntry& entry) const;
-    /// `occurredAt` is the entry's date as the screen shows it.
-    [[nodiscard]] std::string auditEntryAccessibilityLabel(
-        const CleanerCore::CleanupAuditEntry& entry, std::string_view occurredAt) const;
-
+struct KarvelloCopy : CleanupCopy {
     // Catalogue/SmartCleanupCopy.cpp
     [[nodiscard]] std::string smartCleanupSizeDetail(std::int64_t bytes) const;
     [[nodiscard]] std::string smartCleanupOpenSectionCTA(std::string_view sectionTitle) const;
@@ -217,26 +197,6 @@ struct KarvelloCopy {
         StorageTrendTimelinePointKind kind, std::int64_t itemCount) const;
 
     friend bool operator==(const KarvelloCopy&, const KarvelloCopy&) = default;
-
-private:
-    /// The rule of every entry: Korean stands in the code, and what is not Korean comes from the English.
-    [[nodiscard]] std::string text(std::string_view korean, std::string_view english) const
-    {
-        return language == AppLanguage::korean ? std::string(korean) : localizedEnglishCopy(language, english);
-    }
-
-    /// The same for a sentence with values, which is put together before it is looked up.
-    template <typename... Values>
-    [[nodiscard]] std::string sentence(fmt::format_string<const Values&...> korean,
-        fmt::format_string<const Values&...> english, const Values&... values) const
-    {
-        return language == AppLanguage::korean ? fmt::format(korean, values...)
-                                               : localizedEnglishCopy(language, fmt::format(english, values...));
-    }
-
-    [[nodiscard]] std::string byteSize(std::int64_t bytes) const;
-    /// Parts that are in their language already, with " · " between them.
-    [[nodiscard]] static std::string joinedParts(const std::vector<std::string>& parts);
 };
 
 } // namespace KarvelloUI

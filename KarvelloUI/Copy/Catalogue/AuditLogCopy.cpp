@@ -1,4 +1,4 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
 
 namespace KarvelloUI {
 
@@ -6,22 +6,22 @@ using CleanerCore::CleanupAuditEntry;
 using CleanerCore::CleanupAuditOperation;
 using CleanerCore::CleanupAuditSource;
 
-std::string KarvelloCopy::auditLogTitle() const
+std::string CleanupCopy::auditLogTitle() const
 {
     return text("정리 기록", "Cleanup History");
 }
 
-std::string KarvelloCopy::auditLogEmpty() const
+std::string CleanupCopy::auditLogEmpty() const
 {
     return text("아직 기록된 정리 작업이 없습니다.", "No cleanup activity has been recorded yet.");
 }
 
-std::string KarvelloCopy::auditLogLoading() const
+std::string CleanupCopy::auditLogLoading() const
 {
     return text("정리 기록을 불러오는 중…", "Loading cleanup history…");
 }
 
-std::string KarvelloCopy::auditLogExportBody() const
+std::string CleanupCopy::auditLogExportBody() const
 {
     return text(
         "정리 기록에는 정리 작업과 복원 시도가 결과, 항목 수, 용량과 함께 남으며, 보관된 경우 경로 정보도 포함됩니다. "
@@ -34,19 +34,19 @@ std::string KarvelloCopy::auditLogExportBody() const
         "redacted export that replaces paths and file names with tokens, then review before sharing.");
 }
 
-std::string KarvelloCopy::auditLogExportPanelMessage() const
+std::string CleanupCopy::auditLogExportPanelMessage() const
 {
     return text(
         "Karvello 정리 기록을 저장할 위치를 선택하세요.", "Choose where to save the Karvello cleanup history export.");
 }
 
-std::string KarvelloCopy::auditLogExportFailedMessage(std::string_view reason) const
+std::string CleanupCopy::auditLogExportFailedMessage(std::string_view reason) const
 {
     return sentence(
         "Karvello가 정리 기록을 저장하지 못했습니다: {}", "Karvello could not save the cleanup history: {}", reason);
 }
 
-std::string KarvelloCopy::auditOperationName(CleanupAuditOperation operation) const
+std::string CleanupCopy::auditOperationName(CleanupAuditOperation operation) const
 {
     switch (operation) {
     case CleanupAuditOperation::clean:
@@ -57,7 +57,7 @@ std::string KarvelloCopy::auditOperationName(CleanupAuditOperation operation) co
     return {};
 }
 
-std::string KarvelloCopy::auditSourceName(CleanupAuditSource source) const
+std::string CleanupCopy::auditSourceName(CleanupAuditSource source) const
 {
     switch (source) {
     case CleanupAuditSource::cleanupDashboard:
@@ -70,15 +70,14 @@ std::string KarvelloCopy::auditSourceName(CleanupAuditSource source) const
     return {};
 }
 
-std::string KarvelloCopy::auditEntrySummary(const CleanupAuditEntry& entry) const
+std::string CleanupCopy::auditEntrySummary(const CleanupAuditEntry& entry) const
 {
     return sentence("{}개 성공, {}개 실패 · {}{}", "{} succeeded, {} failed · {}{}", entry.succeededItemCount,
         entry.failedItemCount, byteSize(entry.affectedBytes),
         entry.wasCancelled ? text(" · 취소됨", " · cancelled") : std::string());
 }
 
-std::string KarvelloCopy::auditEntryAccessibilityLabel(
-    const CleanupAuditEntry& entry, std::string_view occurredAt) const
+std::string CleanupCopy::auditEntryAccessibilityLabel(const CleanupAuditEntry& entry, std::string_view occurredAt) const
 {
     return sentence("{}, {}, {}, {}개 성공, {}개 실패, {}{}", "{}, {}, {}, {} succeeded, {} failed, {}{}",
         auditOperationName(entry.operation), auditSourceName(entry.source), occurredAt, entry.succeededItemCount,

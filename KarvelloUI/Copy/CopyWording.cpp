@@ -1,4 +1,4 @@
-#include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/CopyWording.h"
 
 #include "CleanerCore/Scan/ByteSizeFormatter.h"
 
@@ -6,12 +6,12 @@
 
 namespace KarvelloUI {
 
-std::string KarvelloCopy::byteSize(std::int64_t bytes) const
+std::string CopyWording::byteSize(std::int64_t bytes) const
 {
     return CleanerCore::ByteSizeFormatter::string(bytes, locale());
 }
 
-std::string KarvelloCopy::joinedParts(const std::vector<std::string>& parts)
+std::string CopyWording::joinedParts(const std::vector<std::string>& parts)
 {
     return fmt::format("{}", fmt::join(parts, " · "));
 }

@@ -1,0 +1,181 @@
+#include "CleanerCore/Scan/StorageScannerSkipReason.h"
+#include "KarvelloUI/Copy/CleanupCopy.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace KarvelloUI {
+
+using CleanerCore::CleanupScanMode;
+
+namespace {
+
+namespace SkipReason = CleanerCore::StorageScannerSkipReason;
+
+constexpr std::array<std::pair<std::string_view, std::string_view>, 11> kKoreanSkipReasons{{
+    {SkipReason::folderDoesNotExist, "폴더가 없음"},
+    {SkipReason::symbolicLink, "안전을 위해 심볼릭 링크는 건너뜀"},
+    {SkipReason::noTouchPath, "보호된 사용자 데이터 경로"},
+    {SkipReason::noTouchDescendant, "보호된 사용자 데이터가 들어 있음"},
+    {SkipReason::recentlyModified, "최근에 수정됨"},
+    {SkipReason::emptyItem, "빈 항목"},
+    {SkipReason::inventoryItemLimitExceeded, "폴더의 항목 수가 한도를 넘음"},
+    {SkipReason::duplicateHashBudgetExceeded, "중복 확인에 쓸 수 있는 해시 한도를 넘음"},
+    {SkipReason::couldNotEnumerateFolder, "폴더의 내용을 읽을 수 없음"},
+    {SkipReason::couldNotEnumeratePackage, "패키지의 내용을 읽을 수 없음"},
+    {SkipReason::scanRootItself, "스캔 위치 자체는 정리 후보가 아님"},
+}};
+
+} // namespace
+
+std::string CleanupCopy::scanningMessage() const
+{
+    return text("안전한 기본 위치를 스캔하는 중…", "Scanning safe default locations…");
+}
+
+std::string CleanupCopy::scanAgain() const
+{
+    return text("다시 스캔", "Scan Again");
+}
+
+std::string CleanupCopy::scanAppCache() const
+{
+    return text("앱 캐시 스캔", "Scan App Cache");
+}
+
+std::string CleanupCopy::scanModeTitle() const
+{
+    return text("스캔 모드", "Scan Mode");
+}
+
+std::string CleanupCopy::scanModeName(CleanupScanMode mode) const
+{
+    switch (mode) {
+    case CleanupScanMode::standard:
+        return text("표준", "Standard");
+    case CleanupScanMode::aggressive:
+        return text("적극", "Aggressive");
+    case CleanupScanMode::direct:
+        return text("직접 배포", "Direct distribution");
+    }
+    return {};
+}
+
+std::string CleanupCopy::scanModeAccessibilityHint(bool includesDirectDistribution) const
+{
+    return includesDirectDistribution
+        ? text("표준, 적극, 직접 배포 스캔 중에서 선택하세요. 결과의 범위가 넓어져도 정리하기 전에 직접 검토해야 "
+               "합니다.",
+              "Choose Standard, Aggressive, or Direct distribution scans. Broader results still require manual review "
+              "before cleanup.")
+        : text("표준 스캔과 적극 스캔 중에서 선택하세요. 결과의 범위가 넓어져도 정리하기 전에 직접 검토해야 합니다.",
+              "Choose Standard or Aggressive scans. Broader results still require manual review before cleanup.");
+}
+
+std::string CleanupCopy::aggressiveWarningTitle() const
+{
+    return text("적극 스캔 주의 사항", "Aggressive Scan Warning");
+}
+
+std::string CleanupCopy::aggressiveWarningBody() const
+{
+    return text("앱 컨테이너와 개발 도구의 캐시를 더 많이 찾지만 자동으로 선택하지는 않습니다. 실행 중인 앱이나 개발 "
+                "작업에서 사용 중인 파일일 수 있으므로, 휴지통으로 이동하기 전에 경로를 검토하세요.",
+        "Finds more app-container and developer caches, but does not auto-select them. Running apps or developer "
+        "workflows may depend on these files, so review paths before moving anything to Trash.");
+}
+
+std::string CleanupCopy::scanRunnerPreparing() const
+{
+    return text("스캔 준비 중", "Preparing scan");
+}
+
+std::string CleanupCopy::scanRunnerVisiting() const
+{
+    return text("확인 중인 위치", "Visiting");
+}
+
+std::string CleanupCopy::scanRunnerHint() const
+{
+    return text("큰 폴더는 시간이 걸릴 수 있습니다. 취소하면 현재 스캔만 중단됩니다. 파일은 정리되지 않으며, 일부만 "
+                "스캔한 결과는 적용되지 않습니다.",
+        "Large folders can take time. Cancel stops only the current scan; no files are cleaned, and partial scan "
+        "results are not applied.");
+}
+
+std::string CleanupCopy::scanRunnerProgressLabel() const
+{
+    return text("진행률", "Progress");
+}
+
+std::string CleanupCopy::scanRunnerProgress(int percentage) const
+{
+    return sentence("{}% 완료", "{}% complete", percentage);
+}
+
+std::string CleanupCopy::scanRunnerScannedLabel() const
+{
+    return text("스캔됨", "Scanned");
+}
+
+std::string CleanupCopy::scanRunnerCandidatesLabel() const
+{
+    return text("후보", "Candidates");
+}
+
+std::string CleanupCopy::scanRunnerSkippedLabel() const
+{
+    return text("건너뜀", "Skipped");
+}
+
+std::string CleanupCopy::itemsScannedCount(std::int64_t itemCount) const
+{
+    return counted(itemCount, "항목 {}개 스캔됨", "{} item scanned", "{} items scanned", itemCount);
+}
+
+std::string CleanupCopy::reclaimableTitle() const
+{
+    return text("확보 가능", "Reclaimable");
+}
+
+std::string CleanupCopy::skippedTitle() const
+{
+    return text("건너뜀", "Skipped");
+}
+
+std::string CleanupCopy::skippedSummary(std::int64_t itemCount) const
+{
+    return counted(itemCount,
+        "항목 {}개를 건너뛰었습니다. 없거나, 비어 있거나, 최근에 수정되었거나, 심볼릭 링크이거나, 접근할 수 없는 "
+        "항목입니다. 건너뛴 항목은 정리 대상으로 선택되지 않습니다. 권한을 바꾸거나 다시 스캔하기 전에 이유를 "
+        "검토하세요.",
+        "{} item was skipped because it was missing, empty, recently modified, a symbolic link, or inaccessible. "
+        "Skipped items are not selected for cleanup; review reasons before changing permissions or rescanning.",
+        "{} items were skipped because they were missing, empty, recently modified, symbolic links, or inaccessible. "
+        "Skipped items are not selected for cleanup; review reasons before changing permissions or rescanning.",
+        itemCount);
+}
+
+std::string CleanupCopy::skippedMore(std::int64_t itemCount) const
+{
+    return counted(itemCount, "건너뛴 항목 {}개 더 있음", "{} more skipped item", "{} more skipped items", itemCount);
+}
+
+std::string CleanupCopy::skippedReason(std::string_view reason) const
+{
+    const auto known = std::ranges::find(kKoreanSkipReasons, reason, [](const auto& row) { return row.first; });
+    return text(known == kKoreanSkipReasons.end() ? reason : known->second, reason);
+}
+
+std::string CleanupCopy::cancel() const
+{
+    return text("취소", "Cancel");
+}
+
+std::string CleanupCopy::cancelOperation() const
+{
+    return text("작업 취소", "Cancel Operation");
+}
+
+} // namespace KarvelloUI

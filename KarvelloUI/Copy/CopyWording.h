@@ -1,0 +1,53 @@
+#pragma once
+
+#include "KarvelloUI/Copy/AppLanguage.h"
+
+#include <cstdint>
+#include <fmt/format.h>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace KarvelloUI {
+
+/// How the texts of a catalogue are made in one language.
+struct CopyWording {
+    AppLanguage language;
+
+    [[nodiscard]] std::string_view locale() const { return Platform::rawValue(language); }
+
+    friend bool operator==(const CopyWording&, const CopyWording&) = default;
+
+protected:
+    /// The rule of every entry: Korean stands in the code, and what is not Korean comes from the English.
+    [[nodiscard]] std::string text(std::string_view korean, std::string_view english) const
+    {
+        return language == AppLanguage::korean ? std::string(korean) : localizedEnglishCopy(language, english);
+    }
+
+    /// The same for a sentence with values, which is put together before it is looked up.
+    template <typename... Values>
+    [[nodiscard]] std::string sentence(fmt::format_string<const Values&...> korean,
+        fmt::format_string<const Values&...> english, const Values&... values) const
+    {
+        return language == AppLanguage::korean ? fmt::format(korean, values...)
+                                               : localizedEnglishCopy(language, fmt::format(english, values...));
+    }
+
+    /// The same for a sentence about a number of things. The tables know the shape for many alone, so the one for 1 is
+    /// English only.
+    template <typename... Values>
+    [[nodiscard]] std::string counted(std::int64_t count, fmt::format_string<const Values&...> korean,
+        fmt::format_string<const Values&...> englishOne, fmt::format_string<const Values&...> english,
+        const Values&... values) const
+    {
+        return language == AppLanguage::english && count == 1 ? fmt::format(englishOne, values...)
+                                                              : sentence<Values...>(korean, english, values...);
+    }
+
+    [[nodiscard]] std::string byteSize(std::int64_t bytes) const;
+    /// Parts that are in their language already, with " · " between them.
+    [[nodiscard]] static std::string joinedParts(const std::vector<std::string>& parts);
+};
+
+} // namespace KarvelloUI

@@ -55,7 +55,7 @@ std::string KarvelloCopy::foundLabel() const
 
 std::string KarvelloCopy::foundAcrossItems(std::int64_t itemCount) const
 {
-    return sentence("항목 {}개에서 찾음", "found across {} items", itemCount);
+    return counted(itemCount, "항목 {}개에서 찾음", "found across {} item", "found across {} items", itemCount);
 }
 
 std::string KarvelloCopy::finderItemMissingTitle() const

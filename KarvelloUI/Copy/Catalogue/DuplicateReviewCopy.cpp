@@ -9,7 +9,8 @@ using CleanerCore::DuplicateKeeperRecommendationReason;
 
 std::string KarvelloCopy::duplicateReviewCenterSubtitle(std::int64_t groupCount, std::int64_t fileCount) const
 {
-    return sentence("중복 그룹 {}개 · 파일 {}개", "{} duplicate groups · {} files", groupCount, fileCount);
+    return counted(groupCount, "중복 그룹 {}개 · 파일 {}개", "{} duplicate group · {} files",
+        "{} duplicate groups · {} files", groupCount, fileCount);
 }
 
 std::string KarvelloCopy::duplicateGroupTitle(std::int64_t number, std::int64_t copyCount) const
@@ -27,11 +28,12 @@ std::string KarvelloCopy::duplicateGroupSelectionSummary(
     std::int64_t selectedCount, std::int64_t selectableCount, std::int64_t extraCount) const
 {
     if (selectableCount <= 0) {
-        return sentence("추가 사본 {}개 · 현재 선택할 수 있는 사본 없음", "{} extra copies · none currently selectable",
-            extraCount);
+        return counted(extraCount, "추가 사본 {}개 · 현재 선택할 수 있는 사본 없음",
+            "{} extra copy · none currently selectable", "{} extra copies · none currently selectable", extraCount);
     }
     if (selectedCount <= 0) {
-        return sentence("선택 0개 / 선택 가능 {}개 · 추가 사본 {}개", "0 selected / {} selectable · {} extra copies",
+        return counted(extraCount, "선택 0개 / 선택 가능 {}개 · 추가 사본 {}개",
+            "0 selected / {} selectable · {} extra copy", "0 selected / {} selectable · {} extra copies",
             selectableCount, extraCount);
     }
     if (selectedCount < selectableCount) {

@@ -73,9 +73,12 @@ std::string KarvelloCopy::insightExportBody() const
 
 std::string KarvelloCopy::insightSkippedBody(std::int64_t itemCount) const
 {
-    return sentence("항목 {}개는 최근에 수정되어 오래된 파일 검토에서 보류되었거나, 접근하지 못했거나 속성을 읽지 못해 "
-                    "건너뛰었습니다. 최근 "
-                    "항목의 보류는 권한 오류가 아니며, 시간이 지난 뒤 다시 스캔하면 나타날 수 있습니다.",
+    return counted(itemCount,
+        "항목 {}개는 최근에 수정되어 오래된 파일 검토에서 보류되었거나, 접근하지 못했거나 속성을 읽지 못해 "
+        "건너뛰었습니다. 최근 항목의 보류는 권한 오류가 아니며, 시간이 지난 뒤 다시 스캔하면 나타날 수 있습니다.",
+        "{} item was held back from older-file review because it was recently modified, or skipped because "
+        "access/attributes could not be read. A recent holdback is not a permission error and may appear after it "
+        "ages, then you scan again.",
         "{} items were held back from older-file review because they were recently modified, or skipped because "
         "access/attributes could not be read. Recent holdbacks are not permission errors and may appear after they "
         "age, then you scan again.",

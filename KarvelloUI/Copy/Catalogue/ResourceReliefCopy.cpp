@@ -59,9 +59,8 @@ std::string KarvelloCopy::resourceReliefConfirmButton(std::int64_t selectedCount
 
 std::string KarvelloCopy::resourceReliefConfirmMessage(std::int64_t selectedCount) const
 {
-    return sentence("Karvello는 앱을 강제로 종료하지 않습니다. 선택한 앱 {}개에 일반 종료 요청을 보내므로, 앱이 작업을 "
-                    "저장할지 물을 수 "
-                    "있습니다.",
+    return sentence("Karvello는 앱을 강제로 종료하지 않습니다. 선택한 앱 {}개에 일반 종료 요청을 보내므로, "
+                    "앱이 작업을 저장할지 물을 수 있습니다.",
         "Karvello does not force quit. It sends normal quit requests to {} selected app(s), so apps may ask to save "
         "work.",
         selectedCount);

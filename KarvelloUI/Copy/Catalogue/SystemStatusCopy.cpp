@@ -52,7 +52,8 @@ std::string KarvelloCopy::memoryPressure(std::string_view pressure) const
 
 std::string KarvelloCopy::processorSubtitle(std::int64_t processorCount, std::int64_t activeProcessorCount) const
 {
-    return sentence("프로세서 {}개 · 활성 {}개", "{} processors · {} active", processorCount, activeProcessorCount);
+    return counted(processorCount, "프로세서 {}개 · 활성 {}개", "{} processor · {} active", "{} processors · {} active",
+        processorCount, activeProcessorCount);
 }
 
 std::string KarvelloCopy::cpuLoadAverageSubtitle(double loadAverage) const

@@ -7,6 +7,7 @@
 #include "Tests/KarvelloUI/Copy/EnglishWords.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -38,17 +39,20 @@ std::vector<AppLanguage> translatedLanguages()
     return languages;
 }
 
-/// The texts that KarvelloCopy.h declares for everybody.
+/// The texts that the headers of the catalogue declare for everybody.
 std::set<std::string> declaredMembers()
 {
-    std::ifstream file(KARVELLO_SOURCE_DIR "/KarvelloUI/Copy/KarvelloCopy.h");
-    const std::string header{std::istreambuf_iterator<char>(file), {}};
-    const std::string declarations = header.substr(0, header.find("private:"));
     const std::regex declaration(R"(\[\[nodiscard\]\] (?:static )?[\w:<>]+ (\w+)\()");
     std::set<std::string> members;
-    for (std::sregex_iterator match(declarations.begin(), declarations.end(), declaration), end; match != end;
-        ++match) {
-        members.insert((*match)[1]);
+    for (const auto& entry : std::filesystem::directory_iterator(KARVELLO_SOURCE_DIR "/KarvelloUI/Copy")) {
+        if (!entry.path().filename().string().ends_with("Copy.h")) {
+            continue;
+        }
+        std::ifstream file(entry.path());
+        const std::string header{std::istreambuf_iterator<char>(file), {}};
+        for (std::sregex_iterator match(header.begin(), header.end(), declaration), end; match != end; ++match) {
+            members.insert((*match)[1]);
+        }
     }
     return members;
 }
@@ -74,8 +78,10 @@ TEST(Catalogue, HasASampleOfEveryMember)
     for (const CatalogueSample& sample : allSamples()) {
         members.insert(std::string(sample.member()));
     }
-    members.insert("locale"); // an identifier and no text
-    EXPECT_EQ(declaredMembers(), members);
+    for (const std::string& member : declaredMembers()) {
+        EXPECT_EQ(members.erase(member), 1U) << member << " has no sample";
+    }
+    EXPECT_THAT(members, testing::IsEmpty());
 }
 
 TEST(Catalogue, HasNoTwoSamplesOfOneName)

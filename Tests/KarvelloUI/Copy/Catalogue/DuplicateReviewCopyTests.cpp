@@ -22,6 +22,10 @@ TEST(DuplicateReviewCopy, TellsHowMuchOfAGroupIsSelected)
 
 TEST(DuplicateReviewCopy, CountsOneExtraByItself)
 {
+    EXPECT_EQ(kEnglish.duplicateReviewCenterSubtitle(1, 2), "1 duplicate group · 2 files");
+    EXPECT_EQ(KarvelloCopy{AppLanguage::japanese}.duplicateReviewCenterSubtitle(1, 2), "重複グループ1件 · ファイル2個");
+    EXPECT_EQ(kEnglish.duplicateGroupSelectionSummary(0, 0, 1), "1 extra copy · none currently selectable");
+    EXPECT_EQ(kEnglish.duplicateGroupSelectionSummary(0, 1, 1), "0 selected / 1 selectable · 1 extra copy");
     EXPECT_EQ(kEnglish.duplicateSelectedExtrasSubtitle(1), "1 selected extra will be moved to Trash");
     EXPECT_EQ(kEnglish.duplicateSelectedExtrasSubtitle(0), "0 selected extras will be moved to Trash");
     EXPECT_EQ(kEnglish.duplicateSelectedExtrasSubtitle(2), "2 selected extras will be moved to Trash");

@@ -10,7 +10,7 @@ std::string KarvelloCopy::appTitle() const
 
 std::string KarvelloCopy::appSubtitle() const
 {
-    return text("다시 생성할 수 있는 캐시, 로그, 개발 산출물을 안전하게 검토한 뒤 휴지통으로 옮기세요.",
+    return text("다시 생성할 수 있는 캐시, 로그, 개발 산출물을 안전하게 검토한 뒤 휴지통으로 이동하세요.",
         "Safely review regenerable cache, log, and developer artifacts before moving them to Trash.");
 }
 

@@ -48,8 +48,8 @@ std::string KarvelloCopy::dashboardHomeScanSummaryBody(HomeScanState state) cons
         return text("시스템 상태는 이미 볼 수 있습니다. 홈 폴더 접근을 허용한 뒤 스캔하면 정리 후보를 찾습니다.",
             "System status is already visible. Grant home access, then scan to find cleanup candidates.");
     case HomeScanState::ready:
-        return text("스캔을 시작하면 정리 후보, 회수할 수 있는 공간, 카테고리별 사용량을 볼 수 있습니다. 모든 항목은 "
-                    "먼저 휴지통으로 옮겨지며, 여유 공간은 휴지통을 비운 뒤에 반영됩니다.",
+        return text("스캔을 시작하면 정리 후보, 확보할 수 있는 공간, 카테고리별 사용량을 볼 수 있습니다. 모든 항목은 "
+                    "먼저 휴지통으로 이동하며, 여유 공간은 휴지통을 비운 뒤에 반영됩니다.",
             "Start a scan to see cleanup candidates, reclaimable space, and per-category usage. All items move to "
             "Trash first, and free space is reflected after you empty Trash.");
     case HomeScanState::scanned:
@@ -64,7 +64,7 @@ std::string KarvelloCopy::dashboardReviewEvidenceProjectSummary(
 {
     return projectCount <= 0
         ? text("아직 프로젝트 스캔 근거 없음", "No project scan evidence yet")
-        : sentence("{} · 휴지통으로 옮기기 전에 검토", "{} · review before Trash move", byteSize(estimatedBytes));
+        : sentence("{} · 휴지통으로 이동하기 전에 검토", "{} · review before Trash move", byteSize(estimatedBytes));
 }
 
 } // namespace KarvelloUI

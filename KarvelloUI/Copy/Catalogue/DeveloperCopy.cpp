@@ -54,7 +54,7 @@ DeveloperCleanupAdvisory KarvelloCopy::developerCleanupAdvisory(DeveloperCleanup
             text("진행 중인 Xcode 빌드와 테스트를 멈추고, 프로젝트 산출물이 없어도 되는지 확인하세요.",
                 "Stop active Xcode builds and tests, then confirm the project artifacts are disposable.");
         advisory.action = text(
-            "Karvello에서 스캔된 항목을 검토하고, 현재 빌드 상태가 더 이상 필요 없을 때만 휴지통으로 옮기세요.",
+            "Karvello에서 스캔된 항목을 검토하고, 현재 빌드 상태가 더 이상 필요 없을 때만 휴지통으로 이동하세요.",
             "In Karvello, review scanned items and move them to Trash only when you no longer need the current build "
             "state.");
         break;
@@ -69,8 +69,8 @@ DeveloperCleanupAdvisory KarvelloCopy::developerCleanupAdvisory(DeveloperCleanup
             "The next Simulator launch or app install may be slower for a short time.");
         advisory.prerequisite = text("이 항목을 검토하기 전에 실행 중인 시뮬레이터와 Xcode 테스트 세션을 종료하세요.",
             "Quit running Simulators and Xcode test sessions before reviewing these items.");
-        advisory.action = text(
-            "검토한 시뮬레이터 캐시 항목만 휴지통으로 옮기세요.", "Move only reviewed Simulator cache items to Trash.");
+        advisory.action = text("검토한 시뮬레이터 캐시 항목만 휴지통으로 이동하세요.",
+            "Move only reviewed Simulator cache items to Trash.");
         break;
     case DeveloperCleanupAdvisoryKind::simulatorDeviceCaches:
         advisory.title = text("기기별 시뮬레이터 캐시 안내", "Per-device Simulator cache guidance");
@@ -81,13 +81,13 @@ DeveloperCleanupAdvisory KarvelloCopy::developerCleanupAdvisory(DeveloperCleanup
             text("해당 시뮬레이터 기기를 다시 실행하면 필요한 앱 및 런타임 캐시 데이터를 다시 만들 수 있습니다.",
                 "That Simulator device can recreate needed app and runtime cache data after relaunch.");
         advisory.impact =
-            text("앱의 상태나 테스트 준비 시간이 달라질 수 있으므로 이 항목은 직접 검토 대상으로 남습니다.",
+            text("앱의 상태나 테스트 준비 시간이 달라질 수 있으므로 이 항목은 수동 검토 대상으로 남습니다.",
                 "App-specific state or test setup time can change, so these items stay manual-review.");
         advisory.prerequisite = text(
             "해당 가상 기기를 쓰는 테스트와 시뮬레이터를 종료하고, 그 기기 경로가 더 이상 중요하지 않은지 확인하세요.",
             "Quit tests and Simulators using that virtual device, then confirm the device path is no longer "
             "important.");
-        advisory.action = text("기기 식별자 경로를 검토하고 필요 없는 캐시 항목만 휴지통으로 옮기세요.",
+        advisory.action = text("기기 식별자 경로를 검토하고 필요 없는 캐시 항목만 휴지통으로 이동하세요.",
             "Review the device identifier path and move only unneeded cache items to Trash.");
         break;
     case DeveloperCleanupAdvisoryKind::xcodeDeviceSupport:
@@ -102,8 +102,8 @@ DeveloperCleanupAdvisory KarvelloCopy::developerCleanupAdvisory(DeveloperCleanup
             "Reconnecting a device for a removed iOS version may make the next debugging setup slower.");
         advisory.prerequisite = text("아직 디버깅하는 기기와 iOS 버전의 폴더는 유지하세요.",
             "Keep folders for devices and iOS versions you still debug.");
-        advisory.action = text(
-            "확인을 마친 오래된 지원 폴더만 휴지통으로 옮기세요.", "Move only confirmed old support folders to Trash.");
+        advisory.action = text("확인을 마친 오래된 지원 폴더만 휴지통으로 이동하세요.",
+            "Move only confirmed old support folders to Trash.");
         break;
     }
     return advisory;

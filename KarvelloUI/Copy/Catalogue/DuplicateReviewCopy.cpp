@@ -45,8 +45,8 @@ std::string KarvelloCopy::duplicateGroupSelectionSummary(
 std::string KarvelloCopy::duplicateSelectedExtrasSubtitle(std::int64_t selectedCount) const
 {
     return selectedCount == 1
-        ? text("선택한 추가 사본 1개를 휴지통으로 옮깁니다", "1 selected extra will be moved to Trash")
-        : sentence("선택한 추가 사본 {}개를 휴지통으로 옮깁니다", "{} selected extras will be moved to Trash",
+        ? text("선택한 추가 사본 1개를 휴지통으로 이동합니다", "1 selected extra will be moved to Trash")
+        : sentence("선택한 추가 사본 {}개를 휴지통으로 이동합니다", "{} selected extras will be moved to Trash",
               selectedCount);
 }
 

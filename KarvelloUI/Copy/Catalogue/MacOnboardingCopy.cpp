@@ -11,13 +11,13 @@ std::string KarvelloCopy::macOnboardingEyebrow() const
 std::string KarvelloCopy::macOnboardingTitle() const
 {
     return text(
-        "무엇을 정리할지 먼저 검토하고, 그다음에 옮깁니다.", "Review what will be cleaned before anything moves.");
+        "무엇을 정리할지 먼저 검토하고, 그다음에 이동합니다.", "Review what will be cleaned before anything moves.");
 }
 
 std::string KarvelloCopy::macOnboardingBody() const
 {
     return text("Karvello는 사용자 캐시와 로그를 스캔해 검토 목록을 먼저 보여 주고, 사용자가 확인한 항목만 휴지통으로 "
-                "옮깁니다. 폴더 접근 권한은 선택 창에서 홈 폴더나 라이브러리 폴더를 직접 선택한 뒤에만 저장됩니다.",
+                "이동합니다. 폴더 접근 권한은 선택 창에서 홈 폴더나 라이브러리 폴더를 직접 선택한 뒤에만 저장됩니다.",
         "Karvello scans user caches and logs, shows the review list first, and moves only user-confirmed items to "
         "Trash. Folder access is saved only after you choose your home folder or Library folder in the picker.");
 }

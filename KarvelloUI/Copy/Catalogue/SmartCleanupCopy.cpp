@@ -44,7 +44,7 @@ std::string KarvelloCopy::smartCleanupPermissionDetail(std::int64_t blockedCount
 std::string KarvelloCopy::smartCleanupCandidatesBody(std::int64_t candidateCount) const
 {
     return sentence(
-        "정리 후보 {}개가 준비되었습니다. 선택한 항목을 휴지통으로 옮기기 전에 경로와 안전 등급을 검토하세요.",
+        "정리 후보 {}개가 준비되었습니다. 선택한 항목을 휴지통으로 이동하기 전에 경로와 안전 등급을 검토하세요.",
         "{} candidates are ready. Review paths and safety before moving selected items to Trash.", candidateCount);
 }
 

@@ -37,7 +37,7 @@ std::string KarvelloCopy::storageTimelinePointBody(StorageTrendTimelinePointKind
             "Free space is low. Open {} to review candidates. Nothing runs automatically.", sectionTitle);
     case cleanupScanEstimate:
         return sentence("최근 정리 스캔의 예상치는 {}이며 아직 검토가 필요합니다. 항목을 선택하기 전에는 아무것도 "
-                        "휴지통으로 옮기지 않습니다.",
+                        "휴지통으로 이동하지 않습니다.",
             "{} is the latest cleanup scan estimate that still needs review. Nothing is moved to Trash before you "
             "choose items.",
             size);
@@ -46,7 +46,7 @@ std::string KarvelloCopy::storageTimelinePointBody(StorageTrendTimelinePointKind
             "{} review opportunity in {}. It is not added to scan estimates as one recovery total.", size,
             sectionTitle);
     case movedToTrashPending:
-        return sentence("{} 분량을 휴지통으로 옮겼습니다. 공간 확보를 기다리는 중이며, 휴지통을 비워야 여유 공간이 "
+        return sentence("{} 분량을 휴지통으로 이동했습니다. 공간 확보를 기다리는 중이며, 휴지통을 비워야 여유 공간이 "
                         "늘어납니다.",
             "{} was moved to Trash. It is pending recovery; free space increases after Trash is emptied.", size);
     case recoveredSpace:

@@ -19,8 +19,8 @@ const Words kNames{"Karvello", "Apple", "Mac", "macOS", "iOS", "iPhone", "iPad",
 
 /// Words that an English sentence can hardly do without, and that are no words of Spanish, French or German.
 const Words kEnglishOnly{"and", "are", "be", "before", "by", "can", "failed", "files", "for", "from", "has", "is", "it",
-    "items", "moved", "not", "of", "or", "other", "reviewed", "selected", "the", "their", "them", "this", "to", "uses",
-    "were", "when", "will", "with", "you", "your"};
+    "items", "moved", "not", "of", "or", "other", "reviewed", "selected", "the", "their", "them", "this", "to", "were",
+    "when", "will", "with", "you", "your"};
 
 bool isLetter(char byte)
 {

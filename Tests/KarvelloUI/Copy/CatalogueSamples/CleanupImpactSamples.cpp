@@ -43,14 +43,14 @@ const CatalogueTheme kCleanupImpact("CleanupImpact",
         {"cleanupImpactUnavailablePercent", &KarvelloCopy::cleanupImpactUnavailablePercent},
         {"cleanupImpactSummary moveToTrash",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 2048, false));
+                return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 4096, false));
             }},
         {"cleanupImpactSummary deletePermanently",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactSummary(report(CleaningMode::deletePermanently, 2048, false));
+                return copy.cleanupImpactSummary(report(CleaningMode::deletePermanently, 4096, false));
             }},
         {"cleanupImpactSummary unknown",
-            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 2048, false)); }},
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 4096, false)); }},
         {"cleanupImpactSummary moveToTrash cancelled without a percentage",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 0, true));
@@ -66,12 +66,12 @@ const CatalogueTheme kCleanupImpact("CleanupImpact",
             SampleCoverage::assembled},
         {"cleanupImpactAccessibilityLabel",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 2048, false));
+                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 4096, false));
             },
             SampleCoverage::staysEnglish},
         {"cleanupImpactAccessibilityLabel cancelled",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::deletePermanently, 2048, true));
+                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::deletePermanently, 4096, true));
             },
             SampleCoverage::staysEnglish},
     });

@@ -13,7 +13,8 @@ const CatalogueTheme kIgnoreList("IgnoreList",
         {"ignoredCandidatesDescription", &KarvelloCopy::ignoredCandidatesDescription},
         {"ignoredCandidatesEmpty", &KarvelloCopy::ignoredCandidatesEmpty},
         {"ignoredCandidatesSummary 1", [](const KarvelloCopy& copy) { return copy.ignoredCandidatesSummary(1); }},
-        {"ignoredCandidatesSummary 3", [](const KarvelloCopy& copy) { return copy.ignoredCandidatesSummary(3); }},
+        {"ignoredCandidatesSummary 3", [](const KarvelloCopy& copy) { return copy.ignoredCandidatesSummary(3); },
+            SampleCoverage::assembled},
         {"ignoredCandidateDurationDescription oneDay",
             [](const KarvelloCopy& copy) {
                 return copy.ignoredCandidateDurationDescription(CleanupIgnoreDuration::oneDay, "10:30");

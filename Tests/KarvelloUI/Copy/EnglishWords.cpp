@@ -13,12 +13,12 @@ using Words = std::set<std::string_view>;
 
 /// What stays as it is in every language: names, file-like things, units, and what the samples bring along.
 const Words kNames{"Karvello", "Apple", "Mac", "macOS", "iOS", "iPhone", "iPad", "iCloud", "Safari", "Finder", "Xcode",
-    "App", "Store", "Account", "Web", "Swift", "Pods", "Turbo", "Bundle", "CPU", "JSON", "CSV", "OK", "KB",
-    "DerivedData", "CoreSimulator", "DeviceSupport", "Library", "Caches", "Devices", "data", "build", "dist", "target",
-    "com", "group", "example", "ENOSPC"};
+    "App", "Store", "Account", "Web", "Swift", "Pods", "Turbo", "Bundle", "CPU", "JSON", "CSV", "OK", "ID", "KB",
+    "DerivedData", "CoreSimulator", "DeviceSupport", "Library", "Caches", "Logs", "Devices", "data", "build", "dist",
+    "target", "com", "group", "example", "ENOSPC"};
 
 /// Words that an English sentence can hardly do without, and that are no words of Spanish, French or German.
-const Words kEnglishOnly{"and", "are", "be", "before", "by", "can", "failed", "files", "for", "from", "has", "is", "it",
+const Words kEnglishOnly{"and", "are", "be", "before", "by", "can", "failed", "files", "for", "from", "is", "it",
     "items", "moved", "not", "of", "or", "other", "reviewed", "selected", "the", "their", "them", "this", "to", "were",
     "when", "will", "with", "you", "your"};
 

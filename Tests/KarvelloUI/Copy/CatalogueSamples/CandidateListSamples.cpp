@@ -1,0 +1,61 @@
+#include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
+
+namespace KarvelloUI {
+namespace {
+
+const CatalogueTheme kCandidateList("CandidateList",
+    {
+        {"cleanupCandidatesTitle", &KarvelloCopy::cleanupCandidatesTitle},
+        {"candidateListSearchPrompt", &KarvelloCopy::candidateListSearchPrompt, SampleCoverage::staysEnglish},
+        {"candidateListCategoryFilterTitle", &KarvelloCopy::candidateListCategoryFilterTitle,
+            SampleCoverage::staysEnglish},
+        {"candidateListAllCategoriesFilter", &KarvelloCopy::candidateListAllCategoriesFilter,
+            SampleCoverage::staysEnglish},
+        {"candidateListSafetyFilterTitle", &KarvelloCopy::candidateListSafetyFilterTitle},
+        {"candidateListAllSafetyFilter", &KarvelloCopy::candidateListAllSafetyFilter, SampleCoverage::staysEnglish},
+        {"candidateListGroupingTitle", &KarvelloCopy::candidateListGroupingTitle, SampleCoverage::staysEnglish},
+        {"candidateListGroupingModeName flat",
+            [](const KarvelloCopy& copy) {
+                return copy.candidateListGroupingModeName(CandidateListGroupingMode::flat);
+            },
+            SampleCoverage::staysEnglish},
+        {"candidateListGroupingModeName category",
+            [](const KarvelloCopy& copy) {
+                return copy.candidateListGroupingModeName(CandidateListGroupingMode::category);
+            },
+            SampleCoverage::staysEnglish},
+        {"candidateListGroupingModeName safety",
+            [](const KarvelloCopy& copy) {
+                return copy.candidateListGroupingModeName(CandidateListGroupingMode::safety);
+            }},
+        {"noCleanupCandidatesTitle", &KarvelloCopy::noCleanupCandidatesTitle},
+        {"noCleanupCandidatesDescription", &KarvelloCopy::noCleanupCandidatesDescription},
+        {"noFilteredCleanupCandidatesTitle", &KarvelloCopy::noFilteredCleanupCandidatesTitle},
+        {"noFilteredCleanupCandidatesDescription", &KarvelloCopy::noFilteredCleanupCandidatesDescription,
+            SampleCoverage::staysEnglish},
+        {"visibleCleanupCandidatesSummary all",
+            [](const KarvelloCopy& copy) { return copy.visibleCleanupCandidatesSummary(40, 40); }},
+        {"visibleCleanupCandidatesSummary some",
+            [](const KarvelloCopy& copy) { return copy.visibleCleanupCandidatesSummary(12, 40); }},
+        {"selectAll", &KarvelloCopy::selectAll},
+        {"clearSelection", &KarvelloCopy::clearSelection},
+        {"selectVisibleCandidates", &KarvelloCopy::selectVisibleCandidates, SampleCoverage::staysEnglish},
+        {"clearVisibleSelection", &KarvelloCopy::clearVisibleSelection, SampleCoverage::staysEnglish},
+        {"partialSelectionCaption", &KarvelloCopy::partialSelectionCaption},
+        {"bulkSelectionAccessibilityValue none",
+            [](const KarvelloCopy& copy) { return copy.bulkSelectionAccessibilityValue(0, 12); }},
+        {"bulkSelectionAccessibilityValue some",
+            [](const KarvelloCopy& copy) { return copy.bulkSelectionAccessibilityValue(3, 12); }},
+        {"bulkSelectionAccessibilityValue all",
+            [](const KarvelloCopy& copy) { return copy.bulkSelectionAccessibilityValue(12, 12); }},
+        {"visibleBulkSelectionAccessibilityValue",
+            [](const KarvelloCopy& copy) { return copy.visibleBulkSelectionAccessibilityValue(3, 12); },
+            SampleCoverage::assembled},
+        {"selectionState selected", [](const KarvelloCopy& copy) { return copy.selectionState(true); }},
+        {"selectionState not selected", [](const KarvelloCopy& copy) { return copy.selectionState(false); }},
+        {"openInFinder", &KarvelloCopy::openInFinder},
+        {"moveSelectedToTrash", &KarvelloCopy::moveSelectedToTrash},
+    });
+
+} // namespace
+} // namespace KarvelloUI

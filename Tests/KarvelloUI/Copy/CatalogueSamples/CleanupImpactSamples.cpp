@@ -1,0 +1,80 @@
+#include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
+
+namespace KarvelloUI {
+namespace {
+
+using CleanerCore::CleaningMode;
+
+CleanerCore::CleanupStorageImpactReport report(
+    std::optional<CleaningMode> mode, std::int64_t expectedBytes, bool wasCancelled)
+{
+    return CleanerCore::CleanupStorageImpactReport({.mode = mode,
+        .requestedItemCount = 6,
+        .succeededItemCount = 5,
+        .failedItemCount = 1,
+        .expectedBytes = expectedBytes,
+        .affectedBytes = 1536,
+        .wasCancelled = wasCancelled});
+}
+
+const CatalogueTheme kCleanupImpact("CleanupImpact",
+    {
+        {"cleanupImpactTitle", &KarvelloCopy::cleanupImpactTitle},
+        {"cleanupImpactExpectedLabel moveToTrash",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactExpectedLabel(CleaningMode::moveToTrash); }},
+        {"cleanupImpactExpectedLabel deletePermanently",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactExpectedLabel(CleaningMode::deletePermanently); }},
+        {"cleanupImpactExpectedLabel unknown",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactExpectedLabel(std::nullopt); }},
+        {"cleanupImpactActualLabel moveToTrash",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactActualLabel(CleaningMode::moveToTrash); }},
+        {"cleanupImpactActualLabel deletePermanently",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactActualLabel(CleaningMode::deletePermanently); }},
+        {"cleanupImpactActualLabel unknown",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactActualLabel(std::nullopt); }},
+        {"cleanupImpactUnreclaimedLabel moveToTrash",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactUnreclaimedLabel(CleaningMode::moveToTrash); }},
+        {"cleanupImpactUnreclaimedLabel deletePermanently",
+            [](const KarvelloCopy& copy) {
+                return copy.cleanupImpactUnreclaimedLabel(CleaningMode::deletePermanently);
+            }},
+        {"cleanupImpactUnreclaimedLabel unknown",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactUnreclaimedLabel(std::nullopt); }},
+        {"cleanupImpactUnavailablePercent", &KarvelloCopy::cleanupImpactUnavailablePercent},
+        {"cleanupImpactSummary moveToTrash",
+            [](const KarvelloCopy& copy) {
+                return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 4096, false));
+            }},
+        {"cleanupImpactSummary deletePermanently",
+            [](const KarvelloCopy& copy) {
+                return copy.cleanupImpactSummary(report(CleaningMode::deletePermanently, 4096, false));
+            }},
+        {"cleanupImpactSummary unknown",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 4096, false)); }},
+        {"cleanupImpactSummary moveToTrash cancelled without a percentage",
+            [](const KarvelloCopy& copy) {
+                return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 0, true));
+            },
+            SampleCoverage::assembled},
+        {"cleanupImpactSummary deletePermanently cancelled without a percentage",
+            [](const KarvelloCopy& copy) {
+                return copy.cleanupImpactSummary(report(CleaningMode::deletePermanently, 0, true));
+            },
+            SampleCoverage::assembled},
+        {"cleanupImpactSummary unknown cancelled without a percentage",
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 0, true)); },
+            SampleCoverage::assembled},
+        {"cleanupImpactAccessibilityLabel",
+            [](const KarvelloCopy& copy) {
+                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 4096, false));
+            },
+            SampleCoverage::staysEnglish},
+        {"cleanupImpactAccessibilityLabel cancelled",
+            [](const KarvelloCopy& copy) {
+                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::deletePermanently, 4096, true));
+            },
+            SampleCoverage::staysEnglish},
+    });
+
+} // namespace
+} // namespace KarvelloUI

@@ -1,0 +1,82 @@
+#include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
+
+#include "CleanerCore/Scan/StorageScannerSkipReason.h"
+
+namespace KarvelloUI {
+namespace {
+
+using CleanerCore::CleanupScanMode;
+namespace SkipReason = CleanerCore::StorageScannerSkipReason;
+
+const CatalogueTheme kScan("Scan",
+    {
+        {"scanningMessage", &KarvelloCopy::scanningMessage},
+        {"scanAgain", &KarvelloCopy::scanAgain},
+        {"scanAppCache", &KarvelloCopy::scanAppCache},
+        {"scanModeTitle", &KarvelloCopy::scanModeTitle},
+        {"scanModeName standard",
+            [](const KarvelloCopy& copy) { return copy.scanModeName(CleanupScanMode::standard); }},
+        {"scanModeName aggressive",
+            [](const KarvelloCopy& copy) { return copy.scanModeName(CleanupScanMode::aggressive); }},
+        {"scanModeName direct", [](const KarvelloCopy& copy) { return copy.scanModeName(CleanupScanMode::direct); },
+            SampleCoverage::staysEnglish},
+        {"scanModeAccessibilityHint", [](const KarvelloCopy& copy) { return copy.scanModeAccessibilityHint(false); },
+            SampleCoverage::staysEnglish},
+        {"scanModeAccessibilityHint direct",
+            [](const KarvelloCopy& copy) { return copy.scanModeAccessibilityHint(true); },
+            SampleCoverage::staysEnglish},
+        {"aggressiveWarningTitle", &KarvelloCopy::aggressiveWarningTitle},
+        {"aggressiveWarningBody", &KarvelloCopy::aggressiveWarningBody},
+        {"scanRunnerPreparing", &KarvelloCopy::scanRunnerPreparing},
+        {"scanRunnerVisiting", &KarvelloCopy::scanRunnerVisiting},
+        {"scanRunnerHint", &KarvelloCopy::scanRunnerHint},
+        {"scanRunnerProgressLabel", &KarvelloCopy::scanRunnerProgressLabel},
+        {"scanRunnerProgress", [](const KarvelloCopy& copy) { return copy.scanRunnerProgress(85); }},
+        {"scanRunnerScannedLabel", &KarvelloCopy::scanRunnerScannedLabel},
+        {"scanRunnerCandidatesLabel", &KarvelloCopy::scanRunnerCandidatesLabel},
+        {"scanRunnerSkippedLabel", &KarvelloCopy::scanRunnerSkippedLabel},
+        {"itemsScannedCount", [](const KarvelloCopy& copy) { return copy.itemsScannedCount(12); }},
+        {"reclaimableTitle", &KarvelloCopy::reclaimableTitle},
+        {"skippedTitle", &KarvelloCopy::skippedTitle},
+        {"skippedSummary", [](const KarvelloCopy& copy) { return copy.skippedSummary(3); }},
+        {"skippedMore", [](const KarvelloCopy& copy) { return copy.skippedMore(3); }},
+        {"skippedReason folderDoesNotExist",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::folderDoesNotExist); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason symbolicLink",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::symbolicLink); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason noTouchPath",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::noTouchPath); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason noTouchDescendant",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::noTouchDescendant); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason recentlyModified",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::recentlyModified); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason emptyItem", [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::emptyItem); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason inventoryItemLimitExceeded",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::inventoryItemLimitExceeded); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason duplicateHashBudgetExceeded",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::duplicateHashBudgetExceeded); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason couldNotEnumerateFolder",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::couldNotEnumerateFolder); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason couldNotEnumeratePackage",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::couldNotEnumeratePackage); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason scanRootItself",
+            [](const KarvelloCopy& copy) { return copy.skippedReason(SkipReason::scanRootItself); },
+            SampleCoverage::staysEnglish},
+        {"skippedReason of the system", [](const KarvelloCopy& copy) { return copy.skippedReason("ENOSPC"); },
+            SampleCoverage::staysEnglish},
+        {"cancel", &KarvelloCopy::cancel},
+        {"cancelOperation", &KarvelloCopy::cancelOperation},
+    });
+
+} // namespace
+} // namespace KarvelloUI

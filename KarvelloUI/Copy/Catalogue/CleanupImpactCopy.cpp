@@ -85,6 +85,7 @@ std::string CleanupCopy::cleanupImpactSummary(const CleanupStorageImpactReport& 
 std::string CleanupCopy::cleanupImpactAccessibilityLabel(const CleanupStorageImpactReport& report) const
 {
     const CleanupCopy parts = ofParts();
+    const auto fraction = report.outcomeFraction();
     // What a move brought to the Trash takes its space until the Trash is emptied.
     const std::int64_t unreclaimed =
         report.mode == CleaningMode::moveToTrash ? report.pendingRecoveryBytes() : report.remainingExpectedBytes();
@@ -92,9 +93,9 @@ std::string CleanupCopy::cleanupImpactAccessibilityLabel(const CleanupStorageImp
         "{}, {}, {} {}, {} {}, {} {}, {}, {} succeeded, {} failed{}", parts.cleanupImpactTitle(),
         parts.auditSourceName(report.source), parts.cleanupImpactExpectedLabel(report.mode),
         byteSize(report.expectedBytes), parts.cleanupImpactActualLabel(report.mode), byteSize(report.outcomeBytes()),
-        parts.cleanupImpactUnreclaimedLabel(report.mode), byteSize(unreclaimed), parts.cleanupImpactOutcome(report),
-        report.succeededItemCount, report.failedItemCount,
-        report.wasCancelled ? parts.text(", 취소된 작업", ", cancelled run") : std::string());
+        parts.cleanupImpactUnreclaimedLabel(report.mode), byteSize(unreclaimed),
+        fraction ? percentText(*fraction) : parts.cleanupImpactUnavailablePercent(), report.succeededItemCount,
+        report.failedItemCount, report.wasCancelled ? parts.text(", 취소된 작업", ", cancelled run") : std::string());
 }
 
 } // namespace KarvelloUI

@@ -45,6 +45,18 @@ protected:
                                                               : sentence<Values...>(korean, english, values...);
     }
 
+    /// A sentence around a text that comes in finished, `{0}`: a date, a path, a text of this language. The sentence is
+    /// looked up without it, so that a comma in it does not give the sentence to the row of two parts with a comma.
+    template <typename... Values>
+    [[nodiscard]] std::string around(std::string_view part,
+        fmt::format_string<const std::string_view&, const Values&...> korean,
+        fmt::format_string<const std::string_view&, const Values&...> english, const Values&... values) const
+    {
+        static constexpr std::string_view kStandIn = "\uFFFC";
+        std::string text = sentence<std::string_view, Values...>(korean, english, kStandIn, values...);
+        return text.replace(text.find(kStandIn), kStandIn.size(), part);
+    }
+
     [[nodiscard]] std::string byteSize(std::int64_t bytes) const;
     /// Parts that are in their language already, with " · " between them.
     [[nodiscard]] static std::string joinedParts(const std::vector<std::string>& parts);

@@ -171,22 +171,21 @@ std::string CleanupCopy::cleanupCandidateAccessibilityLabel(
     const CleanupCandidate& candidate, std::string_view appContext, std::string_view developerGuidance) const
 {
     const std::string gap = text(" ", " ");
-    std::string label = sentence("정리 후보 {}.", "Cleanup candidate {}.", candidate.displayName);
+    std::string label = around(candidate.displayName, "정리 후보 {}.", "Cleanup candidate {}.");
     label += gap + sentence("안전 등급: {}.", "Safety: {}.", safetyName(candidate.safety));
     label += gap + sentence("크기: {}.", "Size: {}.", byteSize(candidate.sizeBytes));
-    label += gap + sentence("위치: {}.", "Location: {}.", candidate.url.path());
+    label += gap + around(candidate.url.path(), "위치: {}.", "Location: {}.");
     label += gap + sentence("카테고리: {}.", "Category: {}.", categoryName(candidate.category));
     if (!appContext.empty()) {
-        label += gap + sentence("앱 정보: {}.", "App context: {}.", withoutFullStop(appContext));
+        label += gap + around(withoutFullStop(appContext), "앱 정보: {}.", "App context: {}.");
     }
     if (!developerGuidance.empty()) {
         label += gap
-            + sentence(
-                "개발 도구 정리 안내: {}.", "Developer cleanup guidance: {}.", withoutFullStop(developerGuidance));
+            + around(withoutFullStop(developerGuidance), "개발 도구 정리 안내: {}.", "Developer cleanup guidance: {}.");
     }
     const std::string reason = recommendationReason(candidate.recommendationReason());
-    label += gap + sentence("이유: {}.", "Reason: {}.", withoutFullStop(reason));
-    label += gap + sentence("권장 조치: {}", "Recommended action: {}", categoryRecommendedAction(candidate.category));
+    label += gap + around(withoutFullStop(reason), "이유: {}.", "Reason: {}.");
+    label += gap + around(categoryRecommendedAction(candidate.category), "권장 조치: {}", "Recommended action: {}");
     return label;
 }
 

@@ -54,8 +54,7 @@ std::string CleanupCopy::ignoredCandidateDurationDescription(
     }
     return expiresAt.empty()
         ? text("이 기기의 정리 검토에서 잠시 숨깁니다.", "Temporarily hidden from cleanup review on this device.")
-        : sentence(
-              "{}까지 이 기기의 정리 검토에서 숨깁니다.", "Locally hidden from cleanup review until {}.", expiresAt);
+        : around(expiresAt, "{}까지 이 기기의 정리 검토에서 숨깁니다.", "Locally hidden from cleanup review until {}.");
 }
 
 std::string CleanupCopy::showIgnoredCandidateAgain() const

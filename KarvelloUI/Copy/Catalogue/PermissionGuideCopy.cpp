@@ -50,7 +50,7 @@ std::string CleanupCopy::permissionDiagnosticAction(StoragePermissionIssueKind k
 
 std::string CleanupCopy::permissionDiagnosticSamples(std::span<const std::string> paths) const
 {
-    return sentence("예: {}", "Examples: {}", fmt::format("{}", fmt::join(paths, " · ")));
+    return around(fmt::format("{}", fmt::join(paths, " · ")), "예: {}", "Examples: {}");
 }
 
 std::string CleanupCopy::permissionDiagnosticSamplePathsTitle(std::int64_t pathCount) const

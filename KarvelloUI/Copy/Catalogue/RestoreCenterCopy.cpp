@@ -21,8 +21,9 @@ std::string CleanupCopy::restoreCenterBody() const
 std::string CleanupCopy::restoreCenterSummary(const CleanupRestoreCenterSnapshot& snapshot) const
 {
     const std::size_t moves = snapshot.trashMovedItems.size();
-    return sentence("최근 정리 {}개 · {} {}개 · 복원 시도 가능 {}개 · 기록된 휴지통 이동 크기 {} · 복원 가능한 기록 "
-                    "크기 {}",
+    return sentence(
+        "최근 정리 {0}개 · {2} {1}건 · 복원 시도 가능 {3}개 · 기록된 휴지통 이동 크기 {4} · 복원 가능한 기록 "
+        "크기 {5}",
         "{} recently cleaned · {} {} · {} eligible to try restore · Recorded Trash size {} · Eligible recorded size "
         "{}",
         snapshot.recentItems.size(), moves,
@@ -34,11 +35,13 @@ std::string CleanupCopy::restoreCenterSummary(const CleanupRestoreCenterSnapshot
 
 std::string CleanupCopy::restoreCenterLedgerNote(CleanupAuditSource source, std::string_view recordedAt) const
 {
-    return sentence("{}의 {} 기록에서 불러왔습니다. 기록에서 가져온 항목은 원래 위치와 휴지통 위치를 검토하는 데만 "
-                    "쓰이며, 복원은 현재 정리 세션 중에만 시도할 수 있습니다.",
-        "Loaded from {} history on {}. History-backed entries are for original/Trash location review; restore attempts "
-        "are available only during the current cleanup session.",
-        auditSourceName(source), recordedAt);
+    return around(recordedAt,
+        "{1}의 {0} 기록에서 불러왔습니다. 기록에서 가져온 항목은 원래 위치와 휴지통 위치를 검토하는 데만 쓰이며, "
+        "복원은 "
+        "현재 정리 세션 중에만 시도할 수 있습니다.",
+        "Loaded from {1} history on {0}. History-backed entries are for original/Trash location review; restore "
+        "attempts are available only during the current cleanup session.",
+        auditSourceName(source));
 }
 
 std::string CleanupCopy::restoreCenterSelectionHint(std::int64_t selectedCount, std::int64_t eligibleCount) const
@@ -61,7 +64,7 @@ std::string CleanupCopy::restoreCenterItemSubtitle(
     std::int64_t bytes, std::optional<std::string_view> trashLocation) const
 {
     const std::string size = byteSize(bytes);
-    return trashLocation ? sentence("{} · 휴지통 위치: {}", "{} · Trash location: {}", size, *trashLocation)
+    return trashLocation ? around(*trashLocation, "{1} · 휴지통 위치: {0}", "{1} · Trash location: {0}", size)
                          : sentence("{} · 휴지통 위치를 알 수 없음", "{} · Trash location unavailable", size);
 }
 

@@ -152,6 +152,35 @@ TEST(CleanupCopy, ReadsACandidateOutSentenceBySentence)
     EXPECT_THAT(japanese, testing::HasSubstr("理由："));
 }
 
+TEST(CleanupCopy, TranslatesASentenceAroundAPartWithACommaInIt)
+{
+    EXPECT_EQ(kGerman.ignoredCandidateDurationDescription(CleanupIgnoreDuration::oneDay, "28.11.2026, 10:30"),
+        "Lokal aus der Überprüfung ausgeblendet bis: 28.11.2026, 10:30.");
+    EXPECT_EQ(kGerman.restoreCenterItemSubtitle(1024, "/a, b"), "1 KB · Ort im Papierkorb: /a, b");
+    EXPECT_THAT(kGerman.restoreCenterLedgerNote(CleanerCore::CleanupAuditSource::cleanupDashboard, "1, 2"),
+        testing::StartsWith("Geladen aus dem Verlauf „Bereinigungs-Dashboard“, Datum: 1, 2. "));
+    EXPECT_EQ(kGerman.permissionDiagnosticSamples(std::array<std::string, 2>{"/a, b", "/c"}), "Beispiele: /a, b · /c");
+    EXPECT_THAT(kGerman.cleanupCandidateAccessibilityLabel(sampleCandidate(), {}, {}),
+        testing::AllOf(testing::HasSubstr("Grund: Aufgeführt, weil"), testing::HasSubstr("Empfohlene Aktion: ")));
+}
+
+TEST(CleanupCopy, SummarisesWhatCanBeRestored)
+{
+    const CleanerCore::CleanResult result{
+        .cleanedItems = {{.candidate = sampleCandidate(),
+                             .destinationURL = Platform::FileURL("/a"),
+                             .restoreSourceIdentity = CleanerCore::FileResourceIdentity{}},
+            {.candidate = sampleCandidate()}}};
+    const CleanerCore::CleanupRestoreCenterSnapshot snapshot(result);
+    EXPECT_EQ(kEnglish.restoreCenterSummary(snapshot),
+        "2 recently cleaned · 1 recorded Trash move · 1 eligible to try restore · Recorded Trash size 1.5 KB · "
+        "Eligible recorded size 1.5 KB");
+    EXPECT_EQ(kKorean.restoreCenterSummary(snapshot),
+        "최근 정리 2개 · 기록된 휴지통 이동 1건 · 복원 시도 가능 1개 · 기록된 휴지통 이동 크기 1.5KB · 복원 가능한 "
+        "기록 "
+        "크기 1.5KB");
+}
+
 TEST(CleanupCopy, SpeaksOfEachCategoryInItsOwnWords)
 {
     EXPECT_EQ(kKorean.categoryName(CleanupCategory::customFolder), "사용자 지정 폴더");

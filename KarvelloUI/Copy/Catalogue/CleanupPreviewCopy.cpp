@@ -1,6 +1,7 @@
 #include "KarvelloUI/Copy/CleanupCopy.h"
 
 #include <fmt/ranges.h>
+#include <ranges>
 #include <vector>
 
 namespace KarvelloUI {
@@ -72,10 +73,9 @@ std::string CleanupCopy::confidenceCountText(CleanupSafety safety, std::int64_t 
 
 std::string CleanupCopy::cleanupPreviewConfirmationSuffix(const CleanupSelectionPreview& preview) const
 {
-    std::vector<std::string> categories;
-    for (const CleanupPreviewCategorySummary& summary : preview.categorySummaries) {
-        categories.push_back(categoryName(summary.category));
-    }
+    const auto categories = preview.categorySummaries
+        | std::views::transform(
+            [this](const CleanupPreviewCategorySummary& summary) { return categoryName(summary.category); });
     return sentence("미리보기: {} ({}). 정리는 항목을 휴지통으로 이동하기만 합니다.",
         "Preview: {} ({}). Cleanup moves items to Trash only.",
         cleanupPreviewConfidenceSummary(preview.safetyBreakdown), fmt::format("{}", fmt::join(categories, ", ")));

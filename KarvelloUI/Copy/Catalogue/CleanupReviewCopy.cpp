@@ -1,7 +1,7 @@
 #include "KarvelloUI/Copy/CleanupCopy.h"
 
 #include <fmt/ranges.h>
-#include <vector>
+#include <ranges>
 
 namespace KarvelloUI {
 
@@ -43,10 +43,8 @@ std::string CleanupCopy::cleanupReviewProfileName(CleanupReviewProfileID profile
 std::string CleanupCopy::cleanupReviewProfileSummary(
     CleanupScanMode mode, std::span<const CleanupCategory> categories, std::int64_t ignoredCount) const
 {
-    std::vector<std::string> names;
-    for (const CleanupCategory category : categories) {
-        names.push_back(categoryName(category));
-    }
+    const auto names =
+        categories | std::views::transform([this](CleanupCategory category) { return categoryName(category); });
     return counted(ignoredCount, "{} 스캔 · {} · 무시하거나 미룬 항목 {}개 반영",
         "{} scan · {} · respects {} ignored/snoozed item", "{} scan · {} · respects {} ignored/snoozed items",
         scanModeName(mode), fmt::format("{}", fmt::join(names, ", ")), ignoredCount);

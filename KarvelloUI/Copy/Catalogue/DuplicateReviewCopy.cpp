@@ -70,6 +70,7 @@ std::string KarvelloCopy::duplicateKeeperRecommendationSummary(
     const DuplicateKeeperRecommendation& recommendation) const
 {
     std::vector<std::string> reasons;
+    reasons.reserve(recommendation.reasons.size());
     for (const auto reason : recommendation.reasons) {
         reasons.push_back(duplicateKeeperReasonName(reason));
     }

@@ -13,7 +13,7 @@ std::string CleanupCopy::cleanupReviewCadenceStatus(
 {
     switch (kind) {
     case CleanupReviewCadenceStatusKind::disabled:
-        return text("정기 검토가 꺼져 있습니다.", "Review cadence is off.");
+        return text("검토 주기가 꺼져 있습니다.", "Review cadence is off.");
     case CleanupReviewCadenceStatusKind::notStarted:
         return text(
             "검토를 한 번 마치면 다음 알림이 계산됩니다.", "Complete one review to calculate the next reminder.");

@@ -14,7 +14,7 @@ std::string KarvelloCopy::smartCleanupOpenSectionCTA(std::string_view sectionTit
 
 std::string KarvelloCopy::smartCleanupLowDiskBody(std::int64_t freeBytes, std::string_view sectionTitle) const
 {
-    return sentence("남은 공간이 {}입니다. ‘{}’에서 큰 후보부터 검토해 보세요.",
+    return sentence("여유 공간이 {}입니다. ‘{}’에서 큰 후보부터 검토해 보세요.",
         "Free space is {}. Start by reviewing larger candidates in {}.", byteSize(freeBytes), sectionTitle);
 }
 

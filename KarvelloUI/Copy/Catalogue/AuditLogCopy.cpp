@@ -42,8 +42,8 @@ std::string CleanupCopy::auditLogExportPanelMessage() const
 
 std::string CleanupCopy::auditLogExportFailedMessage(std::string_view reason) const
 {
-    return sentence(
-        "Karvello가 정리 기록을 저장하지 못했습니다: {}", "Karvello could not save the cleanup history: {}", reason);
+    return around(
+        reason, "Karvello가 정리 기록을 저장하지 못했습니다: {}", "Karvello could not save the cleanup history: {}");
 }
 
 std::string CleanupCopy::auditOperationName(CleanupAuditOperation operation) const

@@ -65,7 +65,6 @@ std::string KarvelloCopy::duplicateKeeperReasonName(DuplicateKeeperRecommendatio
     return {};
 }
 
-// Not joined by commas: a sentence with a comma in it is taken by the shape of two parts with a comma between them.
 std::string KarvelloCopy::duplicateKeeperRecommendationSummary(
     const DuplicateKeeperRecommendation& recommendation) const
 {
@@ -74,7 +73,7 @@ std::string KarvelloCopy::duplicateKeeperRecommendationSummary(
     for (const auto reason : recommendation.reasons) {
         reasons.push_back(duplicateKeeperReasonName(reason));
     }
-    return sentence("유지할 파일 추천 이유: {}", "Keeper recommendation: {}", joinedParts(reasons));
+    return around(joinedParts(reasons), "유지할 파일 추천 이유: {}", "Keeper recommendation: {}");
 }
 
 } // namespace KarvelloUI

@@ -180,7 +180,7 @@ std::string KarvelloCopy::iOSStorageChecklistProgress(std::int64_t reviewedCount
 
 std::string KarvelloCopy::iOSStorageChecklistStatusPickerLabel(std::string_view stepTitle) const
 {
-    return sentence("{} 상태", "{} status", stepTitle);
+    return around(stepTitle, "{} 상태", "{} status");
 }
 
 std::string KarvelloCopy::iOSStorageChecklistStatusAccessibilityHint() const

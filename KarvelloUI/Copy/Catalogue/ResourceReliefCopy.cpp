@@ -90,19 +90,19 @@ std::string KarvelloCopy::resourceReliefResultText(const ResourceReliefActionRes
     const std::string& name = result.displayName;
     switch (result.status) {
     case ResourceReliefActionStatus::requestSent:
-        return sentence("{}에 일반 종료 요청을 보냈습니다.", "Sent a normal quit request to {}.", name);
+        return around(name, "{}에 일반 종료 요청을 보냈습니다.", "Sent a normal quit request to {}.");
     case ResourceReliefActionStatus::failedToSend:
-        return sentence("{}에 종료 요청을 보내지 못했습니다.", "Could not send a quit request to {}.", name);
+        return around(name, "{}에 종료 요청을 보내지 못했습니다.", "Could not send a quit request to {}.");
     case ResourceReliefActionStatus::unavailableInSandbox:
-        return sentence("샌드박스 제한 때문에 {} 앱을 직접 종료할 수 없습니다.",
-            "Sandbox limits prevent directly quitting {}.", name);
+        return around(name, "샌드박스 제한 때문에 {} 앱을 직접 종료할 수 없습니다.",
+            "Sandbox limits prevent directly quitting {}.");
     case ResourceReliefActionStatus::alreadyExited:
-        return sentence("{} 앱은 이미 종료되었습니다.", "{} already exited.", name);
+        return around(name, "{} 앱은 이미 종료되었습니다.", "{} already exited.");
     case ResourceReliefActionStatus::isProtected:
-        return sentence("{} 앱은 Karvello 정책에 따라 보호됩니다.", "{} is protected by Karvello policy.", name);
+        return around(name, "{} 앱은 Karvello 정책에 따라 보호됩니다.", "{} is protected by Karvello policy.");
     case ResourceReliefActionStatus::staleCandidate:
-        return sentence("{} 앱의 상태가 바뀌어 종료 요청을 건너뛰었습니다.",
-            "{} changed state, so the quit request was skipped.", name);
+        return around(name, "{} 앱의 상태가 바뀌어 종료 요청을 건너뛰었습니다.",
+            "{} changed state, so the quit request was skipped.");
     }
     return {};
 }

@@ -136,7 +136,7 @@ std::string KarvelloCopy::memoryAnalysisPrimaryAction(LoadLevel level) const
 
 std::string KarvelloCopy::systemTrendName(std::string_view metricName) const
 {
-    return sentence("{} 추이", "{} trend", metricName);
+    return around(metricName, "{} 추이", "{} trend");
 }
 
 std::string KarvelloCopy::systemTrendSubtitle(std::int64_t sampleCount) const

@@ -45,8 +45,8 @@ TEST(AppCacheContextCopy, CallsTheOwnerOfAGroupAGuess)
 TEST(AppCacheContextCopy, TranslatesPartByPart)
 {
     EXPECT_EQ(KarvelloCopy{AppLanguage::german}.appCacheContextSummary(
-                  AppCacheContext::seed(AppCacheContainerKind::groupContainer, "group.notes")),
-        "Gruppenkennung group.notes · unbekannt, ob geöffnet");
+                  AppCacheContext::seed(AppCacheContainerKind::groupContainer, "group.notes, one")),
+        "Gruppenkennung group.notes, one · unbekannt, ob geöffnet");
 }
 
 } // namespace

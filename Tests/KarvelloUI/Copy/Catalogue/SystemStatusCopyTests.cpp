@@ -80,6 +80,10 @@ TEST(ResourceReliefCopy, TellsWhatBecameOfARequest)
     result.displayName = "Notes";
     result.status = ResourceReliefActionStatus::requestSent;
     EXPECT_EQ(kEnglish.resourceReliefResultText(result), "Sent a normal quit request to Notes.");
+    result.displayName = "Notes, Inc. {0}\xff";
+    EXPECT_EQ(KarvelloCopy{AppLanguage::french}.resourceReliefResultText(result),
+        "Demande de fermeture normale envoyée à Notes, Inc. {0}\xff.");
+    result.displayName = "Notes";
     result.status = ResourceReliefActionStatus::staleCandidate;
     EXPECT_EQ(kEnglish.resourceReliefResultText(result), "Notes changed state, so the quit request was skipped.");
     EXPECT_EQ(kKorean.resourceReliefResultText(result), "Notes 앱의 상태가 바뀌어 종료 요청을 건너뛰었습니다.");

@@ -52,20 +52,20 @@ std::string CleanupCopy::homeAccessPanelMessage() const
 
 std::string CleanupCopy::homeAccessBookmarkLoadFailedMessage(std::string_view reason) const
 {
-    return sentence("홈 폴더 접근 책갈피를 불러오지 못했습니다. 저장된 책갈피를 백업하고 초기화했습니다: {}",
-        "Could not load home folder access bookmark. The saved bookmark was backed up and reset: {}", reason);
+    return around(reason, "홈 폴더 접근 책갈피를 불러오지 못했습니다. 저장된 책갈피를 백업하고 초기화했습니다: {}",
+        "Could not load home folder access bookmark. The saved bookmark was backed up and reset: {}");
 }
 
 std::string CleanupCopy::homeAccessBookmarkSaveFailedMessage(std::string_view reason) const
 {
-    return sentence(
-        "홈 폴더 접근 책갈피를 저장하지 못했습니다: {}", "Could not save home folder access bookmark: {}", reason);
+    return around(
+        reason, "홈 폴더 접근 책갈피를 저장하지 못했습니다: {}", "Could not save home folder access bookmark: {}");
 }
 
 std::string CleanupCopy::homeAccessBookmarkResolveFailedMessage(std::string_view reason) const
 {
-    return sentence("홈 폴더 접근 책갈피를 확인할 수 없어 지웠습니다. 접근을 다시 허용하세요: {}",
-        "Could not resolve home folder access bookmark and cleared it. Grant access again: {}", reason);
+    return around(reason, "홈 폴더 접근 책갈피를 확인할 수 없어 지웠습니다. 접근을 다시 허용하세요: {}",
+        "Could not resolve home folder access bookmark and cleared it. Grant access again: {}");
 }
 
 std::string CleanupCopy::homeAccessBookmarkStaleMessage() const
@@ -76,14 +76,13 @@ std::string CleanupCopy::homeAccessBookmarkStaleMessage() const
 
 std::string CleanupCopy::customScanFoldersLoadFailedMessage(std::string_view reason) const
 {
-    return sentence("사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: {}",
-        "Could not load custom scan folders. The saved folder list was backed up and reset: {}", reason);
+    return around(reason, "사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: {}",
+        "Could not load custom scan folders. The saved folder list was backed up and reset: {}");
 }
 
 std::string CleanupCopy::customScanFoldersSaveFailedMessage(std::string_view reason) const
 {
-    return sentence(
-        "사용자 지정 스캔 폴더를 저장하지 못했습니다: {}", "Could not save custom scan folders: {}", reason);
+    return around(reason, "사용자 지정 스캔 폴더를 저장하지 못했습니다: {}", "Could not save custom scan folders: {}");
 }
 
 } // namespace KarvelloUI

@@ -156,6 +156,8 @@ TEST(CleanupCopy, TranslatesASentenceAroundAPartWithACommaInIt)
 {
     EXPECT_EQ(kGerman.ignoredCandidateDurationDescription(CleanupIgnoreDuration::oneDay, "28.11.2026, 10:30"),
         "Lokal aus der Überprüfung ausgeblendet bis: 28.11.2026, 10:30.");
+    EXPECT_EQ(kGerman.cleanupIgnoreSaveFailedMessage("a, b"),
+        "Die ignorierten Kandidaten konnten nicht gesichert werden: a, b");
     EXPECT_EQ(kGerman.restoreCenterItemSubtitle(1024, "/a, b"), "1 KB · Ort im Papierkorb: /a, b");
     EXPECT_THAT(kGerman.restoreCenterLedgerNote(CleanerCore::CleanupAuditSource::cleanupDashboard, "1, 2"),
         testing::StartsWith("Geladen aus dem Verlauf „Bereinigungs-Dashboard“, Datum: 1, 2. "));

@@ -67,8 +67,15 @@ RESTORE = "CleanerCore/Cleaning/TrashRestoreService.cpp"
 STORE = "CleanerCore/Audit/CleanupAuditStore.cpp"
 PROTECTED = "CleanerCore/Safety/DefaultProtectedPaths.cpp"
 
+PROTECTED_PATHS = (
+    "/ /System /Library /Applications /bin /sbin /usr /etc /dev /Volumes /Users/Shared /private/etc /private/tmp "
+    "/private/var/db /private/var/root /private/var/vm /private/var/log /boot /opt /srv /lib /lib32 /lib64 /libx32 /proc "
+    "/sys /run /snap /nix /var/lib /var/log /var/cache /var/spool /var/mail /mnt /media /root /tmp /var/tmp").split()
+FOREIGN_FILE_SYSTEMS = "nfs nfs4 cifs smb3 smbfs 9p ceph afs autofs ecryptfs davfs fuse".split()
+
 # Name, file, a text that stands there once, and what stands there in the mutant. An expression becomes another, a
-# statement (it ends with a semicolon) becomes others.
+# statement (it ends with a semicolon) becomes others. Where the text alone stands there more than once, more of what is
+# around it is given, and the text itself stands between « and ».
 REPLACEMENTS = [
     ("a move replaces", MOVER, "RENAME_NOREPLACE", "0"),
     ("mounts are looked for at the given path", MOVER, "FileURL::entry(*path, itemName, DirectoryHint::isFolder).path()", "item.path()"),
@@ -76,6 +83,7 @@ REPLACEMENTS = [
     ("the item stays where it came to after a failed restore", MOVER,
      "moveWithoutReplacing((*folder)->descriptor(), destinationName, files, name) == 0", "true"),
     ("what is wrong is not moved back", MOVER, "moveBack(**trash, *name, **folder, item)", "true"),
+    ("the record stays when a move fails", MOVER, "«std::ignore = trash.removeRecord(name);»\n        if (moveError", ""),
     ("the record stays after a restore", MOVER, "std::ignore = trash->removeRecord(name);", ""),
     ("the record stays after a removal", MOVER, "std::ignore = trash.removeRecord(arrival->name);", ""),
     ("a failed removal leaves the item in the Trash", MOVER,
@@ -83,6 +91,8 @@ REPLACEMENTS = [
     ("moves are not made durable", MOVER, "m_unsettled.emplace(trash.get(), trash);", ""),
     ("a Trash that was replaced stays known", MOVER, "known.reset();", ""),
     ("the Trash is made for all", FOLDER, "mkdirat(parent, name, kPrivateFolder)", "mkdirat(parent, name, 0755)"),
+    ("records are for all", FOLDER, "record.text(), «kPrivateFile»", "0644"),
+    ("a record may be of any size", FOLDER, "recordName, «kMaximumRecordBytes»", "std::size_t{1} << 40"),
     ("leftovers stay", FOLDER, "trash->removeLeftovers();", ""),
     ("the shared Trash may be a link", PLACES, "lstat(folder.path().c_str(), &found)", "stat(folder.path().c_str(), &found)"),
     ("links below the root are followed", ANCHOR, "RESOLVE_NO_SYMLINKS", "0"),
@@ -101,10 +111,24 @@ REPLACEMENTS = [
     ("reading waits for a writer", FILE, "O_NONBLOCK", "0"),
     ("an unfinished file replaces another", FILE, "RENAME_NOREPLACE", "0"),
     ("an unfinished file stays", FILE, "unlinkat(folder, temporaryName.c_str(), 0);", ""),
+    ("a lock file may be a link", LOCK, "open(url.path().c_str(), «flags», 0600)", "flags & ~O_NOFOLLOW"),
     ("a file that could not be replaced leaves one behind", ATOMIC, "unlinkat(m_folder, m_name.c_str(), 0);", ""),
     ("the contents are not made durable", ATOMIC, "fsync(m_descriptor.get()) == 0", "true"),
     ("the log loses what could not be read", STORE, "preserveAuditLog(reason);", ""),
-    ("the log loses what is no log", STORE, "preserveAuditLog(kUndecodable);\n        return {};", "return {};"),
+    ("the log loses what is no log", STORE, "«preserveAuditLog(kUndecodable);»\n        return {};", ""),
+    ("the log loses what is lossy", STORE, "«preserveAuditLog(kUndecodable);»\n    }\n    return std::move", ""),
+]
+
+# Every path that is protected, and every file system that has no Trash.
+REPLACEMENTS += [
+    (f"{path} is not protected", PROTECTED, "«paths.emplace(literal);\n        paths.insert(resolvedPath(Platform::FileURL::folder(literal), fileManager));»",
+     f'if (literal != "{path}") {{ paths.emplace(literal); '
+     "paths.insert(resolvedPath(Platform::FileURL::folder(literal), fileManager)); }")
+    for path in PROTECTED_PATHS
+] + [
+    (f"{system} has a Trash", PLACES, "std::ranges::find(kForeignFileSystems, type) != kForeignFileSystems.end()",
+     f'type != "{system}" && std::ranges::find(kForeignFileSystems, type) != kForeignFileSystems.end()')
+    for system in FOREIGN_FILE_SYSTEMS
 ]
 
 # Checks that stand in for each other: the first is not noticed alone, all of them together are. One that stands alone here
@@ -118,9 +142,10 @@ NO_CHECKS = {}
 def sites_in(file, source):
     sites = []
     for name, where, text, replacement in REPLACEMENTS:
-        if where == file and replacement is not None:
-            if source.count(text) != 1:
-                raise SystemExit(f"{name}: {file} holds the text {source.count(text)} times")
-            start = source.index(text)
+        if where == file:
+            around, text = text.replace("«", "").replace("»", ""), text[text.find("«") + 1:].split("»")[0]
+            if source.count(around) != 1:
+                raise SystemExit(f"{name}: {file} holds the text {source.count(around)} times")
+            start = source.index(text, source.index(around))
             sites.append(Replacement(name, start, start + len(text), text, replacement))
     return sites

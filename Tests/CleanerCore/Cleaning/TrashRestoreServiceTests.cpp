@@ -183,6 +183,17 @@ TEST_F(TrashRestoreServiceTest, SeesALinkInTheTrashThatItCannotReadAsAResource)
     expectKept(Kind::symbolicLink, trashed());
 }
 
+TEST_F(TrashRestoreServiceTest, DoesNotTakeAFileForALinkThatItCannotReadAsAResource)
+{
+    FaultyFileManager faulty(m_posix);
+    faulty.fail({.call = FileManagerCall::resourceValues,
+        .systemError = EIO,
+        .duration = FaultDuration::fromThenOn,
+        .path = trashed().path()});
+    m_fileManager = &faulty;
+    expectKept(Kind::unreadableAttributes, trashed());
+}
+
 TEST_F(TrashRestoreServiceTest, RefusesAnItemOutsideOfEveryTrashEvenIfItsRecordPointsThere)
 {
     m_tree.add("home/Documents/a size=10");

@@ -49,6 +49,21 @@ TEST_F(TrashFolder, IsNotOpenedInPartWithoutBeingAskedToMakeIt)
     EXPECT_FALSE(stands(info()));
 }
 
+TEST_F(TrashFolder, MakesNoFolderAboveItWithoutBeingAskedTo)
+{
+    const auto missing = m_tree.url("other/share/Trash/");
+    EXPECT_EQ(Platform::TrashFolder::open(missing, std::nullopt, MissingTrash::refuse).error(), ENOENT);
+    EXPECT_FALSE(stands(m_tree.path("other")));
+}
+
+TEST_F(TrashFolder, LeavesAnEmptyFolderAloneThatIsNotSafeToUse)
+{
+    m_tree.add("data/Trash/");
+    ASSERT_EQ(chmod(m_tree.path("data/Trash").c_str(), 0777), 0);
+    EXPECT_EQ(open().error(), EPERM);
+    EXPECT_TRUE(stands(m_tree.path("data/Trash")));
+}
+
 TEST_F(TrashFolder, NeverReplacesARecord)
 {
     const auto trash = open();

@@ -55,7 +55,8 @@ TEST_F(TrashPlaces, IsFirstInTheSharedFolderThatIsSticky)
 
 TEST_F(TrashPlaces, IsNowhereOnAVolumeOfAnotherMachineOrProgram)
 {
-    for (const auto* type : {"nfs", "nfs4", "cifs", "smb3", "9p", "fuse", "fuse.sshfs", "fuse.gvfsd-fuse", "autofs"}) {
+    for (const auto* type : {"nfs", "nfs4", "cifs", "smb3", "smbfs", "9p", "ceph", "afs", "autofs", "ecryptfs", "davfs",
+             "fuse", "fuse.sshfs", "fuse.gvfsd-fuse"}) {
         EXPECT_THAT(places(type), IsEmpty()) << type;
     }
 }

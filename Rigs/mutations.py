@@ -131,12 +131,91 @@ REPLACEMENTS += [
     for system in FOREIGN_FILE_SYSTEMS
 ]
 
-# Checks that stand in for each other: the first is not noticed alone, all of them together are. One that stands alone here
-# is doubled by what is no condition; the reason says by what.
-DOUBLED = []
+# Checks that stand in for each other: the first is not noticed alone, all of them together are. Each is written as its
+# file and its name; the end of a long name may be left out.
+SAFETY, FILES = "CleanerCore/Safety/", "Platform/Files/"
+DOUBLED = (
+    ((SAFETY + "CleanupEligibilityPolicy.cpp: CleanupEligibilityPolicy::CleanupEligibilityPolicy: location.rootURL.isRoot() -> false",
+      SAFETY + "CleanupEligibilityPolicy.cpp: CleanupEligibilityPolicy::CleanupEligibilityPolicy: !safety.isScanRootSafe(location.rootURL, fileManager) -> false"),
+     "isScanRootSafe refuses the root folder, too"),
+    ((SAFETY + 'ScanRootSafety.cpp: ScanRootSafety::isScanRootSafe: rootKey == "/" -> false',
+      SAFETY + "ScanRootSafety.cpp: ScanRootSafety::isScanRootSafe: std::any_of(m_protectedPaths.begin(), m_protectedPaths.end(), isInProtectedPath) || std::any_of(m_protectedPaths.begin(), m_protectedPaths.end(), holdsProtectedPath) || std::any_of(m_sharedFolders.begin(), m_sharedFolders.end(), holdsProtectedPath) -> false"),
+     "the root folder holds protected paths"),
+    ((SAFETY + "ScanRootSafety.cpp: ScanRootSafety::isScanRootSafe: isSymbolicLink(url, fileManager).value_or(true) -> false",
+      SAFETY + "SymbolicLinkComponents.cpp: rejectSymbolicLinkComponents: values->isSymbolicLink.value_or(true) -> false"),
+     "the last component is among those that rejectSymbolicLinkComponents looks at"),
+    ((SAFETY + "ScanRootSafety.cpp: isUnsafeUsersRoot: isShared(rootKey) -> false",
+      SAFETY + "ScanRootSafety.cpp: isUnsafeUsersRoot: isShared(homeKey) -> false"),
+     "the shared folder is not in the home, and a shared home is refused"),
+    ((SAFETY + "ScanRootSafety.cpp: isUnsafeUsersRoot: isShared(homeKey) -> false",
+      SAFETY + "ScanRootSafety.cpp: isUnsafeUsersRoot: isShared(rootKey) -> false"),
+     "what lies in a shared home is shared itself, and refused as that"),
+    ((RESTORE + ": isSymbolicLinkEntry: values && values->isSymbolicLink -> false",
+      RESTORE + ": isSymbolicLinkEntry: attributes && attributes->type == Platform::FileType::symbolicLink -> false"),
+     "the attributes tell a link, too"),
+    ((RESTORE + ": Restore::validateRestoreSource: roots.empty() -> false",
+      SAFETY + "SafePathPolicy.cpp: SafePathPolicy::validate: root == nullptr -> false"),
+     "a policy without roots allows nothing"),
+    ((FOLDER + ": TrashFolder::removeLeftovers: !items->contains(name.substr(0, name.size() - TrashRecord::kSuffix.size())) -> true",
+      FOLDER + ": TrashFolder::isLeftoverRecord: item || item.error() != ENOENT -> false"),
+     "the item is looked for by its name before, and in the listing after"),
+    ((FOLDER + ": TrashFolder::isLeftoverRecord: item || item.error() != ENOENT -> false",
+      FOLDER + ": TrashFolder::removeLeftovers: !items->contains(name.substr(0, name.size() - TrashRecord::kSuffix.size())) -> true"),
+     "the item is looked for by its name before, and in the listing after"),
+    ((FOLDER + ": TrashFolder::isLeftoverRecord: item -> false",
+      FOLDER + ": TrashFolder::removeLeftovers: !items->contains(name.substr(0, name.size() - TrashRecord::kSuffix.size())) -> true"),
+     "the item is looked for in the listing after"),
+)
 
-# Conditions whose absence harms nothing: the reason stands beside each.
-NO_CHECKS = {}
+# Conditions whose absence changes no verdict: what they save, or what else gives the same answer.
+SHORTCUT = "saves work, the answer is the same"
+NO_CHECKS = {
+    **dict.fromkeys((
+        SAFETY + "CleanupEligibilityPolicy.cpp: CleanupEligibilityPolicy::allowedPaths: urls.empty() -> false",
+        SAFETY + "CleanupValidationOptions.cpp: liesInAny: folders.empty() -> false",
+        SAFETY + "NoTouchPathPolicy.cpp: judged: placeOf(bits) != Place::elsewhere -> true",
+        SAFETY + "NoTouchPathPolicy.cpp: judged: (bits & kRefused) != 0 -> false",
+        SAFETY + "NoTouchPathPolicy.cpp: NoTouchPathPolicy::State::descend: (m_bits & kRefused) != 0 -> false",
+        SAFETY + "NoTouchPathPolicy.cpp: NoTouchPathPolicy::State::descend: (tokens.name | tokens.ending) == 0 && isPlain(m_bits) -> false",
+        SAFETY + "NoTouchRuleSet.cpp: mayGainASCII: !Platform::ASCII::isASCII(name) -> true",
+        SAFETY + 'NoTouchRuleSet.cpp: mayGainASCII: (name.find("\\xE2\\x84\\xAA") != std::string_view::npos || name.find("\\xC4\\xB0") != std::string_view::npos) -> true',
+        SAFETY + 'NoTouchRuleSet.cpp: mayGainASCII: !Platform::ASCII::isASCII(name) && (name.find("\\xE2\\x84\\xAA") != std::string_view::npos || name.find("\\xC4\\xB0") != std::string_view::npos) -> true',
+        SAFETY + "NoTouchRuleSet.cpp: tokensOfFolded: parent != kNoToken -> true",
+        SAFETY + "NoTouchRuleSet.cpp: tokensOfFolded: kStandsBeforeNumber[parent] -> true",
+        SAFETY + "NoTouchRuleSet.cpp: tokensOf: mayGainASCII(component) -> true",
+        SAFETY + 'ScanRootSafety.cpp: usersFolders: resolved != "/home" -> true',
+        SAFETY + "SymbolicLinkComponents.cpp: rejectSymbolicLinkComponents: url.isRoot() -> false",
+        "CleanerCore/Cleaning/CleanupValidationSnapshot.cpp: add: !isNewest && (!isPackage || m_options.includesPackageDescendants) -> false",
+        "CleanerCore/Cleaning/CleanupValidationSnapshot.cpp: add: !isPackage -> false",
+        "CleanerCore/Cleaning/CleanupValidationSnapshot.cpp: add: m_options.includesPackageDescendants -> false",
+        STORE + ": CleanupAuditStore::storageReadyEntriesAndData: data->size() > kMaximumBytes -> true",
+        STORE + ": CleanupAuditStore::loadEntries: loaded->state == LoadedState::needsRewriting -> true (no. 2)",
+        STORE + ": CleanupAuditStore::readForLoadUnlocked: !bytes->empty() -> true",
+        MOVER + ": LinuxTrash::obstacle: values->isDirectory.value_or(true) -> true",
+        MOVER + ": LinuxTrash::moveUnderFreeName: attempt < kNumberedNames -> true",
+        MOVER + ": LinuxTrash::opened: known && known->isStillInPlace() -> false",
+        MOVER + ": LinuxTrash::opened: found -> false",
+        FOLDER + ": TrashFolder::beginUse: m_uses == 0 -> true",
+        FOLDER + ": TrashFolder::removeLeftovers: suspects.empty() -> false",
+    ), SHORTCUT),
+    SAFETY + 'NoTouchRuleSet.cpp: mayGainASCII: name.find("\\xC4\\xB0") != std::string_view::npos -> false':
+        "no name of the tables goes on behind an i that a point could follow",
+    "CleanerCore/Cleaning/CleanupValidationSnapshot.cpp: add: values.isDirectory.value_or(false) -> true":
+        "a file holds nothing that could be left out",
+    STORE + ": CleanupAuditStore::loadEntries: limit < 1 -> false": "`limited` keeps nothing then",
+    STORE + ": CleanupAuditStore::append: limit >= 1 -> true": "`limited` keeps nothing then",
+    STORE + ": countThatFits: !alone -> false": "what is encoded with others is encoded alone",
+    STORE + ": CleanupAuditStore::readAuditDataUnlocked: values.error().kind == FileErrorKind::noSuchFile -> false":
+        "what is not there cannot be moved aside",
+    ANCHOR + ": the way may lead out of the root": "paths are standardised and links are not followed, so no way leads up",
+    ANCHOR + ": links of /proc are followed": "RESOLVE_NO_SYMLINKS implies it, openat2(2)",
+    OPEN + ": a walk follows links of /proc": "RESOLVE_NO_SYMLINKS implies it, openat2(2)",
+    MOVER + ": a Trash that was replaced stays known": "it is asked again each time whether it is in its place",
+    MOVER + ": LinuxTrash::trashDirectories: descriptor.isOpen() -> true": "what is not open is on no mount",
+    MOVER + ": LinuxTrash::homeTrashServes: place.isRoot() -> false": "the root folder is always there",
+    MOUNTS + ": parsed: bytes->empty() -> false": "a stream without bytes cannot be made, and that is an error as well",
+    FOLDER + ": isSound: S_ISDIR(found.st_mode) -> true": "only a folder is opened, and only the same item counts later",
+}
 
 
 def sites_in(file, source):

@@ -1,12 +1,16 @@
 #include "Platform/Files/FileLock.h"
 
+#include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/FailingSystemCall.h"
 #include "Tests/Support/TemporaryTree.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <optional>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -108,6 +112,14 @@ TEST_F(FileLockTest, TakesNothingButARegularFile)
         m_tree.remove("lock");
     }
     EXPECT_FALSE(std::filesystem::exists(m_tree.path("target")));
+}
+
+TEST_F(FileLockTest, IsUnavailableWhereTheVolumeKnowsNoLocks)
+{
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_flock, .systemError = ENOLCK});
+        EXPECT_EQ(failure(milliseconds(60'000)), FileLockFailure::unavailable);
+    });
 }
 
 } // namespace Platform

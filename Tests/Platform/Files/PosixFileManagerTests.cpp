@@ -1,6 +1,9 @@
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/FailingSystemCall.h"
 #include "Tests/Support/TemporaryTree.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -9,6 +12,7 @@
 #include <iterator>
 #include <sstream>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 
 namespace {
 
@@ -263,6 +267,17 @@ TEST_F(PosixFileManagerTests, LeavesNothingBehindWhenAWriteFails)
     ASSERT_FALSE(missing.has_value());
     EXPECT_EQ(
         missing.error().localizedDescription(), "The file “file” couldn’t be saved because its folder doesn’t exist.");
+}
+
+TEST_F(PosixFileManagerTests, KeepsTheOldFileWhereTheNewOneCannotBeMadeDurable)
+{
+    const TemporaryTree tree(R"(file text="old")");
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_fsync, .systemError = EIO});
+        EXPECT_FALSE(m_fileManager.writeAtomically("new", tree.url("file")));
+    });
+    EXPECT_EQ(contents(tree.path("file")), "old");
+    EXPECT_EQ(entryCount(tree.root().path()), 1U);
 }
 
 } // namespace

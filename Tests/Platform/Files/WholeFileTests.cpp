@@ -2,9 +2,11 @@
 
 #include "Platform/Files/OpenFolder.h"
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -101,6 +103,67 @@ TEST_F(WholeFile, WritesAllOrSaysWhyNot)
     EXPECT_EQ(Platform::writeAll(reader.get(), "abc"), EBADF);
     const Platform::FileDescriptor full(open("/dev/full", O_WRONLY | O_CLOEXEC));
     EXPECT_EQ(Platform::writeAll(full.get(), "abc"), ENOSPC);
+}
+
+/// The volume knows no files without a name.
+TestSupport::SystemCallFault withoutNamelessFiles(int systemError)
+{
+    constexpr std::uint32_t onlyOfNameless = O_TMPFILE & ~O_DIRECTORY;
+    return {.number = SYS_openat,
+        .systemError = systemError,
+        .argument = 2,
+        .mask = onlyOfNameless,
+        .value = onlyOfNameless};
+}
+
+TEST_F(WholeFile, IsThereWithAllItsBytesWhereEveryFileHasAName)
+{
+    for (const int systemError : {EOPNOTSUPP, EISDIR}) {
+        m_tree.remove("file");
+        TestSupport::inChildProcess([&] {
+            TestSupport::failSystemCall(withoutNamelessFiles(systemError));
+            EXPECT_EQ(add("file", "first"), 0);
+            EXPECT_EQ(add("file", "second"), EEXIST);
+        });
+        EXPECT_EQ(contents(m_tree.path("file")), "first");
+        EXPECT_THAT(names(m_tree.root().path()), ElementsAre("file"));
+    }
+}
+
+TEST_F(WholeFile, IsNotMadeWhereTheVolumeRefusesIt)
+{
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall(withoutNamelessFiles(EROFS));
+        EXPECT_EQ(add("file", "bytes"), EROFS);
+    });
+    EXPECT_THAT(names(m_tree.root().path()), IsEmpty());
+}
+
+TEST_F(WholeFile, LeavesNothingUnfinishedWhereEveryFileHasAName)
+{
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall(withoutNamelessFiles(EOPNOTSUPP));
+        TestSupport::failSystemCall({.number = SYS_renameat2, .systemError = EIO});
+        EXPECT_EQ(add("file", "bytes"), EIO);
+    });
+    EXPECT_THAT(names(m_tree.root().path()), IsEmpty());
+}
+
+TEST_F(WholeFile, GivesUpOnACallThatIsInterruptedForEver)
+{
+    write(m_tree.path("file"), "old");
+    TestSupport::inChildProcess([&] {
+        const Platform::FileDescriptor file(open(m_tree.path("file").c_str(), O_WRONLY | O_CLOEXEC));
+        TestSupport::failSystemCall({.number = SYS_write,
+            .systemError = EINTR,
+            .argument = 0,
+            .mask = ~0U,
+            .value = static_cast<std::uint32_t>(file.get())});
+        EXPECT_EQ(Platform::writeAll(file.get(), "new"), EINTR);
+        TestSupport::failSystemCall({.number = SYS_read, .systemError = EINTR});
+        EXPECT_EQ(read("file").error(), EINTR);
+    });
+    EXPECT_EQ(contents(m_tree.path("file")), "old");
 }
 
 } // namespace

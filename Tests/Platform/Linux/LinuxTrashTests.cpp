@@ -1,7 +1,10 @@
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
 #include <atomic>
+#include <cerrno>
 #include <set>
+#include <sys/syscall.h>
 #include <thread>
 
 namespace {
@@ -188,6 +191,24 @@ TEST_F(LinuxTrash, SettlesOnceAndWithNothingToSettle)
     trashed("home/Caches/data");
     EXPECT_TRUE(m_trash.settle());
     EXPECT_TRUE(m_trash.settle());
+}
+
+TEST_F(LinuxTrash, SaysWhenMovesCannotBeMadeDurable)
+{
+    m_tree.add("home/Caches/data size=1");
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_syncfs, .systemError = EIO});
+        trashed("home/Caches/data");
+        EXPECT_FALSE(m_trash.settle());
+        EXPECT_TRUE(m_trash.settle());
+    });
+}
+
+TEST_F(LinuxTrash, NamesAFileAsAFileAndAFolderAsAFolder)
+{
+    m_tree.add("home/Caches/data size=1\nhome/Caches/folder/");
+    EXPECT_FALSE(trashed("home/Caches/data").hasDirectoryPath());
+    EXPECT_TRUE(trashed("home/Caches/folder/").hasDirectoryPath());
 }
 
 TEST_F(LinuxTrash, NamesTheHomesTrashOnlyOnceItIsThere)

@@ -30,7 +30,9 @@ HEAD = """# The safety checks, and the test that notices each one's absence
 
 Each line is one change to the sources that decide about somebody's files: a condition that always holds or never does, a
 part of one that is left out, a flag, a limit or a statement that is gone. Beside it stands the first test that failed with
-that change. A check that is not noticed alone says why. `Rigs/mutants --write docs/SAFETY-CHECKS.md` makes the list anew.
+that change. A check that is not noticed alone says why. `Rigs/mutants --write docs/SAFETY-CHECKS.md` makes the list anew;
+with `--quick` it leaves out the tests that take half a second or more, and a line says "no quick test" where only those, or
+no test, notice the change.
 """
 
 

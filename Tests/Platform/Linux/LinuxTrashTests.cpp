@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <fmt/format.h>
 #include <set>
 #include <sys/file.h>
 #include <sys/syscall.h>
@@ -304,6 +305,19 @@ TEST_F(LinuxTrash, LetsOneOfTwoProcessesHaveTheItem)
     EXPECT_EQ(result.error().kind, FileErrorKind::noSuchFile);
     EXPECT_THAT(names(filesFolder()), ElementsAre("data"));
     EXPECT_THAT(names(infoFolder()), SizeIs(1));
+}
+
+TEST_F(LinuxTrash, FindsAFreeNameWhereManyNumbersAreTaken)
+{
+    m_tree.add(R"(
+        home/data/Trash/files/
+        home/data/Trash/info/data.trashinfo
+        home/Caches/data text="new"
+    )");
+    for (int number = 2; number <= 70; ++number) {
+        write(fmt::format("{}/data.{}.trashinfo", infoFolder(), number), "");
+    }
+    EXPECT_EQ(contents(trashed("home/Caches/data").path()), "new");
 }
 
 } // namespace

@@ -14,7 +14,6 @@ namespace {
 using namespace TrashTests;
 using Platform::MissingTrash;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::string_view kOurs = "[Trash Info]\nPath=/x\nDeletionDate=2026-01-01T00:00:00\nX-Karvello=1\n";
 constexpr std::string_view kForeign = "[Trash Info]\nPath=/x\nDeletionDate=2026-01-01T00:00:00\n";

@@ -9,6 +9,7 @@ namespace CleaningTests {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 using testing::SizeIs;
 using TestSupport::FileManagerCall;
 using TestSupport::SteppingFileManager;
@@ -61,6 +62,15 @@ TEST_F(CleaningServiceTest, IsNotCancelledByAStopDuringTheLastMove)
     const auto result = clean(candidates, CleaningMode::moveToTrash, source.get_token());
     EXPECT_THAT(result.cleanedItems, SizeIs(1));
     EXPECT_FALSE(result.wasCancelled);
+}
+
+TEST_F(CleaningServiceTest, TellsOfEachItemThatWasDealtWith)
+{
+    m_tree.add(kThreeItems);
+    const auto candidates = scan();
+    std::filesystem::remove_all(path("b"));
+    EXPECT_THAT(clean(candidates).failedItems, SizeIs(1));
+    EXPECT_THAT(m_progress, ElementsAre(Pair(1, 3), Pair(2, 3), Pair(3, 3)));
 }
 
 TEST_F(CleaningServiceTest, SettlesOnceAfterAllMoves)

@@ -10,6 +10,7 @@ namespace CleaningTests {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 using testing::SizeIs;
 using TestSupport::FaultDuration;
 using TestSupport::FaultyFileManager;
@@ -69,6 +70,14 @@ TEST_F(TrashRestoreServiceTest, PutsItemsBackWhereTheyWere)
     EXPECT_THAT(names(item("")), ElementsAre("a", "b"));
     EXPECT_TRUE(exists(path("a/x")));
     EXPECT_THAT(names(m_fakeTrash->folder()), IsEmpty());
+}
+
+TEST_F(TrashRestoreServiceTest, TellsOfEachItemThatWasDealtWith)
+{
+    m_tree.add("home/Caches/a size=1");
+    m_progress.clear();
+    EXPECT_THAT(restore(m_items).failedItems, SizeIs(1));
+    EXPECT_THAT(m_progress, ElementsAre(Pair(1, 2), Pair(2, 2)));
 }
 
 TEST_F(TrashRestoreServiceTest, StopsBetweenTwoItemsAndKeepsWhatWasDone)

@@ -159,12 +159,6 @@ DOUBLED = (
     ((FOLDER + ": TrashFolder::removeLeftovers: !items->contains(name.substr(0, name.size() - TrashRecord::kSuffix.size())) -> true",
       FOLDER + ": TrashFolder::isLeftoverRecord: item || item.error() != ENOENT -> false"),
      "the item is looked for by its name before, and in the listing after"),
-    ((FOLDER + ": TrashFolder::isLeftoverRecord: item || item.error() != ENOENT -> false",
-      FOLDER + ": TrashFolder::removeLeftovers: !items->contains(name.substr(0, name.size() - TrashRecord::kSuffix.size())) -> true"),
-     "the item is looked for by its name before, and in the listing after"),
-    ((FOLDER + ": TrashFolder::isLeftoverRecord: item -> false",
-      FOLDER + ": TrashFolder::removeLeftovers: !items->contains(name.substr(0, name.size() - TrashRecord::kSuffix.size())) -> true"),
-     "the item is looked for in the listing after"),
 )
 
 # Conditions whose absence changes no verdict: what they save, or what else gives the same answer.
@@ -191,7 +185,6 @@ NO_CHECKS = {
         STORE + ": CleanupAuditStore::storageReadyEntriesAndData: data->size() > kMaximumBytes -> true",
         STORE + ": CleanupAuditStore::loadEntries: loaded->state == LoadedState::needsRewriting -> true (no. 2)",
         STORE + ": CleanupAuditStore::readForLoadUnlocked: !bytes->empty() -> true",
-        MOVER + ": LinuxTrash::obstacle: values->isDirectory.value_or(true) -> true",
         MOVER + ": LinuxTrash::opened: known && known->isStillInPlace() -> false",
         MOVER + ": LinuxTrash::opened: found -> false",
         FOLDER + ": TrashFolder::beginUse: m_uses == 0 -> true",

@@ -28,6 +28,18 @@ TEST_F(CleaningServiceTest, GivesAnEmptyCancelledResultAndTouchesNothingWhenItWa
     EXPECT_THAT(names(item("")), ElementsAre("a", "b", "c"));
 }
 
+TEST_F(CleaningServiceTest, JudgesNoCandidateWhenItWasStoppedBefore)
+{
+    m_tree.add(kThreeItems);
+    auto forged = scan().at(0);
+    forged.category = CleanupCategory::userLogs;
+    std::stop_source source;
+    source.request_stop();
+    const auto result = clean({forged}, CleaningMode::moveToTrash, source.get_token());
+    EXPECT_THAT(result.failedItems, IsEmpty());
+    EXPECT_TRUE(result.wasCancelled);
+}
+
 TEST_F(CleaningServiceTest, KeepsWhatWasDoneBeforeAStopAndLeavesTheRestOutOfTheResult)
 {
     m_tree.add(kThreeItems);

@@ -1,6 +1,7 @@
 #include "Tests/CleanerCore/Cleaning/CleaningFixture.h"
 
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/ForwardingFileManager.h"
 
 #include <cerrno>
 #include <fstream>
@@ -190,6 +191,39 @@ TEST_F(TrashRestoreServiceTest, SeesALinkInTheTrashThatItCannotReadAsAResource)
         .path = trashed().path()});
     m_fileManager = &faulty;
     expectKept(Kind::symbolicLink, trashed());
+}
+
+TEST_F(TrashRestoreServiceTest, SeesALinkInTheTrashThatDoesNotTellSoAsAResource)
+{
+    class WithoutLinks final : public TestSupport::ForwardingFileManager {
+    public:
+        using ForwardingFileManager::ForwardingFileManager;
+        [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
+            const Platform::ItemReference& reference) const override
+        {
+            auto values = ForwardingFileManager::resourceValues(reference);
+            if (values && reference.url().lastPathComponent() == "a") {
+                values->isSymbolicLink.reset();
+            }
+            return values;
+        }
+    };
+    m_tree.remove("home/Bin/a");
+    std::filesystem::create_symlink("b", trashed().path());
+    const WithoutLinks withoutLinks(m_posix);
+    m_fileManager = &withoutLinks;
+    expectKept(Kind::symbolicLink, trashed());
+}
+
+TEST_F(TrashRestoreServiceTest, DoesNotTakeAFileForALinkThatItCannotReadAsAResource)
+{
+    FaultyFileManager faulty(m_posix);
+    faulty.fail({.call = FileManagerCall::resourceValues,
+        .systemError = EIO,
+        .duration = FaultDuration::fromThenOn,
+        .path = trashed().path()});
+    m_fileManager = &faulty;
+    expectKept(Kind::unreadableAttributes, trashed());
 }
 
 TEST_F(TrashRestoreServiceTest, RefusesAnItemOutsideOfEveryTrashEvenIfItsRecordPointsThere)

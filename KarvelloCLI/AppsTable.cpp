@@ -132,6 +132,7 @@ std::string appsTable(std::span<const AppsRow> rows, Platform::Date now, bool is
 
     CleanerCore::ReportExportText words(isRedacted ? ReportExportPrivacyMode::redacted : ReportExportPrivacyMode::full);
     std::vector<Row> cells;
+    cells.reserve(shown.size());
     for (const AppsRow* const row : shown) {
         cells.push_back(rowOf(*row, now, words, style));
     }

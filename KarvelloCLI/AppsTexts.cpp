@@ -16,6 +16,7 @@ using CleanerCore::ResourceReliefProtectionReason;
 std::vector<AppsRow> appsRows(std::span<const Platform::RunningApplication> applications, std::int32_t ownProcess)
 {
     std::vector<ResourceReliefProcessSnapshot> snapshots;
+    snapshots.reserve(applications.size());
     std::unordered_map<std::int32_t, std::size_t> processCounts;
     for (const auto& application : applications) {
         snapshots.push_back(ResourceReliefProcessSnapshot::of(application));

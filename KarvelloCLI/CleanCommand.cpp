@@ -81,11 +81,11 @@ public:
         return cleanPreview(m_candidates, m_run.report.scannedAt, style);
     }
     std::string question(const TextStyle& style) const override { return cleanQuestion(m_candidates, style); }
-    CleanupAuditEntry perform(const std::stop_token& stop) override
+    CleanupAuditEntry perform(const std::stop_token& stop, const CleanerCore::ItemProgressReport& report) override
     {
         const ScanPlan& plan = m_run.plan;
         m_result = CleanerCore::CleaningService(m_fileManager, m_trash)
-                       .clean(m_candidates, plan.locations, kMode, m_eligibility, stop, plan.subject.home);
+                       .clean(m_candidates, plan.locations, kMode, m_eligibility, stop, plan.subject.home, report);
         return CleanupAuditEntry::clean(
             m_result, kMode, m_candidates, CleanerCore::CleanupAuditSource::cleanupDashboard, Platform::Date::now());
     }

@@ -4,6 +4,7 @@
 #include "KarvelloCLI/CommandOutput.h"
 #include "KarvelloCLI/Conversation.h"
 #include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/ProgressLine.h"
 
 #include <fmt/format.h>
 
@@ -24,6 +25,13 @@ Delivery tell(const Errand& errand, const CleanerCore::CleanupAuditEntry& entry,
     }
     std::ignore = conversation.say(errand.account(conversation.style()));
     return deliverAuditExport(std::span(&entry, 1), setting.common, setting.output, setting.fileManager);
+}
+
+CleanerCore::CleanupAuditEntry performShowingProgress(
+    Errand& errand, const ErrandSetting& setting, const std::stop_token& stop)
+{
+    ProgressLine line(ProgressLine::Settings::of(setting.common, setting.home, setting.environment));
+    return errand.perform(stop, [&line](const CleanerCore::ItemProgress& progress) { line.report(progress); });
 }
 
 } // namespace
@@ -61,7 +69,7 @@ ExitCode runErrand(Errand& errand, const ErrandSetting& setting, std::optional<I
     }
 
     interruption->insistOnAnEnd();
-    const CleanerCore::CleanupAuditEntry entry = errand.perform(stop);
+    const CleanerCore::CleanupAuditEntry entry = performShowingProgress(errand, setting, stop);
     const Logged logged = appendToAuditLog(setting.log, entry, setting.fileManager);
     if (!setting.output.isReplacedAtomically()) {
         interruption.reset();

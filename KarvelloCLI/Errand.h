@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Audit/CleanupAuditEntry.h"
 #include "CleanerCore/Audit/CleanupAuditStore.h"
+#include "CleanerCore/Cleaning/ItemProgress.h"
 #include "KarvelloCLI/ExitCode.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Options.h"
@@ -28,7 +29,8 @@ public:
     [[nodiscard]] virtual std::string preview(const TextStyle& style) const = 0;
     [[nodiscard]] virtual std::string question(const TextStyle& style) const = 0;
     /// Does it, once, and gives its entry for the log.
-    [[nodiscard]] virtual CleanerCore::CleanupAuditEntry perform(const std::stop_token& stop) = 0;
+    [[nodiscard]] virtual CleanerCore::CleanupAuditEntry perform(
+        const std::stop_token& stop, const CleanerCore::ItemProgressReport& report) = 0;
     /// The rest is of what was performed.
     [[nodiscard]] virtual std::string account(const TextStyle& style) const = 0;
     [[nodiscard]] virtual ExitCode exitCode() const = 0;

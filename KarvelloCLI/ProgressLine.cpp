@@ -103,6 +103,11 @@ void ProgressLine::report(const CleanerCore::MacStorageInsightScanner::Progress&
     show(progress);
 }
 
+void ProgressLine::report(const CleanerCore::ItemProgress& progress)
+{
+    show(progress);
+}
+
 void ProgressLine::clear()
 {
     if (m_isShown) {
@@ -135,6 +140,16 @@ std::string ProgressLine::line(const CleanerCore::MacStorageInsightScanner::Prog
     const std::string facts = fmt::format(
         "folder {} of {}, {}", std::min(progress.completedRoots + 1, progress.totalRoots), progress.totalRoots, brief);
     return lineOf(facts, brief, &progress.root, columns, paths);
+}
+
+std::string ProgressLine::line(
+    const CleanerCore::ItemProgress& progress, std::size_t columns, const std::optional<HomePathAbbreviation>& paths)
+{
+    const std::size_t percentage = progress.doneItems * 100 / std::max<std::size_t>(progress.allItems, 1);
+    const std::string brief = fmt::format("{:3}%", percentage);
+    const std::string facts =
+        fmt::format("{}  {} of {}", brief, progress.doneItems, counted(progress.allItems, "item"));
+    return lineOf(facts, brief, nullptr, columns, paths);
 }
 
 } // namespace KarvelloCLI

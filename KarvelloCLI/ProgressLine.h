@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CleanerCore/Cleaning/ItemProgress.h"
 #include "CleanerCore/Insights/MacStorageInsightScanner.h"
 #include "CleanerCore/Scan/StorageScanProgress.h"
 #include "KarvelloCLI/Options.h"
@@ -16,7 +17,7 @@
 
 namespace KarvelloCLI {
 
-/// Shows how far a scan is, on one line. It costs a look at the clock for most reports: nothing is made of a report
+/// Shows how far a scan or a move is, on one line. It costs a look at the clock for most reports: nothing is made of a report
 /// unless it will be shown. Belongs to the thread that reports.
 class ProgressLine {
 public:
@@ -55,6 +56,7 @@ public:
 
     void report(const CleanerCore::StorageScanProgress& progress);
     void report(const CleanerCore::MacStorageInsightScanner::Progress& progress);
+    void report(const CleanerCore::ItemProgress& progress);
     /// Takes a rewritten line off the screen.
     void clear();
 
@@ -63,6 +65,8 @@ public:
         const std::optional<HomePathAbbreviation>& paths);
     [[nodiscard]] static std::string line(const CleanerCore::MacStorageInsightScanner::Progress& progress,
         std::size_t columns, const std::optional<HomePathAbbreviation>& paths);
+    [[nodiscard]] static std::string line(const CleanerCore::ItemProgress& progress, std::size_t columns,
+        const std::optional<HomePathAbbreviation>& paths);
 
 private:
     [[nodiscard]] std::chrono::milliseconds interval() const;

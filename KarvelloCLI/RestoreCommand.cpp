@@ -66,9 +66,11 @@ struct RestorePlaces {
     }
 
     [[nodiscard]] RestoreResult restore(std::span<const CleanedItem> items, const Platform::FileManager& fileManager,
-        Platform::Trash& trash, const std::stop_token& stop = {}) const
+        Platform::Trash& trash, const std::stop_token& stop = {},
+        const CleanerCore::ItemProgressReport& report = {}) const
     {
-        return CleanerCore::TrashRestoreService(fileManager, trash).restore(items, locations, eligibility, stop, home);
+        return CleanerCore::TrashRestoreService(fileManager, trash)
+            .restore(items, locations, eligibility, stop, home, report);
     }
 };
 
@@ -98,9 +100,9 @@ public:
     std::string_view participle() const override { return "put back"; }
     std::string preview(const TextStyle& style) const override { return restorePreview(m_items, m_bytes, style); }
     std::string question(const TextStyle& style) const override { return restoreQuestion(m_items, m_bytes, style); }
-    CleanupAuditEntry perform(const std::stop_token& stop) override
+    CleanupAuditEntry perform(const std::stop_token& stop, const CleanerCore::ItemProgressReport& report) override
     {
-        m_result = m_places.restore(m_items, m_fileManager, m_trash, stop);
+        m_result = m_places.restore(m_items, m_fileManager, m_trash, stop, report);
         return CleanupAuditEntry::restore(
             m_result, m_items, CleanerCore::CleanupAuditSource::cleanupDashboard, Platform::Date::now());
     }

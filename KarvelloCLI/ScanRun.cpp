@@ -61,6 +61,7 @@ void addRunningOwners(ScanReport& report, const FileURL& home, const Platform::F
         return;
     }
     std::vector<CleanerCore::AppCacheRunningApplicationIdentity> identities;
+    identities.reserve(applications->size());
     for (const auto& application : *applications) {
         identities.push_back(CleanerCore::AppCacheRunningApplicationIdentity::of(application));
     }

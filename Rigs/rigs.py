@@ -21,7 +21,9 @@ import volumes
 
 SKIPPED = 77
 NAIVE_ATTEMPTS = 20_000
-ROUNDS = 5
+# On a busy machine the attacker may not get to strike between the two steps. Then the attempts prove nothing, and are
+# made again for so many seconds.
+PATIENCE = 120
 
 
 def counts(line):
@@ -47,18 +49,17 @@ def races(folder, program, attacks, quick, full, needed):
                         if done.returncode not in (0, 1):
                             raise RuntimeError(f"{attack} on {name}: {done.stderr}")
                         return counts(done.stdout)
-                    # On a busy machine the attacker may not get to strike between the two steps: then the attempts
-                    # prove nothing, and are made again.
-                    for _ in range(ROUNDS):
+                    deadline = time.monotonic() + PATIENCE
+                    while True:
                         product = attempt("product", each)
                         naive = attempt("naive", NAIVE_ATTEMPTS)
                         astray += product["astray"]
                         raced = all(product[count] > 0 for count in needed) and naive["astray"] > 0
-                        if raced or astray:
+                        if raced or astray or time.monotonic() > deadline:
                             break
                     if not raced and not astray:
-                        raise scene.Unavailable(f"the attacker of {attack} on {name} did not get to strike in {ROUNDS} "
-                                                f"rounds: {product}, naive {naive}")
+                        raise scene.Unavailable(f"the attacker of {attack} on {name} did not get to strike in "
+                                                f"{PATIENCE} s: {product}, naive {naive}")
                     caught.append(naive["astray"] > 0)
                     told = " ".join(f"{count}={value}" for count, value in product.items())
                     yield (f"{attack or 'made anew'} on {name}: {told}; naive "

@@ -189,7 +189,7 @@ Clean::Verdict Clean::verifyPostCleanupState(
 CleanResult CleaningService::clean(std::span<const CleanupCandidate> candidates,
     std::span<const ScanLocation> allowedLocations, CleaningMode mode,
     const CleanupEligibilityPolicy& cleanupEligibilityPolicy, const std::stop_token& stop,
-    const std::optional<FileURL>& homeDirectory) const
+    const std::optional<FileURL>& homeDirectory, const ItemProgressReport& report) const
 {
     const Clean work(m_fileManager, m_trash, SafePathPolicy(rootURLs(allowedLocations), homeDirectory, m_fileManager),
         mode, cleanupEligibilityPolicy, stop);
@@ -207,6 +207,10 @@ CleanResult CleaningService::clean(std::span<const CleanupCandidate> candidates,
             break;
         } else {
             result.failedItems.push_back({candidate, std::move(cleaned.error().reason)});
+        }
+        if (report) {
+            report(
+                {.doneItems = result.cleanedItems.size() + result.failedItems.size(), .allItems = candidates.size()});
         }
     }
     // A failure takes nothing back: every item is where the result says. What is not known to be on the disk yet is on

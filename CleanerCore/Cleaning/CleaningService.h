@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Cleaning/CleanResult.h"
 #include "CleanerCore/Cleaning/CleaningMode.h"
+#include "CleanerCore/Cleaning/ItemProgress.h"
 #include "CleanerCore/Safety/CleanupEligibilityPolicy.h"
 #include "CleanerCore/Scan/ScanLocation.h"
 #include "Platform/Files/FileManager.h"
@@ -31,7 +32,8 @@ public:
     [[nodiscard]] CleanResult clean(std::span<const CleanupCandidate> candidates,
         std::span<const ScanLocation> allowedLocations, CleaningMode mode,
         const CleanupEligibilityPolicy& cleanupEligibilityPolicy, const std::stop_token& stop = {},
-        const std::optional<Platform::FileURL>& homeDirectory = std::nullopt) const;
+        const std::optional<Platform::FileURL>& homeDirectory = std::nullopt,
+        const ItemProgressReport& report = {}) const;
 
 private:
     const Platform::FileManager& m_fileManager;

@@ -157,7 +157,7 @@ Verdict Restore::putBack(const Platform::RestoreAnchor& anchor) const
 
 RestoreResult TrashRestoreService::restore(std::span<const CleanedItem> items,
     std::span<const ScanLocation> allowedLocations, const CleanupEligibilityPolicy& cleanupEligibilityPolicy,
-    const std::stop_token& stop, const std::optional<FileURL>& homeDirectory) const
+    const std::stop_token& stop, const std::optional<FileURL>& homeDirectory, const ItemProgressReport& report) const
 {
     const Restore work(
         m_fileManager, m_trash, allowedLocations, m_allowedTrashRootURLs, cleanupEligibilityPolicy, homeDirectory);
@@ -170,6 +170,9 @@ RestoreResult TrashRestoreService::restore(std::span<const CleanedItem> items,
             result.restoredItems.push_back({item, item.candidate.url});
         } else {
             result.failedItems.push_back({item, std::move(restored.error().reason)});
+        }
+        if (report) {
+            report({.doneItems = result.restoredItems.size() + result.failedItems.size(), .allItems = items.size()});
         }
     }
     result.wasCancelled = stop.stop_requested();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CleanerCore/Cleaning/ItemProgress.h"
 #include "CleanerCore/Cleaning/RestoreResult.h"
 #include "CleanerCore/Safety/CleanupEligibilityPolicy.h"
 #include "CleanerCore/Scan/ScanLocation.h"
@@ -31,7 +32,8 @@ public:
 
     [[nodiscard]] RestoreResult restore(std::span<const CleanedItem> items,
         std::span<const ScanLocation> allowedLocations, const CleanupEligibilityPolicy& cleanupEligibilityPolicy,
-        const std::stop_token& stop = {}, const std::optional<Platform::FileURL>& homeDirectory = std::nullopt) const;
+        const std::stop_token& stop = {}, const std::optional<Platform::FileURL>& homeDirectory = std::nullopt,
+        const ItemProgressReport& report = {}) const;
 
 private:
     const Platform::FileManager& m_fileManager;

@@ -291,7 +291,7 @@ std::expected<std::string, Platform::JSONError> json(const MacStorageInsightRepo
     payload.field("summary", summaryOf(report, selectedIDs));
     // The writer puts the keys in their order; the numbers of tokens follow the order here.
     payload.elements("heatmapItems", report.heatmapItems, std::ref(row));
-    payload.elements(Section::largeFiles, report.largeFiles, std::ref(row));
+    payload.elements("largeFiles", report.largeFiles, std::ref(row));
     payload.elements("downloadFiles", report.downloadFiles, std::ref(row));
     payload.elements("duplicateGroups", report.duplicateGroups, std::ref(row));
     payload.elements("securityFindings", report.securityFindings, std::ref(row));

@@ -76,6 +76,7 @@ void WalkPool::setBudget(std::int64_t visits, std::int64_t packageVisits)
     const std::scoped_lock guard(m_lock);
     m_visitBudget = visits;
     m_packageVisitBudget = packageVisits;
+    countSpareThreads();
 }
 
 void WalkPool::submit(const std::shared_ptr<WalkTask>& task)
@@ -122,8 +123,11 @@ void WalkPool::discard()
 {
     wake();
     std::unique_lock guard(m_lock);
-    m_waiting.clear();
-    m_producedSomething.wait(guard, [this] { return m_walking == 0; });
+    // A thread that has not seen the stop yet may give folders away until it is done.
+    m_producedSomething.wait(guard, [this] {
+        m_waiting.clear();
+        return m_walking == 0;
+    });
     m_wanted = nullptr;
     m_ahead = 0;
     countSpareThreads();

@@ -39,10 +39,10 @@ bool standsBefore(const ResourceReliefCandidate& left, const ResourceReliefCandi
 } // namespace
 
 ResourceReliefPolicy::ResourceReliefPolicy(std::int32_t currentProcessIdentifier,
-    std::optional<std::string> currentBundleIdentifier, ResourceReliefCapability capability,
+    const std::optional<std::string>& currentBundleIdentifier, ResourceReliefCapability capability,
     const std::set<std::string>& protectedIdentifiers)
     : m_currentProcessIdentifier(currentProcessIdentifier)
-    , m_currentBundleIdentifier(normalized(std::move(currentBundleIdentifier)))
+    , m_currentBundleIdentifier(normalized(currentBundleIdentifier))
     , m_capability(capability)
 {
     for (const auto& identifier : protectedIdentifiers) {

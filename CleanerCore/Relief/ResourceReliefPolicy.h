@@ -20,8 +20,8 @@ class ResourceReliefPolicy {
 public:
     /// The identifiers are normalized here. Beside them the desktop's own programs (shells, session managers, portals)
     /// are protected always.
-    ResourceReliefPolicy(std::int32_t currentProcessIdentifier, std::optional<std::string> currentBundleIdentifier,
-        ResourceReliefCapability capability,
+    ResourceReliefPolicy(std::int32_t currentProcessIdentifier,
+        const std::optional<std::string>& currentBundleIdentifier, ResourceReliefCapability capability,
         const std::set<std::string>& protectedIdentifiers = protectedBundleIdentifiers());
 
     [[nodiscard]] static const std::set<std::string>& protectedBundleIdentifiers();

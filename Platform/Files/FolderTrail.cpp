@@ -140,10 +140,11 @@ std::expected<FileDescriptor, int> FolderTrail::climbTo(
     return from;
 }
 
-/// Closes folders far from the current one until at most `keep` are open; the current one stays.
+/// Closes folders far from the current one until at most `keep`, one or more, are open. The current one is the last of
+/// those that are open, and stays.
 void FolderTrail::giveUpDescriptors(std::size_t keep)
 {
-    while (m_openFolders.size() > keep && m_openFolders.front() + 1 < m_folders.size()) {
+    while (m_openFolders.size() > keep) {
         auto& folder = m_folders[m_openFolders.front()];
         if (const auto status = readItemStatus(folder.descriptor.get(), "", StatusDetail::walk)) {
             folder.closedStatus = *status;

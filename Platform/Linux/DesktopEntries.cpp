@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <fmt/format.h>
 #include <system_error>
 #include <utility>
 
@@ -168,14 +169,14 @@ DesktopEntries::DesktopEntries(const std::vector<std::string>& folders, std::vec
 void DesktopEntries::addFolder(const std::string& path, const std::string& prefix, int depth)
 {
     for (const auto& name : KernelText::namesIn(path)) {
-        auto place = path + "/" + name;
+        auto place = fmt::format("{}/{}", path, name);
         if (name.ends_with(kEnding)) {
             m_slots.try_emplace(prefix + name.substr(0, name.size() - kEnding.size()), Slot{.path = std::move(place)});
             continue;
         }
         std::error_code error;
         if (depth < kMaximumDepth && std::filesystem::is_directory(std::filesystem::symlink_status(place, error))) {
-            addFolder(place, prefix + name + "-", depth + 1);
+            addFolder(place, fmt::format("{}{}-", prefix, name), depth + 1);
         }
     }
 }

@@ -153,6 +153,7 @@ RunningApplications::Listing LinuxRunningApplications::applications() const
         return std::unexpected(found.error());
     }
     std::vector<RunningApplication> applications;
+    applications.reserve(found->size());
     for (const auto& group : *found) {
         applications.push_back(applicationOf(group));
     }
@@ -176,6 +177,7 @@ RunningApplications::Listing LinuxRunningApplications::measuredApplications(cons
         return std::unexpected(found.error());
     }
     std::vector<RunningApplication> applications;
+    applications.reserve(found->size());
     for (const auto& group : *found) {
         auto application = applicationOf(group);
         application.cpuFractionOfTotalCapacity = cpuFraction(group, *first, now);

@@ -141,14 +141,14 @@ ThermalState thermalStateOfSensors(const std::string& sysRoot)
     const auto zones = sysRoot + "/class/thermal";
     for (const auto& name : KernelText::namesIn(zones)) {
         if (name.starts_with("thermal_zone")) {
-            if (const auto sensor = readZone(zones + "/" + name)) {
+            if (const auto sensor = readZone(fmt::format("{}/{}", zones, name))) {
                 sensors.push_back(*sensor);
             }
         }
     }
     const auto devices = sysRoot + "/class/hwmon";
     for (const auto& name : KernelText::namesIn(devices)) {
-        readProcessorSensors(devices + "/" + name, sensors);
+        readProcessorSensors(fmt::format("{}/{}", devices, name), sensors);
     }
 
     std::optional<ThermalState> warmest;

@@ -11,6 +11,7 @@
 #include <thread>
 
 using namespace KarvelloCLITests;
+using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -72,6 +73,16 @@ TEST_F(CleanProgram, CtrlCInTheMiddleIsToldAndLogged)
         EXPECT_EQ(entry.at("succeededItemCount"), moved);
         EXPECT_EQ(entry.at("failedItemCount"), 0);
     }
+}
+
+TEST_F(CleanProgram, TellsHowFarALongCleanIs)
+{
+    m_tree.add("home/many/\n    item count=4000 size=1");
+    ProgramSettings settings = with({"clean", "--root", path("home/many"), "--all", "--yes"});
+    settings.messagesOnTerminal = true;
+    const std::string cleaned = runProgram(settings).messages;
+    EXPECT_THAT(cleaned, ContainsRegex("[0-9]%  [1-9][0-9]* of 4000 items"));
+    EXPECT_TRUE(cleaned.ends_with("\r\x1b[K")) << "the line is taken off at the end";
 }
 
 TEST_F(CleanProgram, TwoAtOnceLoseNothing)

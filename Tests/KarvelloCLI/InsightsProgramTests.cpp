@@ -205,7 +205,7 @@ TEST_F(InsightsProgram, ShowsProgressOnATerminalAndLeavesNoLineBehind)
     settings.messagesOnTerminal = true;
     const ProgramResult result = runProgram(settings);
     EXPECT_EQ(result.status, 0);
-    EXPECT_THAT(result.messages, HasSubstr(" of 150, "));
+    EXPECT_THAT(result.messages, HasSubstr(" of 151, "));
     EXPECT_THAT(result.messages, HasSubstr("items looked at"));
     EXPECT_TRUE(result.messages.ends_with("\r\x1b[K")) << "the line is taken off at the end";
 }

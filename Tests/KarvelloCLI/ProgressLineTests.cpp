@@ -177,3 +177,11 @@ TEST(ProgressLine, TellsTheFolderAndTheCountOfAnInsightScan)
         }
     }
 }
+
+TEST(ProgressLine, TellsHowManyItemsWereDealtWith)
+{
+    const CleanerCore::ItemProgress progress{.doneItems = 33, .allItems = 1200};
+    EXPECT_EQ(ProgressLine::line(progress, 80, kPaths), "  2%  33 of 1200 items");
+    EXPECT_EQ(ProgressLine::line(progress, 10, kPaths), "  2%");
+    EXPECT_EQ(ProgressLine::line({.doneItems = 1, .allItems = 1}, 80, kPaths), "100%  1 of 1 item");
+}

@@ -101,10 +101,10 @@ public:
         return m_text;
     }
 
-    bool holds(std::string_view words)
+    bool holds(const testing::Matcher<const std::string&>& words)
     {
         std::unique_lock lock(m_mutex);
-        return m_grown.wait_for(lock, 10s, [&] { return m_text.find(words) != std::string::npos; });
+        return m_grown.wait_for(lock, 10s, [&] { return words.Matches(m_text); });
     }
 
     ~Collector() { text(); }
@@ -183,6 +183,11 @@ RunningProgram::~RunningProgram()
 }
 
 bool RunningProgram::hasSaid(std::string_view words) const
+{
+    return hasSaidWhat(testing::HasSubstr(std::string(words)));
+}
+
+bool RunningProgram::hasSaidWhat(const testing::Matcher<const std::string&>& words) const
 {
     return m_messages->holds(words);
 }

@@ -2,6 +2,8 @@
 
 #include "Platform/Files/FileDescriptor.h"
 
+#include <gmock/gmock.h>
+
 #include <chrono>
 #include <map>
 #include <memory>
@@ -54,6 +56,7 @@ public:
 
     /// Waits until `words` have come on standard error; false if they do not within some seconds.
     [[nodiscard]] bool hasSaid(std::string_view words) const;
+    [[nodiscard]] bool hasSaidWhat(const testing::Matcher<const std::string&>& words) const;
     void signal(int number) const;
     /// What the person types; "\x04" alone is the end of the input.
     void type(std::string_view keys) const;

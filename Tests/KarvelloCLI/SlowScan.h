@@ -8,11 +8,14 @@
 
 namespace KarvelloCLITests {
 
-/// A tree that costs little and takes long to scan: each of the nested roots holds all the files of the innermost.
+/// A tree that costs little and takes long to scan: something is found at once, then each of many nested roots holds all
+/// the files of the innermost.
 class SlowScan {
 public:
     explicit SlowScan(std::size_t levels)
     {
+        m_tree.add("first/file size=1");
+        m_arguments = {"--root", m_tree.path("first")};
         for (std::size_t level = 0; level < levels; ++level) {
             m_arguments.insert(m_arguments.end(), {"--root", m_tree.path(m_path)});
             m_path += "d/";

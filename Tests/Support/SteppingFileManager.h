@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/ForwardingDirectoryEnumerator.h"
 #include "Tests/Support/ForwardingFileManager.h"
 
 #include <cstddef>
@@ -72,10 +73,10 @@ public:
     }
 
 private:
-    class Enumerator final : public Platform::DirectoryEnumerator {
+    class Enumerator final : public ForwardingDirectoryEnumerator {
     public:
         Enumerator(std::unique_ptr<Platform::DirectoryEnumerator> inner, const SteppingFileManager& fileManager)
-            : m_inner(std::move(inner))
+            : ForwardingDirectoryEnumerator(std::move(inner))
             , m_fileManager(fileManager)
         {
         }
@@ -83,23 +84,10 @@ private:
         bool next() override
         {
             m_fileManager.step(FileManagerCall::nextEntry);
-            return m_inner->next();
+            return ForwardingDirectoryEnumerator::next();
         }
-        [[nodiscard]] std::string_view name() const override { return m_inner->name(); }
-        [[nodiscard]] std::size_t level() const override { return m_inner->level(); }
-        [[nodiscard]] Platform::ListedType listedType() const override { return m_inner->listedType(); }
-        const std::expected<Platform::ResourceValues, Platform::FileError>& resourceValues() override
-        {
-            return m_inner->resourceValues();
-        }
-        [[nodiscard]] Platform::FileURL url() const override { return m_inner->url(); }
-        [[nodiscard]] Platform::ItemReference reference() const override { return m_inner->reference(); }
-        void skipDescendants() override { m_inner->skipDescendants(); }
-        void setContextOfDescendants(std::uint64_t context) override { m_inner->setContextOfDescendants(context); }
-        [[nodiscard]] std::uint64_t folderContext() const override { return m_inner->folderContext(); }
 
     private:
-        std::unique_ptr<Platform::DirectoryEnumerator> m_inner;
         const SteppingFileManager& m_fileManager;
     };
 

@@ -212,6 +212,18 @@ TEST_F(CleanupAuditStoreDamageTest, LoadsEvenWhereItCannotTidy)
     EXPECT_EQ(log(), bytes);
 }
 
+TEST_F(CleanupAuditStoreDamageTest, LeavesAFileAloneThatCannotBeReadAgainToTidyIt)
+{
+    auto old = entry();
+    old.samplePaths = {"/a"};
+    const auto bytes = encoded(Entries{old});
+    setLog(bytes);
+    m_faulty.fail({.call = readFile, .systemError = EIO, .nth = 2});
+    EXPECT_TRUE(CleanupAuditStore(m_faulty, m_log).loadEntries().empty());
+    EXPECT_EQ(m_faulty.failureCount(), 1);
+    EXPECT_EQ(log(), bytes);
+}
+
 TEST_F(CleanupAuditStoreDamageTest, AnswersEvenWhereItsFolderCannotBeMade)
 {
     m_tree.add("file size=1");

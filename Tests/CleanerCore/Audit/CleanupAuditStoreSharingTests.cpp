@@ -167,4 +167,14 @@ TEST_F(CleanupAuditStoreSharingTest, DoesNotFollowALinkInPlaceOfTheLock)
     EXPECT_FALSE(std::filesystem::exists(m_tree.path("victim")));
 }
 
+TEST_F(CleanupAuditStoreSharingTest, TidiesAlsoWhereNoLockCanBeMade)
+{
+    m_tree.add("Karvello/cleanup-audit-log.json.lock -> ../victim");
+    auto old = entry();
+    old.failureReasons = {"Could not move /home/ada/secret"};
+    setLog(encoded(Entries{old}));
+    EXPECT_EQ(m_store.loadEntries().size(), 1);
+    EXPECT_EQ(log().find("secret"), std::string::npos);
+}
+
 } // namespace CleanerCore

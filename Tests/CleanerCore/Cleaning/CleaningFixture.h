@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace CleaningTests {
@@ -77,14 +78,22 @@ protected:
     [[nodiscard]] CleanResult clean(const std::vector<CleanupCandidate>& candidates,
         CleaningMode mode = CleaningMode::moveToTrash, const std::stop_token& stop = {})
     {
-        return CleaningService(*m_fileManager, *m_trash).clean(candidates, m_locations, mode, *m_policy, stop, home());
+        return CleaningService(*m_fileManager, *m_trash)
+            .clean(candidates, m_locations, mode, *m_policy, stop, home(), notingProgress());
     }
 
     [[nodiscard]] RestoreResult restore(const std::vector<CleanedItem>& items, const std::stop_token& stop = {},
         const std::optional<std::vector<FileURL>>& allowedTrashRoots = std::nullopt)
     {
         return TrashRestoreService(*m_fileManager, *m_trash, allowedTrashRoots)
-            .restore(items, m_locations, *m_policy, stop, home());
+            .restore(items, m_locations, *m_policy, stop, home(), notingProgress());
+    }
+
+    [[nodiscard]] CleanerCore::ItemProgressReport notingProgress()
+    {
+        return [this](const CleanerCore::ItemProgress& progress) {
+            m_progress.emplace_back(progress.doneItems, progress.allItems);
+        };
     }
 
     void useFakeTrash()
@@ -151,6 +160,8 @@ protected:
     Platform::Trash* m_trash = &m_linuxTrash;
     std::vector<ScanLocation> m_locations;
     std::optional<CleanupEligibilityPolicy> m_policy;
+    /// The items done, and all, of each report.
+    std::vector<std::pair<std::size_t, std::size_t>> m_progress;
 };
 
 /// With a plain Trash: what the service decides, and what it hands to the Trash.

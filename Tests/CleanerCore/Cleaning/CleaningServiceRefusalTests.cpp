@@ -187,6 +187,38 @@ TEST_F(CleaningServiceTest, RefusesAScannedDateWhereTheVolumeTellsNoneAnyMore)
     EXPECT_THAT(clean(candidates).cleanedItems, SizeIs(1));
 }
 
+TEST_F(CleaningServiceTest, MovesOnlyTheScannedItemWhateverStoodThereBeforeTheWalk)
+{
+    /// Shows another item until the folder is walked.
+    class TwoFaced final : public TestSupport::ForwardingFileManager {
+    public:
+        using ForwardingFileManager::ForwardingFileManager;
+        [[nodiscard]] std::expected<Platform::IdentityValues, Platform::FileError> identityValues(
+            const Platform::ItemReference& reference) const override
+        {
+            auto values = ForwardingFileManager::identityValues(reference);
+            if (values && !m_isWalked) {
+                values->fileResourceIdentifier = "another";
+            }
+            return values;
+        }
+        [[nodiscard]] std::unique_ptr<Platform::DirectoryEnumerator> enumerator(const Platform::ItemReference& folder,
+            Platform::EnumerationOptions options, Platform::EnumerationErrorHandler onError) const override
+        {
+            m_isWalked = true;
+            return ForwardingFileManager::enumerator(folder, options, std::move(onError));
+        }
+
+    private:
+        mutable bool m_isWalked = false;
+    };
+    m_tree.add("home/Caches/b/\n    x size=10");
+    const auto candidates = scan();
+    const TwoFaced twoFaced(m_posix);
+    m_fileManager = &twoFaced;
+    EXPECT_THAT(clean(candidates).cleanedItems, SizeIs(1));
+}
+
 TEST_F(CleaningServiceTest, ComparesTheDateAlsoForACandidateWithoutAnIdentity)
 {
     m_tree.add("home/Caches/a size=10");

@@ -9,6 +9,7 @@ namespace CleaningTests {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 using testing::SizeIs;
 using TestSupport::FileManagerCall;
 using TestSupport::SteppingFileManager;
@@ -25,6 +26,18 @@ TEST_F(CleaningServiceTest, GivesAnEmptyCancelledResultAndTouchesNothingWhenItWa
     EXPECT_TRUE(result.wasCancelled);
     EXPECT_THAT(m_fakeTrash->itemAnchors(), IsEmpty());
     EXPECT_THAT(names(item("")), ElementsAre("a", "b", "c"));
+}
+
+TEST_F(CleaningServiceTest, JudgesNoCandidateWhenItWasStoppedBefore)
+{
+    m_tree.add(kThreeItems);
+    auto forged = scan().at(0);
+    forged.category = CleanupCategory::userLogs;
+    std::stop_source source;
+    source.request_stop();
+    const auto result = clean({forged}, CleaningMode::moveToTrash, source.get_token());
+    EXPECT_THAT(result.failedItems, IsEmpty());
+    EXPECT_TRUE(result.wasCancelled);
 }
 
 TEST_F(CleaningServiceTest, KeepsWhatWasDoneBeforeAStopAndLeavesTheRestOutOfTheResult)
@@ -49,6 +62,15 @@ TEST_F(CleaningServiceTest, IsNotCancelledByAStopDuringTheLastMove)
     const auto result = clean(candidates, CleaningMode::moveToTrash, source.get_token());
     EXPECT_THAT(result.cleanedItems, SizeIs(1));
     EXPECT_FALSE(result.wasCancelled);
+}
+
+TEST_F(CleaningServiceTest, TellsOfEachItemThatWasDealtWith)
+{
+    m_tree.add(kThreeItems);
+    const auto candidates = scan();
+    std::filesystem::remove_all(path("b"));
+    EXPECT_THAT(clean(candidates).failedItems, SizeIs(1));
+    EXPECT_THAT(m_progress, ElementsAre(Pair(1, 3), Pair(2, 3), Pair(3, 3)));
 }
 
 TEST_F(CleaningServiceTest, SettlesOnceAfterAllMoves)

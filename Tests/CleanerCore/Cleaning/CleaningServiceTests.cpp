@@ -1,5 +1,6 @@
 #include "Tests/CleanerCore/Cleaning/CleaningFixture.h"
 
+#include "Tests/Support/ForwardingFileManager.h"
 #include "Tests/Support/SteppingFileManager.h"
 
 #include <filesystem>
@@ -147,6 +148,30 @@ TEST_F(CleaningServiceTest, CannotVerifyWhatStandsThereAfterwardsForACandidateWi
     auto candidates = scan();
     candidates.at(0).resourceIdentity.reset();
     m_fakeTrash->behaviour.afterMove = [this] { std::ofstream(path("a")) << "new"; };
+    expectRefused(clean(candidates), Kind::cleanupPostOperationVerificationFailed, item("a"));
+}
+
+TEST_F(CleaningServiceTest, CannotVerifyWhatStandsThereAfterwardsAndTellsNothing)
+{
+    class Hiding final : public TestSupport::ForwardingFileManager {
+    public:
+        using ForwardingFileManager::ForwardingFileManager;
+        bool hides = false;
+        [[nodiscard]] Platform::FingerprintReadings fingerprintReadings(
+            const Platform::ItemReference& reference) const override
+        {
+            const std::unexpected failure(Platform::FileError{});
+            return hides ? Platform::FingerprintReadings{failure, failure} : inner().fingerprintReadings(reference);
+        }
+    };
+    m_tree.add("home/Caches/a size=10");
+    const auto candidates = scan();
+    Hiding hiding(m_posix);
+    m_fileManager = &hiding;
+    m_fakeTrash->behaviour.afterMove = [&] {
+        std::ofstream(path("a")) << "new";
+        hiding.hides = true;
+    };
     expectRefused(clean(candidates), Kind::cleanupPostOperationVerificationFailed, item("a"));
 }
 

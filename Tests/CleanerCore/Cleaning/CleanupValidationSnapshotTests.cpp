@@ -3,6 +3,8 @@
 #include "CleanerCore/Safety/CleaningError.h"
 #include "Platform/Files/PosixFileManager.h"
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/ForwardingDirectoryEnumerator.h"
+#include "Tests/Support/ForwardingFileManager.h"
 #include "Tests/Support/SteppingFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 
@@ -76,6 +78,60 @@ TEST_F(CleanupValidationSnapshotTest, OfAFolderCountsItsOwnDate)
 {
     m_tree.add("item/ age=4h\n    a age=5h");
     expectLatest(4);
+}
+
+TEST_F(CleanupValidationSnapshotTest, OfAFolderWithoutADateIsTheNewestDateInIt)
+{
+    class Dateless final : public TestSupport::ForwardingFileManager {
+    public:
+        using ForwardingFileManager::ForwardingFileManager;
+        [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
+            const Platform::ItemReference& reference) const override
+        {
+            auto values = ForwardingFileManager::resourceValues(reference);
+            if (values) {
+                values->contentModificationDate.reset();
+            }
+            return values;
+        }
+    };
+    m_tree.add("item/\n    x size=1 age=3h");
+    const auto snapshot = take(Dateless(m_posix));
+    ASSERT_TRUE(snapshot && snapshot->latestModificationDate);
+    EXPECT_NEAR(m_tree.now().secondsSince(*snapshot->latestModificationDate), 3 * kHour, 0.01);
+}
+
+TEST_F(CleanupValidationSnapshotTest, OfAFolderLeavesOutWhatHasNoDate)
+{
+    class DatelessItems final : public TestSupport::ForwardingDirectoryEnumerator {
+    public:
+        using ForwardingDirectoryEnumerator::ForwardingDirectoryEnumerator;
+        const std::expected<Platform::ResourceValues, Platform::FileError>& resourceValues() override
+        {
+            m_values = ForwardingDirectoryEnumerator::resourceValues();
+            if (m_values) {
+                m_values->contentModificationDate.reset();
+            }
+            return m_values;
+        }
+
+    private:
+        std::expected<Platform::ResourceValues, Platform::FileError> m_values;
+    };
+    class Dateless final : public TestSupport::ForwardingFileManager {
+    public:
+        using ForwardingFileManager::ForwardingFileManager;
+        [[nodiscard]] std::unique_ptr<Platform::DirectoryEnumerator> enumerator(const Platform::ItemReference& folder,
+            Platform::EnumerationOptions options, Platform::EnumerationErrorHandler onError) const override
+        {
+            return std::make_unique<DatelessItems>(
+                ForwardingFileManager::enumerator(folder, options, std::move(onError)));
+        }
+    };
+    m_tree.add("item/ age=4h\n    x size=1 age=3h");
+    const auto snapshot = take(Dateless(m_posix));
+    ASSERT_TRUE(snapshot && snapshot->latestModificationDate);
+    EXPECT_NEAR(m_tree.now().secondsSince(*snapshot->latestModificationDate), 4 * kHour, 0.01);
 }
 
 TEST_F(CleanupValidationSnapshotTest, RefusesAnItemThatIsGone)

@@ -1,6 +1,7 @@
 #include "Tests/CleanerCore/Cleaning/CleaningFixture.h"
 
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/ForwardingFileManager.h"
 
 #include <cerrno>
 #include <fstream>
@@ -9,6 +10,7 @@ namespace CleaningTests {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 using testing::SizeIs;
 using TestSupport::FaultDuration;
 using TestSupport::FaultyFileManager;
@@ -68,6 +70,14 @@ TEST_F(TrashRestoreServiceTest, PutsItemsBackWhereTheyWere)
     EXPECT_THAT(names(item("")), ElementsAre("a", "b"));
     EXPECT_TRUE(exists(path("a/x")));
     EXPECT_THAT(names(m_fakeTrash->folder()), IsEmpty());
+}
+
+TEST_F(TrashRestoreServiceTest, TellsOfEachItemThatWasDealtWith)
+{
+    m_tree.add("home/Caches/a size=1");
+    m_progress.clear();
+    EXPECT_THAT(restore(m_items).failedItems, SizeIs(1));
+    EXPECT_THAT(m_progress, ElementsAre(Pair(1, 2), Pair(2, 2)));
 }
 
 TEST_F(TrashRestoreServiceTest, StopsBetweenTwoItemsAndKeepsWhatWasDone)
@@ -181,6 +191,39 @@ TEST_F(TrashRestoreServiceTest, SeesALinkInTheTrashThatItCannotReadAsAResource)
         .path = trashed().path()});
     m_fileManager = &faulty;
     expectKept(Kind::symbolicLink, trashed());
+}
+
+TEST_F(TrashRestoreServiceTest, SeesALinkInTheTrashThatDoesNotTellSoAsAResource)
+{
+    class WithoutLinks final : public TestSupport::ForwardingFileManager {
+    public:
+        using ForwardingFileManager::ForwardingFileManager;
+        [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
+            const Platform::ItemReference& reference) const override
+        {
+            auto values = ForwardingFileManager::resourceValues(reference);
+            if (values && reference.url().lastPathComponent() == "a") {
+                values->isSymbolicLink.reset();
+            }
+            return values;
+        }
+    };
+    m_tree.remove("home/Bin/a");
+    std::filesystem::create_symlink("b", trashed().path());
+    const WithoutLinks withoutLinks(m_posix);
+    m_fileManager = &withoutLinks;
+    expectKept(Kind::symbolicLink, trashed());
+}
+
+TEST_F(TrashRestoreServiceTest, DoesNotTakeAFileForALinkThatItCannotReadAsAResource)
+{
+    FaultyFileManager faulty(m_posix);
+    faulty.fail({.call = FileManagerCall::resourceValues,
+        .systemError = EIO,
+        .duration = FaultDuration::fromThenOn,
+        .path = trashed().path()});
+    m_fileManager = &faulty;
+    expectKept(Kind::unreadableAttributes, trashed());
 }
 
 TEST_F(TrashRestoreServiceTest, RefusesAnItemOutsideOfEveryTrashEvenIfItsRecordPointsThere)

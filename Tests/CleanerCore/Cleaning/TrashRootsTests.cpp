@@ -2,8 +2,10 @@
 
 #include "CleanerCore/Safety/SafePathPolicy.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/ChildProcess.h"
 #include "Tests/Support/TemporaryTree.h"
 
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
@@ -95,6 +97,18 @@ TEST_F(TrashRootsTest, IncludeTheTrashOfICloudDriveLastIfItIsAFolder)
     m_tree.add("home/Library/\"Mobile Documents\"/.Trash/");
     EXPECT_THAT(platformRoots(trash), ElementsAre("/u/Trash/files", ofICloudDrive));
     EXPECT_THAT(platformRoots(TrashOfFolders({FileURL(ofICloudDrive)})), ElementsAre(ofICloudDrive));
+}
+
+TEST_F(TrashRootsTest, AreThoseOfTheUsersHomeWhereNoneIsGiven)
+{
+    const auto ofICloudDrive = m_tree.path("home/Library/Mobile Documents/.Trash");
+    m_tree.add("home/Library/\"Mobile Documents\"/.Trash/");
+    TestSupport::inChildProcess([&] {
+        ASSERT_EQ(setenv("HOME", m_tree.path("home").c_str(), 1), 0);
+        EXPECT_THAT(
+            pathsOf(platformTrashRootURLs(m_tree.url("home/Caches/a"), TrashOfFolders({}), m_posix, std::nullopt)),
+            ElementsAre(ofICloudDrive));
+    });
 }
 
 TEST_F(TrashRootsTest, AreTheGivenOnesAloneEachOnceWhereSomeAreGiven)

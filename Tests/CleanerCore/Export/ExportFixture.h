@@ -4,10 +4,8 @@
 #include "Platform/Base/JSONReader.h"
 
 #include <cstdint>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -30,17 +28,9 @@ std::string exported(const Report& scanReport, const SelectedIDs& ids, Format fo
     return data ? *data : "";
 }
 
-inline std::string content(const std::string& path)
-{
-    std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
-    return bytes.str();
-}
-
-inline std::string golden(std::string_view name)
-{
-    return content(std::string(KARVELLO_SOURCE_DIR "/Tests/Golden/").append(name));
-}
+std::string content(const std::string& path);
+/// A file of Tests/Golden.
+std::string golden(std::string_view name);
 
 inline Platform::JSONValue parsed(const std::string& text)
 {

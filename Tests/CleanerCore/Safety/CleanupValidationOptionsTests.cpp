@@ -49,6 +49,15 @@ TEST(CleanupValidationOptions, IncludesAPackageAndItsContentsWhenPackageDescenda
     EXPECT_THAT(excluded, IsEmpty());
 }
 
+TEST(CleanupValidationOptions, IncludesTheContentsOfAFolderThatIsNoPackage)
+{
+    Paths excluded;
+    const auto rules = options(true, false);
+    EXPECT_TRUE(rules.includesInFreshness(kRoot.appending("folder"), kRoot, false, excluded));
+    EXPECT_THAT(excluded, IsEmpty());
+    EXPECT_TRUE(rules.includesInFreshness(kRoot.appending("folder/file"), kRoot, false, excluded));
+}
+
 TEST(CleanupValidationOptions, LeavesOutWhatLiesInAnExcludedPackageEvenWhenPackageDescendantsCount)
 {
     Paths excluded{"/u/.cache/tool/X.app"};

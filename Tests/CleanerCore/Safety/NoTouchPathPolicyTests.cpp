@@ -146,6 +146,18 @@ TEST(NoTouchPathPolicy, CountsCommonNamesOnlyDirectlyBelowAHome)
         "/home/u", "/root", "/var/home/u"});
 }
 
+TEST(NoTouchPathPolicy, TakesNoOtherFolderOfVarForTheFolderOfHomes)
+{
+    expectNoTouch({"/var/home/u/mail", "/VAR/Home/u/mail"});
+    expectTouchable({"/var/lib/u/mail", "/var/www/u/mail"});
+}
+
+TEST(NoTouchPathPolicy, ComparesEveryLetterBeforeANumber)
+{
+    expectNoTouch({"/a/MANIFEST-000001"});
+    expectTouchable({"/a/MANIPULE-000001", "/a/MANIFEST_000001", "/a/MANIFEST-00001"});
+}
+
 TEST(NoTouchPathPolicy, OpensAProfileExactlyAtItsCacheFolders)
 {
     for (const std::string_view cache :

@@ -142,6 +142,42 @@ TEST_F(ScanRootSafetyTest, ListsProtectedPathsWithTheirResolvedFormsLongestFirst
     EXPECT_THAT(protectedSharedFolders(files), testing::ElementsAre("/var/tmp", "/tmp"));
 }
 
+TEST_F(ScanRootSafetyTest, ListsAPathThatIsNoLinkByItself)
+{
+    const TemporaryTree empty("folder/");
+    const RootedFileManager withoutLinks(posix, empty.root());
+    EXPECT_THAT(defaultProtectedPaths("/Users/a", withoutLinks), Contains("/private/etc"));
+}
+
+TEST_F(ScanRootSafetyTest, LeavesTheHomeOfRootToRootAlsoWhereItIsALink)
+{
+    const TemporaryTree linked("data/root/\nroot -> data/root");
+    const RootedFileManager withLink(posix, linked.root());
+    for (const std::string_view home : {"/root", "/data/root"}) {
+        EXPECT_THAT(defaultProtectedPaths(home, withLink), Not(Contains("/root"))) << home;
+        EXPECT_THAT(defaultProtectedPaths(home, withLink), Not(Contains("/data/root"))) << home;
+    }
+    EXPECT_THAT(defaultProtectedPaths("/home/u", withLink), testing::IsSupersetOf({"/root", "/data/root"}));
+}
+
+TEST_F(ScanRootSafetyTest, RefusesOtherPersonsHomesWhereTheFolderOfHomesIsALink)
+{
+    const TemporaryTree linked("data/homes/u/.cache/pip/x\ndata/homes/v/.cache/pip/x\nhome -> data/homes");
+    const RootedFileManager withLink(posix, linked.root());
+    const ScanRootSafety safety(FileURL::folder("/home/u"), withLink);
+    EXPECT_TRUE(safety.isScanRootSafe(FileURL::folder("/data/homes/u/.cache/pip"), withLink));
+    EXPECT_FALSE(safety.isScanRootSafe(FileURL::folder("/data/homes/v/.cache/pip"), withLink));
+    EXPECT_FALSE(safety.isScanRootSafe(FileURL::folder("/data/homes"), withLink));
+}
+
+TEST_F(ScanRootSafetyTest, TakesEveryHomeForAnotherPersonsWhereOnesOwnHoldsThemAll)
+{
+    const UsersFolder users{"/Users", "/Users/Shared"};
+    for (const std::string_view home : {"/Users", "/"}) {
+        EXPECT_TRUE(isUnsafeUsersRoot("/Users/b/Caches", home, users, NameComparison::caseSensitive)) << home;
+    }
+}
+
 TEST_F(ScanRootSafetyTest, TellsOtherPersonsHomesFromOnesOwn)
 {
     const UsersFolder users{"/Users", "/Users/Shared"};

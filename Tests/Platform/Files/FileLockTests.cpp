@@ -1,12 +1,17 @@
 #include "Platform/Files/FileLock.h"
 
+#include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/FailingSystemCall.h"
 #include "Tests/Support/TemporaryTree.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <optional>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -108,6 +113,75 @@ TEST_F(FileLockTest, TakesNothingButARegularFile)
         m_tree.remove("lock");
     }
     EXPECT_FALSE(std::filesystem::exists(m_tree.path("target")));
+}
+
+TEST_F(FileLockTest, IsUnavailableWhereTheVolumeKnowsNoLocks)
+{
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_flock}, ENOLCK);
+        EXPECT_EQ(failure(milliseconds(5'000)), FileLockFailure::unavailable);
+    });
+}
+
+TEST_F(FileLockTest, WaitsOnAfterAnInterruption)
+{
+    TestSupport::answerSystemCalls({.number = SYS_flock}, TestSupport::failingOnce(EINTR),
+        [&] { EXPECT_EQ(failure(milliseconds(10'000)), std::nullopt); });
+}
+
+TEST_F(FileLockTest, IsNotTakenOnAFileThatLostItsNameMeanwhile)
+{
+    const auto replaceFirst = [&](const TestSupport::PendingSystemCall& call) -> std::optional<std::int64_t> {
+        if (call.before == 0) {
+            std::filesystem::rename(m_tree.path("lock"), m_tree.path("old"));
+            m_tree.add("lock size=0");
+        }
+        return std::nullopt;
+    };
+    TestSupport::answerSystemCalls({.number = SYS_flock}, replaceFirst, [&] {
+        const auto lock = FileLock::acquire(m_url, milliseconds(10'000));
+        ASSERT_TRUE(lock);
+        EXPECT_EQ(failure(), FileLockFailure::busy);
+    });
+}
+
+TEST_F(FileLockTest, IsNotTakenOnTheFileOfThatNumberOnAnotherVolume)
+{
+    m_tree.add("volume/");
+    m_url = m_tree.url("volume/lock");
+    TestSupport::inMountNamespace([&] {
+        const auto mountWithLock = [&] {
+            TestSupport::mountTemporaryFileSystem(m_tree.path("volume"));
+            std::ofstream(m_url.path()).flush();
+            struct stat found{};
+            EXPECT_EQ(stat(m_url.path().c_str(), &found), 0);
+            return found.st_ino;
+        };
+        const auto number = mountWithLock();
+        const auto coverFirst = [&](const TestSupport::PendingSystemCall& call) -> std::optional<std::int64_t> {
+            if (call.before == 0) {
+                EXPECT_EQ(mountWithLock(), number) << "new file systems of memory number their files alike";
+            }
+            return std::nullopt;
+        };
+        TestSupport::answerSystemCalls({.number = SYS_flock}, coverFirst, [&] {
+            const auto lock = FileLock::acquire(m_url, milliseconds(10'000));
+            ASSERT_TRUE(lock);
+            EXPECT_EQ(failure(), FileLockFailure::busy);
+        });
+    });
+}
+
+TEST_F(FileLockTest, GivesUpInTimeWhereTheNameNeverStays)
+{
+    const auto takeAway = [&](const TestSupport::PendingSystemCall& call) -> std::optional<std::int64_t> {
+        if (call.before < 5) {
+            m_tree.remove("lock");
+        }
+        return std::nullopt;
+    };
+    TestSupport::answerSystemCalls(
+        {.number = SYS_flock}, takeAway, [&] { EXPECT_EQ(failure(), FileLockFailure::busy); });
 }
 
 } // namespace Platform

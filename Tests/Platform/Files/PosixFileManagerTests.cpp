@@ -1,6 +1,9 @@
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/FailingSystemCall.h"
 #include "Tests/Support/TemporaryTree.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -9,6 +12,7 @@
 #include <iterator>
 #include <sstream>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 
 namespace {
 
@@ -263,6 +267,71 @@ TEST_F(PosixFileManagerTests, LeavesNothingBehindWhenAWriteFails)
     ASSERT_FALSE(missing.has_value());
     EXPECT_EQ(
         missing.error().localizedDescription(), "The file “file” couldn’t be saved because its folder doesn’t exist.");
+}
+
+TEST_F(PosixFileManagerTests, KeepsTheOldFileWhereTheNewOneCannotBeMadeDurable)
+{
+    const TemporaryTree tree(R"(file text="old")");
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_fsync}, EIO);
+        EXPECT_FALSE(m_fileManager.writeAtomically("new", tree.url("file")));
+    });
+    EXPECT_EQ(contents(tree.path("file")), "old");
+    EXPECT_EQ(entryCount(tree.root().path()), 1U);
+}
+
+TEST_F(PosixFileManagerTests, KeepsTheOldFileWhereTheNewOneCannotBeWritten)
+{
+    const TemporaryTree tree(R"(file text="old")");
+    TestSupport::answerSystemCalls({.number = SYS_write}, TestSupport::failingOnce(ENOSPC), [&] {
+        const auto written = m_fileManager.writeAtomically("new", tree.url("file"));
+        ASSERT_FALSE(written.has_value());
+        EXPECT_EQ(written.error().kind, FileErrorKind::outOfSpace);
+    });
+    EXPECT_EQ(contents(tree.path("file")), "old");
+    EXPECT_EQ(entryCount(tree.root().path()), 1U);
+}
+
+TEST_F(PosixFileManagerTests, NeedsNoFolderThatCanBeMadeDurableButSaysWhenItFails)
+{
+    const TemporaryTree tree(R"(file text="old")");
+    for (const int systemError : {EINVAL, EIO}) {
+        TestSupport::answerSystemCalls({.number = SYS_fsync}, TestSupport::failingOnce(systemError, 1), [&] {
+            EXPECT_EQ(m_fileManager.writeAtomically("new", tree.url("file")).has_value(), systemError == EINVAL);
+        });
+    }
+}
+
+/// Those that make a new file.
+constexpr TestSupport::SystemCalls kNewFiles{.number = SYS_openat, .argument = 2, .mask = O_EXCL, .value = O_EXCL};
+
+TEST_F(PosixFileManagerTests, WritesUnderAnotherNameWhereOneIsTaken)
+{
+    const TemporaryTree tree;
+    TestSupport::answerSystemCalls(kNewFiles, TestSupport::failingOnce(EEXIST),
+        [&] { EXPECT_TRUE(m_fileManager.writeAtomically("new", tree.url("file"))); });
+    EXPECT_EQ(contents(tree.path("file")), "new");
+    EXPECT_EQ(entryCount(tree.root().path()), 1U);
+}
+
+TEST_F(PosixFileManagerTests, TriesNoOtherNameWhereTheFolderRefusesFiles)
+{
+    const TemporaryTree tree;
+    TestSupport::answerSystemCalls(kNewFiles, TestSupport::failingOnce(EROFS), [&] {
+        const auto written = m_fileManager.writeAtomically("new", tree.url("file"));
+        ASSERT_FALSE(written.has_value());
+        EXPECT_EQ(written.error().kind, FileErrorKind::readOnlyVolume);
+    });
+    EXPECT_EQ(entryCount(tree.root().path()), 0U);
+}
+
+TEST_F(PosixFileManagerTests, GivesWhatReplacesALinkNotThePermissionsOfTheLink)
+{
+    const TemporaryTree tree("link -> target");
+    ASSERT_TRUE(m_fileManager.writeAtomically("x", tree.url("link")));
+    struct stat found{};
+    ASSERT_EQ(stat(tree.path("link").c_str(), &found), 0);
+    EXPECT_EQ(found.st_mode & 0111U, 0U);
 }
 
 } // namespace

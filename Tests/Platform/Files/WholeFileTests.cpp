@@ -2,9 +2,11 @@
 
 #include "Platform/Files/OpenFolder.h"
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -101,6 +103,101 @@ TEST_F(WholeFile, WritesAllOrSaysWhyNot)
     EXPECT_EQ(Platform::writeAll(reader.get(), "abc"), EBADF);
     const Platform::FileDescriptor full(open("/dev/full", O_WRONLY | O_CLOEXEC));
     EXPECT_EQ(Platform::writeAll(full.get(), "abc"), ENOSPC);
+}
+
+/// Fail where the volume knows no files without a name.
+constexpr TestSupport::SystemCalls kNamelessFiles{
+    .number = SYS_openat, .argument = 2, .mask = O_TMPFILE & ~O_DIRECTORY, .value = O_TMPFILE & ~O_DIRECTORY};
+
+TEST_F(WholeFile, IsThereWithAllItsBytesWhereEveryFileHasAName)
+{
+    for (const int systemError : {EOPNOTSUPP, EISDIR}) {
+        m_tree.remove("file");
+        TestSupport::inChildProcess([&] {
+            TestSupport::failSystemCall(kNamelessFiles, systemError);
+            EXPECT_EQ(add("file", "first"), 0);
+            EXPECT_EQ(add("file", "second"), EEXIST);
+        });
+        EXPECT_EQ(contents(m_tree.path("file")), "first");
+        EXPECT_THAT(names(m_tree.root().path()), ElementsAre("file"));
+    }
+}
+
+TEST_F(WholeFile, IsNotMadeWhereTheVolumeRefusesIt)
+{
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall(kNamelessFiles, EROFS);
+        EXPECT_EQ(add("file", "bytes"), EROFS);
+    });
+    EXPECT_THAT(names(m_tree.root().path()), IsEmpty());
+}
+
+TEST_F(WholeFile, LeavesNothingUnfinishedWhereEveryFileHasAName)
+{
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall(kNamelessFiles, EOPNOTSUPP);
+        TestSupport::failSystemCall({.number = SYS_renameat2}, EIO);
+        EXPECT_EQ(add("file", "bytes"), EIO);
+    });
+    EXPECT_THAT(names(m_tree.root().path()), IsEmpty());
+}
+
+TEST_F(WholeFile, GivesUpOnACallThatIsInterruptedForEver)
+{
+    write(m_tree.path("file"), "old");
+    TestSupport::inChildProcess([&] {
+        const Platform::FileDescriptor file(open(m_tree.path("file").c_str(), O_WRONLY | O_CLOEXEC));
+        TestSupport::failSystemCall(TestSupport::callsOn(SYS_write, file.get()), EINTR);
+        EXPECT_EQ(Platform::writeAll(file.get(), "new"), EINTR);
+        TestSupport::failSystemCall({.number = SYS_read}, EINTR);
+        EXPECT_EQ(read("file").error(), EINTR);
+    });
+    EXPECT_EQ(contents(m_tree.path("file")), "old");
+}
+
+TEST_F(WholeFile, GoesOnAfterAnInterruption)
+{
+    TestSupport::answerSystemCalls(
+        {.number = SYS_write}, TestSupport::failingOnce(EINTR), [&] { EXPECT_EQ(add("file", "bytes"), 0); });
+    TestSupport::answerSystemCalls(
+        {.number = SYS_read}, TestSupport::failingOnce(EINTR), [&] { EXPECT_EQ(read("file"), "bytes"); });
+}
+
+TEST_F(WholeFile, TakesNoOtherFailureForAnInterruption)
+{
+    write(m_tree.path("file"), "bytes");
+    TestSupport::answerSystemCalls(
+        {.number = SYS_write}, TestSupport::failingOnce(EIO), [&] { EXPECT_EQ(add("new", "bytes"), EIO); });
+    TestSupport::answerSystemCalls(
+        {.number = SYS_read}, TestSupport::failingOnce(EIO), [&] { EXPECT_EQ(read("file").error(), EIO); });
+    EXPECT_THAT(names(m_tree.root().path()), ElementsAre("file"));
+}
+
+TEST_F(WholeFile, DoesNotWaitForAVolumeThatTakesNothing)
+{
+    const auto takeNothing = [](const TestSupport::PendingSystemCall& call) {
+        return call.before < 10 ? std::optional<std::int64_t>(0) : std::nullopt;
+    };
+    TestSupport::answerSystemCalls({.number = SYS_write}, takeNothing, [&] { EXPECT_EQ(add("file", "bytes"), EIO); });
+    EXPECT_THAT(names(m_tree.root().path()), IsEmpty());
+}
+
+TEST_F(WholeFile, SaysWhyNotWhereNoFileCanBeMade)
+{
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall(kNamelessFiles, EOPNOTSUPP);
+        TestSupport::failSystemCall({.number = SYS_openat, .argument = 2, .mask = O_EXCL, .value = O_EXCL}, EDQUOT);
+        EXPECT_EQ(add("file", "bytes"), EDQUOT);
+    });
+}
+
+TEST_F(WholeFile, DoesNotStandThereInPartWhereEveryFileHasAName)
+{
+    TestSupport::answerSystemCalls({.number = SYS_write}, TestSupport::failingOnce(ENOSPC), [&] {
+        TestSupport::failSystemCall(kNamelessFiles, EOPNOTSUPP);
+        EXPECT_EQ(add("file", "bytes"), ENOSPC);
+    });
+    EXPECT_THAT(names(m_tree.root().path()), IsEmpty());
 }
 
 } // namespace

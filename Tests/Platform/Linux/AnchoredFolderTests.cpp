@@ -1,6 +1,10 @@
 #include "Platform/Linux/AnchoredFolder.h"
 
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
+
+#include <cerrno>
+#include <sys/syscall.h>
 
 namespace {
 
@@ -90,6 +94,12 @@ TEST_F(AnchoredFolder, SaysThatTheFolderIsGone)
     const auto error = folderOf("home/Caches/gone/data").error();
     EXPECT_EQ(error.operation, Platform::FileOperation::trash);
     EXPECT_EQ(error.path, m_tree.path("home/Caches/gone/data"));
+}
+
+TEST_F(AnchoredFolder, NeedsARootThatTellsWhichItIs)
+{
+    TestSupport::answerSystemCalls({.number = SYS_statx}, TestSupport::failingOnce(EACCES),
+        [&] { EXPECT_EQ(errorOf("home/Caches/data"), FileErrorKind::noPermission); });
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <sys/file.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -114,6 +115,18 @@ TEST_F(LinuxTrashRefusals, RefusesATrashThatLostItsSoundnessAfterItWasOpened)
     trashed("home/Caches/first");
     ASSERT_EQ(chmod(filesFolder().c_str(), 0777), 0);
     expectRefused(item("home/Caches/data"), FileErrorKind::noTrash);
+}
+
+TEST_F(LinuxTrashRefusals, RefusesWhileAnotherProcessKeepsTidying)
+{
+    m_tree.add("home/Caches/first size=1\nhome/Caches/second size=1");
+    const auto first = trashed("home/Caches/first");
+    const Platform::FileDescriptor tidying(open(infoFolder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    ASSERT_EQ(flock(tidying.get(), LOCK_EX), 0);
+    EXPECT_FALSE(m_trash.trashItem(item("home/Caches/second")));
+    EXPECT_TRUE(stands(m_tree.path("home/Caches/second")));
+    EXPECT_FALSE(m_trash.restoreItem(restoring(first, "home/Caches/first")));
+    EXPECT_TRUE(stands(first.path()));
 }
 
 TEST_F(LinuxTrashRefusals, RefusesAnItemThatChangedSinceItWasConfirmed)

@@ -1,7 +1,12 @@
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
 #include <atomic>
+#include <cerrno>
+#include <fmt/format.h>
 #include <set>
+#include <sys/file.h>
+#include <sys/syscall.h>
 #include <thread>
 
 namespace {
@@ -190,6 +195,50 @@ TEST_F(LinuxTrash, SettlesOnceAndWithNothingToSettle)
     EXPECT_TRUE(m_trash.settle());
 }
 
+TEST_F(LinuxTrash, SaysWhenMovesCannotBeMadeDurable)
+{
+    m_tree.add("home/Caches/data size=1");
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_syncfs}, EIO);
+        trashed("home/Caches/data");
+        EXPECT_FALSE(m_trash.settle());
+        EXPECT_TRUE(m_trash.settle());
+    });
+}
+
+TEST_F(LinuxTrash, RefusesAFolderWhosePlaceIsNotKnown)
+{
+    m_tree.add("home/Caches/app/data size=1");
+    const auto hideOpenFolders = [](const TestSupport::PendingSystemCall& call) {
+        return call.text(0).starts_with("/proc/self/fd/") ? std::optional<std::int64_t>(-EACCES) : std::nullopt;
+    };
+    TestSupport::answerSystemCalls({.number = SYS_readlink}, hideOpenFolders,
+        [&] { expectRefused(item("home/Caches/app/"), FileErrorKind::noPermission); });
+}
+
+TEST_F(LinuxTrash, NeitherMovesNorRestoresWhereTheVolumeKnowsNoLocks)
+{
+    constexpr TestSupport::SystemCalls sharedLocks{
+        .number = SYS_flock, .argument = 1, .mask = LOCK_SH, .value = LOCK_SH};
+    m_tree.add("home/Caches/moved size=1\nhome/Caches/kept size=1");
+    const auto place = trashed("home/Caches/moved");
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall(sharedLocks, EMFILE);
+        expectRefused(item("home/Caches/kept"), FileErrorKind::tooManyOpenFiles);
+        const auto restored = m_trash.restoreItem(restoring(place, "home/Caches/moved"));
+        ASSERT_FALSE(restored);
+        EXPECT_EQ(restored.error().kind, FileErrorKind::tooManyOpenFiles);
+    });
+    EXPECT_TRUE(stands(place.path()));
+}
+
+TEST_F(LinuxTrash, NamesAFileAsAFileAndAFolderAsAFolder)
+{
+    m_tree.add("home/Caches/data size=1\nhome/Caches/folder/");
+    EXPECT_FALSE(trashed("home/Caches/data").hasDirectoryPath());
+    EXPECT_TRUE(trashed("home/Caches/folder/").hasDirectoryPath());
+}
+
 TEST_F(LinuxTrash, NamesTheHomesTrashOnlyOnceItIsThere)
 {
     const auto url = m_tree.url("home/Caches/data");
@@ -256,6 +305,19 @@ TEST_F(LinuxTrash, LetsOneOfTwoProcessesHaveTheItem)
     EXPECT_EQ(result.error().kind, FileErrorKind::noSuchFile);
     EXPECT_THAT(names(filesFolder()), ElementsAre("data"));
     EXPECT_THAT(names(infoFolder()), SizeIs(1));
+}
+
+TEST_F(LinuxTrash, FindsAFreeNameWhereManyNumbersAreTaken)
+{
+    m_tree.add(R"(
+        home/data/Trash/files/
+        home/data/Trash/info/data.trashinfo
+        home/Caches/data text="new"
+    )");
+    for (int number = 2; number <= 70; ++number) {
+        write(fmt::format("{}/data.{}.trashinfo", infoFolder(), number), "");
+    }
+    EXPECT_EQ(contents(trashed("home/Caches/data").path()), "new");
 }
 
 } // namespace

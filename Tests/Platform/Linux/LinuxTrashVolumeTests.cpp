@@ -1,7 +1,10 @@
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
+#include <cerrno>
 #include <fmt/format.h>
 #include <sys/mount.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -272,6 +275,67 @@ TEST_F(LinuxTrashVolumes, RefusesInWordsWhenTheVolumeIsFull)
         EXPECT_EQ(result.error().kind, FileErrorKind::outOfSpace) << result.error().localizedDescription();
         EXPECT_EQ(contents(m_tree.path("home/volume/cache/sub/data")), "bytes");
         EXPECT_THAT(names(own() + "/info"), IsEmpty());
+    });
+}
+
+TEST_F(LinuxTrashVolumes, NamesOnlyTheHomesTrashOnTheVolumeOfTheHome)
+{
+    inNamespace([&] {
+        TestSupport::mountTemporaryFileSystem(m_tree.path("home"), "mode=700");
+        for (const auto& folder : {std::string("Caches"), std::string("data"),
+                 fmt::format(".Trash-{}/files", geteuid()), fmt::format(".Trash-{}/info", geteuid())}) {
+            ASSERT_TRUE(std::filesystem::create_directories(m_tree.path("home") + "/" + folder));
+        }
+        write(m_tree.path("home/Caches/data"), "bytes");
+        EXPECT_EQ(trashed("home/Caches/data").path(), filesFolder() + "/data");
+        EXPECT_THAT(
+            m_trash.trashDirectories(m_tree.url("home/Caches/data")), ElementsAre(FileURL::folder(filesFolder())));
+    });
+}
+
+TEST_F(LinuxTrashVolumes, RefusesATrashOnAVolumeThatCoveredTheItemsMeanwhile)
+{
+    inNamespace([&] {
+        mountVolume();
+        auto anchor = item("home/volume/cache/other", "home/volume/cache/");
+        anchor.isConfirmed = [&, isItem = anchor.isConfirmed](const Platform::FingerprintReadings& found) {
+            TestSupport::mountTemporaryFileSystem(m_tree.path("home/volume"), "mode=700");
+            return isItem(found);
+        };
+        const auto result = m_trash.trashItem(anchor);
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error().kind, FileErrorKind::noTrash);
+        ASSERT_EQ(umount2(m_tree.path("home/volume").c_str(), MNT_DETACH), 0);
+        EXPECT_EQ(contents(m_tree.path("home/volume/cache/other")), "b");
+    });
+}
+
+TEST_F(LinuxTrashVolumes, RestoresOnlyFromTheTrashThatIsNamed)
+{
+    inNamespace([&] {
+        mountVolume();
+        auto anchor = restoring(trashedOnVolume(), "home/volume/cache/sub/data", "home/volume/cache/");
+        makeFolder("other/files", 0700);
+        anchor.trashedItem = m_tree.url("home/volume/other/files/data");
+        const auto restored = m_trash.restoreItem(anchor);
+        ASSERT_FALSE(restored);
+        EXPECT_EQ(restored.error().kind, FileErrorKind::noTrash);
+        EXPECT_TRUE(stands(own() + "/files/data"));
+    });
+}
+
+TEST_F(LinuxTrashVolumes, RefusesWhereTheMountsAreNotKnown)
+{
+    inNamespace([&] {
+        mountVolume();
+        const auto hideMounts = [](const TestSupport::PendingSystemCall& call) {
+            return call.text(1) == Platform::MountTable::kOfThisProcess ? std::optional<std::int64_t>(-EMFILE)
+                                                                        : std::nullopt;
+        };
+        TestSupport::answerSystemCalls({.number = SYS_openat}, hideMounts, [&] {
+            expectRefusedOnVolume(FileErrorKind::noTrash);
+            expectRefused(item("home/volume/cache/sub/", "home/volume/cache/"), FileErrorKind::tooManyOpenFiles);
+        });
     });
 }
 

@@ -2,9 +2,11 @@
 
 #include "Platform/Linux/MountWatch.h"
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/syscall.h>
 
 namespace {
 
@@ -97,6 +99,18 @@ TEST_F(MountWatch, ReadsTheTableAgainOnlyAfterAChange)
         EXPECT_TRUE((*second)->hasMountAtOrBelow(m_tree.path("mounted")));
         EXPECT_EQ(*watch.current(), *second);
     });
+}
+
+TEST_F(MountWatch, SaysWhyTheTableCannotBeReadAndReadsItLater)
+{
+    // The table is opened once to hear of changes, and each time that it is read.
+    for (const std::size_t before : {0U, 1U}) {
+        TestSupport::answerSystemCalls({.number = SYS_openat}, TestSupport::failingOnce(EMFILE, before), [&] {
+            Platform::MountWatch watch;
+            EXPECT_EQ(watch.current().error(), EMFILE);
+            EXPECT_TRUE(watch.current());
+        });
+    }
 }
 
 } // namespace

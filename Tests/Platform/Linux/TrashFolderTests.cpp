@@ -2,17 +2,18 @@
 
 #include "Platform/Files/OpenFolder.h"
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/syscall.h>
 
 namespace {
 
 using namespace TrashTests;
 using Platform::MissingTrash;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::string_view kOurs = "[Trash Info]\nPath=/x\nDeletionDate=2026-01-01T00:00:00\nX-Karvello=1\n";
 constexpr std::string_view kForeign = "[Trash Info]\nPath=/x\nDeletionDate=2026-01-01T00:00:00\n";
@@ -47,6 +48,21 @@ TEST_F(TrashFolder, IsNotOpenedInPartWithoutBeingAskedToMakeIt)
     m_tree.add("data/Trash/files/");
     EXPECT_EQ(open(MissingTrash::refuse).error(), ENOENT);
     EXPECT_FALSE(stands(info()));
+}
+
+TEST_F(TrashFolder, MakesNoFolderAboveItWithoutBeingAskedTo)
+{
+    const auto missing = m_tree.url("other/share/Trash/");
+    EXPECT_EQ(Platform::TrashFolder::open(missing, std::nullopt, MissingTrash::refuse).error(), ENOENT);
+    EXPECT_FALSE(stands(m_tree.path("other")));
+}
+
+TEST_F(TrashFolder, LeavesAnEmptyFolderAloneThatIsNotSafeToUse)
+{
+    m_tree.add("data/Trash/");
+    ASSERT_EQ(chmod(m_tree.path("data/Trash").c_str(), 0777), 0);
+    EXPECT_EQ(open().error(), EPERM);
+    EXPECT_TRUE(stands(m_tree.path("data/Trash")));
 }
 
 TEST_F(TrashFolder, NeverReplacesARecord)
@@ -118,11 +134,13 @@ TEST_F(TrashFolder, TakesItsOwnLeftoversAwayAndNothingElse)
     }
     write(info("foreign.trashinfo"), kForeign);
     write(info("empty.trashinfo"), "");
-    write(info("notarecord"), kOurs);
+    for (const auto* name : {"notarecord", "nor this record", "short"}) {
+        write(info(name), kOurs);
+    }
     ASSERT_TRUE(open());
     EXPECT_THAT(names(info()),
-        ElementsAre("dangling.trashinfo", "empty.trashinfo", "foreign.trashinfo", "notarecord", "other.tmp",
-            "present.trashinfo"));
+        ElementsAre("dangling.trashinfo", "empty.trashinfo", "foreign.trashinfo", "nor this record", "notarecord",
+            "other.tmp", "present.trashinfo", "short"));
 }
 
 TEST_F(TrashFolder, TidiesNotWhileAnotherProcessIsMoving)
@@ -179,6 +197,106 @@ TEST_F(TrashFolder, NoticesThatItWasTakenAway)
     EXPECT_FALSE((*trash)->isStillInPlace());
     std::filesystem::create_directory(info());
     EXPECT_FALSE((*trash)->isStillInPlace());
+}
+
+TEST_F(TrashFolder, KeepsEveryRecordWhereALookFails)
+{
+    m_tree.add(R"(
+        data/Trash/files/present size=1
+        data/Trash/info/
+    )");
+    for (const auto* name : {"gone", "present"}) {
+        write(info(name) + ".trashinfo", kOurs);
+    }
+    ASSERT_EQ(chmod(m_tree.path("data/Trash/files").c_str(), 0700), 0);
+    // Three folders are opened to use them, then each of the two to list it.
+    constexpr TestSupport::SystemCalls openings{.number = SYS_openat2};
+    constexpr TestSupport::SystemCalls listings{.number = SYS_getdents64};
+    for (const auto& [calls, before] : {std::pair(openings, 3), std::pair(openings, 4), std::pair(listings, 0)}) {
+        const auto fault = TestSupport::failingOnce(EMFILE, static_cast<std::size_t>(before));
+        TestSupport::answerSystemCalls(calls, fault, [&] { EXPECT_TRUE(open()); });
+        EXPECT_THAT(names(info()), ElementsAre("gone.trashinfo", "present.trashinfo")) << calls.number << ' ' << before;
+    }
+    // The folder of items is listed only after that of records was listed to its end.
+    const auto failOfItems = [](const TestSupport::PendingSystemCall& call) -> std::optional<std::int64_t> {
+        const auto link = "/proc/self/fd/" + std::to_string(call.arguments[0]);
+        return std::filesystem::read_symlink(link).filename() == "files" ? std::optional<std::int64_t>(-EIO)
+                                                                         : std::nullopt;
+    };
+    TestSupport::answerSystemCalls(listings, failOfItems, [&] { EXPECT_TRUE(open()); });
+    EXPECT_THAT(names(info()), ElementsAre("gone.trashinfo", "present.trashinfo"));
+    // Whether an item is there cannot be told.
+    constexpr TestSupport::SystemCalls looksAtNames{
+        .number = SYS_statx, .argument = 2, .mask = AT_EMPTY_PATH, .value = 0};
+    TestSupport::answerSystemCalls(
+        looksAtNames, [](const auto&) { return std::optional<std::int64_t>(-EIO); }, [&] { EXPECT_TRUE(open()); });
+    EXPECT_THAT(names(info()), ElementsAre("gone.trashinfo", "present.trashinfo"));
+    EXPECT_TRUE(open());
+    EXPECT_THAT(names(info()), ElementsAre("present.trashinfo"));
+}
+
+TEST_F(TrashFolder, TakesAwayAFolderThatItMadeAndMayNotUse)
+{
+    constexpr TestSupport::SystemCalls looksAtFolders{
+        .number = SYS_newfstatat, .argument = 3, .mask = AT_EMPTY_PATH, .value = AT_EMPTY_PATH};
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall(looksAtFolders, EIO);
+        EXPECT_EQ(open().error(), EIO);
+    });
+    EXPECT_FALSE(stands(m_tree.path("data/Trash")));
+}
+
+TEST_F(TrashFolder, SaysWhyTheFolderAboveItCannotBeMade)
+{
+    const auto missing = m_tree.url("other/share/Trash/");
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_mkdir}, EROFS);
+        EXPECT_EQ(Platform::TrashFolder::open(missing, std::nullopt, MissingTrash::make).error(), EROFS);
+    });
+}
+
+/// Those that `use` makes.
+constexpr TestSupport::SystemCalls kSharedLocks{.number = SYS_flock, .argument = 1, .mask = LOCK_SH, .value = LOCK_SH};
+
+TEST_F(TrashFolder, WaitsForTheEndOfTidyingAndOfAnInterruption)
+{
+    const auto trash = open();
+    ASSERT_TRUE(trash);
+    for (const int systemError : {EWOULDBLOCK, EINTR}) {
+        TestSupport::answerSystemCalls(kSharedLocks, TestSupport::failingOnce(systemError),
+            [&] { EXPECT_TRUE(Platform::TrashFolder::use(*trash)); });
+    }
+}
+
+TEST_F(TrashFolder, IsNotUsedWhereTheVolumeKnowsNoLocks)
+{
+    const auto trash = open();
+    ASSERT_TRUE(trash);
+    TestSupport::answerSystemCalls(kSharedLocks, TestSupport::failingOnce(ENOLCK),
+        [&] { EXPECT_EQ(Platform::TrashFolder::use(*trash).error(), ENOLCK); });
+}
+
+TEST_F(TrashFolder, NoticesAnotherVolumeWhoseFoldersHaveTheSameNumbers)
+{
+    TestSupport::inMountNamespace([&] {
+        const auto numbers = [&] {
+            std::vector<ino_t> found;
+            for (const auto& folder : {m_tree.path("data/Trash/files"), info()}) {
+                struct stat status{};
+                EXPECT_EQ(stat(folder.c_str(), &status), 0);
+                found.push_back(status.st_ino);
+            }
+            return found;
+        };
+        TestSupport::mountTemporaryFileSystem(m_tree.path("data"));
+        const auto trash = open();
+        ASSERT_TRUE(trash);
+        const auto before = numbers();
+        TestSupport::mountTemporaryFileSystem(m_tree.path("data"));
+        ASSERT_TRUE(open());
+        EXPECT_EQ(numbers(), before) << "new file systems of memory number their folders alike";
+        EXPECT_FALSE((*trash)->isStillInPlace());
+    });
 }
 
 } // namespace

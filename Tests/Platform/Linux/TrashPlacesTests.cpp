@@ -2,8 +2,13 @@
 
 #include "Platform/Files/OpenFolder.h"
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
+#include <cerrno>
+#include <fcntl.h>
 #include <fmt/format.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace {
@@ -55,7 +60,8 @@ TEST_F(TrashPlaces, IsFirstInTheSharedFolderThatIsSticky)
 
 TEST_F(TrashPlaces, IsNowhereOnAVolumeOfAnotherMachineOrProgram)
 {
-    for (const auto* type : {"nfs", "nfs4", "cifs", "smb3", "9p", "fuse", "fuse.sshfs", "fuse.gvfsd-fuse", "autofs"}) {
+    for (const auto* type : {"nfs", "nfs4", "cifs", "smb3", "smbfs", "9p", "ceph", "afs", "autofs", "ecryptfs", "davfs",
+             "fuse", "fuse.sshfs", "fuse.gvfsd-fuse"}) {
         EXPECT_THAT(places(type), IsEmpty()) << type;
     }
 }
@@ -86,6 +92,43 @@ TEST_F(TrashPlaces, IsBelowTheFolderForApplicationDataAtHome)
 {
     EXPECT_EQ(Platform::homeTrashURL(FileURL::folder("/home/me/.local/share")),
         FileURL::folder("/home/me/.local/share/Trash"));
+}
+
+TEST_F(TrashPlaces, IsNotInASharedFolderThatIsALinkOrAFile)
+{
+    m_tree.add(R"(
+        top/sticky/ mode=1777
+        top/.Trash -> sticky
+    )");
+    EXPECT_THAT(places("ext4"), ElementsAre(m_own));
+    m_tree.remove("top/.Trash");
+    m_tree.add("top/.Trash mode=1777");
+    EXPECT_THAT(places("ext4"), ElementsAre(m_own));
+}
+
+/// The looks at the top of a mount, by its path.
+constexpr TestSupport::SystemCalls kLooksAtPaths{
+    .number = SYS_statx, .argument = 0, .mask = ~0U, .value = static_cast<std::uint32_t>(AT_FDCWD)};
+
+TEST_F(TrashPlaces, IsTheUsersOwnFolderOnASubvolume)
+{
+    const auto sayTop = [](const TestSupport::PendingSystemCall& call) -> std::optional<std::int64_t> {
+        auto* const found = call.pointer<struct statx>(4);
+        const int result = statx(AT_FDCWD, call.pointer<const char>(1), static_cast<int>(call.arguments[2]),
+            static_cast<unsigned>(call.arguments[3]), found);
+        found->stx_ino = 256;
+        return result;
+    };
+    TestSupport::answerSystemCalls(kLooksAtPaths, sayTop, [&] {
+        EXPECT_THAT(places("btrfs", "/@home"), ElementsAre(m_own));
+        EXPECT_THAT(places("ext4", "/@home"), IsEmpty());
+    });
+}
+
+TEST_F(TrashPlaces, IsNowhereOnWhatDoesNotTellThatItIsASubvolume)
+{
+    TestSupport::answerSystemCalls(
+        kLooksAtPaths, TestSupport::failingOnce(EACCES), [&] { EXPECT_THAT(places("btrfs", "/@home"), IsEmpty()); });
 }
 
 } // namespace

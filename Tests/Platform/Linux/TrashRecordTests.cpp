@@ -66,6 +66,13 @@ TEST(TrashRecord, TakesTheFirstOfAKeyThatComesTwice)
     EXPECT_EQ(record->deletionDate, "1");
 }
 
+TEST(TrashRecord, ReadsNothingFromALineThatIsOnlyAKey)
+{
+    const auto record = TrashRecord::parse("[Trash Info]\nPath\nPath=/a\n");
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->path, "/a");
+}
+
 TEST(TrashRecord, ReadsALastLineWithoutALineBreak)
 {
     ASSERT_TRUE(TrashRecord::parse("[Trash Info]\nPath=/a"));

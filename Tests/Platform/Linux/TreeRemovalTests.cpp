@@ -1,9 +1,12 @@
 #include "Platform/Linux/TreeRemoval.h"
 
 #include "Tests/Platform/Linux/TrashFixture.h"
+#include "Tests/Support/FailingSystemCall.h"
 
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/syscall.h>
 
 namespace {
 
@@ -89,7 +92,7 @@ TEST_F(TreeRemoval, EntersNoOtherVolumeAndKeepsTheRestInItsPlace)
     )");
     TestSupport::inMountNamespace([&] {
         TestSupport::bindMount(m_tree.path("elsewhere"), m_tree.path("tree/a/b/mounted"));
-        EXPECT_NE(remove("tree"), 0);
+        EXPECT_EQ(remove("tree"), EXDEV);
         EXPECT_EQ(contents(m_tree.path("tree/a/b/mounted/precious")), "p");
     });
     EXPECT_EQ(contents(m_tree.path("elsewhere/precious")), "p");
@@ -106,6 +109,89 @@ TEST_F(TreeRemoval, StopsAtAFolderThatMayNotBeEmptied)
         EXPECT_EQ(remove("tree"), EACCES);
         EXPECT_TRUE(stands(m_tree.path("tree/locked/file")));
     });
+}
+
+TEST_F(TreeRemoval, SaysWhichCallFailed)
+{
+    struct Fault {
+        TestSupport::SystemCalls calls;
+        std::size_t before = 0;
+    };
+    constexpr TestSupport::SystemCalls upward{.number = SYS_openat, .argument = 2, .mask = O_PATH, .value = O_PATH};
+    for (const auto& fault : {Fault{.calls = {.number = SYS_unlinkat}}, Fault{.calls = {.number = SYS_openat2}},
+             Fault{.calls = {.number = SYS_openat2}, .before = 1}, Fault{.calls = {.number = SYS_statx}},
+             Fault{.calls = {.number = SYS_statx}, .before = 1}, Fault{.calls = {.number = SYS_getdents64}},
+             Fault{.calls = upward, .before = 1}, Fault{.calls = {.number = SYS_statx}, .before = 3}}) {
+        m_tree.add("tree/folder/kept/");
+        TestSupport::answerSystemCalls(fault.calls, TestSupport::failingOnce(ENOMEM, fault.before),
+            [&] { EXPECT_EQ(remove("tree"), ENOMEM) << fault.calls.number << ' ' << fault.before; });
+        EXPECT_TRUE(stands(m_tree.path("tree/folder"))) << fault.calls.number << ' ' << fault.before;
+        m_tree.remove("tree");
+    }
+}
+
+/// Reads the listing that is waited for, without the types of its entries.
+std::int64_t listWithoutTypes(const TestSupport::PendingSystemCall& call)
+{
+    auto* const buffer = call.pointer<char>(1);
+    const auto count = getdents64(static_cast<int>(call.arguments[0]), buffer, call.arguments[2]);
+    for (ssize_t offset = 0; offset < count;) {
+        auto* const entry = reinterpret_cast<dirent64*>(buffer + offset);
+        entry->d_type = DT_UNKNOWN;
+        offset += entry->d_reclen;
+    }
+    return count;
+}
+
+TEST_F(TreeRemoval, RemovesATreeWhoseListingTellsNoTypes)
+{
+    m_tree.add(R"(
+        tree/a/b/file size=1
+        tree/a/link -> ..
+        tree/file size=1
+    )");
+    TestSupport::answerSystemCalls({.number = SYS_getdents64}, listWithoutTypes, [&] { EXPECT_EQ(remove("tree"), 0); });
+    EXPECT_FALSE(stands(m_tree.path("tree")));
+}
+
+TEST_F(TreeRemoval, StopsAtAFileThatStaysWhoseListingTellsNoTypes)
+{
+    m_tree.add(R"(
+        tree/locked/file size=1
+        tree/locked/ mode=555
+    )");
+    TestSupport::asOrdinaryUser(m_tree.root().path(), [&] {
+        TestSupport::answerSystemCalls(
+            {.number = SYS_getdents64}, listWithoutTypes, [&] { EXPECT_EQ(remove("tree"), EACCES); });
+    });
+    EXPECT_TRUE(stands(m_tree.path("tree/locked/file")));
+}
+
+TEST_F(TreeRemoval, TakesTheErrorOfAnEarlierCallForNone)
+{
+    m_tree.add("tree/a/b/file size=1");
+    TestSupport::inChildProcess([&] {
+        TestSupport::failSystemCall({.number = SYS_openat2}, ENOSYS);
+        EXPECT_EQ(remove("tree"), 0);
+    });
+    EXPECT_FALSE(stands(m_tree.path("tree")));
+}
+
+TEST_F(TreeRemoval, RemovesNothingWhereItsFolderWasMovedTo)
+{
+    m_tree.add(R"(
+        tree/folder/file size=1
+        elsewhere/
+    )");
+    constexpr TestSupport::SystemCalls upward{.number = SYS_openat, .argument = 2, .mask = O_PATH, .value = O_PATH};
+    const auto moveFirst = [&](const TestSupport::PendingSystemCall& call) -> std::optional<std::int64_t> {
+        if (call.text(1) == "..") {
+            std::filesystem::rename(m_tree.path("tree/folder"), m_tree.path("elsewhere/folder"));
+        }
+        return std::nullopt;
+    };
+    TestSupport::answerSystemCalls(upward, moveFirst, [&] { EXPECT_EQ(remove("tree"), ESTALE); });
+    EXPECT_TRUE(stands(m_tree.path("elsewhere/folder")));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "Platform/Files/FileLock.h"
 
+#include <atomic>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -10,8 +11,23 @@ namespace Platform {
 
 namespace {
 
-// Asking does not queue, so it must be frequent: one who locks again at once leaves gaps of some 10 microseconds.
+// Asking does not queue, so it must be frequent, and one who had a lock just now must not take the next at once: the
+// others would have to ask in the few microseconds between.
 constexpr std::chrono::microseconds kPause{200};
+constexpr std::chrono::microseconds kRestAfterALock{1000};
+
+using Clock = std::chrono::steady_clock;
+
+/// When this process last gave a lock back.
+std::atomic<Clock::rep> lastEnd{0};
+
+void letOthersAsk()
+{
+    const Clock::time_point end{Clock::duration(lastEnd.load())};
+    if (Clock::now() - end < kRestAfterALock) {
+        std::this_thread::sleep_until(end + kRestAfterALock);
+    }
+}
 
 FileDescriptor openLockFile(const FileURL& url)
 {
@@ -28,9 +44,18 @@ bool isStillNamed(const struct stat& opened, const FileURL& url)
 
 } // namespace
 
+FileLock::~FileLock()
+{
+    if (m_file.isOpen()) {
+        m_file.reset();
+        lastEnd = Clock::now().time_since_epoch().count();
+    }
+}
+
 std::expected<FileLock, FileLockFailure> FileLock::acquire(const FileURL& url, std::chrono::milliseconds maximumWait)
 {
-    const auto deadline = std::chrono::steady_clock::now() + maximumWait;
+    const auto deadline = Clock::now() + maximumWait;
+    letOthersAsk();
     while (true) {
         auto file = openLockFile(url);
         struct stat opened{};
@@ -41,7 +66,7 @@ std::expected<FileLock, FileLockFailure> FileLock::acquire(const FileURL& url, s
             if (errno != EWOULDBLOCK && errno != EINTR) {
                 return std::unexpected(FileLockFailure::unavailable);
             }
-            if (std::chrono::steady_clock::now() >= deadline) {
+            if (Clock::now() >= deadline) {
                 return std::unexpected(FileLockFailure::busy);
             }
             std::this_thread::sleep_for(kPause);
@@ -49,7 +74,7 @@ std::expected<FileLock, FileLockFailure> FileLock::acquire(const FileURL& url, s
         if (isStillNamed(opened, url)) {
             return FileLock(std::move(file));
         }
-        if (std::chrono::steady_clock::now() >= deadline) {
+        if (Clock::now() >= deadline) {
             return std::unexpected(FileLockFailure::busy);
         }
     }

@@ -18,9 +18,14 @@ enum class FileLockFailure : std::uint8_t {
 };
 
 /// Keeps processes apart that agree on a lock file (flock(2)); threads of one process as well. It ends with this object,
-/// and with the process whatever becomes of it, so a crash never leaves a lock behind.
+/// and with the process whatever becomes of it, so a crash never leaves a lock behind. A process that takes one lock after
+/// the other lets those who wait have theirs in between.
 class FileLock {
 public:
+    ~FileLock();
+    FileLock(FileLock&&) = default;
+    FileLock& operator=(FileLock&&) = delete;
+
     /// Makes the file (for its user alone) if there is none, but no folder. A link is not followed. The file stays when
     /// the lock ends: taking it away would let two others hold two files of one name.
     [[nodiscard]] static std::expected<FileLock, FileLockFailure> acquire(

@@ -4,6 +4,7 @@
 #include "Tests/Support/FailingSystemCall.h"
 #include "Tests/Support/TemporaryTree.h"
 
+#include <atomic>
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
@@ -73,6 +74,26 @@ TEST_F(FileLockTest, IsTakenOnceTheOtherHolderEnds)
         lock.reset();
     });
     EXPECT_EQ(failure(milliseconds(10'000)), std::nullopt);
+}
+
+TEST_F(FileLockTest, ComesSoonToOneWhoWaitsWhileAnotherTakesItAgainAndAgain)
+{
+    for (int round = 0; round < 10; ++round) {
+        std::optional lock = FileLock::acquire(m_url, milliseconds(0));
+        ASSERT_TRUE(lock->has_value());
+        std::atomic<bool> hasComeToOther = false;
+        const std::jthread other([&] {
+            EXPECT_EQ(failure(milliseconds(60'000)), std::nullopt);
+            hasComeToOther = true;
+        });
+        int times = 0;
+        for (; !hasComeToOther; ++times) {
+            std::this_thread::sleep_for(milliseconds(2));
+            lock.reset();
+            lock.emplace(FileLock::acquire(m_url, milliseconds(60'000)));
+        }
+        EXPECT_LT(times, 20);
+    }
 }
 
 TEST_F(FileLockTest, EndsWithTheProcessThatHeldIt)

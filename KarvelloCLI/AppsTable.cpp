@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace KarvelloCLI {
 
@@ -47,8 +46,7 @@ std::vector<std::size_t> columnsFor(std::size_t width)
 
 std::string sizeOf(std::optional<std::uint64_t> bytes, const TextStyle& style)
 {
-    constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    return bytes ? style.size(static_cast<std::int64_t>(std::min(*bytes, most))) : "-";
+    return bytes ? style.size(*bytes) : "-";
 }
 
 Row titles()

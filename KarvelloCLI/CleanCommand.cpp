@@ -11,7 +11,6 @@
 #include "KarvelloCLI/ScanRun.h"
 #include "KarvelloCLI/SelectedCandidates.h"
 #include "KarvelloCLI/Words.h"
-#include "KarvelloCLI/WorkingDirectory.h"
 #include "Platform/Files/FileError.h"
 
 #include <fmt/format.h>
@@ -118,21 +117,18 @@ ExitCode exitCodeOf(const CleanResult& result)
 ExitCode CleanCommand::run(const CleanOptions& options) const
 {
     const CommonOptions& common = options.scan.common;
-    const auto here = workingDirectoryFor(options.scan.paths());
-    if (!here) {
-        printMessage(here.error());
+    const auto opened = openPlaces(options.scan.paths(), common, m_fileManager);
+    if (!opened) {
         return ExitCode::wrongUsage;
     }
-    const auto output = openOutput(common, *here, m_fileManager);
-    if (!output) {
-        return ExitCode::wrongUsage;
-    }
+    const OutputFile& output = opened->output;
     if (!mayBeAgreedTo(options.isConfirmed, "moved")) {
         return ExitCode::refused;
     }
 
     std::optional<Interruption> interruption(std::in_place);
-    const auto run = ScanRun::perform(options.scan, *here, m_fileManager, m_environment, interruption->token());
+    const auto run =
+        ScanRun::perform(options.scan, opened->workingDirectory, m_fileManager, m_environment, interruption->token());
     if (!run) {
         printMessage(run.error());
         return ExitCode::refused;
@@ -166,7 +162,7 @@ ExitCode CleanCommand::run(const CleanOptions& options) const
         {.common = common,
             .isConfirmed = options.isConfirmed,
             .home = home,
-            .output = *output,
+            .output = output,
             .fileManager = m_fileManager,
             .log = m_log,
             .environment = m_environment},

@@ -19,8 +19,6 @@ std::string wordsOf(const Platform::FileError& error)
     return error.systemError != 0 ? std::generic_category().message(error.systemError) : error.localizedDescription();
 }
 
-} // namespace
-
 std::optional<OutputFile> openOutput(
     const CommonOptions& options, const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager)
 {
@@ -37,18 +35,31 @@ std::optional<OutputFile> openOutput(
     return *std::move(named);
 }
 
+} // namespace
+
+std::optional<CommandPlaces> openPlaces(
+    std::span<const std::string> paths, const CommonOptions& options, const Platform::FileManager& fileManager)
+{
+    auto here = workingDirectoryFor(paths);
+    if (!here) {
+        printMessage(here.error());
+        return std::nullopt;
+    }
+    auto output = openOutput(options, *here, fileManager);
+    if (!output) {
+        return std::nullopt;
+    }
+    return CommandPlaces{.workingDirectory = *std::move(here), .output = *std::move(output)};
+}
+
 std::optional<OutputFile> outputOf(const CommonOptions& options, const Platform::FileManager& fileManager)
 {
     std::vector<std::string> paths;
     if (options.output) {
         paths.push_back(*options.output);
     }
-    const auto here = workingDirectoryFor(paths);
-    if (!here) {
-        printMessage(here.error());
-        return std::nullopt;
-    }
-    return openOutput(options, *here, fileManager);
+    auto places = openPlaces(paths, options, fileManager);
+    return places ? std::optional(std::move(places->output)) : std::nullopt;
 }
 
 Delivery deliver(std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager)

@@ -20,9 +20,17 @@ namespace KarvelloCLI {
 
 enum class Delivery : std::uint8_t { written, failed };
 
-/// Where the options send the data. Nothing, after a message to the user, if that cannot be written to.
-[[nodiscard]] std::optional<OutputFile> openOutput(
-    const CommonOptions& options, const Platform::FileURL& workingDirectory, const Platform::FileManager& fileManager);
+/// What a command needs of the disk before it begins.
+struct CommandPlaces {
+    /// The folder that relative paths count from.
+    Platform::FileURL workingDirectory;
+    OutputFile output;
+};
+
+/// For a command with `paths` among its options, `--output` one of them. Nothing, after a message to the user, if there is
+/// no folder that relative ones could count from, or if the output cannot be written to.
+[[nodiscard]] std::optional<CommandPlaces> openPlaces(
+    std::span<const std::string> paths, const CommonOptions& options, const Platform::FileManager& fileManager);
 
 /// The same for a command that has no other paths: a relative one counts from where the user is.
 [[nodiscard]] std::optional<OutputFile> outputOf(

@@ -6,7 +6,6 @@
 #include "KarvelloCLI/InsightTable.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
-#include "KarvelloCLI/WorkingDirectory.h"
 
 #include <expected>
 #include <optional>
@@ -45,29 +44,26 @@ InsightsCommand::InsightsCommand(const Platform::FileManager& fileManager, const
 ExitCode InsightsCommand::run(const InsightsOptions& options) const
 {
     const CommonOptions& common = options.common;
-    const auto here = workingDirectoryFor(options.paths());
-    if (!here) {
-        printMessage(here.error());
+    const auto opened = openPlaces(options.paths(), common, m_fileManager);
+    if (!opened) {
         return ExitCode::wrongUsage;
     }
-    const auto output = openOutput(common, *here, m_fileManager);
-    if (!output) {
-        return ExitCode::wrongUsage;
-    }
+    const OutputFile& output = opened->output;
 
     std::optional<Interruption> interruption(std::in_place);
-    const auto run = InsightRun::perform(options, *here, m_fileManager, m_environment, interruption->token());
+    const auto run =
+        InsightRun::perform(options, opened->workingDirectory, m_fileManager, m_environment, interruption->token());
     if (!run) {
         printMessage(run.error());
         return ExitCode::refused;
     }
-    if (!output->isReplacedAtomically()) {
+    if (!output.isReplacedAtomically()) {
         // A reader may be slow; from here on a signal simply ends the program.
         interruption.reset();
     }
     const auto data =
-        common.format == OutputFormat::table ? tableOf(*run, common, *output, m_environment) : exportOf(*run, common);
-    if (deliverExport(data, *output, m_fileManager) == Delivery::failed) {
+        common.format == OutputFormat::table ? tableOf(*run, common, output, m_environment) : exportOf(*run, common);
+    if (deliverExport(data, output, m_fileManager) == Delivery::failed) {
         return ExitCode::partial;
     }
     return run->judgement.conclude(run->plan.subject.isIncomplete, m_fileManager);

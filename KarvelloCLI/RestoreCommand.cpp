@@ -141,15 +141,11 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
             paths.push_back(*path);
         }
     }
-    const auto here = workingDirectoryFor(paths);
-    if (!here) {
-        printMessage(here.error());
+    const auto opened = openPlaces(paths, common, m_fileManager);
+    if (!opened) {
         return ExitCode::wrongUsage;
     }
-    const auto output = openOutput(common, *here, m_fileManager);
-    if (!output) {
-        return ExitCode::wrongUsage;
-    }
+    const OutputFile& output = opened->output;
     const bool isListing = options.selection == RestoreSelection::none;
     if (!isListing && !mayBeAgreedTo(options.isConfirmed, "put back")) {
         return ExitCode::refused;
@@ -167,8 +163,8 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
         }
     }
 
-    const FileURL namedHome =
-        options.home ? absoluteFolder(*options.home, *here) : Platform::homeDirectoryForCurrentUser();
+    const FileURL namedHome = options.home ? absoluteFolder(*options.home, opened->workingDirectory)
+                                           : Platform::homeDirectoryForCurrentUser();
     const FileURL home = FileURL::folder(m_fileManager.resolvingSymbolicLinks(namedHome).path());
     const auto known = knownLocations(home, m_environment, m_fileManager);
     const RestoreCatalog catalog(log.entries, [&](std::span<const CleanedItem> items) {
@@ -179,10 +175,10 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
 
     if (isListing) {
         std::erase_if(log.entries, [](const CleanupAuditEntry& each) { return each.cleanedItems.empty(); });
-        const auto style = TextStyle::of(common, output->descriptor(), home, m_environment);
+        const auto style = TextStyle::of(common, output.descriptor(), home, m_environment);
         const Delivery delivery = common.format == OutputFormat::table
-            ? deliver(restoreList(catalog, m_fileManager, style), *output, m_fileManager)
-            : deliverAuditExport(log.entries, common, *output, m_fileManager);
+            ? deliver(restoreList(catalog, m_fileManager, style), output, m_fileManager)
+            : deliverAuditExport(log.entries, common, output, m_fileManager);
         return delivery == Delivery::written ? codeOfLog : ExitCode::partial;
     }
 
@@ -207,7 +203,7 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
         {.common = common,
             .isConfirmed = options.isConfirmed,
             .home = home,
-            .output = *output,
+            .output = output,
             .fileManager = m_fileManager,
             .log = m_log,
             .environment = m_environment},

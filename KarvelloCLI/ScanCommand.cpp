@@ -5,7 +5,6 @@
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/ScanRun.h"
-#include "KarvelloCLI/WorkingDirectory.h"
 
 #include <expected>
 #include <optional>
@@ -56,18 +55,14 @@ ScanCommand::ScanCommand(const Platform::FileManager& fileManager, const Platfor
 ExitCode ScanCommand::run(const ScanOptions& options) const
 {
     const CommonOptions& common = options.common;
-    const auto here = workingDirectoryFor(options.paths());
-    if (!here) {
-        printMessage(here.error());
+    const auto opened = openPlaces(options.paths(), common, m_fileManager);
+    if (!opened) {
         return ExitCode::wrongUsage;
     }
-    const auto output = openOutput(common, *here, m_fileManager);
-    if (!output) {
-        return ExitCode::wrongUsage;
-    }
+    const OutputFile& output = opened->output;
 
     std::optional<Interruption> interruption(std::in_place);
-    auto run = ScanRun::perform(options, *here, m_fileManager, m_environment, interruption->token());
+    auto run = ScanRun::perform(options, opened->workingDirectory, m_fileManager, m_environment, interruption->token());
     if (!run) {
         printMessage(run.error());
         return ExitCode::refused;
@@ -76,14 +71,14 @@ ExitCode ScanCommand::run(const ScanOptions& options) const
     const auto& refused = run->plan.refusedFolders;
     report.skippedItems.insert(report.skippedItems.begin(), refused.begin(), refused.end());
 
-    if (!output->isReplacedAtomically()) {
+    if (!output.isReplacedAtomically()) {
         // A reader may be slow; from here on a signal simply ends the program.
         interruption.reset();
     }
     const auto data = common.format == OutputFormat::table
-        ? tableOf(report, run->plan.subject, common, *output, m_environment)
+        ? tableOf(report, run->plan.subject, common, output, m_environment)
         : exportOf(report, common);
-    if (deliverExport(data, *output, m_fileManager) == Delivery::failed) {
+    if (deliverExport(data, output, m_fileManager) == Delivery::failed) {
         return ExitCode::partial;
     }
     return run->judgement.conclude(run->plan.subject.isIncomplete, m_fileManager);

@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <string_view>
 
 template <>
@@ -63,12 +62,6 @@ constexpr std::array<std::string_view, 13> kColumns{"captured_at", "physical_mem
     "active_processor_count", "thermal_state", "uptime_seconds", "home_volume_total_bytes",
     "home_volume_available_bytes"};
 
-std::string size(std::uint64_t bytes, const TextStyle& style)
-{
-    constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    return style.size(static_cast<std::int64_t>(std::min(bytes, most)));
-}
-
 std::string lowercased(std::string_view word)
 {
     return Platform::Text::lowercased(word);
@@ -97,8 +90,8 @@ std::string memoryWords(const SystemResourceSnapshot& snapshot, const TextStyle&
     if (!share) {
         return "unknown";
     }
-    return fmt::format("{} of {} used ({}), pressure {}", size(snapshot.usedMemoryBytes, style),
-        size(snapshot.physicalMemoryBytes, style), percentage(share), lowercased(snapshot.memoryPressure));
+    return fmt::format("{} of {} used ({}), pressure {}", style.size(snapshot.usedMemoryBytes),
+        style.size(snapshot.physicalMemoryBytes), percentage(share), lowercased(snapshot.memoryPressure));
 }
 
 std::string uptimeWords(double seconds)

@@ -4,6 +4,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <limits>
+
 namespace KarvelloCLI {
 
 TextStyle TextStyle::of(const CommonOptions& options, int descriptor, const Platform::FileURL& home,
@@ -21,6 +24,12 @@ TextStyle TextStyle::of(const CommonOptions& options, int descriptor, const Plat
 std::string TextStyle::size(std::int64_t bytes) const
 {
     return CleanerCore::ByteSizeFormatter::string(bytes, language);
+}
+
+std::string TextStyle::size(std::uint64_t bytes) const
+{
+    constexpr auto most = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+    return size(static_cast<std::int64_t>(std::min(bytes, most)));
 }
 
 std::string TextStyle::path(const Platform::FileURL& url) const

@@ -27,6 +27,8 @@ struct TextStyle {
         const Platform::Environment& environment);
 
     [[nodiscard]] std::string size(std::int64_t bytes) const;
+    /// More than 63 bits hold is shown as what they hold.
+    [[nodiscard]] std::string size(std::uint64_t bytes) const;
     /// The whole path: what is to be confirmed must not be cut.
     [[nodiscard]] std::string path(const Platform::FileURL& url) const;
     /// Lines that fit, each behind `indent` blanks.

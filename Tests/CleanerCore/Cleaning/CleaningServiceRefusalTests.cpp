@@ -1,5 +1,6 @@
 #include "Tests/CleanerCore/Cleaning/CleaningFixture.h"
 
+#include "Tests/Support/AlteringFileManager.h"
 #include "Tests/Support/FaultyFileManager.h"
 #include "Tests/Support/ForwardingFileManager.h"
 #include "Tests/Support/SteppingFileManager.h"
@@ -164,23 +165,10 @@ TEST_F(CleaningServiceTest, RefusesADateThatIsNoNumber)
 
 TEST_F(CleaningServiceTest, RefusesAScannedDateWhereTheVolumeTellsNoneAnyMore)
 {
-    class Dateless final : public TestSupport::ForwardingFileManager {
-    public:
-        using ForwardingFileManager::ForwardingFileManager;
-        [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
-            const Platform::ItemReference& reference) const override
-        {
-            auto values = ForwardingFileManager::resourceValues(reference);
-            if (values) {
-                values->contentModificationDate.reset();
-            }
-            return values;
-        }
-    };
     m_tree.add("home/Caches/a size=10");
     auto candidates = scan();
     candidates.at(0).resourceIdentity.reset();
-    const Dateless dateless(m_posix);
+    const TestSupport::AlteringFileManager dateless(m_posix, TestSupport::removeDate);
     m_fileManager = &dateless;
     expectRefused(clean(candidates), Kind::unreadableAttributes, item("a"));
     candidates[0].lastModified.reset();

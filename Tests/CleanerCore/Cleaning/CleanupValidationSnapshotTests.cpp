@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Safety/CleaningError.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/AlteringFileManager.h"
 #include "Tests/Support/FaultyFileManager.h"
 #include "Tests/Support/ForwardingDirectoryEnumerator.h"
 #include "Tests/Support/ForwardingFileManager.h"
@@ -82,21 +83,8 @@ TEST_F(CleanupValidationSnapshotTest, OfAFolderCountsItsOwnDate)
 
 TEST_F(CleanupValidationSnapshotTest, OfAFolderWithoutADateIsTheNewestDateInIt)
 {
-    class Dateless final : public TestSupport::ForwardingFileManager {
-    public:
-        using ForwardingFileManager::ForwardingFileManager;
-        [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
-            const Platform::ItemReference& reference) const override
-        {
-            auto values = ForwardingFileManager::resourceValues(reference);
-            if (values) {
-                values->contentModificationDate.reset();
-            }
-            return values;
-        }
-    };
     m_tree.add("item/\n    x size=1 age=3h");
-    const auto snapshot = take(Dateless(m_posix));
+    const auto snapshot = take(TestSupport::AlteringFileManager(m_posix, TestSupport::removeDate));
     ASSERT_TRUE(snapshot && snapshot->latestModificationDate);
     EXPECT_NEAR(m_tree.now().secondsSince(*snapshot->latestModificationDate), 3 * kHour, 0.01);
 }

@@ -1,7 +1,7 @@
 #include "Tests/CleanerCore/Cleaning/CleaningFixture.h"
 
+#include "Tests/Support/AlteringFileManager.h"
 #include "Tests/Support/FaultyFileManager.h"
-#include "Tests/Support/ForwardingFileManager.h"
 
 #include <cerrno>
 #include <fstream>
@@ -195,22 +195,14 @@ TEST_F(TrashRestoreServiceTest, SeesALinkInTheTrashThatItCannotReadAsAResource)
 
 TEST_F(TrashRestoreServiceTest, SeesALinkInTheTrashThatDoesNotTellSoAsAResource)
 {
-    class WithoutLinks final : public TestSupport::ForwardingFileManager {
-    public:
-        using ForwardingFileManager::ForwardingFileManager;
-        [[nodiscard]] std::expected<Platform::ResourceValues, Platform::FileError> resourceValues(
-            const Platform::ItemReference& reference) const override
-        {
-            auto values = ForwardingFileManager::resourceValues(reference);
-            if (values && reference.url().lastPathComponent() == "a") {
-                values->isSymbolicLink.reset();
-            }
-            return values;
-        }
-    };
     m_tree.remove("home/Bin/a");
     std::filesystem::create_symlink("b", trashed().path());
-    const WithoutLinks withoutLinks(m_posix);
+    const TestSupport::AlteringFileManager withoutLinks(
+        m_posix, [](const Platform::ItemReference& item, Platform::ResourceValues& values) {
+            if (item.url().lastPathComponent() == "a") {
+                values.isSymbolicLink.reset();
+            }
+        });
     m_fileManager = &withoutLinks;
     expectKept(Kind::symbolicLink, trashed());
 }

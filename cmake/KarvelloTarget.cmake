@@ -63,3 +63,10 @@ function(karvello_layer name)
   target_link_libraries(${name} PUBLIC karvello_options ${LAYER_LINKS})
   karvello_precompile(${name} <fmt/format.h>)
 endfunction()
+
+# A layer of objects that screens observe.
+function(karvello_qt_layer name)
+  karvello_layer(${name} ${ARGN})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+endfunction()

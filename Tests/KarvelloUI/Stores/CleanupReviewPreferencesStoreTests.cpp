@@ -120,6 +120,7 @@ TEST_F(CleanupReviewPreferencesStoreTest, SurvivesADateFarAhead)
     put(Store::lastReviewedAtDefaultsKey, 1e300);
     const Store store(m_defaults);
     EXPECT_TRUE(store.lastReviewedDateTime().isValid());
+    EXPECT_EQ(store.lastReviewedDateTime().toMSecsSinceEpoch(), 8'640'000'000'000'000);
     EXPECT_EQ(
         reviewStatus(Cadence::weekly, store.lastReviewedAt(), Date{}).kind, CleanupReviewCadenceStatusKind::upcoming);
 }

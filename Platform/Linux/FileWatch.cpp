@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstring>
+#include <fmt/format.h>
 #include <string_view>
 #include <sys/inotify.h>
 #include <sys/stat.h>
@@ -89,7 +90,7 @@ void FileWatch::watchNearestFolder()
             m_watchedFolder = folder;
             m_awaitedName = name;
             // What was made before the watch began told nobody.
-            const auto next = folder == "/" ? folder + name : folder + "/" + name;
+            const auto next = fmt::format("{}/{}", folder, name);
             if (folder == m_folder || !isFolder(next)) {
                 return;
             }

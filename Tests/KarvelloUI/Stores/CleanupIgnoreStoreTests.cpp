@@ -1,6 +1,7 @@
 #include "KarvelloUI/Stores/CleanupIgnoreStore.h"
 
 #include "KarvelloUI/Stores/StoresCoding.h"
+#include "Tests/KarvelloUI/Stores/IgnoredItems.h"
 #include "Tests/KarvelloUI/Stores/StoresFixture.h"
 
 #include <cmath>
@@ -29,17 +30,6 @@ CleanupCandidate candidate(std::string_view path, CleanupCategory category = Cle
 {
     return CleanupCandidate({.url = Platform::FileURL(path), .category = category, .sizeBytes = 7, .safety = safety});
 }
-
-std::vector<std::string> pathsOf(const std::vector<IgnoredCleanupItem>& items)
-{
-    std::vector<std::string> paths;
-    for (const auto& item : items) {
-        paths.push_back(item.path);
-    }
-    return paths;
-}
-
-using Paths = std::vector<std::string>;
 
 class CleanupIgnoreStoreTest : public StoresFixture {
 protected:

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Stores/IgnoredCleanupItem.h"
 
 #include "KarvelloUI/Stores/StoresCoding.h"
+#include "Tests/KarvelloUI/Stores/IgnoredItems.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,7 @@ namespace KarvelloUI {
 
 namespace {
 
+using namespace StoresTests;
 using CleanerCore::CleanupCandidate;
 using CleanerCore::CleanupCategory;
 using CleanerCore::CleanupSafety;
@@ -40,17 +42,6 @@ IgnoredCleanupItem item(std::string_view path, Platform::Date ignoredAt = kNow, 
 {
     return {candidate(CleanupCategory::userCaches, CleanupSafety::safe, path), ignoredAt, duration};
 }
-
-std::vector<std::string> pathsOf(const std::vector<IgnoredCleanupItem>& items)
-{
-    std::vector<std::string> paths;
-    for (const auto& item : items) {
-        paths.push_back(item.path);
-    }
-    return paths;
-}
-
-using Paths = std::vector<std::string>;
 
 } // namespace
 

@@ -302,7 +302,7 @@ TEST_F(CleanupIgnoreStoreTest, LosesNothingToAnotherStore)
     ASSERT_TRUE(store->ignore(candidate("/h/a"), Duration::oneDay, kNow));
     ASSERT_TRUE(other->ignore(candidate("/h/b"), Duration::oneDay, kNow));
     EXPECT_EQ(changes, 1);
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(changes, 2);
     EXPECT_EQ(pathsOf(store->items()), (Paths{"/h/a", "/h/b"}));
     other->removeAll();

@@ -272,28 +272,28 @@ TEST_F(CustomScanFolderStoreTest, TellsOfEachChangeOnceWhoeverMadeIt)
     int changes = 0;
     QObject::connect(store.get(), &CustomScanFolderStore::foldersChanged, [&] { ++changes; });
     ASSERT_TRUE(add(*store, "home/Documents/"));
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(changes, 1);
     ASSERT_TRUE(add(*other, "home/Library/"));
     EXPECT_EQ(changes, 1);
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(changes, 2);
     EXPECT_EQ(store->folders(), other->folders());
-    ASSERT_TRUE(m_document.set("karvello.textScale", 1.5));
-    runEvents();
+    ASSERT_TRUE(m_file.set("karvello.textScale", 1.5));
+    m_loop.handleEvents();
     EXPECT_EQ(changes, 2);
 }
 
 TEST_F(CustomScanFolderStoreTest, LosesNothingToAnotherProcess)
 {
     const auto store = makeStore();
-    Platform::FileUserDefaults otherDocument(m_files, m_document.fileURL());
+    Platform::FileUserDefaults otherDocument(m_files, m_file.fileURL());
     CustomScanFolderStore other(otherDocument, m_bookmarks, language());
     ASSERT_TRUE(add(*store, "home/Documents/"));
     otherDocument.refresh();
     ASSERT_TRUE(other.addFolder(m_tree.url("home/Library/"), m_files));
-    m_document.refresh();
-    runEvents();
+    m_file.refresh();
+    m_loop.handleEvents();
     EXPECT_EQ(names(*store), (Names{"Documents", "Library"}));
 }
 

@@ -279,7 +279,7 @@ TEST_F(HomeAccessBookmarkStoreTest, SaysWhyDamagedDataCouldNotBeSetAside)
 
 TEST_F(HomeAccessBookmarkStoreTest, TakesAValueOfAnotherTypeForNone)
 {
-    ASSERT_TRUE(m_document.set(kKey, std::string("text")));
+    ASSERT_TRUE(m_file.set(kKey, std::string("text")));
     const auto store = makeStore();
     EXPECT_EQ(store->bookmark(), std::nullopt);
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
@@ -307,7 +307,7 @@ TEST_F(HomeAccessBookmarkStoreTest, TellsOfEachChangeOnce)
     QObject::connect(store.get(), &HomeAccessBookmarkStore::bookmarkChanged, [&] { ++changes; });
     QObject::connect(store.get(), &PreferenceStore::lastErrorMessageChanged, [&] { ++errors; });
     ASSERT_TRUE(store->setBookmark(m_home, m_files));
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(errors, 0);
     ASSERT_FALSE(store->setBookmark(m_tree.url("home/file"), m_files));
@@ -315,7 +315,7 @@ TEST_F(HomeAccessBookmarkStoreTest, TellsOfEachChangeOnce)
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(errors, 1);
     store->clearBookmark();
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(changes, 2);
     EXPECT_EQ(errors, 2);
 }
@@ -327,7 +327,7 @@ TEST_F(HomeAccessBookmarkStoreTest, HearsOfAGrantInAnotherStore)
     int changes = 0;
     QObject::connect(store.get(), &HomeAccessBookmarkStore::bookmarkChanged, [&] { ++changes; });
     ASSERT_TRUE(other->setBookmark(m_home, m_files, kNow));
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(store->bookmark(), grant());
 }
@@ -344,10 +344,10 @@ TEST_F(HomeAccessBookmarkStoreTest, NeverUsesAGrantThatAnotherStoreHasRevoked)
 TEST_F(HomeAccessBookmarkStoreTest, HearsOfAnotherProcess)
 {
     const auto store = makeStore();
-    Platform::FileUserDefaults otherProcess(m_files, m_document.fileURL());
+    Platform::FileUserDefaults otherProcess(m_files, m_file.fileURL());
     ASSERT_TRUE(otherProcess.set(kKey, Platform::DefaultsData{storedGrant()}));
-    m_document.refresh();
-    runEvents();
+    m_file.refresh();
+    m_loop.handleEvents();
     EXPECT_EQ(store->bookmark(), grant());
 }
 
@@ -356,7 +356,7 @@ TEST_F(HomeAccessBookmarkStoreTest, KeepsItsGrantWhereAnotherProcessStoresDamage
     const auto store = makeStore();
     ASSERT_TRUE(store->setBookmark(m_home, m_files, kNow));
     seed(kKey, "{damaged");
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(store->bookmark(), grant());
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
 }
@@ -367,7 +367,7 @@ TEST_F(HomeAccessBookmarkStoreTest, MayGoWhileAChangeIsOnItsWayToIt)
     const auto other = makeStore();
     ASSERT_TRUE(other->setBookmark(m_home, m_files));
     store.reset();
-    runEvents();
+    m_loop.handleEvents();
     EXPECT_EQ(other->accessState(), HomeAccessState::authorized);
 }
 

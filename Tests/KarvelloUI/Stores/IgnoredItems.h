@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-namespace KarvelloUI::StoresTests {
+namespace StoresTests {
 
 using Paths = std::vector<std::string>;
 
-[[nodiscard]] inline Paths pathsOf(const std::vector<IgnoredCleanupItem>& items)
+[[nodiscard]] inline Paths pathsOf(const std::vector<KarvelloUI::IgnoredCleanupItem>& items)
 {
     Paths paths;
     for (const auto& item : items) {
@@ -18,4 +18,4 @@ using Paths = std::vector<std::string>;
     return paths;
 }
 
-} // namespace KarvelloUI::StoresTests
+} // namespace StoresTests

@@ -2,51 +2,40 @@
 
 #include "KarvelloUI/Copy/AppLanguage.h"
 #include "KarvelloUI/Stores/PreferenceStore.h"
-#include "Platform/Files/PosixFileManager.h"
+#include "Platform/Base/Date.h"
 #include "Platform/Linux/LinuxBookmarks.h"
-#include "Platform/Services/FileUserDefaults.h"
-#include "Tests/Support/FailingUserDefaults.h"
+#include "Tests/KarvelloUI/Stores/PreferencesFixture.h"
+#include "Tests/Support/EventLoop.h"
 #include "Tests/Support/RecordingBookmarks.h"
-#include "Tests/Support/TemporaryTree.h"
 
-#include <QCoreApplication>
-#include <gtest/gtest.h>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace KarvelloUI::StoresTests {
+namespace StoresTests {
 
 inline constexpr Platform::Date kNow{800'000'000};
 
-/// Lets the stores hear of what was posted to them.
-inline void runEvents()
-{
-    static int argumentCount = 1;
-    static std::string name = "tests";
-    static char* arguments[] = {name.data(), nullptr};
-    static QCoreApplication application(argumentCount, static_cast<char**>(arguments));
-    QCoreApplication::sendPostedEvents();
-}
-
-/// A home with folders, the preferences of a user in a file beside it, and bookmarks of the real system.
-class StoresFixture : public testing::Test {
+/// A home with folders beside the preferences, and bookmarks of the real system.
+class StoresFixture : public PreferencesTest {
 protected:
-    [[nodiscard]] LanguageProvider language() const
+    StoresFixture() { m_tree.add("home/Library/Caches/a\nhome/Documents/b\nhome/file\n"); }
+
+    [[nodiscard]] KarvelloUI::LanguageProvider language() const
     {
         return [this] { return m_language; };
     }
 
     void seed(std::string_view key, std::string_view bytes)
     {
-        ASSERT_TRUE(m_document.set(key, Platform::DefaultsData{std::string(bytes)}));
+        ASSERT_TRUE(m_file.set(key, Platform::DefaultsData{std::string(bytes)}));
     }
 
     /// What another process that starts now finds.
     [[nodiscard]] std::optional<std::string> onDisk(std::string_view key) const
     {
-        return Platform::FileUserDefaults(m_files, m_document.fileURL()).data(key);
+        return Platform::FileUserDefaults(m_files, m_file.fileURL()).data(key);
     }
 
     void TearDown() override
@@ -55,14 +44,11 @@ protected:
         EXPECT_FALSE(m_bookmarks.wentBelowZero());
     }
 
-    TestSupport::TemporaryTree m_tree{"home/Library/Caches/a\nhome/Documents/b\nhome/file\n"};
-    Platform::PosixFileManager m_files;
+    TestSupport::EventLoop m_loop;
     Platform::FileURL m_home = m_tree.url("home/");
-    Platform::FileUserDefaults m_document{m_files, m_tree.url("config/preferences.json")};
-    TestSupport::FailingUserDefaults m_defaults{m_document};
     Platform::LinuxBookmarks m_systemBookmarks;
     TestSupport::RecordingBookmarks m_bookmarks{m_systemBookmarks};
-    AppLanguage m_language = AppLanguage::english;
+    KarvelloUI::AppLanguage m_language = KarvelloUI::AppLanguage::english;
 };
 
 inline constexpr std::string_view kUnreadable = "The data couldn’t be read because it isn’t in the correct format.";
@@ -92,4 +78,4 @@ inline constexpr std::string_view kDiskFull =
     return position == std::string::npos ? changed : changed.replace(position, piece.size(), replacement);
 }
 
-} // namespace KarvelloUI::StoresTests
+} // namespace StoresTests

@@ -8,6 +8,17 @@
 
 namespace CleanerCore {
 
+namespace {
+
+/// Volumes may be mounted anywhere, not only where desktops mount them.
+bool mayBeVolumeRoot(const Platform::FileURL& url, const Platform::FileManager& fileManager)
+{
+    const auto values = fileManager.resourceValues(url);
+    return !values || values->isOnOtherVolume;
+}
+
+} // namespace
+
 std::string CustomScanFolderError::errorDescription() const
 {
     const auto words = [this]() -> std::string {
@@ -28,7 +39,7 @@ std::expected<void, CustomScanFolderError> validateCustomFolder(const Platform::
     if (!fileManager.directoryExists(url)) {
         return std::unexpected(CustomScanFolderError{CustomScanFolderError::Kind::notDirectory, url.path()});
     }
-    if (!SafePathPolicy::validateScanRoot(url, homeDirectory, fileManager)) {
+    if (!SafePathPolicy::validateScanRoot(url, homeDirectory, fileManager) || mayBeVolumeRoot(url, fileManager)) {
         return std::unexpected(CustomScanFolderError{CustomScanFolderError::Kind::unsafeRoot, url.path()});
     }
     return {};

@@ -24,8 +24,8 @@ struct CustomScanFolderError {
     friend bool operator==(const CustomScanFolderError&, const CustomScanFolderError&) = default;
 };
 
-/// Whether a person may add the folder. Roots are judged against `homeDirectory`, or without one against the person's
-/// real home.
+/// Whether a person may add the folder: no root of a volume, nor any other that must not be scanned. Roots are judged
+/// against `homeDirectory`, or without one against the person's real home.
 [[nodiscard]] std::expected<void, CustomScanFolderError> validateCustomFolder(const Platform::FileURL& url,
     const Platform::FileManager& fileManager, const std::optional<Platform::FileURL>& homeDirectory = std::nullopt);
 

@@ -23,7 +23,7 @@ protected:
             "& Folders or Full Disk Access."};
     }
 
-    const Environment m_sandbox{{{"FLATPAK_ID", "x"}}};
+    const Environment m_sandbox = environmentWith("FLATPAK_ID", "x");
     const std::vector<ResolvedCustomScanFolder> m_folders{
         {.folder = {}, .url = m_tree.url("home/Documents/")},
         {.folder = {}, .url = m_tree.url("home/missing/")},

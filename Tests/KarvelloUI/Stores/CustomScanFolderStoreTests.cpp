@@ -245,7 +245,7 @@ TEST_F(CustomScanFolderStoreTest, SpeaksTheLanguageOfTheMoment)
     EXPECT_FALSE(add(*store, "home/file"));
     EXPECT_EQ(store->lastErrorMessage(),
         "사용자 지정 스캔 폴더를 저장하지 못했습니다: "
-            + CustomScanFolderError{Kind::notDirectory, m_tree.path("home/file")}.errorDescription());
+            + (CustomScanFolderError{Kind::notDirectory, m_tree.path("home/file")}.errorDescription()));
     seed(kKey, "damaged");
     EXPECT_EQ(makeStore()->lastErrorMessage(),
         "사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: "

@@ -80,15 +80,11 @@ TEST_F(CustomScanFolderTest, RefusesSystemFoldersAndVolumeRoots)
 
 TEST_F(CustomScanFolderTest, RefusesTheRootOfAVolume)
 {
-    TestSupport::inMountNamespace([] {
-        TestSupport::mountTemporaryFileSystem("/mnt");
-        const Platform::PosixFileManager files;
-        const Platform::LinuxBookmarks bookmarks;
-        const auto made = CustomScanFolder::make(FileURL::folder("/mnt"), files, bookmarks, kNow);
-        ASSERT_FALSE(made);
-        EXPECT_EQ(
-            made.error(), FolderAccessError<CustomScanFolderError>(CustomScanFolderError{Kind::unsafeRoot, "/mnt"}));
+    TestSupport::inMountNamespace([this] {
+        TestSupport::mountTemporaryFileSystem(m_documents.path());
+        expectRefused(m_documents, Kind::unsafeRoot);
     });
+    EXPECT_TRUE(make(m_documents));
 }
 
 TEST_F(CustomScanFolderTest, RefusesTheHomeOfTheUser)

@@ -3,6 +3,7 @@
 #include "KarvelloUI/Stores/StoresCoding.h"
 #include "Tests/KarvelloUI/Stores/StoresFixture.h"
 
+#include <cmath>
 #include <memory>
 
 namespace KarvelloUI {
@@ -88,7 +89,7 @@ TEST_F(HomeAccessBookmarkStoreTest, LeavesTheGrantWhereAnotherPickIsRefused)
     EXPECT_EQ(store->bookmark(), grant());
     EXPECT_EQ(store->lastErrorMessage(),
         kSaveFailed
-            + HomeAccessBookmarkError{Kind::notCurrentUserHome, m_tree.path("home/Documents")}.errorDescription());
+            + (HomeAccessBookmarkError{Kind::notCurrentUserHome, m_tree.path("home/Documents")}.errorDescription()));
     EXPECT_EQ(store->lastErrorText().toStdString(), store->lastErrorMessage());
     EXPECT_EQ(onDisk(kKey), storedGrant());
     store->clearError();
@@ -296,7 +297,7 @@ TEST_F(HomeAccessBookmarkStoreTest, SpeaksTheLanguageOfTheMoment)
     m_language = AppLanguage::german;
     ASSERT_TRUE(store->setBookmark(m_home, m_files));
     EXPECT_EQ(store->resolveBookmark(m_files), std::nullopt);
-    EXPECT_EQ(store->lastErrorMessage(), KarvelloCopy{{{AppLanguage::german}}}.homeAccessBookmarkStaleMessage());
+    EXPECT_EQ(store->lastErrorMessage(), (KarvelloCopy{{{AppLanguage::german}}}.homeAccessBookmarkStaleMessage()));
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, TellsOfEachChangeOnce)

@@ -23,7 +23,7 @@ protected:
                     "access from Settings, then rescan."}};
     }
 
-    const Environment m_sandbox{{{"APP_SANDBOX_CONTAINER_ID", "x"}}};
+    const Environment m_sandbox = environmentWith("APP_SANDBOX_CONTAINER_ID", "x");
 };
 
 } // namespace

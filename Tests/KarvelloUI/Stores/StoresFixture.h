@@ -4,10 +4,13 @@
 #include "KarvelloUI/Stores/PreferenceStore.h"
 #include "Platform/Base/Date.h"
 #include "Platform/Linux/LinuxBookmarks.h"
+#include "Platform/Services/Environment.h"
 #include "Tests/KarvelloUI/Stores/PreferencesFixture.h"
 #include "Tests/Support/EventLoop.h"
 #include "Tests/Support/RecordingBookmarks.h"
 
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +19,11 @@
 namespace StoresTests {
 
 inline constexpr Platform::Date kNow{800'000'000};
+
+[[nodiscard]] inline Platform::Environment environmentWith(const std::string& key, const std::string& value)
+{
+    return Platform::Environment(std::map<std::string, std::string, std::less<>>{{key, value}});
+}
 
 /// A home with folders beside the preferences, and bookmarks of the real system.
 class StoresFixture : public PreferencesTest {

@@ -174,7 +174,7 @@ TEST_F(CleanupIgnoreStoreTest, RemovesTheRuleOfAnId)
     EXPECT_EQ(pathsOf(makeStore()->items()), Paths{"/h/b"});
     store->removeAll();
     EXPECT_TRUE(store->items().empty());
-    EXPECT_EQ(onDisk(kKey), "[]");
+    EXPECT_EQ(onDisk(kKey), "[\n\n]");
 }
 
 TEST_F(CleanupIgnoreStoreTest, LeavesMemoryAndDiskWhereASaveFails)

@@ -124,6 +124,7 @@ TEST_F(CustomScanFolderResolverTest, KeepsPathsThatAreNotUTF8)
 
 TEST_F(CustomScanFolderResolverTest, LeadsToNoCandidateThatIsSelected)
 {
+    m_tree.add("home/Documents/large size=64K\nhome/Library/Caches/app/data size=64K\n");
     const auto resolution = resolve({folder("home/Documents/"), folder("home/Library/Caches/")});
     const auto report = CleanerCore::StorageScanner(m_files).scan(resolution.locations, m_tree.now());
     EXPECT_EQ(report.candidates.size(), 2);

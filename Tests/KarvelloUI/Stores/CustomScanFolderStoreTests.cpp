@@ -156,7 +156,7 @@ TEST_F(CustomScanFolderStoreTest, RemovesTheFolderOfAnId)
     EXPECT_EQ(store->folders(), std::vector{kept});
     EXPECT_EQ(makeStore()->folders(), std::vector{kept});
     EXPECT_TRUE(store->removeFolder(kept.id));
-    EXPECT_EQ(onDisk(kKey), "[]");
+    EXPECT_EQ(onDisk(kKey), "[\n\n]");
     EXPECT_TRUE(makeStore()->folders().empty());
 }
 

@@ -1,8 +1,11 @@
 #include "CleanerCore/Scan/CustomFolderLocation.h"
 
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/FaultyFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 
+#include <cerrno>
 #include <gtest/gtest.h>
 
 namespace CleanerCore {
@@ -62,6 +65,29 @@ TEST_F(CustomFolderLocationTest, RefusesTheHomeUserDataLinksAndTheSystem)
         ASSERT_FALSE(made.has_value()) << path;
         EXPECT_EQ(made.error().kind, Kind::unsafeRoot) << path;
     }
+}
+
+TEST_F(CustomFolderLocationTest, RefusesTheRootOfAVolumeWhereverItIsMounted)
+{
+    TestSupport::inMountNamespace([this] {
+        TestSupport::mountTemporaryFileSystem(tree.path("home/Projects"));
+        expectRefused("home/Projects/", Kind::unsafeRoot);
+    });
+    EXPECT_TRUE(make("home/Projects/"));
+}
+
+TEST_F(CustomFolderLocationTest, RefusesWhatCannotBeLookedAt)
+{
+    TestSupport::FaultyFileManager faulty(files);
+    // The rules about links look at it twice before.
+    faulty.fail({.call = TestSupport::FileManagerCall::resourceValues,
+        .systemError = EIO,
+        .nth = 3,
+        .path = tree.path("home/Projects")});
+    const auto allowed = validateCustomFolder(tree.url("home/Projects/"), faulty, tree.url("home/"));
+    ASSERT_FALSE(allowed.has_value());
+    EXPECT_EQ(allowed.error().kind, Kind::unsafeRoot);
+    EXPECT_EQ(faulty.failureCount(), 1);
 }
 
 TEST(CustomScanFolderError, HasTheWordsOfItsKindAndThePath)

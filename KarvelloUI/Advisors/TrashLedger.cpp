@@ -121,12 +121,8 @@ void TrashLedger::takeFromNamedMoves(Search& search)
 bool TrashLedger::takeJust(const Amount& amount)
 {
     const auto wholeMove = latestMoveWithJust(amount);
-    std::optional<std::size_t> item;
-    if (const auto stack = m_itemsBySize.find(amount.bytes); amount.itemCount == 1 && stack != m_itemsBySize.end()) {
-        item = latest(stack->second);
-    }
-    if (item && m_moves[m_items[*item].move].left.bytes >= amount.bytes
-        && (!wholeMove || m_items[*item].move >= *wholeMove)) {
+    if (const auto item = amount.itemCount == 1 ? latestItemWithJust(amount.bytes) : std::nullopt;
+        item && (!wholeMove || m_items[*item].move >= *wholeMove)) {
         m_items[*item].isBack = true;
         take(m_items[*item].move, amount);
         return true;
@@ -135,6 +131,18 @@ bool TrashLedger::takeJust(const Amount& amount)
         take(*wholeMove, amount);
     }
     return wholeMove.has_value();
+}
+
+std::optional<std::size_t> TrashLedger::latestItemWithJust(std::int64_t bytes)
+{
+    const auto stack = m_itemsBySize.find(bytes);
+    const auto item = stack == m_itemsBySize.end() ? std::nullopt : latest(stack->second);
+    if (!item) {
+        return std::nullopt;
+    }
+    // What was taken for another's may leave less than the item, and the last item has all the bytes that are left.
+    const Amount& left = m_moves[m_items[*item].move].left;
+    return left.bytes == bytes || (left.bytes > bytes && left.itemCount > 1) ? item : std::nullopt;
 }
 
 void TrashLedger::takeFromLatestMoves(Amount rest)

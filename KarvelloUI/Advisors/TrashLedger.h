@@ -67,6 +67,7 @@ private:
     /// False if nothing has just this amount.
     bool takeJust(const Amount& amount);
     void takeFromLatestMoves(Amount rest);
+    std::optional<std::size_t> latestItemWithJust(std::int64_t bytes);
     std::optional<std::size_t> latestMoveWithJust(const Amount& amount);
 
     /// What is known to be of this move. Returns how many bytes it had left for that.

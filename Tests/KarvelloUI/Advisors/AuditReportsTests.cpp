@@ -115,8 +115,12 @@ TEST(AuditReports, TakeFromACleanOfUnknownModeToo)
 
 TEST(AuditReports, FindTheWholeMoveThatWentBackByItsFigures)
 {
-    expectLeft({moveOf(1, 10, {kA, kC}), moveOf(2, 20, {kA, kB}), moveOf(3, 30, {kB}), restoreOf(4, 40, {kA, kB})},
-        {{1, 2, 103}, {3, 1, 20}});
+    expectLeft({moveOf(1, 10, {kA}), moveOf(2, 20, {kA, kB}), moveOf(3, 30, {kC}), restoreOf(4, 40, {kA, kB})},
+        {{1, 1, 100}, {3, 1, 3}});
+    // What is left of a move is a whole, too.
+    expectLeft({moveOf(1, 10, {kA, kB, kC}), moveOf(2, 20, {TrashedFile{"/x", 7}, TrashedFile{"/y", 9}}),
+                   restoreOf(3, 30, {kA}), restoreOf(4, 40, {kB, kC})},
+        {{2, 2, 16}});
 }
 
 TEST(AuditReports, FindTheOneItemThatWentBackByItsSize)

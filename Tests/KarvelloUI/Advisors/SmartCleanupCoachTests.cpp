@@ -199,21 +199,21 @@ TEST(SmartCleanupCoach, WritesEachKind)
         .disk = kLowDisk};
     EXPECT_THAT(everything.recommendations(),
         testing::ElementsAre(StorageRecommendation{Kind::duplicateReview, "Review duplicate candidates",
-                                 "Found 2 hash-matched groups. Confirm the keeper before selecting extras.", "3.22 GB",
+                                 "Found 2 hash-matched groups. Confirm the keeper before selecting extras.", "3 GB",
                                  "Open Duplicates", "doc.on.doc.fill", 933, {MacDashboardSection::duplicates}},
             StorageRecommendation{Kind::lowDiskReview, "Free space is running low",
-                "Free space is 12.88 GB. Start by reviewing larger candidates in Large Files.", "4.29 GB",
-                "Open Large Files", "internaldrive.fill", 904, {MacDashboardSection::largeFiles}},
+                "Free space is 12 GB. Start by reviewing larger candidates in Large Files.", "4 GB", "Open Large Files",
+                "internaldrive.fill", 904, {MacDashboardSection::largeFiles}},
             StorageRecommendation{Kind::cleanupReview, "Review cleanup candidates",
-                "2 candidates are ready. Review paths and safety before moving selected items to Trash.", "3.22 GB",
+                "2 candidates are ready. Review paths and safety before moving selected items to Trash.", "3 GB",
                 "Open Cleanup Review", "checklist.checked", 833, {MacDashboardSection::cleanup}}));
     EXPECT_EQ(onlyOne({.insights = {.largeFiles = {kGiB, kGiB, 2 * kGiB}}}),
         (StorageRecommendation{Kind::largeFileReview, "Review large files first",
-            "3 large files by size. Review what you recognize; nothing is removed automatically.", "4.29 GB",
+            "3 large files by size. Review what you recognize; nothing is removed automatically.", "4 GB",
             "Open Large Files", "internaldrive", 784, {MacDashboardSection::largeFiles}}));
     EXPECT_EQ(onlyOne({.insights = {.downloads = {kGiB, kGiB}}}),
         (StorageRecommendation{Kind::downloadsReview, "Downloads review queue",
-            "Review 2 Downloads candidates by size.", "2.15 GB", "Open Downloads", "arrow.down.circle.fill", 742,
+            "Review 2 Downloads candidates by size.", "2 GB", "Open Downloads", "arrow.down.circle.fill", 742,
             {MacDashboardSection::downloads}}));
     EXPECT_EQ(onlyOne({.blockedInCleanup = 4}).body,
         "4 items were skipped because of permissions or security scope. Review access status in Settings.");
@@ -251,13 +251,13 @@ TEST(SmartCleanupCoach, SpeaksEveryLanguageWithTheSameOrder)
 
 TEST(SmartCleanupCoach, SpeaksKoreanAndGermanThroughout)
 {
-    const Situation situation{.candidates = {kGiB}};
+    const Situation situation{.candidates = {kGiB + kGiB / 2}};
     const auto korean = onlyOne(situation, AppLanguage::korean);
     EXPECT_EQ(korean.title, "정리 후보 검토");
     EXPECT_EQ(korean.actionTitle, "정리 검토 열기");
-    EXPECT_EQ(korean.detail, "1.07GB");
+    EXPECT_EQ(korean.detail, "1.5GB");
     const auto german = onlyOne(situation, AppLanguage::german);
-    EXPECT_EQ(german.detail, "1,07 GB");
+    EXPECT_EQ(german.detail, "1.5 GB");
     EXPECT_EQ(german.body,
         "Kandidaten bereit: 1. Prüfen Sie Pfade und Sicherheit, bevor Sie ausgewählte Objekte in den Papierkorb "
         "legen.");

@@ -229,7 +229,7 @@ TEST(StorageTrendTimeline, HasTextsForItsPointsInEveryLanguage)
         }
     }
     EXPECT_THAT(bodies,
-        ElementsAre("1 byte free, 99 bytes used. This is the current snapshot.",
+        ElementsAre("1 bytes free, 99 bytes used. This is the current snapshot.",
             "Free space is low. Open Cleanup Review to review candidates. Nothing runs automatically.",
             "5 bytes is the latest cleanup scan estimate that still needs review. Nothing is moved to Trash before you "
             "choose items.",

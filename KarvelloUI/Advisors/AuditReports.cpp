@@ -12,7 +12,6 @@ namespace KarvelloUI {
 namespace {
 
 using CleanerCore::CleanupAuditEntry;
-using CleanerCore::CleanupAuditOperation;
 using CleanerCore::CleanupStorageImpactReport;
 
 constexpr std::size_t kSourceCount = Platform::RawValues<CleanerCore::CleanupAuditSource>::names.size();

@@ -35,15 +35,11 @@ constexpr std::array<std::string_view, 21> excludedGlobalCachePathMarkerComponen
 /// What Flatpak has for containers.
 constexpr std::array<std::string_view, 1> kLinuxContainerMarkers{"/.var/app"};
 
-/// A marker counts where whole names equal it: `path` has single slashes alone, also at both its ends.
-bool containsMarker(std::string_view path, std::string_view marker)
+/// Whether the first names of `path` are those of a marker. `path` has single slashes alone, also at both its ends.
+bool beginsWithOneOf(std::span<const std::string_view> markers, std::string_view path)
 {
-    for (auto at = path.find(marker); at != std::string_view::npos; at = path.find(marker, at + 1)) {
-        if (path[at + marker.size()] == '/') {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(
+        markers, [path](std::string_view marker) { return path.starts_with(marker) && path[marker.size()] == '/'; });
 }
 
 std::string withSingleSlashes(std::string_view path)
@@ -93,10 +89,14 @@ bool comesBefore(const Opportunity& left, const Opportunity& right)
 bool isExcludedPath(std::string_view path)
 {
     const std::string clean = withSingleSlashes(path);
-    const auto isIn = [&clean](std::string_view marker) { return containsMarker(clean, marker); };
-    return std::ranges::any_of(globalDeveloperPathMarkerComponents, isIn)
-        || std::ranges::any_of(excludedGlobalCachePathMarkerComponents, isIn)
-        || std::ranges::any_of(kLinuxContainerMarkers, isIn);
+    for (std::string_view rest = clean; rest.size() > 1; rest.remove_prefix(rest.find('/', 1))) {
+        if (beginsWithOneOf(globalDeveloperPathMarkerComponents, rest)
+            || beginsWithOneOf(excludedGlobalCachePathMarkerComponents, rest)
+            || beginsWithOneOf(kLinuxContainerMarkers, rest)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 Level activityLevel(std::optional<Date> lastModified, Date now)

@@ -1,15 +1,16 @@
 #include "KarvelloUI/Stores/CleanupReviewPreferencesStore.h"
 
+#include <QMetaObject>
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 #include <string>
 #include <utility>
 
 namespace KarvelloUI {
 
 namespace {
-
-using Stored = std::expected<void, Platform::FileError>;
 
 QString toQString(std::string_view text)
 {
@@ -23,27 +24,23 @@ CleanupReviewPreferencesStore::CleanupReviewPreferencesStore(Platform::UserDefau
     , m_defaults(defaults)
     , m_preferences(CleanupReviewPreferences::read(defaults))
 {
+    // The observer may be called on any thread.
+    m_observation = defaults.observe([this](std::span<const std::string> keys) {
+        constexpr std::array kKeys{cadenceDefaultsKey, selectedProfileIDDefaultsKey, lastReviewedAtDefaultsKey};
+        if (std::ranges::find_first_of(keys, kKeys) != keys.end()) {
+            QMetaObject::invokeMethod(this, [this] { refresh(); }, Qt::QueuedConnection);
+        }
+    });
 }
 
-QString CleanupReviewPreferencesStore::cadenceName() const
+QString CleanupReviewPreferencesStore::cadenceText() const
 {
     return toQString(Platform::rawValue(m_preferences.cadence));
 }
 
-QString CleanupReviewPreferencesStore::selectedProfileIDName() const
+QString CleanupReviewPreferencesStore::selectedProfileIDText() const
 {
     return toQString(Platform::rawValue(m_preferences.selectedProfileID));
-}
-
-QDateTime CleanupReviewPreferencesStore::lastReviewedDateTime() const
-{
-    if (!m_preferences.lastReviewedAt) {
-        return {};
-    }
-    // A stored date may lie further ahead than a calendar reaches.
-    constexpr double kLatest = 8.64e15;
-    const double milliseconds = std::min(m_preferences.lastReviewedAt->secondsSince1970() * 1000, kLatest);
-    return QDateTime::fromMSecsSinceEpoch(std::llround(milliseconds));
 }
 
 const CleanupReviewProfile& CleanupReviewPreferencesStore::selectedProfile() const
@@ -51,40 +48,55 @@ const CleanupReviewProfile& CleanupReviewPreferencesStore::selectedProfile() con
     return CleanupReviewProfile::profile(m_preferences.selectedProfileID);
 }
 
-CleanupReviewCadenceStatus CleanupReviewPreferencesStore::status(Platform::Date now) const
+QDateTime CleanupReviewPreferencesStore::lastReviewedDateTime() const
 {
-    return reviewStatus(m_preferences.cadence, m_preferences.lastReviewedAt, now);
+    if (!m_preferences.lastReviewedAt) {
+        return {};
+    }
+    // A stored date may lie further ahead than any calendar reaches.
+    constexpr double kLatestMilliseconds = 8.64e15;
+    const double milliseconds = m_preferences.lastReviewedAt->secondsSince1970() * 1000;
+    return QDateTime::fromMSecsSinceEpoch(std::llround(std::min(milliseconds, kLatestMilliseconds)));
 }
 
-// Even what is chosen already is written: the stored text may be one that nobody knows.
-
-Stored CleanupReviewPreferencesStore::setCadence(CleanupReviewCadence cadence)
+bool CleanupReviewPreferencesStore::setCadence(CleanupReviewCadence cadence)
 {
-    const auto stored =
-        m_defaults.set(CleanupReviewPreferences::cadenceDefaultsKey, std::string(Platform::rawValue(cadence)));
-    if (stored && std::exchange(m_preferences.cadence, cadence) != cadence) {
+    return save(cadenceDefaultsKey, std::string(Platform::rawValue(cadence)));
+}
+
+bool CleanupReviewPreferencesStore::selectProfile(CleanupReviewProfileID id)
+{
+    return save(selectedProfileIDDefaultsKey, std::string(Platform::rawValue(id)));
+}
+
+bool CleanupReviewPreferencesStore::markReviewed(Platform::Date at)
+{
+    return save(lastReviewedAtDefaultsKey, at.secondsSince1970());
+}
+
+bool CleanupReviewPreferencesStore::save(std::string_view key, Platform::DefaultsValue value)
+{
+    if (!m_defaults.set(key, std::move(value))) {
+        return false;
+    }
+    refresh();
+    return true;
+}
+
+void CleanupReviewPreferencesStore::refresh()
+{
+    const auto old = std::exchange(m_preferences, CleanupReviewPreferences::read(m_defaults));
+    // An observer of one property sees the others as they are now.
+    const auto now = m_preferences;
+    if (now.cadence != old.cadence) {
         Q_EMIT cadenceChanged();
     }
-    return stored;
-}
-
-Stored CleanupReviewPreferencesStore::selectProfile(CleanupReviewProfileID id)
-{
-    const auto stored =
-        m_defaults.set(CleanupReviewPreferences::selectedProfileIDDefaultsKey, std::string(Platform::rawValue(id)));
-    if (stored && std::exchange(m_preferences.selectedProfileID, id) != id) {
+    if (now.selectedProfileID != old.selectedProfileID) {
         Q_EMIT selectedProfileIDChanged();
     }
-    return stored;
-}
-
-Stored CleanupReviewPreferencesStore::markReviewed(Platform::Date at)
-{
-    const auto stored = m_defaults.set(CleanupReviewPreferences::lastReviewedAtDefaultsKey, at.secondsSince1970());
-    if (stored && std::exchange(m_preferences.lastReviewedAt, at) != at) {
+    if (now.lastReviewedAt != old.lastReviewedAt) {
         Q_EMIT lastReviewedAtChanged();
     }
-    return stored;
 }
 
 } // namespace KarvelloUI

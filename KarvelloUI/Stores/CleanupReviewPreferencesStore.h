@@ -6,45 +6,54 @@
 #include <QDateTime>
 #include <QObject>
 #include <QString>
-#include <expected>
+#include <string_view>
 
 namespace KarvelloUI {
 
-/// When the user wants to be reminded of a review, of what, and when the last one was. Lives on the main thread. What
-/// could not be stored does not count: the store then tells why and stays as it was, like the disk.
-class CleanupReviewPreferencesStore : public QObject {
+/// When the user wants to be reminded of a review, of what, and when the last one was. Main thread only.
+class CleanupReviewPreferencesStore final : public QObject {
     Q_OBJECT
+    Q_PROPERTY(QString cadence READ cadenceText NOTIFY cadenceChanged FINAL)
+    Q_PROPERTY(QString selectedProfileID READ selectedProfileIDText NOTIFY selectedProfileIDChanged FINAL)
+    Q_PROPERTY(QDateTime lastReviewedAt READ lastReviewedDateTime NOTIFY lastReviewedAtChanged FINAL)
 
 public:
-    /// Reads what is stored; `defaults` outlives the store.
+    static constexpr std::string_view cadenceDefaultsKey = CleanupReviewPreferences::cadenceDefaultsKey;
+    static constexpr std::string_view selectedProfileIDDefaultsKey =
+        CleanupReviewPreferences::selectedProfileIDDefaultsKey;
+    static constexpr std::string_view lastReviewedAtDefaultsKey = CleanupReviewPreferences::lastReviewedAtDefaultsKey;
+
+    /// Reads what is stored. `defaults` must outlive the store.
     explicit CleanupReviewPreferencesStore(Platform::UserDefaults& defaults, QObject* parent = nullptr);
 
-    Q_PROPERTY(QString cadence READ cadenceName NOTIFY cadenceChanged)
     [[nodiscard]] CleanupReviewCadence cadence() const { return m_preferences.cadence; }
-    [[nodiscard]] QString cadenceName() const;
-    Q_SIGNAL void cadenceChanged();
-
-    Q_PROPERTY(QString selectedProfileID READ selectedProfileIDName NOTIFY selectedProfileIDChanged)
+    [[nodiscard]] QString cadenceText() const;
     [[nodiscard]] CleanupReviewProfileID selectedProfileID() const { return m_preferences.selectedProfileID; }
-    [[nodiscard]] QString selectedProfileIDName() const;
-    Q_SIGNAL void selectedProfileIDChanged();
+    [[nodiscard]] QString selectedProfileIDText() const;
     [[nodiscard]] const CleanupReviewProfile& selectedProfile() const;
-
-    /// Not valid before the first review.
-    Q_PROPERTY(QDateTime lastReviewedAt READ lastReviewedDateTime NOTIFY lastReviewedAtChanged)
-    [[nodiscard]] QDateTime lastReviewedDateTime() const;
     [[nodiscard]] std::optional<Platform::Date> lastReviewedAt() const { return m_preferences.lastReviewedAt; }
-    Q_SIGNAL void lastReviewedAtChanged();
+    /// Not valid before the first review.
+    [[nodiscard]] QDateTime lastReviewedDateTime() const;
 
-    [[nodiscard]] CleanupReviewCadenceStatus status(Platform::Date now) const;
+    /// Whether it is stored now. What cannot be stored does not count: the store stays as it was, like the disk.
+    bool setCadence(CleanupReviewCadence cadence);
+    bool selectProfile(CleanupReviewProfileID id);
+    bool markReviewed(Platform::Date at = Platform::Date::now());
 
-    [[nodiscard]] std::expected<void, Platform::FileError> setCadence(CleanupReviewCadence cadence);
-    [[nodiscard]] std::expected<void, Platform::FileError> selectProfile(CleanupReviewProfileID id);
-    [[nodiscard]] std::expected<void, Platform::FileError> markReviewed(Platform::Date at);
+    /// Takes over what somebody else has stored. It is called for each change that the preferences tell of.
+    void refresh();
+
+Q_SIGNALS:
+    void cadenceChanged();
+    void selectedProfileIDChanged();
+    void lastReviewedAtChanged();
 
 private:
+    bool save(std::string_view key, Platform::DefaultsValue value);
+
     Platform::UserDefaults& m_defaults;
     CleanupReviewPreferences m_preferences;
+    Platform::UserDefaults::Observation m_observation;
 };
 
 } // namespace KarvelloUI

@@ -207,7 +207,8 @@ TEST(DeveloperProjectAdvisoryAnalyzer, GivesTheSameOrderWhateverTheOrderOfTheCan
     std::vector<CleanupCandidate> candidates;
     for (int number = 0; number < 60; ++number) {
         const auto age = random() % 5 == 0 ? std::nullopt : std::optional(static_cast<double>(random() % 120) * kDay);
-        candidates.push_back(candidate("/P" + std::to_string(number) + "/build", random() % 3, age));
+        candidates.push_back(
+            candidate("/P" + std::to_string(number) + "/build", static_cast<std::int64_t>(random() % 3), age));
     }
     const auto expected = summary(candidates, kNow);
     EXPECT_EQ(expected.opportunities.size(), candidates.size());

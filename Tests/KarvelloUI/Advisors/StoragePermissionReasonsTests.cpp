@@ -1,5 +1,6 @@
 #include "CleanerCore/Insights/MacStorageInsightScanner.h"
 #include "CleanerCore/Safety/CleaningError.h"
+#include "CleanerCore/Safety/SymbolicLinkComponents.h"
 #include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageScanner.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
@@ -111,12 +112,14 @@ TEST_F(StoragePermissionReasons, AreFoundWhereAScanMayNotLookAtAnItem)
     }
 }
 
-TEST_F(StoragePermissionReasons, AreFoundWhereTheAttributesOfARootAreUnreadable)
+TEST_F(StoragePermissionReasons, AreFoundWhereTheSafetyRulesCannotReadAttributes)
 {
     for (const int refusal : kRefusals) {
-        const Fault fault{
-            .call = FileManagerCall::resourceValues, .systemError = refusal, .path = m_tree.path("home/Caches")};
-        expectOne(scan(fault), Kind::unreadableAttributes, "home/Caches");
+        FaultyFileManager faulty(m_posix);
+        faulty.fail({.call = FileManagerCall::resourceValues, .systemError = refusal});
+        const auto isLink = CleanerCore::isSymbolicLink(m_tree.url("home/Caches/"), faulty);
+        ASSERT_FALSE(isLink);
+        EXPECT_EQ(issueKind(isLink.error().errorDescription()), Kind::unreadableAttributes);
     }
 }
 
@@ -169,12 +172,10 @@ TEST_F(StoragePermissionReasons, AreTheOnlyOnesOfTheScanner)
     }
 }
 
-TEST_F(StoragePermissionReasons, AreNotThoseOfTheSafetyRules)
+TEST_F(StoragePermissionReasons, AreNotThoseOfARefusal)
 {
     using CleanerCore::CleaningError;
     using CleanerCore::CustomScanFolderError;
-    EXPECT_EQ(issueKind(CleaningError{CleaningError::Kind::unreadableAttributes, "/x"}.errorDescription()),
-        Kind::unreadableAttributes);
     for (const auto kind :
         {CleaningError::Kind::pathNotAllowed, CleaningError::Kind::criticalPath, CleaningError::Kind::protectedUserData,
             CleaningError::Kind::symbolicLink, CleaningError::Kind::cleanupCandidateChanged}) {

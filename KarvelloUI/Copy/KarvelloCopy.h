@@ -15,6 +15,7 @@
 #include "KarvelloUI/Copy/Vocabulary/MacDashboardSection.h"
 #include "KarvelloUI/Copy/Vocabulary/MacInsightFileSection.h"
 #include "KarvelloUI/Copy/Vocabulary/ResourceReliefMetric.h"
+#include "KarvelloUI/Copy/Vocabulary/StorageRecommendationKind.h"
 #include "KarvelloUI/Copy/Vocabulary/StorageTrendTimelinePointKind.h"
 
 #include <cstdint>
@@ -31,6 +32,7 @@ namespace KarvelloUI {
 /// callers neither join nor cut them. Sizes are bytes; a negative one counts as 0.
 struct KarvelloCopy : CleanupCopy {
     // Catalogue/SmartCleanupCopy.cpp
+    [[nodiscard]] std::string smartCleanupTitle(StorageRecommendationKind kind) const;
     [[nodiscard]] std::string smartCleanupSizeDetail(std::int64_t bytes) const;
     [[nodiscard]] std::string smartCleanupOpenSectionCTA(std::string_view sectionTitle) const;
     [[nodiscard]] std::string smartCleanupLowDiskBody(std::int64_t freeBytes, std::string_view sectionTitle) const;
@@ -41,6 +43,8 @@ struct KarvelloCopy : CleanupCopy {
     [[nodiscard]] std::string smartCleanupCandidatesBody(std::int64_t candidateCount) const;
     [[nodiscard]] std::string smartCleanupLargeFilesBody(std::int64_t fileCount) const;
     [[nodiscard]] std::string smartCleanupDownloadsBody(std::int64_t itemCount) const;
+    [[nodiscard]] std::string smartCleanupPrimerBody() const;
+    [[nodiscard]] std::string smartCleanupPrimerDetail() const;
 
     // Catalogue/AppCopy.cpp
     [[nodiscard]] std::string appTitle() const;

@@ -2,6 +2,28 @@
 
 namespace KarvelloUI {
 
+std::string KarvelloCopy::smartCleanupTitle(StorageRecommendationKind kind) const
+{
+    using enum StorageRecommendationKind;
+    switch (kind) {
+    case lowDiskReview:
+        return text("여유 공간이 얼마 남지 않았습니다", "Free space is running low");
+    case duplicateReview:
+        return text("중복 파일 후보 검토", "Review duplicate candidates");
+    case permissionGuide:
+        return text("접근이 제한된 경로 검토", "Review access-limited paths");
+    case cleanupReview:
+        return text("정리 후보 검토", "Review cleanup candidates");
+    case largeFileReview:
+        return text("큰 파일부터 검토", "Review large files first");
+    case downloadsReview:
+        return text("다운로드 검토 목록", "Downloads review queue");
+    case scanPrimer:
+        return text("스캔하면 추천이 표시됩니다", "Scan to unlock recommendations");
+    }
+    return {};
+}
+
 std::string KarvelloCopy::smartCleanupSizeDetail(std::int64_t bytes) const
 {
     return byteSize(bytes);
@@ -50,15 +72,29 @@ std::string KarvelloCopy::smartCleanupCandidatesBody(std::int64_t candidateCount
 
 std::string KarvelloCopy::smartCleanupLargeFilesBody(std::int64_t fileCount) const
 {
-    return sentence(
-        "큰 파일 {}개를 크기순으로 보여 줍니다. 아는 파일부터 검토하세요. 자동으로 정리되는 파일은 없습니다.",
-        "Shows {} large files by size. Review what you recognize; nothing is removed automatically.", fileCount);
+    // The other languages have their sentence under the one with its verb.
+    return language == AppLanguage::english
+        ? fmt::format("{} large files by size. Review what you recognize; nothing is removed automatically.", fileCount)
+        : sentence(
+              "큰 파일 {}개를 크기순으로 보여 줍니다. 아는 파일부터 검토하세요. 자동으로 정리되는 파일은 없습니다.",
+              "Shows {} large files by size. Review what you recognize; nothing is removed automatically.", fileCount);
 }
 
 std::string KarvelloCopy::smartCleanupDownloadsBody(std::int64_t itemCount) const
 {
     return sentence(
         "다운로드 후보 {}개를 크기순으로 검토하세요.", "Review {} Downloads candidates by size.", itemCount);
+}
+
+std::string KarvelloCopy::smartCleanupPrimerBody() const
+{
+    return text("정리 스캔이나 인사이트 스캔을 실행하면 가장 안전한 검토 화면부터 안내합니다.",
+        "Run cleanup or insight scans to prioritize the safest review screens.");
+}
+
+std::string KarvelloCopy::smartCleanupPrimerDetail() const
+{
+    return text("검토 우선 · 휴지통 우선", "Review-first · Trash-first");
 }
 
 } // namespace KarvelloUI

@@ -55,6 +55,14 @@ TEST(KarvelloCopy, PutsSizesAndTitlesIntoRecommendations)
     EXPECT_EQ(kEnglish.smartCleanupSizeDetail(-1), "0 bytes");
 }
 
+TEST(KarvelloCopy, CountsLargeFilesWithoutAVerbInEnglish)
+{
+    EXPECT_EQ(kEnglish.smartCleanupLargeFilesBody(3),
+        "3 large files by size. Review what you recognize; nothing is removed automatically.");
+    EXPECT_EQ(KarvelloCopy{AppLanguage::simplifiedChinese}.smartCleanupLargeFilesBody(3),
+        "按大小显示 3 个大文件。请检查你认得的文件；不会自动移除任何内容。");
+}
+
 TEST(KarvelloCopy, TakesItsEnglishFromTheTables)
 {
     const auto& keys = EnglishTables::read().keys;
@@ -77,8 +85,7 @@ TEST(KarvelloCopy, BuildsSentencesOfTheShapesInTheTables)
     for (const std::string& text : {kEnglish.auditLogExportFailedMessage("x"), kEnglish.auditEntrySummary(entry),
              kEnglish.smartCleanupLowDiskBody(1, "Cleanup"), kEnglish.smartCleanupDuplicatesBody(2),
              kEnglish.smartCleanupPermissionBody(2), kEnglish.smartCleanupPermissionDetail(2),
-             kEnglish.smartCleanupCandidatesBody(2), kEnglish.smartCleanupLargeFilesBody(2),
-             kEnglish.smartCleanupDownloadsBody(2)}) {
+             kEnglish.smartCleanupCandidatesBody(2), kEnglish.smartCleanupDownloadsBody(2)}) {
         // The comma row takes any sentence with a comma and a space, so it says nothing of this one.
         EXPECT_TRUE(std::ranges::any_of(templates, [&text](const std::string& pattern) {
             MatchableSentence sentence(text);

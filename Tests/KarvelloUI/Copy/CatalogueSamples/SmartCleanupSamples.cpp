@@ -20,9 +20,16 @@ const CatalogueTheme kSmartCleanup("SmartCleanup",
         {"smartCleanupPermissionDetail 3",
             [](const KarvelloCopy& copy) { return copy.smartCleanupPermissionDetail(3); }},
         {"smartCleanupCandidatesBody", [](const KarvelloCopy& copy) { return copy.smartCleanupCandidatesBody(3); }},
-        {"smartCleanupLargeFilesBody", [](const KarvelloCopy& copy) { return copy.smartCleanupLargeFilesBody(3); }},
+        {"smartCleanupLargeFilesBody", [](const KarvelloCopy& copy) { return copy.smartCleanupLargeFilesBody(3); },
+            SampleCoverage::assembled},
         {"smartCleanupDownloadsBody", [](const KarvelloCopy& copy) { return copy.smartCleanupDownloadsBody(3); }},
+        {"smartCleanupPrimerBody", [](const KarvelloCopy& copy) { return copy.smartCleanupPrimerBody(); }},
+        {"smartCleanupPrimerDetail", [](const KarvelloCopy& copy) { return copy.smartCleanupPrimerDetail(); }},
     });
+
+const CatalogueTheme kTitles("SmartCleanup",
+    samplesOfEachCase<StorageRecommendationKind>("smartCleanupTitle",
+        [](const KarvelloCopy& copy, StorageRecommendationKind kind) { return copy.smartCleanupTitle(kind); }));
 
 } // namespace
 } // namespace KarvelloUI

@@ -18,7 +18,7 @@ namespace {
 
 TextStyle style(std::size_t columns)
 {
-    return {.columns = columns, .language = "en", .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
+    return {.columns = columns, .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
 }
 
 std::vector<CleanupAuditEntry> entries()

@@ -42,8 +42,8 @@ std::vector<ItemLines::Item> kinds(const CleanupSelectionPreview& preview, const
     for (const auto& summary : preview.categorySummaries) {
         items.push_back({.size = style.size(summary.bytes),
             .age = {},
-            .words = say("{}: {}", catalogue().categoryName(summary.category),
-                itemCount(static_cast<std::size_t>(summary.count))),
+            .words = say(
+                "{}: {}", sayReason(displayName(summary.category)), itemCount(static_cast<std::size_t>(summary.count))),
             .notes = {}});
     }
     return items;

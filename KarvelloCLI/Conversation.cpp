@@ -121,7 +121,7 @@ Answer Conversation::ask(std::string_view question, const std::stop_token& stop)
         return stop.stop_requested() ? Answer::interrupted : Answer::yes;
     }
     tcflush(STDIN_FILENO, TCIFLUSH);
-    if (writeWholly(STDERR_FILENO, fmt::format("{} {} ", question, say("[y/N]"))) != 0) {
+    if (writeWholly(STDERR_FILENO, fmt::format("{} {} ", question, KarvelloCLI::say("[y/N]"))) != 0) {
         return Answer::no;
     }
     const Answer answer = readAnswer(stop);

@@ -77,7 +77,7 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
     row.age =
         TerminalText(candidate.lastModified ? shortAge(m_report.scannedAt.secondsSince(*candidate.lastModified)) : "-");
     row.name = TerminalText(name);
-    row.kind = TerminalText(catalogue().categoryName(candidate.category));
+    row.kind = TerminalText(sayReason(displayName(candidate.category)));
     row.path = TerminalText(path);
     row.note = TerminalText(
         ownerNote(candidate.appCacheContext, m_settings.isRedacted ? OwnerName::hidden : OwnerName::shown));

@@ -67,27 +67,6 @@ std::optional<std::string> escapeOf(UChar32 character, TerminalText::Kind kind)
     return value <= 0xFFFF ? fmt::format("\\u{:04x}", value) : fmt::format("\\U{:08x}", value);
 }
 
-std::size_t columnsOfCharacter(UChar32 character)
-{
-    if (isMark(character) || character == kZeroWidthNonJoiner || character == kZeroWidthJoiner) {
-        return 0;
-    }
-    switch (u_getIntPropertyValue(character, UCHAR_HANGUL_SYLLABLE_TYPE)) {
-    case U_HST_VOWEL_JAMO:
-    case U_HST_TRAILING_JAMO:
-        return 0; // drawn into the leading consonant before it
-    default:
-        break;
-    }
-    switch (u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH)) {
-    case U_EA_WIDE:
-    case U_EA_FULLWIDTH:
-        return 2;
-    default:
-        return 1;
-    }
-}
-
 /// Of a writing without blanks, in which a line may end behind almost any character. Korean has blanks.
 bool isIdeographic(std::string_view unit)
 {
@@ -155,7 +134,7 @@ TerminalText::TerminalText(std::string_view bytes, Kind kind)
             continue;
         }
         const auto piece = bytes.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(position - start));
-        const std::size_t columns = columnsOfCharacter(character);
+        const std::size_t columns = Platform::Text::columns(static_cast<char32_t>(character));
         if (columns == 0 && !m_units.empty()) {
             m_string += piece;
         } else {

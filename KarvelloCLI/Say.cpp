@@ -124,9 +124,9 @@ std::string sayReason(std::string_view english)
     return catalogue().skippedReason(english);
 }
 
-std::string withFullStop(std::string sentence)
+std::string withFullStop(std::string_view sentence)
 {
-    return sentence.ends_with('.') || sentence.ends_with("。") ? sentence : say("{}.", sentence);
+    return sentence.ends_with('.') || sentence.ends_with("。") ? std::string(sentence) : say("{}.", sentence);
 }
 
 } // namespace KarvelloCLI

@@ -83,6 +83,6 @@ template <typename... Values>
 [[nodiscard]] std::string sayReason(std::string_view english);
 
 /// A text of the spoken language, with a full stop if it has none.
-[[nodiscard]] std::string withFullStop(std::string sentence);
+[[nodiscard]] std::string withFullStop(std::string_view sentence);
 
 } // namespace KarvelloCLI

@@ -219,6 +219,41 @@ bool isControl(char32_t scalar)
     return isInCategories(scalar, U_GC_CC_MASK);
 }
 
+std::size_t columns(char32_t scalar)
+{
+    constexpr char32_t zeroWidthNonJoiner = 0x200C;
+    constexpr char32_t zeroWidthJoiner = 0x200D;
+    const auto character = static_cast<UChar32>(scalar);
+    const auto category = u_charType(character);
+    if (category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK || scalar == zeroWidthNonJoiner
+        || scalar == zeroWidthJoiner) {
+        return 0;
+    }
+    switch (u_getIntPropertyValue(character, UCHAR_HANGUL_SYLLABLE_TYPE)) {
+    case U_HST_VOWEL_JAMO:
+    case U_HST_TRAILING_JAMO:
+        return 0; // drawn into the leading consonant before it
+    default:
+        break;
+    }
+    switch (u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH)) {
+    case U_EA_WIDE:
+    case U_EA_FULLWIDTH:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
+std::size_t columns(std::string_view text)
+{
+    std::size_t sum = 0;
+    while (!text.empty()) {
+        sum += columns(takeScalar(text));
+    }
+    return sum;
+}
+
 char32_t takeScalar(std::string_view& text)
 {
     const auto character = takeCharacter(text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,12 @@ namespace Platform::Text {
 [[nodiscard]] bool isWhitespaceOrNewline(char32_t scalar); // Z*, U+0009 to U+000D, U+0085
 [[nodiscard]] bool isUnicodeWhitespace(char32_t scalar);   // the property White_Space
 [[nodiscard]] bool isControl(char32_t scalar);             // general category Cc
+
+/// The columns that a terminal gives a character: two for wide East Asian ones and emoji, none for marks and joiners and
+/// for the vowels and finals of decomposed Hangul, one for the rest.
+[[nodiscard]] std::size_t columns(char32_t scalar);
+/// The sum of its characters.
+[[nodiscard]] std::size_t columns(std::string_view text);
 
 /// Takes the first scalar off `text`, which is not empty; a byte that is part of no character gives U+FFFD.
 char32_t takeScalar(std::string_view& text);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
+#include <ranges>
 #include <utility>
 
 namespace KarvelloUI {
@@ -258,9 +260,10 @@ void CandidateListModel::reorder(Content content, const Change& change)
 
 void CandidateListModel::removeAndInsert(Content content, const Change& change)
 {
-    for (auto run = change.removed.rbegin(); run != change.removed.rend(); ++run) {
-        beginRemoveRows({}, run->first, run->last);
-        m_content.rows.erase(m_content.rows.begin() + run->first, m_content.rows.begin() + run->last + 1);
+    // From the end, so that the rows before keep their numbers.
+    for (const auto& run : std::views::reverse(change.removed)) {
+        beginRemoveRows({}, run.first, run.last);
+        m_content.rows.erase(m_content.rows.begin() + run.first, m_content.rows.begin() + run.last + 1);
         endRemoveRows();
     }
     // What is left is all that stays, in its order: from here on it stands for the new report.

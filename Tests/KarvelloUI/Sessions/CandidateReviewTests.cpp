@@ -188,6 +188,20 @@ TEST_F(CandidateReviewTest, FindsTheWordsOfTheLanguageThatIsAsked)
     EXPECT_EQ(review.visibleCandidateIDs(korean), IDs{idOf(kArchive)});
 }
 
+TEST_F(CandidateReviewTest, FindsTheApplicationsOfTheReportOnShow)
+{
+    const auto ofApplication = [](const std::string& name) {
+        return CleanupCandidate({.url = Platform::FileURL("/h/data"),
+            .category = CleanupCategory::appContainerCaches,
+            .appCacheContext = CleanerCore::AppCacheContext{.containerIdentifier = "com.example." + name}});
+    };
+    filter({.searchText = "com.example.second"});
+    review.apply(indexOf({ofApplication("first")}), Filters::reconcile);
+    EXPECT_EQ(visible(), IDs{});
+    review.apply(indexOf({ofApplication("second")}), Filters::reconcile);
+    EXPECT_EQ(visible().size(), 1U);
+}
+
 TEST_F(CandidateReviewTest, SumsBeyondTheRangeEndTheProgram)
 {
     constexpr auto most = std::numeric_limits<std::int64_t>::max();

@@ -166,9 +166,13 @@ TEST_F(CandidateReviewTest, TheGroupingModeSurvivesAScan)
 
 TEST_F(CandidateReviewTest, SumsCategoriesTheLargestFirst)
 {
+    auto second = kArchive;
+    second.path = "/h/archive-2";
+    second.sizeBytes = 40;
+    apply({kCache, kLog, kArchive, second}, Filters::reset);
     EXPECT_EQ(review.index().categorySummaries(),
-        (std::vector<CleanupCategorySummary>{{CleanupCategory::userCaches, 100}, {CleanupCategory::userLogs, 50},
-            {CleanupCategory::buildArchives, 30}}));
+        (std::vector<CleanupCategorySummary>{{CleanupCategory::userCaches, 100}, {CleanupCategory::buildArchives, 70},
+            {CleanupCategory::userLogs, 50}}));
     EXPECT_TRUE(CandidateReview().index().categorySummaries().empty());
 }
 

@@ -350,6 +350,16 @@ TEST_F(JobTest, DestructionBeforeTheWorkBeganLeavesNothingToDo)
     EXPECT_FALSE(hasBegun);
 }
 
+TEST_F(JobTest, DestructionAsksTheWorkToStop)
+{
+    std::stop_token token;
+    job->start([&](const std::stop_token& stop) { token = stop; }, [](const JobOutcome<void>&) { FAIL(); });
+    executor.runAll();
+    EXPECT_FALSE(token.stop_requested());
+    job.reset();
+    EXPECT_TRUE(token.stop_requested());
+}
+
 TEST_F(JobTest, DestructionWithAResultOnItsWayCallsNobody)
 {
     job->start(returning(1), noting());

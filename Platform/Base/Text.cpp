@@ -89,22 +89,6 @@ void appendScalar(std::string& text, char32_t scalar)
 
 #pragma GCC diagnostic pop
 
-/// The number of leading bytes that form characters.
-std::size_t lengthOfValidPrefix(std::string_view bytes)
-{
-    auto rest = bytes;
-    for (;;) {
-        rest.remove_prefix(lengthOfASCIIPrefix(rest));
-        if (rest.empty()) {
-            return bytes.size();
-        }
-        const auto before = rest.size();
-        if (takeCharacter(rest) < 0) {
-            return bytes.size() - before;
-        }
-    }
-}
-
 bool isInCategories(char32_t scalar, std::uint32_t categories)
 {
     return (U_GET_GC_MASK(static_cast<UChar32>(scalar)) & categories) != 0;
@@ -127,6 +111,21 @@ void appendLowercased(std::string& result, std::string_view validText)
 
 } // namespace
 
+std::size_t lengthOfValidPrefix(std::string_view bytes)
+{
+    auto rest = bytes;
+    for (;;) {
+        rest.remove_prefix(lengthOfASCIIPrefix(rest));
+        if (rest.empty()) {
+            return bytes.size();
+        }
+        const auto before = rest.size();
+        if (takeCharacter(rest) < 0) {
+            return bytes.size() - before;
+        }
+    }
+}
+
 bool isValidUTF8(std::string_view bytes)
 {
     return lengthOfValidPrefix(bytes) == bytes.size();
@@ -135,17 +134,13 @@ bool isValidUTF8(std::string_view bytes)
 std::string escapingInvalidUTF8(std::string_view bytes, std::string_view mark)
 {
     std::string result;
-    for (;;) {
-        const auto valid = lengthOfValidPrefix(bytes);
-        result.append(bytes.substr(0, valid));
-        bytes.remove_prefix(valid);
-        if (bytes.empty()) {
-            return result;
-        }
-        result.append(mark);
-        appendHexDigits(result, static_cast<std::uint8_t>(bytes.front()));
-        bytes.remove_prefix(1);
-    }
+    forEachRun(
+        bytes, [&](std::string_view characters) { result.append(characters); },
+        [&](char byte) {
+            result.append(mark);
+            appendHexDigits(result, static_cast<std::uint8_t>(byte));
+        });
+    return result;
 }
 
 std::string lowercased(std::string_view text)
@@ -159,18 +154,10 @@ std::string lowercased(std::string_view text)
         }
         return result;
     }
-    for (;;) {
-        const auto valid = lengthOfValidPrefix(text);
-        if (valid != 0) {
-            appendLowercased(result, text.substr(0, valid));
-            text.remove_prefix(valid);
-        }
-        if (text.empty()) {
-            return result;
-        }
-        result += text.front();
-        text.remove_prefix(1);
-    }
+    forEachRun(
+        text, [&](std::string_view characters) { appendLowercased(result, characters); },
+        [&](char byte) { result += byte; });
+    return result;
 }
 
 std::string_view trimmed(std::string_view text)

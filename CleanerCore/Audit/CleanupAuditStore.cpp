@@ -3,8 +3,8 @@
 #include "CleanerCore/Audit/AuditEntryRetention.h"
 #include "CleanerCore/Audit/CleanupAuditCoding.h"
 #include "CleanerCore/Audit/LossyCleanupAuditEntryList.h"
-#include "Platform/Base/Date.h"
 #include "Platform/Files/FileLock.h"
+#include "Platform/Files/SetAside.h"
 #include "Platform/Services/UserDirectories.h"
 
 #include <algorithm>
@@ -214,10 +214,7 @@ std::optional<std::vector<CleanupAuditEntry>> CleanupAuditStore::decodeEntries(
 
 void CleanupAuditStore::preserveAuditLog(std::string_view reason) const
 {
-    const auto seconds = static_cast<std::int64_t>(Platform::Date::now().secondsSince1970());
-    const auto name =
-        fmt::format("{}.{}-{}-{}", m_fileURL.lastPathComponent(), reason, seconds, Platform::UUID::random().string());
-    std::ignore = m_fileManager.moveItem(m_fileURL, m_fileURL.deletingLastPathComponent().appending(name));
+    std::ignore = Platform::setAside(m_fileManager, m_fileURL, reason);
 }
 
 void CleanupAuditStore::makeFolder() const

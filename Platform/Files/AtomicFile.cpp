@@ -53,11 +53,9 @@ public:
         }
     }
 
-    [[nodiscard]] int write(std::string_view bytes) const
-    {
-        const int error = writeAll(m_descriptor.get(), bytes);
-        return error != 0 || fsync(m_descriptor.get()) == 0 ? error : errno;
-    }
+    [[nodiscard]] int write(std::string_view bytes) const { return writeAll(m_descriptor.get(), bytes); }
+
+    [[nodiscard]] int sync() const { return fsync(m_descriptor.get()) == 0 ? 0 : errno; }
 
     [[nodiscard]] int take(const char* finalName)
     {
@@ -65,7 +63,7 @@ public:
             return errno;
         }
         m_descriptor.reset();
-        return fsync(m_folder) == 0 || errno == EINVAL ? 0 : errno;
+        return 0;
     }
 
 private:
@@ -83,7 +81,7 @@ private:
 
 } // namespace
 
-std::expected<void, FileError> replaceFile(const FileURL& url, std::string_view bytes)
+std::expected<void, FileError> replaceFile(const FileURL& url, std::string_view bytes, WriteDurability durability)
 {
     const auto failure = [&](int systemError) {
         return std::unexpected(FileError::fromSystemError(systemError, FileOperation::write, url.path()));
@@ -98,11 +96,19 @@ std::expected<void, FileError> replaceFile(const FileURL& url, std::string_view 
     if (!file) {
         return failure(file.error());
     }
-    if (const int writeError = file->write(bytes); writeError != 0) {
-        return failure(writeError);
+    const bool isSynced = durability == WriteDurability::onDisk;
+    int error = file->write(bytes);
+    if (error == 0 && isSynced) {
+        error = file->sync();
     }
-    if (const int renameError = file->take(name.c_str()); renameError != 0) {
-        return failure(renameError);
+    if (error == 0) {
+        error = file->take(name.c_str());
+    }
+    if (error == 0 && isSynced && fsync(folder.get()) != 0 && errno != EINVAL) {
+        error = errno;
+    }
+    if (error != 0) {
+        return failure(error);
     }
     return {};
 }

@@ -81,6 +81,16 @@ std::optional<FileURL> assignedFolder(std::string_view line, std::string_view va
     return isInHome ? homeDirectory.appending(*value, DirectoryHint::isFolder) : FileURL::folder(*value);
 }
 
+FileURL baseDirectory(const Environment& environment, std::string_view variable, std::string_view pathInHome)
+{
+    if (const auto folder = environment.value(variable); folder && folder->starts_with('/')) {
+        return FileURL::folder(*folder);
+    }
+    const auto home = environment.value("HOME");
+    const auto homeFolder = home && home->starts_with('/') ? FileURL::folder(*home) : homeDirectoryForCurrentUser();
+    return homeFolder.appending(pathInHome, DirectoryHint::isFolder);
+}
+
 } // namespace
 
 std::optional<FileURL> userDirectory(
@@ -100,12 +110,12 @@ std::optional<FileURL> userDirectory(
 
 FileURL dataDirectoryForCurrentUser(const Environment& environment)
 {
-    if (const auto folder = environment.value("XDG_DATA_HOME"); folder && folder->starts_with('/')) {
-        return FileURL::folder(*folder);
-    }
-    const auto home = environment.value("HOME");
-    const auto homeFolder = home && home->starts_with('/') ? FileURL::folder(*home) : homeDirectoryForCurrentUser();
-    return homeFolder.appending(".local/share", DirectoryHint::isFolder);
+    return baseDirectory(environment, "XDG_DATA_HOME", ".local/share");
+}
+
+FileURL configurationDirectoryForCurrentUser(const Environment& environment)
+{
+    return baseDirectory(environment, "XDG_CONFIG_HOME", ".config");
 }
 
 } // namespace Platform

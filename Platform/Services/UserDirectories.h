@@ -13,6 +13,8 @@ namespace Platform {
 /// The base folder for what programs keep for their user (XDG Base Directory Specification): `$XDG_DATA_HOME` where it
 /// is an absolute path, else ".local/share" in the home folder, which `$HOME` tells, or the user database.
 [[nodiscard]] FileURL dataDirectoryForCurrentUser(const Environment& environment);
+/// The same for what a user has chosen: `$XDG_CONFIG_HOME`, else ".config".
+[[nodiscard]] FileURL configurationDirectoryForCurrentUser(const Environment& environment);
 
 /// The folders that a desktop makes for its user's files, each under a name in the user's language.
 enum class UserDirectory : std::uint8_t {

@@ -67,6 +67,7 @@ endfunction()
 # A layer of objects that screens observe.
 function(karvello_qt_layer name)
   karvello_layer(${name} ${ARGN})
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  # Qt 6.4's moc takes the start of <concepts> for an error; defining its guard leaves the header out.
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOMOC_MOC_OPTIONS "-D_GLIBCXX_CONCEPTS")
   target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 endfunction()

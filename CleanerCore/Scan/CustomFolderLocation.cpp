@@ -4,6 +4,8 @@
 #include "CleanerCore/Scan/LocationAges.h"
 #include "Platform/Base/Text.h"
 
+#include <utility>
+
 namespace CleanerCore {
 
 std::string CustomScanFolderError::errorDescription() const
@@ -20,9 +22,8 @@ std::string CustomScanFolderError::errorDescription() const
     return words() + Platform::Text::escapingInvalidUTF8(path);
 }
 
-std::expected<ScanLocation, CustomScanFolderError> customFolderLocation(const Platform::FileURL& url,
-    const std::string& displayName, const Platform::FileManager& fileManager,
-    const std::optional<Platform::FileURL>& homeDirectory)
+std::expected<void, CustomScanFolderError> validateCustomFolder(const Platform::FileURL& url,
+    const Platform::FileManager& fileManager, const std::optional<Platform::FileURL>& homeDirectory)
 {
     if (!fileManager.directoryExists(url)) {
         return std::unexpected(CustomScanFolderError{CustomScanFolderError::Kind::notDirectory, url.path()});
@@ -30,6 +31,11 @@ std::expected<ScanLocation, CustomScanFolderError> customFolderLocation(const Pl
     if (!SafePathPolicy::validateScanRoot(url, homeDirectory, fileManager)) {
         return std::unexpected(CustomScanFolderError{CustomScanFolderError::Kind::unsafeRoot, url.path()});
     }
+    return {};
+}
+
+ScanLocation checkedCustomFolderLocation(const Platform::FileURL& url, const std::string& displayName)
+{
     return ScanLocation({
         .rootURL = url,
         .category = CleanupCategory::customFolder,
@@ -42,6 +48,16 @@ std::expected<ScanLocation, CustomScanFolderError> customFolderLocation(const Pl
         .includesPackageDescendants = false,
         .appCacheContext = std::nullopt,
     });
+}
+
+std::expected<ScanLocation, CustomScanFolderError> customFolderLocation(const Platform::FileURL& url,
+    const std::string& displayName, const Platform::FileManager& fileManager,
+    const std::optional<Platform::FileURL>& homeDirectory)
+{
+    if (auto allowed = validateCustomFolder(url, fileManager, homeDirectory); !allowed) {
+        return std::unexpected(std::move(allowed.error()));
+    }
+    return checkedCustomFolderLocation(url, displayName);
 }
 
 } // namespace CleanerCore

@@ -24,9 +24,16 @@ struct CustomScanFolderError {
     friend bool operator==(const CustomScanFolderError&, const CustomScanFolderError&) = default;
 };
 
-/// The location for a folder that a person adds. It is trusted less than those that the product knows: all that is
-/// found in it is left to manual review, a day old and never selected. Roots are judged against `homeDirectory`, or
-/// without one against the person's real home.
+/// Whether a person may add the folder. Roots are judged against `homeDirectory`, or without one against the person's
+/// real home.
+[[nodiscard]] std::expected<void, CustomScanFolderError> validateCustomFolder(const Platform::FileURL& url,
+    const Platform::FileManager& fileManager, const std::optional<Platform::FileURL>& homeDirectory = std::nullopt);
+
+/// The location for a folder that passed the checks. It is trusted less than those that the product knows: all that is
+/// found in it is left to manual review, a day old and never selected.
+[[nodiscard]] ScanLocation checkedCustomFolderLocation(const Platform::FileURL& url, const std::string& displayName);
+
+/// The location for a folder that `validateCustomFolder` allows.
 [[nodiscard]] std::expected<ScanLocation, CustomScanFolderError> customFolderLocation(const Platform::FileURL& url,
     const std::string& displayName, const Platform::FileManager& fileManager,
     const std::optional<Platform::FileURL>& homeDirectory = std::nullopt);

@@ -19,6 +19,10 @@ struct Date {
     {
         return {static_cast<double>(seconds - kReferenceDateInUnixTime) + static_cast<double>(nanoseconds) * 1e-9};
     }
+    static constexpr Date fromSecondsSince1970(double seconds)
+    {
+        return {seconds - static_cast<double>(kReferenceDateInUnixTime)};
+    }
 
     [[nodiscard]] constexpr double secondsSince1970() const
     {

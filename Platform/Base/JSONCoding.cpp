@@ -39,6 +39,14 @@ void writeText(JSONWriter& writer, const std::string& value)
     }
 }
 
+/// An absolute path begins with a slash, so what begins otherwise is a text of the writer.
+void decodePath(std::string& value)
+{
+    if (const auto url = FileURL::fromAbsoluteString(value)) {
+        value = url->path();
+    }
+}
+
 } // namespace
 
 JSONError unexpectedJSON(std::string_view expectation, const JSONValue& found)
@@ -50,6 +58,23 @@ JSONError unexpectedJSON(std::string_view expectation, const JSONValue& found)
         return {fmt::format("expected {}, found the number {}", expectation, *number), {}};
     }
     return {fmt::format("expected {}, found {}", expectation, found.kindName()), {}};
+}
+
+void JSONFieldWriter::path(std::string_view key, const std::string& value)
+{
+    field(key, Text::isValidUTF8(value) ? value : FileURL(value).absoluteString());
+}
+
+void JSONFieldReader::path(std::string_view key, std::string& value)
+{
+    field(key, value);
+    decodePath(value);
+}
+
+void JSONFieldReader::path(std::string_view key, std::string& value, const std::string& absent)
+{
+    defaulted(key, value, absent);
+    decodePath(value);
 }
 
 void JSONFieldWriter::text(std::string_view key, const std::string& value)

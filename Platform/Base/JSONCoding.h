@@ -30,6 +30,7 @@
 ///             coder.field("readAt", book.readAt);             // an std::optional: left out when absent
 ///             coder.defaulted("isLent", book.isLent, false);  // absent in older files
 ///             coder.text("shelf", book.shelf);                // bytes that need not be UTF-8
+///             coder.path("file", book.file);                  // the same, read back byte for byte
 ///             coder.readableElements("notes", book.notes);    // a damaged note does not cost the book
 ///         }
 ///         static void normalize(Book& book);                  // if the record has limits: called after reading
@@ -88,6 +89,11 @@ public:
     void text(std::string_view key, const std::string& value);
     void text(std::string_view key, const std::optional<std::string>& value);
     void text(std::string_view key, const std::vector<std::string>& values);
+
+    /// An absolute path. One that is not UTF-8 is written as its "file://" text, which no absolute path is, so that it is
+    /// read back byte for byte.
+    void path(std::string_view key, const std::string& value);
+    void path(std::string_view key, const std::string& value, const std::string& /*absent*/) { path(key, value); }
 
     /// An array of which reading takes the elements that it can. Whatever else stands at the key, or nothing, reads as
     /// an empty one.
@@ -153,6 +159,9 @@ public:
     void text(std::string_view key, std::string& value) { field(key, value); }
     void text(std::string_view key, std::optional<std::string>& value) { field(key, value); }
     void text(std::string_view key, std::vector<std::string>& values) { field(key, values); }
+
+    void path(std::string_view key, std::string& value);
+    void path(std::string_view key, std::string& value, const std::string& absent);
 
     template <typename T>
     void readableElements(std::string_view key, std::vector<T>& values)

@@ -1,5 +1,6 @@
 #include "Platform/Base/TextOrder.h"
 
+#include <cstdint>
 #include <memory>
 #include <unicode/coll.h>
 #include <unicode/locid.h>
@@ -9,8 +10,10 @@ namespace Platform::Text {
 
 namespace {
 
+enum class Numbers : std::uint8_t { byDigits, byValue };
+
 /// Null where ICU has no data at all. Comparing with one that nobody changes is safe in all threads.
-std::unique_ptr<const icu::Collator> makeCollator()
+std::unique_ptr<const icu::Collator> makeCollator(icu::Collator::ECollationStrength strength, Numbers numbers)
 {
     UErrorCode status = U_ZERO_ERROR;
     // An environment that names no language stands for the order of bytes there, which is nobody's.
@@ -21,15 +24,15 @@ std::unique_ptr<const icu::Collator> makeCollator()
     if (U_FAILURE(status) || collator == nullptr) {
         return nullptr;
     }
-    collator->setStrength(icu::Collator::SECONDARY);
+    collator->setStrength(strength);
+    if (numbers == Numbers::byValue) {
+        collator->setAttribute(UCOL_NUMERIC_COLLATION, UCOL_ON, status);
+    }
     return collator;
 }
 
-} // namespace
-
-std::weak_ordering localizedCaseInsensitiveCompare(std::string_view left, std::string_view right)
+std::weak_ordering compare(const icu::Collator* collator, std::string_view left, std::string_view right)
 {
-    static const auto collator = makeCollator();
     if (collator == nullptr) {
         return left <=> right;
     }
@@ -46,6 +49,24 @@ std::weak_ordering localizedCaseInsensitiveCompare(std::string_view left, std::s
         break;
     }
     return std::weak_ordering::equivalent;
+}
+
+} // namespace
+
+std::weak_ordering localizedCaseInsensitiveCompare(std::string_view left, std::string_view right)
+{
+    static const auto collator = makeCollator(icu::Collator::SECONDARY, Numbers::byDigits);
+    return compare(collator.get(), left, right);
+}
+
+std::strong_ordering localizedStandardCompare(std::string_view left, std::string_view right)
+{
+    static const auto collator = makeCollator(icu::Collator::TERTIARY, Numbers::byValue);
+    const auto order = compare(collator.get(), left, right);
+    if (order != std::weak_ordering::equivalent) {
+        return order < 0 ? std::strong_ordering::less : std::strong_ordering::greater;
+    }
+    return left <=> right;
 }
 
 } // namespace Platform::Text

@@ -18,6 +18,8 @@ public:
 
     /// Nothing for a variable that is unset or empty.
     [[nodiscard]] std::optional<std::string> value(std::string_view name) const;
+    /// True for one that is set to nothing, too.
+    [[nodiscard]] bool holds(std::string_view name) const { return m_variables.contains(name); }
 
 private:
     std::map<std::string, std::string, std::less<>> m_variables;

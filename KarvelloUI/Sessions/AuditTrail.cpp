@@ -31,8 +31,7 @@ void AuditTrail::load()
             // What was recorded while the file was read stays.
             auto entries = std::move(loaded).value_or(Entries());
             std::ranges::copy(m_entries, std::back_inserter(entries));
-            m_isLoaded = true;
-            show(CleanerCore::AuditEntryRetention::limited(std::move(entries), CleanupAuditStore::defaultLimit));
+            takeOver(CleanerCore::AuditEntryRetention::limited(std::move(entries), CleanupAuditStore::defaultLimit));
         });
 }
 
@@ -41,20 +40,20 @@ void AuditTrail::record(const CleanupAuditEntry& entry)
     const auto safe = entry.storageSafeForAuditPersistence();
     Entries entries{safe};
     std::ranges::copy(m_entries, std::back_inserter(entries));
-    show(CleanerCore::AuditEntryRetention::limited(std::move(entries), CleanupAuditStore::defaultLimit));
+    m_entries = CleanerCore::AuditEntryRetention::limited(std::move(entries), CleanupAuditStore::defaultLimit);
     m_errands.run([store = m_store, safe] { return store.append(safe, CleanupAuditStore::defaultLimit); },
         [this, safe](JobOutcome<Entries> persisted) {
-            if (!persisted) {
-                return;
+            if (persisted) {
+                takeOver(
+                    CleanerCore::AuditEntryRetention::reconciledAfterAppend(*std::move(persisted), m_entries, safe));
             }
-            m_isLoaded = true;
-            show(CleanerCore::AuditEntryRetention::reconciledAfterAppend(*std::move(persisted), m_entries, safe));
         });
 }
 
-void AuditTrail::show(Entries entries)
+void AuditTrail::takeOver(Entries entries)
 {
     m_entries = std::move(entries);
+    m_isLoaded = true;
     m_changed();
 }
 

@@ -13,7 +13,7 @@ namespace KarvelloUI {
 /// background, also when this object is gone by then. Belongs to the thread of its session, which has an event loop.
 class AuditTrail {
 public:
-    /// `changed` is called after every change of what is below. Loading starts at once.
+    /// `changed` is called when the log has been read or written, and what is below is another. Loading starts at once.
     AuditTrail(CleanerCore::CleanupAuditStore store, JobExecutor& executor, std::function<void()> changed);
 
     /// At most `CleanupAuditStore::defaultLimit`, the newest first.
@@ -25,7 +25,7 @@ public:
 
 private:
     void load();
-    void show(std::vector<CleanerCore::CleanupAuditEntry> entries);
+    void takeOver(std::vector<CleanerCore::CleanupAuditEntry> entries);
 
     CleanerCore::CleanupAuditStore m_store;
     std::function<void()> m_changed;

@@ -15,7 +15,7 @@ using CleanerCore::ItemProgressReport;
 
 CleanAction cleaningServiceAction(const SessionServices& services)
 {
-    return [&services](std::span<const CleanupCandidate> candidates, const CleanRequest& request,
+    return [services](std::span<const CleanupCandidate> candidates, const CleanRequest& request,
                const std::stop_token& stop, const ItemProgressReport& report) {
         const ActiveScan& scanned = request.scanned;
         return CleanerCore::CleaningService(services.fileManager, services.trash)

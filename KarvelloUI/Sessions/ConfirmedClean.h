@@ -25,7 +25,7 @@ struct CleanRequest {
 using CleanAction = std::function<CleanerCore::CleanResult(std::span<const CleanerCore::CleanupCandidate> candidates,
     const CleanRequest& request, const std::stop_token& stop, const CleanerCore::ItemProgressReport& report)>;
 
-/// The cleaning service. `services` must outlive the action.
+/// The cleaning service.
 [[nodiscard]] CleanAction cleaningServiceAction(const SessionServices& services);
 
 /// Carries out a request on the calling thread, with access to its folders opened. What lies in a folder to which there

@@ -3,6 +3,7 @@
 #include "KarvelloUI/Copy/KarvelloEnglishCopyTranslations.h"
 #include "Platform/Base/ASCII.h"
 #include "Platform/Base/Text.h"
+#include "Platform/Services/UserDefaults.h"
 
 #include <algorithm>
 #include <array>
@@ -111,6 +112,11 @@ AppLanguage persistedLanguage(
 {
     const auto stored = storedValue ? Platform::fromRawValue<AppLanguage>(*storedValue) : std::nullopt;
     return stored ? *stored : preferredDefaultLanguage(preferredIdentifiers);
+}
+
+AppLanguage persistedLanguage(const Platform::UserDefaults& defaults, std::span<const std::string> preferredIdentifiers)
+{
+    return persistedLanguage(defaults.string(kLanguageStorageKey), preferredIdentifiers);
 }
 
 std::string localizedEnglishCopy(AppLanguage language, std::string_view text)

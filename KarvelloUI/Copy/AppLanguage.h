@@ -8,6 +8,10 @@
 #include <string>
 #include <string_view>
 
+namespace Platform {
+class UserDefaults;
+}
+
 namespace KarvelloUI {
 
 /// The languages that every text of Karvello exists in. The raw value is the code of the resources and the identifier
@@ -37,6 +41,9 @@ inline constexpr std::string_view kLanguageStorageKey = "karvello.language";
 /// that is none is left alone.
 [[nodiscard]] AppLanguage persistedLanguage(
     std::optional<std::string_view> storedValue, std::span<const std::string> preferredIdentifiers);
+/// The same for what `defaults` hold under the key; anything but a string counts as nothing.
+[[nodiscard]] AppLanguage persistedLanguage(
+    const Platform::UserDefaults& defaults, std::span<const std::string> preferredIdentifiers);
 
 /// A finished English sentence, values included, in another language; English for what no table knows. Korean texts do
 /// not come from here, so Korean gives the sentence back.

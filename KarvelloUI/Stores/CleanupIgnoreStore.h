@@ -18,7 +18,6 @@ namespace KarvelloUI {
 /// rules stay until the next `pruneExpired` or `ignore`.
 class CleanupIgnoreStore final : public PreferenceStore {
     Q_OBJECT
-    Q_PROPERTY(int count READ count NOTIFY itemsChanged FINAL)
 
 public:
     static constexpr std::string_view defaultStorageKey = "karvello.cleanupIgnoreItems.v1";
@@ -37,9 +36,11 @@ public:
         return availableIgnoreDurations(candidate);
     }
 
+    Q_PROPERTY(int count READ count NOTIFY itemsChanged)
     /// The latest first.
     [[nodiscard]] const std::vector<IgnoredCleanupItem>& items() const { return m_items.value(); }
     [[nodiscard]] int count() const { return static_cast<int>(items().size()); }
+    Q_SIGNAL void itemsChanged();
     [[nodiscard]] std::vector<IgnoredCleanupItem> activeItems(Platform::Date now) const;
     [[nodiscard]] std::set<std::string, std::less<>> activeIgnoredIDs(Platform::Date now) const;
     [[nodiscard]] bool isIgnored(const CleanerCore::CleanupCandidate& candidate, Platform::Date now) const;
@@ -56,9 +57,6 @@ public:
     bool pruneExpired(Platform::Date now);
 
     void refresh() override;
-
-Q_SIGNALS:
-    void itemsChanged();
 
 private:
     bool replace(std::vector<IgnoredCleanupItem> items);

@@ -18,7 +18,6 @@ namespace KarvelloUI {
 /// The folders that the user added to the scan.
 class CustomScanFolderStore final : public PreferenceStore {
     Q_OBJECT
-    Q_PROPERTY(int count READ count NOTIFY foldersChanged FINAL)
 
 public:
     static constexpr std::string_view defaultStorageKey = "karvello.customScanFolders.v1";
@@ -27,9 +26,11 @@ public:
     CustomScanFolderStore(Platform::UserDefaults& defaults, const Platform::Bookmarks& bookmarks,
         LanguageProvider language, std::string storageKey = std::string(defaultStorageKey), QObject* parent = nullptr);
 
+    Q_PROPERTY(int count READ count NOTIFY foldersChanged)
     /// By name, as of the last one that was added.
     [[nodiscard]] const std::vector<CustomScanFolder>& folders() const { return m_folders.value(); }
     [[nodiscard]] int count() const { return static_cast<int>(folders().size()); }
+    Q_SIGNAL void foldersChanged();
 
     /// Whether the folder is in the list now, instead of any that had its path. Otherwise the list stays, and
     /// `lastErrorMessage` says why.
@@ -39,9 +40,6 @@ public:
     bool removeFolder(const Platform::UUID& id);
 
     void refresh() override;
-
-Q_SIGNALS:
-    void foldersChanged();
 
 private:
     bool replace(std::vector<CustomScanFolder> folders);

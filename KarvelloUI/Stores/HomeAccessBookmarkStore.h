@@ -23,7 +23,6 @@ enum class HomeAccessState : std::uint8_t { authorized, missing };
 /// repaired: the user gives it again.
 class HomeAccessBookmarkStore final : public PreferenceStore {
     Q_OBJECT
-    Q_PROPERTY(bool authorized READ isAuthorized NOTIFY bookmarkChanged FINAL)
 
 public:
     static constexpr std::string_view defaultStorageKey = "karvello.homeAccessBookmark.v1";
@@ -36,9 +35,11 @@ public:
         CurrentHomeProvider currentHomeProvider = CleanerCore::cleanerCoreRealUserHomeDirectory,
         QObject* parent = nullptr);
 
+    Q_PROPERTY(bool authorized READ isAuthorized NOTIFY bookmarkChanged)
     [[nodiscard]] const std::optional<HomeAccessBookmark>& bookmark() const { return m_bookmark.value(); }
     [[nodiscard]] HomeAccessState accessState() const;
     [[nodiscard]] bool isAuthorized() const { return accessState() == HomeAccessState::authorized; }
+    Q_SIGNAL void bookmarkChanged();
 
     /// Whether the folder is the grant now. Otherwise the old grant stays, and `lastErrorMessage` says why.
     bool setBookmark(const Platform::FileURL& picked, const Platform::FileManager& fileManager,
@@ -49,9 +50,6 @@ public:
     [[nodiscard]] std::optional<ResolvedHomeAccessBookmark> resolveBookmark(const Platform::FileManager& fileManager);
 
     void refresh() override;
-
-Q_SIGNALS:
-    void bookmarkChanged();
 
 private:
     bool replace(std::optional<HomeAccessBookmark> bookmark);

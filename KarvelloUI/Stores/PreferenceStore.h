@@ -19,20 +19,18 @@ using LanguageProvider = std::function<AppLanguage()>;
 /// this process or another, stores under the key. Main thread only.
 class PreferenceStore : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString lastErrorMessage READ lastErrorText NOTIFY lastErrorMessageChanged FINAL)
 
 public:
+    Q_PROPERTY(QString lastErrorMessage READ lastErrorText NOTIFY lastErrorMessageChanged)
     [[nodiscard]] const std::optional<std::string>& lastErrorMessage() const { return m_lastErrorMessage; }
     /// Empty for none.
     [[nodiscard]] QString lastErrorText() const;
+    Q_SIGNAL void lastErrorMessageChanged();
     Q_INVOKABLE void clearError();
 
     /// Takes over what somebody else has stored. It is called for each change that the preferences tell of, and by the
     /// stores before they change anything, so that no change is lost to an older list.
     virtual void refresh() = 0;
-
-Q_SIGNALS:
-    void lastErrorMessageChanged();
 
 protected:
     /// `defaults` must outlive the store.

@@ -38,7 +38,7 @@
 ///
 /// Beside records, a field may be a boolean, an integer, a double, a string, a date (a number: seconds since
 /// 2001-01-01T00:00:00Z), a file URL (its "file://" text), a UUID (its text), an enumeration with raw values (the raw
-/// value), or a vector of any of these. `null` counts as absent. Keys that the table does not name are passed over.
+/// value), or a vector of any of these. `JSONMapCoding.h` adds maps. `null` counts as absent. Keys that the table does not name are passed over.
 namespace Platform {
 
 template <typename Record>

@@ -1,7 +1,7 @@
 #include "Platform/Services/DefaultsDocument.h"
 
 #include "Platform/Base/Base64.h"
-#include "Platform/Base/JSONCoding.h"
+#include "Platform/Base/JSONMapCoding.h"
 #include "Platform/Base/JSONReader.h"
 #include "Platform/Base/JSONWriter.h"
 
@@ -16,23 +16,6 @@ constexpr std::string_view kDouble = "double";
 constexpr std::string_view kData = "data";
 constexpr std::string_view kDictionary = "dictionary";
 
-std::optional<DefaultsDictionary> readDictionary(const JSONValue& json)
-{
-    const auto* const members = json.object();
-    if (members == nullptr) {
-        return std::nullopt;
-    }
-    DefaultsDictionary dictionary;
-    for (const auto& [key, value] : *members) {
-        const auto* const text = value.string();
-        if (text == nullptr) {
-            return std::nullopt;
-        }
-        dictionary.emplace(key, *text);
-    }
-    return dictionary;
-}
-
 std::optional<DefaultsValue> readNamed(const JSONValue::Member& member)
 {
     if (member.key == kDouble) {
@@ -43,7 +26,11 @@ std::optional<DefaultsValue> readNamed(const JSONValue::Member& member)
         auto bytes = text != nullptr ? Base64::decode(*text) : std::nullopt;
         return bytes ? std::optional<DefaultsValue>(DefaultsData{*std::move(bytes)}) : std::nullopt;
     }
-    return member.key == kDictionary ? readDictionary(member.value) : std::nullopt;
+    if (member.key == kDictionary) {
+        auto dictionary = decodeJSON<DefaultsDictionary>(member.value);
+        return dictionary ? std::optional<DefaultsValue>(*std::move(dictionary)) : std::nullopt;
+    }
+    return std::nullopt;
 }
 
 std::optional<DefaultsValue> readValue(const JSONValue& json)
@@ -92,14 +79,7 @@ struct EntryWriter {
 
     void operator()(const DefaultsDictionary& value) const
     {
-        named(kDictionary, [&] {
-            writer.beginObject();
-            for (const auto& [key, text] : value) {
-                writer.key(key);
-                writer.string(text);
-            }
-            writer.endObject();
-        });
+        named(kDictionary, [&] { JSONCoding<DefaultsDictionary>::write(writer, value); });
     }
 
 private:

@@ -163,7 +163,7 @@ std::expected<FileUserDefaults::SharedContents, FileError> FileUserDefaults::sav
     // Where there can be no lock at all the write goes on: it fails in words where nothing can be written, and else a
     // preference is lost only if another process saves within the same milliseconds.
     auto current = read();
-    const auto base = current ? *current : held();
+    auto base = current ? *current : held();
     if (!base->document.isChangedBy(changes)) {
         return base;
     }

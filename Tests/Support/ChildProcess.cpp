@@ -1,10 +1,12 @@
 #include "Tests/Support/ChildProcess.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 #include <fmt/format.h>
 #include <grp.h>
@@ -44,22 +46,53 @@ void enterMountNamespace()
         << whyNot("keep its user in a namespace");
 }
 
-} // namespace
-
-void inChildProcess(const std::function<void()>& part)
+/// The number of a process that runs `part`; negative if there is none.
+pid_t startChild(const std::function<void()>& part)
 {
     std::fflush(nullptr);
     const pid_t child = fork();
-    ASSERT_GE(child, 0) << whyNot("start a process");
     if (child == 0) {
         part();
         std::fflush(nullptr);
         _exit(testing::Test::HasFailure() ? 1 : 0);
     }
+    return child;
+}
+
+void waitFor(pid_t child)
+{
+    ASSERT_GE(child, 0) << whyNot("start a process");
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0)
         << "the part of the test in a process of its own failed (see above), status " << status;
+}
+
+} // namespace
+
+void inChildProcess(const std::function<void()>& part)
+{
+    waitFor(startChild(part));
+}
+
+void inTwoProcesses(const std::function<void(int number)>& part)
+{
+    std::array<int, 2> gate{};
+    ASSERT_EQ(pipe(gate.data()), 0) << whyNot("make a pipe");
+    std::array<pid_t, 2> children{};
+    for (const int number : {0, 1}) {
+        children.at(static_cast<std::size_t>(number)) = startChild([&] {
+            ::close(gate[1]);
+            char byte = 0;
+            std::ignore = ::read(gate[0], &byte, 1); // Returns when nobody can write any more.
+            part(number);
+        });
+    }
+    ::close(gate[0]);
+    ::close(gate[1]);
+    for (const auto child : children) {
+        waitFor(child);
+    }
 }
 
 void inMountNamespace(const std::function<void()>& part)

@@ -12,10 +12,13 @@ namespace TestSupport {
 /// fails the running test. Nothing that `part` changes in memory is seen here.
 void inChildProcess(const std::function<void()>& part);
 
-/// The same in a process that may mount what only it sees. A system that lets nobody do so fails the test.
+/// Runs `part` in two processes at once, which begin together, each with its number (0 or 1), and waits for both.
+void inTwoProcesses(const std::function<void(int number)>& part);
+
+/// `inChildProcess` in a process that may mount what only it sees. A system that lets nobody do so fails the test.
 void inMountNamespace(const std::function<void()>& part);
 
-/// The same without the privileges of root, if the test runs with them; `tree` belongs to that user then.
+/// `inChildProcess` without the privileges of root, if the test runs with them; `tree` belongs to that user then.
 void asOrdinaryUser(const std::string& tree, const std::function<void()>& part);
 
 /// Mounts an empty file system of memory; for `inMountNamespace`.

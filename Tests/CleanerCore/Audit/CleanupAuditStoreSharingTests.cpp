@@ -2,12 +2,11 @@
 
 #include "Platform/Files/FileLock.h"
 #include "Tests/CleanerCore/Audit/AuditFixture.h"
+#include "Tests/Support/ChildProcess.h"
 #include "Tests/Support/FaultyFileManager.h"
 
 #include <chrono>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 namespace CleanerCore {
 
@@ -27,28 +26,11 @@ protected:
     {
         m_tree.remove("Karvello");
         m_tree.add(turns == Turns::taken ? "Karvello/" : "Karvello/cleanup-audit-log.json.lock/");
-        std::array<int, 2> gate{};
-        EXPECT_EQ(pipe(gate.data()), 0);
-        std::array<pid_t, 2> children{};
-        for (std::size_t index = 0; index < children.size(); ++index) {
-            children[index] = fork();
-            if (children[index] == 0) {
-                ::close(gate[1]);
-                char byte = 0;
-                std::ignore = ::read(gate[0], &byte, 1); // Both begin when the gate opens.
-                for (int step = 0; step < count; ++step) {
-                    m_store.append(entry(2.0 * (count - step) + static_cast<double>(index), 1), limit);
-                }
-                _exit(0);
+        TestSupport::inTwoProcesses([&](int number) {
+            for (int step = 0; step < count; ++step) {
+                m_store.append(entry(2.0 * (count - step) + number, 1), limit);
             }
-        }
-        ::close(gate[0]);
-        ::close(gate[1]);
-        for (const auto child : children) {
-            int status = 0;
-            EXPECT_EQ(waitpid(child, &status, 0), child);
-            EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-        }
+        });
         return strictEntries(log());
     }
 

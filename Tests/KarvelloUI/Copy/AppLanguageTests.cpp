@@ -1,5 +1,9 @@
 #include "KarvelloUI/Copy/AppLanguage.h"
 
+#include "Platform/Files/PosixFileManager.h"
+#include "Platform/Services/FileUserDefaults.h"
+#include "Tests/Support/TemporaryTree.h"
+
 #include <gtest/gtest.h>
 #include <vector>
 
@@ -76,6 +80,24 @@ TEST(AppLanguage, KeepsAStoredLanguageOnlyIfItIsOne)
     EXPECT_EQ(persistedLanguage("JA", preferred), french);
     EXPECT_EQ(persistedLanguage("", preferred), french);
     EXPECT_EQ(persistedLanguage(std::nullopt, preferred), french);
+}
+
+TEST(AppLanguage, TakesTheStoredChoiceOfThePreferencesAndLeavesAnyOtherAlone)
+{
+    const TestSupport::TemporaryTree tree;
+    const Platform::PosixFileManager files;
+    Platform::FileUserDefaults defaults(files, tree.url("preferences.json"));
+    const Identifiers preferred{"pt-BR", "de-DE"};
+    EXPECT_EQ(persistedLanguage(defaults, preferred), german);
+    EXPECT_EQ(persistedLanguage(defaults, Identifiers{}), english);
+    ASSERT_TRUE(defaults.set("karvello.language", std::string("zh-Hant")));
+    EXPECT_EQ(persistedLanguage(defaults, preferred), traditionalChinese);
+    const std::vector<Platform::DefaultsValue> others{std::string("xx"), std::int64_t{1}, Platform::DefaultsData{"ja"}};
+    for (const auto& other : others) {
+        ASSERT_TRUE(defaults.set(kLanguageStorageKey, other));
+        EXPECT_EQ(persistedLanguage(defaults, preferred), german);
+        EXPECT_EQ(defaults.value(kLanguageStorageKey), other);
+    }
 }
 
 TEST(AppLanguage, GivesAnEnglishSentenceBackInEnglishAndKorean)

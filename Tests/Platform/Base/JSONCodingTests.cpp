@@ -40,6 +40,13 @@ struct Shelves {
     friend bool operator==(const Shelves&, const Shelves&) = default;
 };
 
+struct Loan {
+    std::string from;
+    std::string to;
+
+    friend bool operator==(const Loan&, const Loan&) = default;
+};
+
 constexpr std::string_view kBook = R"({
   "id" : "9B6C2D0E-7A41-4E53-8E11-0C6E7C5A2F10",
   "isLent" : true,
@@ -108,6 +115,15 @@ struct JSONFields<Note> {
         coder.field("page", note.page);
     }
     static void normalize(Note& note) { note.page = std::max(note.page, 0); }
+};
+
+template <>
+struct JSONFields<Loan> {
+    static void code(auto& coder, auto& loan)
+    {
+        coder.path("from", loan.from);
+        coder.path("to", loan.to, loan.from);
+    }
 };
 
 template <>
@@ -290,6 +306,28 @@ TEST(JSONCoding, ShortensALongTextInAnError)
     const auto read = decodeJSON<bool>("\"" + std::string(59, 'x') + "éé\"");
     ASSERT_FALSE(read);
     EXPECT_EQ(read.error().message, "expected true or false, found the string \"" + std::string(59, 'x') + "…\"");
+}
+
+TEST(JSONCoding, ReadsEveryPathBackByteForByte)
+{
+    const Loan loan{.from = "/caf\xE9\n %41", .to = "/café/%FF"};
+    const auto text = encodeJSON(loan);
+    ASSERT_TRUE(text);
+    EXPECT_NE(text->find(R"("from" : "file:\/\/\/caf%E9%0A%20%2541")"), std::string::npos) << *text;
+    EXPECT_NE(text->find(R"("to" : "\/café\/%FF")"), std::string::npos) << *text;
+    EXPECT_EQ(decodeJSON<Loan>(std::string_view(*text)), loan);
+}
+
+TEST(JSONCoding, GivesAPathThatIsAbsentItsDefault)
+{
+    EXPECT_EQ(decodeJSON<Loan>(std::string_view(R"({"from":"/a"})")), (Loan{.from = "/a", .to = "/a"}));
+    EXPECT_EQ(decodeJSON<Loan>(std::string_view(R"({"from":"file:///%FF"})")), (Loan{.from = "/\xFF", .to = "/\xFF"}));
+    EXPECT_EQ(decodeJSON<Loan>(std::string_view(R"({"from":"/a","to":null})")), (Loan{.from = "/a", .to = "/a"}));
+    EXPECT_FALSE(decodeJSON<Loan>(std::string_view(R"({"to":"/a"})")));
+    EXPECT_FALSE(decodeJSON<Loan>(std::string_view(R"({"from":null})")));
+    EXPECT_FALSE(decodeJSON<Loan>(std::string_view(R"({"from":"/a","to":1})")));
+    EXPECT_EQ(
+        decodeJSON<Loan>(std::string_view(R"({"from":"file://%"})")), (Loan{.from = "file://%", .to = "file://%"}));
 }
 
 } // namespace Platform

@@ -147,7 +147,7 @@ TEST(DefaultsObservers, LetsObservationsComeAndGoWhileOthersTell)
             observers.notify(kKeys);
         }
     });
-    for (int round = 0; round < 500; ++round) {
+    for (int round = 0; round < 100; ++round) {
         auto target = std::make_unique<std::atomic<int>>(0);
         auto observation = observers.add([&target = *target](auto) { ++target; });
         std::this_thread::yield();

@@ -1,6 +1,7 @@
 #include "Tests/Platform/Services/DefaultsFixture.h"
 
 #include "Platform/Files/FileLock.h"
+#include "Tests/Support/ChildProcess.h"
 #include "Tests/Support/FailingUserDefaults.h"
 
 #include <array>
@@ -8,9 +9,7 @@
 #include <chrono>
 #include <fmt/format.h>
 #include <latch>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 
 namespace Platform {
 
@@ -28,35 +27,18 @@ protected:
     int keysOfTwoProcesses(Turns turns, int count)
     {
         m_tree.add(turns == Turns::taken ? "config/Karvello/" : "config/Karvello/preferences.json.lock/");
-        std::array<int, 2> gate{};
-        EXPECT_EQ(pipe(gate.data()), 0);
-        std::array<pid_t, 2> children{};
-        for (std::size_t index = 0; index < children.size(); ++index) {
-            children[index] = fork();
-            if (children[index] == 0) {
-                ::close(gate[1]);
-                char byte = 0;
-                std::ignore = ::read(gate[0], &byte, 1); // Both begin when the gate opens.
-                FileUserDefaults defaults(m_files, m_file);
-                bool isDone = true;
-                for (int step = 0; step < count; ++step) {
-                    isDone = defaults.set(fmt::format("{}-{}", index, step), std::int64_t{step}).has_value() && isDone;
-                }
-                _exit(isDone ? 0 : 1);
+        TestSupport::inTwoProcesses([&](int number) {
+            FileUserDefaults defaults(m_files, m_file);
+            for (int step = 0; step < count; ++step) {
+                EXPECT_TRUE(defaults.set(fmt::format("{}-{}", number, step), std::int64_t{step}));
             }
-        }
-        ::close(gate[0]);
-        ::close(gate[1]);
-        for (const auto child : children) {
-            int status = 0;
-            EXPECT_EQ(waitpid(child, &status, 0), child);
-            EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-        }
+        });
         const FileUserDefaults defaults(m_files, m_file);
         int found = 0;
-        for (std::size_t index = 0; index < children.size(); ++index) {
+        for (const int number : {0, 1}) {
             for (int step = 0; step < count; ++step) {
-                found += defaults.value(fmt::format("{}-{}", index, step)) == DefaultsValue(std::int64_t{step}) ? 1 : 0;
+                found +=
+                    defaults.value(fmt::format("{}-{}", number, step)) == DefaultsValue(std::int64_t{step}) ? 1 : 0;
             }
         }
         return found;

@@ -409,21 +409,22 @@ TEST_F(ThreadedJob, RunsOffTheOwnersThreadAndCallsBackOnIt)
 
 TEST_F(ThreadedJob, DestructionWhileRunningWaitsForNothing)
 {
-    std::latch hasBegun(1);
-    std::latch mayEnd(1);
+    // Both sides hold them: the work outlives this test.
+    const auto hasBegun = std::make_shared<std::latch>(1);
+    const auto mayEnd = std::make_shared<std::latch>(1);
     auto job = std::make_unique<Job>(threads);
     job->start(
-        [&](const std::stop_token&) {
-            hasBegun.count_down();
+        [hasBegun, mayEnd](const std::stop_token&) {
+            hasBegun->count_down();
             // It does not look whether it is to stop.
-            mayEnd.wait();
+            mayEnd->wait();
             return std::string(1000, 'x');
         },
         [](const JobOutcome<std::string>&) { FAIL() << "called back into the dead"; });
-    hasBegun.wait();
+    hasBegun->wait();
     job.reset();
     // Only now does the work end: the destructor cannot have waited for it.
-    mayEnd.count_down();
+    mayEnd->count_down();
     loop.handleEvents();
 }
 

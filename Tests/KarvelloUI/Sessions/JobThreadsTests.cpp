@@ -40,9 +40,9 @@ TEST(JobThreads, RunWhatWorkHandsOverWhileTheyEnd)
 
 TEST(JobThreads, DoSeveralThingsAtOnce)
 {
-    JobThreads threads(3);
     // Each waits for the others: with fewer threads this would never end.
     std::latch allAreHere(3);
+    JobThreads threads(3);
     for (int index = 0; index < 3; ++index) {
         threads.execute([&] { allAreHere.arrive_and_wait(); });
     }
@@ -76,9 +76,9 @@ TEST(JobThreads, AreNoMoreThanTheLimit)
 TEST(JobThreads, LetGoOfWhatTheWorkHeldBeforeTheyWait)
 {
     auto held = std::make_shared<int>(1);
+    std::latch isNext(1);
     JobThreads threads(1);
     threads.execute([held] {});
-    std::latch isNext(1);
     threads.execute([&isNext] { isNext.count_down(); });
     isNext.wait();
     EXPECT_EQ(held.use_count(), 1);

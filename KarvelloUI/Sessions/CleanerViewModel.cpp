@@ -29,10 +29,11 @@ CleanerViewModel::CleanerViewModel(SessionServices services, CleanerCore::Cleanu
     , m_ignored(ignoreStore)
     , m_ignoredItems(ignoreStore.activeItems(m_services.now()))
     , m_active(ActiveScan::none(m_services.fileManager))
-    , m_audit(std::move(auditStore), m_services.executor, [this] {
-        noteChange(Change::auditEntries);
-        publish();
-    })
+    , m_audit(std::move(auditStore), m_services.executor,
+          [this] {
+              noteChange(Change::auditEntries);
+              publish();
+          })
     , m_job(m_services.executor)
 {
     // Queued: the store tells of its errors in the middle of its own work.
@@ -69,8 +70,7 @@ void CleanerViewModel::scanMac(CleanerCore::CleanupScanMode mode, const Platform
     const auto home = homeAccessBookmark ? homeAccessBookmark->effectiveHomeDirectory : homeDirectory;
     scan([services = m_services, mode, home, customFolders = std::move(customFolders),
              grant = std::move(homeAccessBookmark), includesDirectDistribution](const std::stop_token& stop) {
-        auto folders =
-            CustomScanFolderResolver::resolve(customFolders, services.fileManager, services.bookmarks);
+        auto folders = CustomScanFolderResolver::resolve(customFolders, services.fileManager, services.bookmarks);
         ScanLocationResolution resolution{
             .locations = CleanerCore::StorageProfiles::locations(
                 mode, home, services.fileManager, services.environment, includesDirectDistribution, stop),
@@ -255,7 +255,7 @@ void CleanerViewModel::publish()
     const Changes changes = std::exchange(m_changes, {});
     for (const auto& [change, signal] : signalOf) {
         if (self && changes.testFlag(change)) {
-            Q_EMIT (this->*signal)();
+            Q_EMIT(this->*signal)();
         }
     }
 }

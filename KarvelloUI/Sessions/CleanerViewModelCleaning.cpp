@@ -101,8 +101,8 @@ void CleanerViewModel::applyClean(JobOutcome<CleanRun> outcome, std::span<const 
         return;
     }
     CleanResult& result = outcome->result;
-    m_audit.record(CleanupAuditEntry::clean(
-        result, mode, candidates, CleanupAuditSource::cleanupDashboard, m_services.now()));
+    m_audit.record(
+        CleanupAuditEntry::clean(result, mode, candidates, CleanupAuditSource::cleanupDashboard, m_services.now()));
     noteChange(Change::auditEntries);
     if (outcome->hasBegun) {
         // The report may have lost an ignored candidate meanwhile.
@@ -141,11 +141,12 @@ void CleanerViewModel::undoLastTrashClean(const std::set<std::string, std::less<
         [services = m_services, items, scanned = m_active](
             const std::stop_token& stop, const JobProgress<ItemProgress>& progress) {
             if (stop.stop_requested()) {
-                return RestoreRun{.result = {.restoredItems = {}, .failedItems = {}, .wasCancelled = true}, .hasBegun = false};
+                return RestoreRun{
+                    .result = {.restoredItems = {}, .failedItems = {}, .wasCancelled = true}, .hasBegun = false};
             }
             return RestoreRun{.result = CleanerCore::TrashRestoreService(services.fileManager, services.trash)
-                                            .restore(items, scanned.locations, scanned.cleanupEligibilityPolicy, stop,
-                                                scanned.homeDirectory, progress)};
+                                  .restore(items, scanned.locations, scanned.cleanupEligibilityPolicy, stop,
+                                      scanned.homeDirectory, progress)};
         },
         [this](ItemProgress progress) {
             setItemProgress(progress);
@@ -158,8 +159,8 @@ void CleanerViewModel::undoLastTrashClean(const std::set<std::string, std::less<
     publish();
 }
 
-void CleanerViewModel::applyRestore(JobOutcome<RestoreRun> outcome, std::span<const CleanedItem> items,
-    CleanResult cleaned, const Messages& messages)
+void CleanerViewModel::applyRestore(
+    JobOutcome<RestoreRun> outcome, std::span<const CleanedItem> items, CleanResult cleaned, const Messages& messages)
 {
     if (!outcome) {
         setErrorMessage(std::move(outcome.error().reason));
@@ -168,8 +169,7 @@ void CleanerViewModel::applyRestore(JobOutcome<RestoreRun> outcome, std::span<co
         return;
     }
     const RestoreResult& result = outcome->result;
-    m_audit.record(
-        CleanupAuditEntry::restore(result, items, CleanupAuditSource::cleanupDashboard, m_services.now()));
+    m_audit.record(CleanupAuditEntry::restore(result, items, CleanupAuditSource::cleanupDashboard, m_services.now()));
     noteChange(Change::auditEntries);
     if (outcome->hasBegun) {
         addRestoredCandidates(result);
@@ -206,8 +206,8 @@ void CleanerViewModel::addRestoredCandidates(const RestoreResult& result)
         }
     }
     if (candidates.size() != before) {
-        applyReport(std::make_shared<CandidateIndex>(CleanerCore::ScanReport(
-                        report().scannedAt, std::move(candidates), report().skippedItems)),
+        applyReport(std::make_shared<CandidateIndex>(
+                        CleanerCore::ScanReport(report().scannedAt, std::move(candidates), report().skippedItems)),
             CandidateReview::Filters::reconcile);
     }
 }

@@ -30,8 +30,8 @@ CleanResult performConfirmedClean(const SessionServices& services, CleanRequest 
     const ScanRootAccess access(services, request.scanned.securityScopedFolders, request.scanned.homeAccessBookmark);
     auto [reachable, blocked] = AccessBlockedRoots(access.skippedItems()).split(std::move(request.candidates));
     CleanResult result = clean(reachable, request, stop, report);
-    result.failedItems.insert(result.failedItems.begin(), std::make_move_iterator(blocked.begin()),
-        std::make_move_iterator(blocked.end()));
+    result.failedItems.insert(
+        result.failedItems.begin(), std::make_move_iterator(blocked.begin()), std::make_move_iterator(blocked.end()));
     return result;
 }
 

@@ -25,9 +25,8 @@ std::vector<CleanedItem> restorableItems(
     const CleanResult& result, const std::set<std::string, std::less<>>& candidateIDs)
 {
     std::vector<CleanedItem> items;
-    std::ranges::copy_if(result.cleanedItems, std::back_inserter(items), [&](const CleanedItem& item) {
-        return isRestorable(item) && candidateIDs.contains(item.candidate.id);
-    });
+    std::ranges::copy_if(result.cleanedItems, std::back_inserter(items),
+        [&](const CleanedItem& item) { return isRestorable(item) && candidateIDs.contains(item.candidate.id); });
     return items;
 }
 

@@ -51,8 +51,8 @@ TEST(AuditEntryRetention, KeepsOfAnIdWhatStandsFirst)
 
 TEST(AuditEntryRetention, DropsTheOldestBeyondTheLimit)
 {
-    EXPECT_THAT(lastDigits(AuditEntryRetention::limited({entry(1, 5), entry(2, 6), entry(3, 4)}, 2)),
-        ElementsAre("02", "01"));
+    EXPECT_THAT(
+        lastDigits(AuditEntryRetention::limited({entry(1, 5), entry(2, 6), entry(3, 4)}, 2)), ElementsAre("02", "01"));
     EXPECT_THAT(AuditEntryRetention::limited({entry(1, 5)}, 0), IsEmpty());
     EXPECT_THAT(AuditEntryRetention::limited({entry(1, 5)}, -1), IsEmpty());
 }

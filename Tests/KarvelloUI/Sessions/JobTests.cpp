@@ -369,6 +369,23 @@ TEST_F(JobTest, DestructionWithAResultOnItsWayCallsNobody)
     EXPECT_TRUE(results.empty());
 }
 
+TEST_F(JobTest, DestructionLetsGoOfAResultOnItsWay)
+{
+    const auto result = std::make_shared<int>(1);
+    std::optional<JobProgress<int>> kept;
+    job->start<int>(
+        [&](const std::stop_token&, const JobProgress<int>& progress) {
+            kept = progress;
+            return result;
+        },
+        notingProgress(), [](const JobOutcome<std::shared_ptr<int>>&) { FAIL(); });
+    executor.runAll();
+    EXPECT_GT(result.use_count(), 1);
+    // Though somebody could still tell of progress.
+    job.reset();
+    EXPECT_EQ(result.use_count(), 1);
+}
+
 TEST_F(JobTest, ACancelledRunLetsGoOfWhatItWouldHaveCalled)
 {
     auto held = std::make_shared<int>(1);

@@ -79,8 +79,9 @@ TEST(UserDirectories, KnowTheFoldersForWhatCanBeMadeAgain)
         FileURL::folder("/c"));
     EXPECT_EQ(cacheDirectoryForCurrentUser(Environment({{"HOME", "/home/a"}, {"XDG_CACHE_HOME", "c"}})),
         FileURL::folder("/home/a/.cache"));
-    EXPECT_EQ(temporaryDirectory(Environment({{"TMPDIR", "/var/own"}})), FileURL::folder("/var/own"));
-    EXPECT_EQ(temporaryDirectory(Environment({{"TMPDIR", "own"}})), FileURL::folder("/tmp"));
+    EXPECT_EQ(
+        temporaryDirectory(Environment({{"HOME", "/home/a"}, {"TMPDIR", "/var/own"}})), FileURL::folder("/var/own"));
+    EXPECT_EQ(temporaryDirectory(Environment({{"HOME", "/home/a"}, {"TMPDIR", "own"}})), FileURL::folder("/tmp"));
     EXPECT_EQ(temporaryDirectory(Environment()), FileURL::folder("/tmp"));
 }
 

@@ -1,3 +1,4 @@
+#include "PlatformDesktop/SessionBus.h"
 #include "Tests/DesktopSupport/PrivateBus.h"
 #include "Tests/DesktopSupport/PrivateDisplay.h"
 #include "Tests/PlatformDesktop/DesktopApplicationsFixture.h"
@@ -64,6 +65,19 @@ TEST_F(QuitActionTest, AnActionThatIsOffOrWantsAParameterIsNotCalled)
     expectNotActivated("disabled");
     expectNotActivated("parameter");
     expectNotActivated("none");
+}
+
+TEST_F(QuitActionTest, OnlyAnActionThatCanBeCalledAsItIsCountsAsOffered)
+{
+    for (const auto& [behaviour, isOffered] :
+        std::map<std::string, bool>{{"quits", true}, {"disabled", false}, {"parameter", false}, {"none", false}}) {
+        const auto program = started(behaviour);
+        const PlatformDesktop::SessionBus bus;
+        const auto owner = bus.ownerOf(kName);
+        ASSERT_TRUE(owner);
+        EXPECT_EQ(owner->process, program->process());
+        EXPECT_EQ(bus.offersQuit(*owner, kName), isOffered) << behaviour;
+    }
 }
 
 TEST_F(QuitActionTest, AnApplicationThatDoesNotAnswerIsGivenUpInAFewSeconds)

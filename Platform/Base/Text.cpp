@@ -134,17 +134,13 @@ bool isValidUTF8(std::string_view bytes)
 std::string escapingInvalidUTF8(std::string_view bytes, std::string_view mark)
 {
     std::string result;
-    for (;;) {
-        const auto valid = lengthOfValidPrefix(bytes);
-        result.append(bytes.substr(0, valid));
-        bytes.remove_prefix(valid);
-        if (bytes.empty()) {
-            return result;
-        }
-        result.append(mark);
-        appendHexDigits(result, static_cast<std::uint8_t>(bytes.front()));
-        bytes.remove_prefix(1);
-    }
+    forEachRun(
+        bytes, [&](std::string_view characters) { result.append(characters); },
+        [&](char byte) {
+            result.append(mark);
+            appendHexDigits(result, static_cast<std::uint8_t>(byte));
+        });
+    return result;
 }
 
 std::string lowercased(std::string_view text)
@@ -158,18 +154,10 @@ std::string lowercased(std::string_view text)
         }
         return result;
     }
-    for (;;) {
-        const auto valid = lengthOfValidPrefix(text);
-        if (valid != 0) {
-            appendLowercased(result, text.substr(0, valid));
-            text.remove_prefix(valid);
-        }
-        if (text.empty()) {
-            return result;
-        }
-        result += text.front();
-        text.remove_prefix(1);
-    }
+    forEachRun(
+        text, [&](std::string_view characters) { appendLowercased(result, characters); },
+        [&](char byte) { result += byte; });
+    return result;
 }
 
 std::string_view trimmed(std::string_view text)

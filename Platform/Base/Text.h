@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -11,6 +12,23 @@ namespace Platform::Text {
 [[nodiscard]] bool isValidUTF8(std::string_view bytes);
 /// The number of leading bytes that form characters.
 [[nodiscard]] std::size_t lengthOfValidPrefix(std::string_view bytes);
+
+/// Hands over all of `bytes` in their order: what forms characters in runs, each byte that is part of none by itself.
+template <std::invocable<std::string_view> Characters, std::invocable<char> Byte>
+void forEachRun(std::string_view bytes, Characters characters, Byte strayByte)
+{
+    for (;;) {
+        if (const auto valid = lengthOfValidPrefix(bytes); valid != 0) {
+            characters(bytes.substr(0, valid));
+            bytes.remove_prefix(valid);
+        }
+        if (bytes.empty()) {
+            return;
+        }
+        strayByte(bytes.front());
+        bytes.remove_prefix(1);
+    }
+}
 
 /// Valid UTF-8 for any bytes: each byte that is part of no character becomes `mark` and two upper-case hexadecimal
 /// digits, "\xHH" unless told otherwise; the rest stands as it is.

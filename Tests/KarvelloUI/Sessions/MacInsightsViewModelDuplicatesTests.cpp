@@ -34,7 +34,7 @@ TEST_F(MacInsightsViewModelDuplicatesTest, ReviewsGroupsInTheOrderOfTheReport)
 TEST_F(MacInsightsViewModelDuplicatesTest, SelectsTheExtrasOfOneGroup)
 {
     session->selectDuplicateExtras(group("Documents/photo.jpg"));
-    EXPECT_THAT(paths(session->selectedFiles(duplicates)), ElementsAre("Pictures/photo.jpg", "Downloads/photo.jpg"));
+    EXPECT_THAT(paths(session->selectedFiles(duplicates)), ElementsAre("Pictures/copy.jpg", "Downloads/photo.jpg"));
     EXPECT_EQ(stateOf("Documents/photo.jpg"), State::all);
     EXPECT_EQ(stateOf("Documents/disc.img"), State::none);
     EXPECT_EQ(session->duplicateSelectedBytes(), session->selectedBytes());
@@ -92,7 +92,7 @@ TEST_F(MacInsightsViewModelDuplicatesTest, TellsHowToReviewAGroupThatTheReportDo
     select(duplicates, "Downloads/photo.jpg");
     const CleanerCore::DuplicateFileGroup other("other", 1, std::move(files));
     const auto review = session->duplicateReviewGroupPresentation(other);
-    EXPECT_EQ(review.keeper()->file->url, tree.url("home/Pictures/photo.jpg"));
+    EXPECT_EQ(review.keeper()->file->url, tree.url("home/Pictures/copy.jpg"));
     EXPECT_EQ(review.selectionState, State::all);
 }
 

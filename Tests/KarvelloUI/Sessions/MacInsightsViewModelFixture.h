@@ -38,7 +38,7 @@ protected:
                 note.txt size=4K
                 setup.sh size=8K
             home/Pictures/
-                photo.jpg size=40K
+                copy.jpg size=40K
         )")
     {
         restart();
@@ -70,6 +70,10 @@ protected:
         settle();
     }
 
+    [[nodiscard]] ResolvedHomeAccessBookmark grantOfHome() const
+    {
+        return {.grantedURL = tree.url("home/"), .effectiveHomeDirectory = tree.url("home/"), .originalBookmark = {}};
+    }
     void scan()
     {
         session->scan(std::nullopt);
@@ -84,11 +88,11 @@ protected:
     [[nodiscard]] const FileInsight& file(MacInsightFileSection section, std::string_view path) const
     {
         static const FileInsight unknown;
-        const auto files = session->files(section);
+        const auto list = session->files(section);
         const auto found = std::ranges::find(
-            files, tree.path("home/" + std::string(path)), [](const auto* file) { return file->url.path(); });
-        EXPECT_NE(found, files.end()) << path;
-        return found == files.end() ? unknown : **found;
+            list, tree.path("home/" + std::string(path)), [](const auto* file) { return file->url.path(); });
+        EXPECT_NE(found, list.end()) << path;
+        return found == list.end() ? unknown : **found;
     }
     void select(MacInsightFileSection section, std::string_view path)
     {

@@ -1,3 +1,4 @@
+#include "KarvelloUI/Stores/HomeAccessSecurityScope.h"
 #include "Tests/KarvelloUI/Sessions/MacInsightsViewModelFixture.h"
 #include "Tests/Support/RecordingBookmarks.h"
 
@@ -44,7 +45,7 @@ TEST_F(MacInsightsViewModelTest, ShowsWhatAScanFoundWithNothingSelected)
         ElementsAre("Downloads/film.mov", "Downloads/disc.img", "Downloads/photo.jpg", "Downloads/setup.sh",
             "Downloads/note.txt"));
     EXPECT_THAT(paths(session->files(duplicates)),
-        ElementsAre("Documents/photo.jpg", "Pictures/photo.jpg", "Downloads/photo.jpg", "Documents/disc.img",
+        ElementsAre("Documents/photo.jpg", "Pictures/copy.jpg", "Downloads/photo.jpg", "Documents/disc.img",
             "Downloads/disc.img", "Library/Application Support/first.part", "Library/Application Support/second.part"));
     EXPECT_THAT(paths(session->files(security)), ElementsAre("Downloads/setup.sh"));
     EXPECT_THAT(session->selectedIDs(), IsEmpty());
@@ -61,7 +62,7 @@ TEST_F(MacInsightsViewModelTest, KeepsTheSelectionToFilesThatMayBeCleaned)
     EXPECT_THAT(paths(session->selectableFiles(downloads)),
         ElementsAre("Downloads/film.mov", "Downloads/disc.img", "Downloads/photo.jpg", "Downloads/note.txt"));
     EXPECT_THAT(paths(session->selectableFiles(duplicates)),
-        ElementsAre("Pictures/photo.jpg", "Downloads/photo.jpg", "Downloads/disc.img"));
+        ElementsAre("Pictures/copy.jpg", "Downloads/photo.jpg", "Downloads/disc.img"));
     EXPECT_THAT(session->selectableFiles(security), IsEmpty());
 }
 
@@ -91,7 +92,7 @@ TEST_F(MacInsightsViewModelTest, NeverSelectsASecurityFinding)
 TEST_F(MacInsightsViewModelTest, NeverSelectsWhatTheReportDoesNotHold)
 {
     scan();
-    session->setSelected(FileInsight({.url = tree.url("home/Downloads/other")}), true);
+    session->setSelected(FileInsight({.url = tree.url("home/Downloads/other"), .detail = "Large file"}), true);
     EXPECT_THAT(session->selectedIDs(), IsEmpty());
 }
 
@@ -178,14 +179,14 @@ TEST_F(MacInsightsViewModelTest, KeepsWhatWasSelectedWhileTheScanRan)
     session->scan(std::nullopt);
     executor.runAll();
     session->clearSelection(downloads);
-    select(duplicates, "Pictures/photo.jpg");
+    select(duplicates, "Pictures/copy.jpg");
     select(largeFiles, "Downloads/film.mov");
     settle();
     EXPECT_THAT(session->selectedIDs(),
-        UnorderedElementsAre(file(duplicates, "Pictures/photo.jpg").id, file(largeFiles, "Downloads/film.mov").id));
+        UnorderedElementsAre(file(duplicates, "Pictures/copy.jpg").id, file(largeFiles, "Downloads/film.mov").id));
     EXPECT_EQ(session->duplicateSelectedCount(), 1);
     EXPECT_EQ(session->selectedBytes(),
-        file(duplicates, "Pictures/photo.jpg").sizeBytes + file(largeFiles, "Downloads/film.mov").sizeBytes);
+        file(duplicates, "Pictures/copy.jpg").sizeBytes + file(largeFiles, "Downloads/film.mov").sizeBytes);
 }
 
 TEST_F(MacInsightsViewModelTest, ReturnsToThePreviousReportWhenAScanIsCancelled)
@@ -259,8 +260,7 @@ TEST_F(MacInsightsViewModelTest, SaysWhyTheHomeCannotBeOpenedAndScansWhatItCan)
         .executor = executor,
         .now = [this] { return now; }};
     MacInsightsViewModel other(refused, {.homeDirectory = tree.url("config/")}, auditStore, historyStore);
-    other.scan(
-        ResolvedHomeAccessBookmark{.grantedURL = tree.url("home/"), .effectiveHomeDirectory = tree.url("home/")});
+    other.scan(grantOfHome());
     settle();
     EXPECT_EQ(other.phase(), Phase::ready);
     EXPECT_EQ(other.errorMessage(), HomeAccessSecurityScope::unavailableReason);
@@ -286,8 +286,7 @@ TEST_F(MacInsightsViewModelTest, OpensAccessToTheHomeForEachOperationAndClosesIt
         .executor = executor,
         .now = [this] { return now; }};
     MacInsightsViewModel other(recorded, {.homeDirectory = tree.url("config/")}, auditStore, historyStore);
-    other.scan(
-        ResolvedHomeAccessBookmark{.grantedURL = tree.url("home/"), .effectiveHomeDirectory = tree.url("home/")});
+    other.scan(grantOfHome());
     settle();
     EXPECT_EQ(recording.startCount(), 1);
     EXPECT_EQ(recording.openCount(), 0);

@@ -52,6 +52,16 @@ struct Ledger {
     std::size_t scansApplied = 0;
     std::size_t changesBegun = 0;
     std::size_t changesDropped = 0;
+
+    Ledger& operator+=(const Ledger& other)
+    {
+        scansBegun += other.scansBegun;
+        scansDropped += other.scansDropped;
+        scansApplied += other.scansApplied;
+        changesBegun += other.changesBegun;
+        changesDropped += other.changesDropped;
+        return *this;
+    }
 };
 
 /// Whether the report on show is of a scan beside which nothing else ran, and all that changed the disk since then was seen

@@ -4,6 +4,8 @@
 #include "CleanerCore/Scan/ScanLocation.h"
 #include "KarvelloUI/Stores/CustomScanFolder.h"
 #include "KarvelloUI/Stores/HomeAccessBookmark.h"
+#include "Platform/Base/FileURL.h"
+#include "Platform/Files/FileManager.h"
 
 #include <optional>
 #include <vector>
@@ -21,6 +23,9 @@ struct ActiveScan {
 
     /// No folder: nothing is eligible.
     static ActiveScan none(const Platform::FileManager& fileManager);
+    /// These folders, as they are now; no access was opened to any.
+    static ActiveScan of(std::vector<CleanerCore::ScanLocation> locations, const Platform::FileManager& fileManager,
+        std::optional<Platform::FileURL> homeDirectory);
 };
 
 } // namespace KarvelloUI

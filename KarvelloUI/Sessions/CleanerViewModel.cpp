@@ -5,10 +5,10 @@
 #include "KarvelloUI/Sessions/CleanerViewModelRuns.h"
 #include "KarvelloUI/Sessions/RestoreCenter.h"
 #include "KarvelloUI/Sessions/ScanProgressCoalescer.h"
+#include "KarvelloUI/Sessions/SessionChanges.h"
 #include "KarvelloUI/Stores/CustomScanFolderResolver.h"
 #include "Platform/Services/UserDirectories.h"
 
-#include <QPointer>
 #include <array>
 #include <iterator>
 #include <utility>
@@ -251,13 +251,7 @@ void CleanerViewModel::publish()
         {Change::errorMessage, &CleanerViewModel::errorMessageChanged},
         {Change::phase, &CleanerViewModel::phaseChanged},
     }};
-    const QPointer<CleanerViewModel> self(this);
-    const Changes changes = std::exchange(m_changes, {});
-    for (const auto& [change, signal] : signalOf) {
-        if (self && changes.testFlag(change)) {
-            Q_EMIT(this->*signal)();
-        }
-    }
+    announceChanges(*this, std::exchange(m_changes, {}), signalOf);
 }
 
 } // namespace KarvelloUI

@@ -11,6 +11,7 @@
 #include "KarvelloUI/Sessions/ConfirmedClean.h"
 #include "KarvelloUI/Sessions/IgnoredCandidates.h"
 #include "KarvelloUI/Sessions/Job.h"
+#include "KarvelloUI/Sessions/RunMessages.h"
 #include "KarvelloUI/Sessions/SessionServices.h"
 
 #include <QFlags>
@@ -166,18 +167,15 @@ private:
     struct PreparedScan;
     struct CleanRun;
     struct RestoreRun;
-    struct Messages {
-        std::string failure;
-        std::string cancellation;
-    };
 
     void scan(ScanLocationProvider resolveLocations);
     void applyScan(JobOutcome<PreparedScan> outcome);
     void applyReport(std::shared_ptr<const CandidateIndex> index, CandidateReview::Filters filters);
     void applyClean(JobOutcome<CleanRun> outcome, std::span<const CleanerCore::CleanupCandidate> candidates,
-        CleanerCore::CleaningMode mode, const Messages& messages);
+        CleanerCore::CleaningMode mode, const RunMessages& messages);
     void applyRestore(JobOutcome<RestoreRun> outcome, std::span<const CleanerCore::CleanedItem> items,
-        CleanerCore::CleanResult cleaned, const Messages& messages);
+        CleanerCore::CleanResult cleaned, const RunMessages& messages);
+    void endRun(bool wasCancelled, bool hasBegun, std::optional<std::string> message);
     void addRestoredCandidates(const CleanerCore::RestoreResult& result);
     [[nodiscard]] Phase restingPhase() const;
 

@@ -19,11 +19,6 @@ using CleanerCore::RestoreResult;
 
 namespace {
 
-constexpr const char* kCleanFailed = "Some items could not be cleaned. Review the result details.";
-constexpr const char* kCleanCancelled = "Cleaning was cancelled. Already cleaned items were removed from the list.";
-constexpr const char* kRestoreFailed = "Some items could not be restored.";
-constexpr const char* kRestoreCancelled = "Restore was cancelled.";
-
 std::unordered_set<std::string> idsOf(const std::vector<CleanedItem>& items)
 {
     std::unordered_set<std::string> ids;
@@ -72,27 +67,22 @@ void CleanerViewModel::cleanSelected(CleaningMode mode, const std::optional<Cand
     m_job.start<ItemProgress>(
         [services = m_services, request = std::move(request), clean = m_cleanAction, before = m_index](
             const std::stop_token& stop, const JobProgress<ItemProgress>& progress) mutable {
-            if (stop.stop_requested()) {
-                return CleanRun{.result = {.wasCancelled = true}, .hasBegun = false};
-            }
-            auto result = performConfirmedClean(services, std::move(request), clean, stop, progress);
-            result.wasCancelled = result.wasCancelled || stop.stop_requested();
-            auto after = without(before, result);
-            return CleanRun{.result = std::move(result), .before = before, .after = std::move(after)};
+            auto run = performConfirmedClean(services, std::move(request), clean, stop, progress);
+            auto after = without(before, run.result);
+            return CleanRun{std::move(run), /* before */ before, std::move(after)};
         },
         [this](ItemProgress progress) {
             setItemProgress(progress);
             publish();
         },
         [this, candidates = std::move(candidates), mode,
-            messages = Messages{.failure = std::move(failureMessage).value_or(kCleanFailed),
-                .cancellation = std::move(cancellationMessage).value_or(kCleanCancelled)}](
+            messages = RunMessages::ofClean(std::move(failureMessage), std::move(cancellationMessage))](
             JobOutcome<CleanRun> outcome) { applyClean(std::move(outcome), candidates, mode, messages); });
     publish();
 }
 
 void CleanerViewModel::applyClean(JobOutcome<CleanRun> outcome, std::span<const CleanupCandidate> candidates,
-    CleaningMode mode, const Messages& messages)
+    CleaningMode mode, const RunMessages& messages)
 {
     if (!outcome) {
         setErrorMessage(std::move(outcome.error().reason));
@@ -101,6 +91,7 @@ void CleanerViewModel::applyClean(JobOutcome<CleanRun> outcome, std::span<const 
         return;
     }
     CleanResult& result = outcome->result;
+    result.wasCancelled = result.wasCancelled || m_job.wasAskedToStop();
     m_audit.record(
         CleanupAuditEntry::clean(result, mode, candidates, CleanupAuditSource::cleanupDashboard, m_services.now()));
     noteChange(Change::auditEntries);
@@ -109,18 +100,22 @@ void CleanerViewModel::applyClean(JobOutcome<CleanRun> outcome, std::span<const 
         auto index = outcome->before == m_index ? std::move(outcome->after) : without(m_index, result);
         applyReport(std::move(index), CandidateReview::Filters::reconcile);
     }
-    if (result.wasCancelled) {
-        setPhase(outcome->hasBegun ? Phase::ready : restingPhase());
-        setErrorMessage(messages.cancellation);
-    } else {
-        setPhase(Phase::finished);
-        if (!result.failedItems.empty()) {
-            setErrorMessage(messages.failure);
-        }
-    }
+    endRun(result.wasCancelled, outcome->hasBegun, messages.after(result));
     m_lastCleanResult = std::move(result);
     noteChange(Change::results);
     publish();
+}
+
+void CleanerViewModel::endRun(bool wasCancelled, bool hasBegun, std::optional<std::string> message)
+{
+    if (wasCancelled) {
+        setPhase(hasBegun ? Phase::ready : restingPhase());
+    } else {
+        setPhase(Phase::finished);
+    }
+    if (message) {
+        setErrorMessage(std::move(message));
+    }
 }
 
 void CleanerViewModel::undoLastTrashClean(const std::set<std::string, std::less<>>& candidateIDs,
@@ -153,14 +148,13 @@ void CleanerViewModel::undoLastTrashClean(const std::set<std::string, std::less<
             publish();
         },
         [this, items, cleaned = *m_lastCleanResult,
-            messages = Messages{.failure = std::move(failureMessage).value_or(kRestoreFailed),
-                .cancellation = std::move(cancellationMessage).value_or(kRestoreCancelled)}](
+            messages = RunMessages::ofRestore(std::move(failureMessage), std::move(cancellationMessage))](
             JobOutcome<RestoreRun> outcome) { applyRestore(std::move(outcome), items, cleaned, messages); });
     publish();
 }
 
-void CleanerViewModel::applyRestore(
-    JobOutcome<RestoreRun> outcome, std::span<const CleanedItem> items, CleanResult cleaned, const Messages& messages)
+void CleanerViewModel::applyRestore(JobOutcome<RestoreRun> outcome, std::span<const CleanedItem> items,
+    CleanResult cleaned, const RunMessages& messages)
 {
     if (!outcome) {
         setErrorMessage(std::move(outcome.error().reason));
@@ -181,15 +175,7 @@ void CleanerViewModel::applyRestore(
         m_lastCleanResult =
             cleaned.cleanedItems.empty() ? std::nullopt : std::optional<CleanResult>(std::move(cleaned));
     }
-    if (result.wasCancelled) {
-        setPhase(outcome->hasBegun ? Phase::ready : restingPhase());
-        setErrorMessage(messages.cancellation);
-    } else {
-        setPhase(Phase::finished);
-        if (!result.failedItems.empty()) {
-            setErrorMessage(messages.failure);
-        }
-    }
+    endRun(result.wasCancelled, outcome->hasBegun, messages.after(result));
     m_lastRestoreResult = std::move(outcome->result);
     noteChange(Change::results);
     publish();

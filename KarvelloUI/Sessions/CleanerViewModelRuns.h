@@ -30,15 +30,13 @@ struct CleanerViewModel::PreparedScan {
     std::shared_ptr<const CandidateIndex> visible;
 };
 
-/// What a clean or a restore brings. One that was cancelled before it began did nothing.
-struct CleanerViewModel::CleanRun {
-    CleanerCore::CleanResult result;
-    bool hasBegun = true;
+struct CleanerViewModel::CleanRun : ConfirmedCleanRun {
     /// The report that was on show, and what is left of it.
     std::shared_ptr<const CandidateIndex> before = {};
     std::shared_ptr<const CandidateIndex> after = {};
 };
 
+/// One that was cancelled before it began did nothing.
 struct CleanerViewModel::RestoreRun {
     CleanerCore::RestoreResult result;
     bool hasBegun = true;

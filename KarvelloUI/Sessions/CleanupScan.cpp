@@ -24,12 +24,6 @@ bool hasAppCacheContext(const CleanupCandidate& candidate)
 
 } // namespace
 
-ActiveScan ActiveScan::none(const Platform::FileManager& fileManager)
-{
-    const auto limit = StorageScanner::Configuration::standard().maximumInventoryItemsPerCandidate;
-    return {.cleanupEligibilityPolicy = CleanerCore::CleanupEligibilityPolicy({}, fileManager, limit)};
-}
-
 ScanOperationResult performCleanupScan(const SessionServices& services, const ScanLocationProvider& resolveLocations,
     const AppCacheRunningAppProvider& runningApplications, const StorageScanner::ProgressHandler& progressHandler,
     const std::stop_token& stop)
@@ -39,14 +33,10 @@ ScanOperationResult performCleanupScan(const SessionServices& services, const Sc
     std::vector<SkippedItem> skippedItems = std::move(resolution.skippedItems);
     std::ranges::copy(access.skippedItems(), std::back_inserter(skippedItems));
 
-    const auto configuration = StorageScanner::Configuration::standard();
-    CleanerCore::CleanupEligibilityPolicy policy(resolution.locations, services.fileManager,
-        configuration.maximumInventoryItemsPerCandidate, resolution.homeDirectory);
-    ActiveScan scanned{.locations = std::move(resolution.locations),
-        .cleanupEligibilityPolicy = std::move(policy),
-        .securityScopedFolders = std::move(resolution.securityScopedFolders),
-        .homeAccessBookmark = std::move(resolution.homeAccessBookmark),
-        .homeDirectory = std::move(resolution.homeDirectory)};
+    auto scanned =
+        ActiveScan::of(std::move(resolution.locations), services.fileManager, std::move(resolution.homeDirectory));
+    scanned.securityScopedFolders = std::move(resolution.securityScopedFolders);
+    scanned.homeAccessBookmark = std::move(resolution.homeAccessBookmark);
     const auto interrupted = [&] {
         return ScanOperationResult{
             .scanned = std::move(scanned), .report = ScanReport(services.now(), {}, std::move(skippedItems))};
@@ -55,7 +45,7 @@ ScanOperationResult performCleanupScan(const SessionServices& services, const Sc
         return interrupted();
     }
 
-    auto report = StorageScanner(services.fileManager, configuration)
+    auto report = StorageScanner(services.fileManager, StorageScanner::Configuration::standard())
                       .scan(scanned.locations, services.now(), progressHandler, stop, scanned.homeDirectory);
     if (stop.stop_requested()) {
         return interrupted();

@@ -24,15 +24,18 @@ CleanAction cleaningServiceAction(const SessionServices& services)
     };
 }
 
-CleanResult performConfirmedClean(const SessionServices& services, CleanRequest request, const CleanAction& clean,
+ConfirmedCleanRun performConfirmedClean(const SessionServices& services, CleanRequest request, const CleanAction& clean,
     const std::stop_token& stop, const ItemProgressReport& report)
 {
+    if (stop.stop_requested()) {
+        return {.result = {.wasCancelled = true}, .hasBegun = false};
+    }
     const ScanRootAccess access(services, request.scanned.securityScopedFolders, request.scanned.homeAccessBookmark);
     auto [reachable, blocked] = AccessBlockedRoots(access.skippedItems()).split(std::move(request.candidates));
     CleanResult result = clean(reachable, request, stop, report);
     result.failedItems.insert(
         result.failedItems.begin(), std::make_move_iterator(blocked.begin()), std::make_move_iterator(blocked.end()));
-    return result;
+    return {.result = std::move(result)};
 }
 
 } // namespace KarvelloUI

@@ -28,9 +28,15 @@ using CleanAction = std::function<CleanerCore::CleanResult(std::span<const Clean
 /// The cleaning service.
 [[nodiscard]] CleanAction cleaningServiceAction(const SessionServices& services);
 
+/// What became of a request. One that was told to stop before it began did nothing.
+struct ConfirmedCleanRun {
+    CleanerCore::CleanResult result;
+    bool hasBegun = true;
+};
+
 /// Carries out a request on the calling thread, with access to its folders opened. What lies in a folder to which there
 /// is no access never reaches the action: it is told as failed, before what the action tells.
-[[nodiscard]] CleanerCore::CleanResult performConfirmedClean(const SessionServices& services, CleanRequest request,
+[[nodiscard]] ConfirmedCleanRun performConfirmedClean(const SessionServices& services, CleanRequest request,
     const CleanAction& clean, const std::stop_token& stop, const CleanerCore::ItemProgressReport& report = {});
 
 } // namespace KarvelloUI

@@ -61,6 +61,9 @@ public:
     void requestStop();
     /// Asks the current run to stop and drops it: nothing of it comes any more.
     void cancel();
+    /// Whether the current run was asked to stop; while its result is taken over, the run that ended. A stop that came too
+    /// late for the work shows here alone.
+    [[nodiscard]] bool wasAskedToStop() const { return m_stop.stop_requested(); }
     /// Whether a result is to come.
     [[nodiscard]] bool isRunning() const { return m_run != nullptr; }
 

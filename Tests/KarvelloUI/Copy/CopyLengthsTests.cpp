@@ -54,7 +54,7 @@ const std::vector<Place> kPlaces{
             "macOnboardingAccessTitle", "macOnboardingSafetyTitle", "permissionDiagnosticTitle",
             "permissionWizardStepTitle", "permissionDiagnosticSamplePathsTitle", "permissionWizardTitle",
             "settingsAccessDiagnosticsTitle", "restoreCenterTitle", "cleanupControlTitle", "trustBriefTitle",
-            "safetyModelTitle", "recommendedActionsTitle", "scanModeTitle", "aggressiveWarningTitle",
+            "safetyModelTitle", "recommendedActionsTitle", "smartCleanupTitle", "scanModeTitle", "aggressiveWarningTitle",
             "storageTimelinePointTitle", "confirmMoveTitle", "confirmDeleteTitle", "duplicateGroupTitle", "appTitle"}},
 };
 

@@ -62,7 +62,7 @@ TEST_F(CleanerViewModelCleaningTest, MovesWhatIsSelectedAndTakesItFromTheReport)
     EXPECT_THAT(names(), ElementsAre("middle"));
     EXPECT_FALSE(stands("home/Caches/large"));
     EXPECT_TRUE(stands("home/Caches/middle/data"));
-    EXPECT_EQ(trashedCount(), 2U);
+    EXPECT_EQ(trashedCount(), 2);
     EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(2));
     EXPECT_EQ(session->errorMessage(), std::nullopt);
     EXPECT_EQ(session->selectedCount(), 0);
@@ -105,7 +105,7 @@ TEST_F(CleanerViewModelCleaningTest, MovesTheSnapshotWhateverIsSelectedByThen)
     session->cleanSelected(kTrash, snapshot);
     settle();
     EXPECT_THAT(names(), ElementsAre("large", "middle"));
-    EXPECT_EQ(trashedCount(), 1U);
+    EXPECT_EQ(trashedCount(), 1);
 }
 
 TEST_F(CleanerViewModelCleaningTest, ChangesNothingForASnapshotThatHasLeftTheReport)
@@ -176,7 +176,7 @@ TEST_F(CleanerViewModelCleaningTest, ToldToStopBeforeItBeganMovesNothing)
     EXPECT_EQ(session->phase(), Phase::ready);
     EXPECT_EQ(session->lastCleanResult(), CleanResult{.wasCancelled = true});
     EXPECT_EQ(session->errorMessage(), kCancelled);
-    EXPECT_EQ(trashedCount(), 0U);
+    EXPECT_EQ(trashedCount(), 0);
     ASSERT_THAT(session->auditEntries(), SizeIs(1));
     EXPECT_TRUE(session->auditEntries().front().wasCancelled);
     EXPECT_EQ(session->auditEntries().front().requestedItemCount, 3);
@@ -191,7 +191,7 @@ TEST_F(CleanerViewModelCleaningTest, ToldToStopInTheMiddleTellsWhatWasMoved)
     EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(1));
     EXPECT_TRUE(session->lastCleanResult()->wasCancelled);
     EXPECT_EQ(session->errorMessage(), kCancelled);
-    EXPECT_EQ(trashedCount(), 1U);
+    EXPECT_EQ(trashedCount(), 1);
     EXPECT_THAT(names(), SizeIs(2));
     EXPECT_THAT(session->auditEntries(), SizeIs(1));
 }
@@ -214,6 +214,20 @@ TEST_F(CleanerViewModelCleaningTest, CountsAsCancelledThoughEverythingHadMoved)
     EXPECT_EQ(session->phase(), Phase::ready);
 }
 
+TEST_F(CleanerViewModelCleaningTest, CountsAsCancelledThoughItsResultWasOnTheWay)
+{
+    scanCaches();
+    session->cleanSelected(kTrash);
+    executor.runOne();
+    session->cancelCurrentOperation();
+    settle();
+    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(3));
+    EXPECT_TRUE(session->lastCleanResult()->wasCancelled);
+    EXPECT_TRUE(session->auditEntries().front().wasCancelled);
+    EXPECT_EQ(session->errorMessage(), kCancelled);
+    EXPECT_EQ(session->phase(), Phase::ready);
+}
+
 TEST_F(CleanerViewModelCleaningTest, IsDroppedWholeWhenAScanReplacesIt)
 {
     scanCaches();
@@ -221,7 +235,7 @@ TEST_F(CleanerViewModelCleaningTest, IsDroppedWholeWhenAScanReplacesIt)
     executor.runOne();
     session->scan({location("home/Logs/")});
     settle();
-    EXPECT_EQ(trashedCount(), 3U);
+    EXPECT_EQ(trashedCount(), 3);
     EXPECT_EQ(session->lastCleanResult(), std::nullopt);
     EXPECT_THAT(session->auditEntries(), IsEmpty());
     EXPECT_THAT(names(), ElementsAre("old.log"));
@@ -240,11 +254,11 @@ TEST_F(CleanerViewModelCleaningTest, KeepsACandidateAwayThatWasIgnoredMeanwhile)
 
 TEST_F(CleanerViewModelCleaningTest, BlocksWhatLiesInAFolderWithoutAccess)
 {
-    auto folder = CustomScanFolder::make(tree.url("home/Logs/"), files, bookmarks, now);
+    auto folder = CustomScanFolder::make(tree.url("home/Logs/"), fileManager, bookmarks, now);
     ASSERT_TRUE(folder.has_value());
     session->scanMac(CleanerCore::CleanupScanMode::standard, tree.url("home/"), {*folder}, std::nullopt, false);
     settle();
-    environment = Platform::Environment({{"HOME", tree.path("home")}, {"APP_SANDBOX_CONTAINER_ID", "x"}});
+    enterSandbox();
     std::filesystem::rename(tree.path("home/Logs"), tree.path("home/Aside"));
     session->selectAllCandidates();
     clean();
@@ -263,7 +277,7 @@ TEST_F(CleanerViewModelCleaningTest, PutsBackWhatItMoved)
     settle();
     EXPECT_EQ(session->phase(), Phase::finished);
     EXPECT_TRUE(stands("home/Caches/large/data"));
-    EXPECT_EQ(trashedCount(), 0U);
+    EXPECT_EQ(trashedCount(), 0);
     EXPECT_THAT(names(), ElementsAre("large", "middle", "small"));
     EXPECT_EQ(session->selectedCount(), 0);
     EXPECT_EQ(session->lastCleanResult(), std::nullopt);
@@ -295,7 +309,7 @@ TEST_F(CleanerViewModelCleaningTest, RestoresNothingForUnknownIdsOrWithoutAClean
     undo({"x"});
     EXPECT_EQ(session->phase(), Phase::finished);
     EXPECT_EQ(session->lastRestoreResult(), std::nullopt);
-    EXPECT_EQ(trashedCount(), 3U);
+    EXPECT_EQ(trashedCount(), 3);
 }
 
 TEST_F(CleanerViewModelCleaningTest, DoesNotShowARestoredCandidateTwice)
@@ -327,7 +341,7 @@ TEST_F(CleanerViewModelCleaningTest, ARestoreToldToStopBeforeItBeganMovesNothing
     EXPECT_EQ(session->errorMessage(), "Restore was cancelled.");
     EXPECT_TRUE(session->lastRestoreResult()->wasCancelled);
     EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(3));
-    EXPECT_EQ(trashedCount(), 3U);
+    EXPECT_EQ(trashedCount(), 3);
     EXPECT_THAT(session->auditEntries(), SizeIs(2));
 }
 

@@ -1,18 +1,10 @@
 #pragma once
 
 #include "KarvelloUI/Sessions/CleanerViewModel.h"
-#include "Platform/Files/PosixFileManager.h"
-#include "Platform/Linux/LinuxBookmarks.h"
-#include "Platform/Services/FileUserDefaults.h"
-#include "Tests/Support/EventLoop.h"
-#include "Tests/Support/FailingUserDefaults.h"
-#include "Tests/Support/FakeTrash.h"
-#include "Tests/Support/ManualExecutor.h"
-#include "Tests/Support/TemporaryTree.h"
+#include "Tests/KarvelloUI/Sessions/SessionFixture.h"
 
-#include <filesystem>
+#include <algorithm>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,9 +17,21 @@ using CleanerCore::ScanLocation;
 using Phase = CleanerViewModel::Phase;
 
 /// A session over a small home with three caches, of which the user's own work is done by hand.
-class CleanerViewModelTest : public testing::Test {
+class CleanerViewModelTest : public SessionTests::SessionTest {
 protected:
-    CleanerViewModelTest() { restart(); }
+    CleanerViewModelTest()
+        : SessionTest(R"(
+            home/Caches/
+                large/data size=64K
+                middle/data size=32K
+                small/data size=8K
+            home/Logs/
+                old.log size=16K
+            home/Empty/
+        )")
+    {
+        restart();
+    }
 
     void restart()
     {
@@ -41,15 +45,6 @@ protected:
             cleanAction);
         session->setObjectName(QStringLiteral("session"));
         settle();
-    }
-
-    /// All background work, and what comes back of it.
-    void settle()
-    {
-        do {
-            executor.runAll();
-            loop.handleEvents();
-        } while (executor.waitingCount() > 0);
     }
 
     [[nodiscard]] ScanLocation location(std::string_view folder,
@@ -93,44 +88,7 @@ protected:
         }
         return names;
     }
-    [[nodiscard]] bool stands(std::string_view path) const { return std::filesystem::exists(tree.path(path)); }
-    [[nodiscard]] std::size_t trashedCount() const
-    {
-        std::size_t count = 0;
-        for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(tree.path("Trash"))) {
-            ++count;
-        }
-        return count;
-    }
-
-    TestSupport::EventLoop loop;
-    TestSupport::TemporaryTree tree{R"(
-        config/
-        Trash/
-        home/Caches/
-            large/data size=64K
-            middle/data size=32K
-            small/data size=8K
-        home/Logs/
-            old.log size=16K
-        home/Empty/
-    )"};
-    Platform::PosixFileManager files;
-    TestSupport::FakeTrash trash{files, tree.url("Trash/")};
-    Platform::LinuxBookmarks bookmarks;
-    Platform::Environment environment{{{"HOME", tree.path("home")}, {"TMPDIR", tree.path("home")}}};
-    TestSupport::ManualExecutor executor;
-    Platform::Date now = tree.now();
-    SessionServices services{.fileManager = files,
-        .trash = trash,
-        .bookmarks = bookmarks,
-        .environment = environment,
-        .executor = executor,
-        .now = [this] { return now; }};
-    Platform::FileUserDefaults stored{files, tree.url("config/preferences.json")};
-    TestSupport::FailingUserDefaults defaults{stored};
     CleanupIgnoreStore ignoreStore{defaults, [] { return AppLanguage::english; }};
-    CleanerCore::CleanupAuditStore auditStore{files, tree.url("home/data/Karvello/log.json")};
     std::vector<CleanerCore::AppCacheRunningApplicationIdentity> runningApplications;
     int runningApplicationQuestions = 0;
     CleanAction cleanAction;

@@ -161,8 +161,8 @@ TEST_F(CleanerViewModelTest, MayBeDestroyedAtAnyMomentOfAScan)
 
 TEST_F(CleanerViewModelTest, TellsOfASkippedFolderWhereAccessCannotBeOpened)
 {
-    environment = Platform::Environment({{"HOME", tree.path("home")}, {"APP_SANDBOX_CONTAINER_ID", "x"}});
-    auto folder = CustomScanFolder::make(tree.url("home/Logs/"), files, bookmarks, now);
+    enterSandbox();
+    auto folder = CustomScanFolder::make(tree.url("home/Logs/"), fileManager, bookmarks, now);
     ASSERT_TRUE(folder.has_value());
     tree.remove("home/Logs");
     session->scanMac(CleanerCore::CleanupScanMode::standard, tree.url("home/"), {*folder}, std::nullopt, false);
@@ -177,7 +177,7 @@ TEST_F(CleanerViewModelTest, TellsOfASkippedFolderWhereAccessCannotBeOpened)
 TEST_F(CleanerViewModelTest, ScansTheHomeWithTheFoldersOfTheUserLast)
 {
     tree.add("home/.cache/thumbnails/normal/\n    t.png size=4K");
-    auto folder = CustomScanFolder::make(tree.url("home/Logs/"), files, bookmarks, now);
+    auto folder = CustomScanFolder::make(tree.url("home/Logs/"), fileManager, bookmarks, now);
     ASSERT_TRUE(folder.has_value());
     session->scanMac(CleanerCore::CleanupScanMode::standard, tree.url("home/"), {*folder}, std::nullopt, false);
     settle();

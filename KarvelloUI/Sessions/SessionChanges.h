@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QFlags>
+#include <QPointer>
+#include <QtGlobal>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+namespace KarvelloUI {
+
+/// Tells the observers of a session what has changed, signal by signal in the order of the table. Any of them may destroy
+/// the session: nobody is told more then, and the caller touches it no more in any case.
+template <typename Session, typename Change, std::size_t count>
+void announceChanges(
+    Session& session, QFlags<Change> changes, const std::array<std::pair<Change, void (Session::*)()>, count>& signalOf)
+{
+    const QPointer<Session> living(&session);
+    for (const auto& [change, signal] : signalOf) {
+        if (living && changes.testFlag(change)) {
+            Q_EMIT(session.*signal)();
+        }
+    }
+}
+
+} // namespace KarvelloUI

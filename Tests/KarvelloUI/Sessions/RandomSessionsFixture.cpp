@@ -1,0 +1,425 @@
+#include "Tests/KarvelloUI/Sessions/RandomSessionsFixture.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace SessionTests {
+
+using namespace KarvelloUI;
+using CleanerCore::CleanupAuditOperation;
+using CleanerCore::CleanupAuditSource;
+using CleanerCore::ScanLocation;
+
+namespace {
+
+ScanLocation cachesIn(const TestSupport::TemporaryTree& tree)
+{
+    return ScanLocation(ScanLocation::Fields{.rootURL = tree.url("home/Caches/"),
+        .category = CleanerCore::CleanupCategory::userCaches,
+        .displayName = "Caches",
+        .depth = CleanerCore::ScanDepth::immediateChildren,
+        .isSelectedByDefault = true,
+        .safety = CleanerCore::CleanupSafety::safe,
+        .minimumModificationAge = 0,
+        .includesHiddenFiles = false,
+        .includesPackageDescendants = false,
+        .appCacheContext = std::nullopt});
+}
+
+bool changesDisk(CleanerViewModel::Phase phase)
+{
+    return phase == CleanerViewModel::Phase::cleaning || phase == CleanerViewModel::Phase::restoring;
+}
+
+} // namespace
+
+void RandomSessions::makeItems()
+{
+    const auto number = std::to_string(m_made.size());
+    // Each pair has a size of its own, so that its two are duplicates of nothing else.
+    const auto size = std::to_string(m_made.size() + 1) + "K";
+    m_tree.add("home/Caches/cache" + number + "/data size=8K");
+    m_tree.add("home/Caches/bare" + number + " size=4K");
+    m_tree.add("home/Documents/kept" + number + " size=" + size);
+    m_tree.add("home/Downloads/twin" + number + " size=" + size);
+    m_tree.add("home/Downloads/alone" + number + " text=\"alone " + number + "\"");
+    for (const auto* const kind : {"cache", "bare", "kept", "twin", "alone"}) {
+        m_made.insert(kind + number);
+    }
+    m_cleanerTruth.loseTrack();
+    m_insightsTruth.loseTrack();
+}
+
+void RandomSessions::makeCleaner()
+{
+    m_cleaner = std::make_unique<Cleaner>(m_services, m_log, m_ignoreStore,
+        [] { return std::vector<CleanerCore::AppCacheRunningApplicationIdentity>(); });
+    m_cleanerPhase = m_cleaner->phase();
+    QObject::connect(m_cleaner.get(), &Cleaner::phaseChanged, m_cleaner.get(), [this] {
+        const auto before = std::exchange(m_cleanerPhase, m_cleaner->phase());
+        if (before == Cleaner::Phase::scanning && m_cleanerPhase == Cleaner::Phase::ready && !m_isCalling) {
+            ++m_cleanerLedger.scansApplied;
+            m_cleanerTruth.applyScan();
+        }
+    });
+    m_cleanerTruth.loseTrack();
+}
+
+void RandomSessions::makeInsights()
+{
+    m_insights = std::make_unique<Insights>(m_services,
+        Insights::Setup{.homeDirectory = m_tree.url("home/"),
+            .scannerConfiguration = CleanerCore::InsightConfiguration({
+                .minimumLargeFileBytes = 1 << 20,
+                .minimumDuplicateFileBytes = 1,
+                .minimumReviewFileAge = 0,
+                .maximumVisitedItemsPerRoot = 10'000,
+                .maximumResultCount = 1000,
+                .maximumRecentReviewSkippedItems = 0,
+                .maximumDuplicateHashFiles = 1000,
+                .maximumDuplicateFullHashBytesPerFile = 1 << 20,
+                .maximumDuplicateHashBytes = 1 << 30,
+            })},
+        m_log, m_history);
+    m_insightsPhase = m_insights->phase();
+    QObject::connect(m_insights.get(), &Insights::phaseChanged, m_insights.get(), [this] {
+        const auto before = std::exchange(m_insightsPhase, m_insights->phase());
+        if (before == Insights::Phase::scanning && m_insightsPhase == Insights::Phase::ready && !m_isCalling) {
+            ++m_insightsLedger.scansApplied;
+            m_insightsTruth.applyScan();
+        }
+    });
+    m_insightsTruth.loseTrack();
+}
+
+void RandomSessions::step()
+{
+    m_isCalling = true;
+    if (below(2) == 0) {
+        stepOfCleaner();
+    } else {
+        stepOfInsights();
+    }
+    m_isCalling = false;
+    // The user waits for nothing, for a moment, or until it is done.
+    switch (below(3)) {
+    case 0:
+        break;
+    case 1:
+        m_loop.handleEvents();
+        break;
+    default:
+        comeToRest();
+        if (below(4) == 0) {
+            makeItems();
+        }
+    }
+}
+
+/// What runs will not be heard of again.
+void RandomSessions::dropOfCleaner()
+{
+    if (m_cleaner->phase() == Cleaner::Phase::scanning) {
+        ++m_cleanerLedger.scansDropped;
+    } else if (changesDisk(m_cleaner->phase())) {
+        ++m_cleanerLedger.changesDropped;
+        m_cleanerTruth.hasLeftovers = true;
+        m_mayHaveUnlogged = true;
+        m_cleanerTruth.loseTrack();
+    }
+}
+
+void RandomSessions::dropOfInsights()
+{
+    if (m_insights->phase() == Insights::Phase::scanning) {
+        ++m_insightsLedger.scansDropped;
+    } else if (m_insights->phase() == Insights::Phase::cleaning) {
+        ++m_insightsLedger.changesDropped;
+        m_insightsTruth.hasLeftovers = true;
+        m_mayHaveUnlogged = true;
+        m_insightsTruth.loseTrack();
+    }
+}
+
+void RandomSessions::stepOfCleaner()
+{
+    const auto& candidates = m_cleaner->report().candidates;
+    const bool wasBusy = m_cleaner->isBusy();
+    switch (below(17)) {
+    case 0:
+    case 1:
+    case 2:
+        dropOfCleaner();
+        ++m_cleanerLedger.scansBegun;
+        m_cleanerTruth.beginScan();
+        m_cleaner->scan({cachesIn(m_tree)});
+        break;
+    case 3:
+        if (m_cleaner->phase() == Cleaner::Phase::scanning) {
+            ++m_cleanerLedger.scansDropped;
+        }
+        m_cleaner->cancelCurrentOperation();
+        break;
+    case 4:
+    case 5:
+    case 6:
+        m_cleaner->cleanSelected(CleanerCore::CleaningMode::moveToTrash);
+        break;
+    case 7:
+    case 8:
+    case 14:
+    case 15:
+    case 16:
+        if (m_cleaner->lastCleanResult()) {
+            std::set<std::string, std::less<>> ids;
+            for (const auto& item : m_cleaner->lastCleanResult()->cleanedItems) {
+                if (below(3) > 0) {
+                    ids.insert(item.candidate.id);
+                }
+            }
+            m_cleaner->undoLastTrashClean(ids);
+        }
+        break;
+    case 9:
+    case 10:
+        for (const auto& candidate : candidates) {
+            m_cleaner->setSelected(candidate, below(2) == 0);
+        }
+        break;
+    case 11:
+        if (!candidates.empty()) {
+            // One that is on its way to the Trash counts as ignored, and stands in no report.
+            if (changesDisk(m_cleaner->phase())) {
+                m_cleanerTruth.loseTrack();
+            }
+            m_cleaner->ignoreCandidate(
+                candidates[static_cast<std::size_t>(below(static_cast<int>(candidates.size())))]);
+        }
+        break;
+    case 12:
+        // Those that come back are in no report until the next scan.
+        m_cleaner->clearIgnoredItems();
+        m_cleanerTruth.isTrue = false;
+        break;
+    default:
+        dropOfCleaner();
+        if (below(2) == 0) {
+            m_cleaner->clearScanResults();
+            m_cleanerTruth.loseTrack();
+        } else {
+            m_cleaner.reset();
+            makeCleaner();
+        }
+        return;
+    }
+    if (!wasBusy && changesDisk(m_cleaner->phase())) {
+        ++m_cleanerLedger.changesBegun;
+    }
+}
+
+void RandomSessions::stepOfInsights()
+{
+    const auto section = below(2) == 0 ? MacInsightFileSection::downloads : MacInsightFileSection::duplicates;
+    const bool wasBusy = m_insights->isBusy();
+    switch (below(12)) {
+    case 0:
+    case 1:
+    case 2:
+        dropOfInsights();
+        ++m_insightsLedger.scansBegun;
+        m_insightsTruth.beginScan();
+        m_insights->scan(std::nullopt);
+        break;
+    case 3:
+        if (m_insights->phase() == Insights::Phase::scanning) {
+            ++m_insightsLedger.scansDropped;
+        }
+        m_insights->cancelCurrentOperation();
+        break;
+    case 4:
+    case 5:
+    case 6:
+        m_insights->cleanSelected(section);
+        break;
+    case 7:
+        for (const auto* const file : m_insights->files(section)) {
+            m_insights->setSelected(*file, below(3) == 0);
+        }
+        break;
+    case 8:
+        if (!m_insights->duplicateGroupsForReview().empty()) {
+            m_insights->selectDuplicateExtras(m_insights->duplicateGroupsForReview().front());
+        }
+        break;
+    case 9:
+        m_insights->clearSelection(section);
+        break;
+    case 10:
+        m_insights->refreshSystemSnapshot();
+        m_insights->flushSystemMetricHistory();
+        break;
+    default:
+        dropOfInsights();
+        if (below(2) == 0) {
+            m_insights->clearScanResults();
+            m_insightsTruth.loseTrack();
+        } else {
+            m_insights.reset();
+            makeInsights();
+        }
+        return;
+    }
+    if (!wasBusy && m_insights->phase() == Insights::Phase::cleaning) {
+        ++m_insightsLedger.changesBegun;
+    }
+}
+
+void RandomSessions::comeToRest()
+{
+    const auto isAtRest = [this] { return m_threads.isIdle() && !m_cleaner->isBusy() && !m_insights->isBusy(); };
+    do {
+        ASSERT_TRUE(m_loop.runUntil(isAtRest));
+        m_loop.handleEvents();
+    } while (!isAtRest());
+    m_cleanerTruth.hasLeftovers = false;
+    m_insightsTruth.hasLeftovers = false;
+    expectDiskSessionAndLogToAgree();
+}
+
+void RandomSessions::expectSoundSelections() const
+{
+    std::int64_t bytes = 0;
+    for (const auto& selected : m_cleaner->review().selection().candidates()) {
+        ASSERT_NE(m_cleaner->index()->candidate(selected.id), nullptr);
+        bytes += selected.sizeBytes;
+    }
+    EXPECT_EQ(m_cleaner->selectedBytes(), bytes);
+
+    bytes = 0;
+    std::size_t count = 0;
+    for (const auto section : {MacInsightFileSection::largeFiles, MacInsightFileSection::downloads,
+             MacInsightFileSection::duplicates, MacInsightFileSection::security}) {
+        for (const auto* const file : m_insights->selectedFiles(section)) {
+            EXPECT_TRUE(m_insights->isSelectable(*file));
+            bytes += file->sizeBytes;
+            ++count;
+        }
+    }
+    EXPECT_EQ(m_insights->selectedIDs().size(), count);
+    EXPECT_EQ(m_insights->selectedBytes(), bytes);
+    // What clicks made of the groups is what a look at all of them makes.
+    for (const auto& review : m_insights->duplicateReviewGroups()) {
+        for (const auto& row : review.rows) {
+            EXPECT_EQ(row.isSelected, m_insights->isSelected(*row.file));
+            EXPECT_FALSE(!row.isExtra() && row.isSelected);
+        }
+    }
+}
+
+std::set<std::string> RandomSessions::entriesOf(std::string_view folder) const
+{
+    std::set<std::string> names;
+    const std::filesystem::path path = m_tree.path(folder);
+    if (std::filesystem::exists(path)) {
+        for (const auto& entry : std::filesystem::directory_iterator(path)) {
+            names.insert(entry.path().filename());
+        }
+    }
+    return names;
+}
+
+void RandomSessions::expectDiskSessionAndLogToAgree()
+{
+    // Nothing is lost, and nothing is in two places.
+    std::set<std::string> found;
+    std::size_t count = 0;
+    for (const auto* const folder : {"home/Caches", "home/Downloads", "home/Documents", "data/Trash/files"}) {
+        const auto names = entriesOf(folder);
+        count += names.size();
+        found.insert(names.begin(), names.end());
+    }
+    EXPECT_EQ(found, m_made);
+    EXPECT_EQ(count, m_made.size());
+    const auto trashed = entriesOf("data/Trash/files").size();
+    EXPECT_EQ(entriesOf("data/Trash/info").size(), trashed);
+    m_mostTrashed = std::max(m_mostTrashed, trashed);
+
+    expectLogToTellWhatMoved(static_cast<std::ptrdiff_t>(trashed));
+    expectReportsToTellWhatStands();
+    expectSoundSelections();
+}
+
+void RandomSessions::expectLogToTellWhatMoved(std::ptrdiff_t trashed)
+{
+    for (auto& entry : m_log.loadEntries()) {
+        m_entries.insert_or_assign(entry.id.string(), std::move(entry));
+    }
+    std::ptrdiff_t logged = 0;
+    std::size_t ofCleaner = 0;
+    std::size_t ofInsights = 0;
+    m_restored = 0;
+    for (const auto& [id, entry] : m_entries) {
+        const bool isRestore = entry.operation == CleanupAuditOperation::restore;
+        logged += isRestore ? -entry.succeededItemCount : entry.succeededItemCount;
+        m_restored += isRestore ? static_cast<std::size_t>(entry.succeededItemCount) : 0;
+        ++(entry.source == CleanupAuditSource::macInsights ? ofInsights : ofCleaner);
+    }
+    if (std::exchange(m_mayHaveUnlogged, false)) {
+        m_unlogged = trashed - logged;
+    }
+    EXPECT_EQ(logged + m_unlogged, trashed);
+
+    // What was begun and not dropped was applied, and once.
+    EXPECT_EQ(ofCleaner, m_cleanerLedger.changesBegun - m_cleanerLedger.changesDropped);
+    EXPECT_EQ(ofInsights, m_insightsLedger.changesBegun - m_insightsLedger.changesDropped);
+    EXPECT_EQ(m_cleanerLedger.scansApplied, m_cleanerLedger.scansBegun - m_cleanerLedger.scansDropped);
+    EXPECT_EQ(m_insightsLedger.scansApplied, m_insightsLedger.scansBegun - m_insightsLedger.scansDropped);
+
+    for (const auto* const shown : {&m_cleaner->auditEntries(), &m_insights->auditEntries()}) {
+        std::set<std::string> ids;
+        for (const auto& entry : *shown) {
+            EXPECT_TRUE(m_entries.contains(entry.id.string()));
+            EXPECT_TRUE(ids.insert(entry.id.string()).second);
+        }
+    }
+}
+
+void RandomSessions::expectReportsToTellWhatStands() const
+{
+    for (const auto* const result : {&m_cleaner->lastCleanResult(), &m_insights->lastCleanResult()}) {
+        if (*result) {
+            for (const auto& item : (*result)->cleanedItems) {
+                ASSERT_TRUE(item.destinationURL.has_value());
+                EXPECT_TRUE(std::filesystem::exists(item.destinationURL->path()));
+                EXPECT_FALSE(std::filesystem::exists(item.candidate.url.path()));
+            }
+        }
+    }
+    if (m_cleaner->lastRestoreResult()) {
+        for (const auto& item : m_cleaner->lastRestoreResult()->restoredItems) {
+            EXPECT_TRUE(std::filesystem::exists(item.restoredURL.path()));
+        }
+    }
+    if (m_cleanerTruth.isTrue) {
+        const auto standing = entriesOf("home/Caches");
+        const auto& candidates = m_cleaner->report().candidates;
+        EXPECT_EQ(candidates.size() + static_cast<std::size_t>(m_cleaner->ignoredCandidateCount()), standing.size());
+        for (const auto& candidate : candidates) {
+            EXPECT_TRUE(standing.contains(candidate.displayName));
+        }
+        ++m_comparedReports;
+    }
+    if (m_insightsTruth.isTrue) {
+        std::set<std::string> shown;
+        for (const auto* const file : m_insights->files(MacInsightFileSection::downloads)) {
+            shown.insert(file->displayName);
+        }
+        EXPECT_EQ(shown, entriesOf("home/Downloads"));
+        for (const auto* const file : m_insights->files(MacInsightFileSection::duplicates)) {
+            EXPECT_TRUE(std::filesystem::exists(file->url.path()));
+        }
+        ++m_comparedReports;
+    }
+}
+
+} // namespace SessionTests

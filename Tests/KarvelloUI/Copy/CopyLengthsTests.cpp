@@ -54,8 +54,9 @@ const std::vector<Place> kPlaces{
             "macOnboardingAccessTitle", "macOnboardingSafetyTitle", "permissionDiagnosticTitle",
             "permissionWizardStepTitle", "permissionDiagnosticSamplePathsTitle", "permissionWizardTitle",
             "settingsAccessDiagnosticsTitle", "restoreCenterTitle", "cleanupControlTitle", "trustBriefTitle",
-            "safetyModelTitle", "recommendedActionsTitle", "smartCleanupTitle", "scanModeTitle", "aggressiveWarningTitle",
-            "storageTimelinePointTitle", "confirmMoveTitle", "confirmDeleteTitle", "duplicateGroupTitle", "appTitle"}},
+            "safetyModelTitle", "recommendedActionsTitle", "smartCleanupTitle", "scanModeTitle",
+            "aggressiveWarningTitle", "storageTimelinePointTitle", "confirmMoveTitle", "confirmDeleteTitle",
+            "duplicateGroupTitle", "appTitle"}},
 };
 
 /// The samples of a place, in the order of its members.

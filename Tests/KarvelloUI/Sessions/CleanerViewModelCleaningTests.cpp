@@ -1,13 +1,10 @@
 #include "KarvelloUI/Stores/CustomScanFolderAccess.h"
-#include "Tests/KarvelloUI/Sessions/CleanerViewModelFixture.h"
-
-#include <set>
+#include "Tests/KarvelloUI/Sessions/CleanerViewModelCleaningFixture.h"
 
 namespace CleanerViewModelTests {
 
 namespace {
 
-using CleanerCore::CleanedItem;
 using CleanerCore::CleaningMode;
 using CleanerCore::CleanResult;
 using CleanerCore::CleanupAuditOperation;
@@ -19,35 +16,6 @@ using testing::SizeIs;
 constexpr auto kTrash = CleaningMode::moveToTrash;
 constexpr const char* kFailed = "Some items could not be cleaned. Review the result details.";
 constexpr const char* kCancelled = "Cleaning was cancelled. Already cleaned items were removed from the list.";
-
-class CleanerViewModelCleaningTest : public CleanerViewModelTest {
-protected:
-    void clean()
-    {
-        session->cleanSelected(kTrash);
-        settle();
-    }
-    void select(std::vector<std::string> names)
-    {
-        session->clearSelection();
-        for (const auto& name : names) {
-            session->setSelected(candidate(name), true);
-        }
-    }
-    [[nodiscard]] std::set<std::string, std::less<>> cleanedIDs() const
-    {
-        std::set<std::string, std::less<>> ids;
-        for (const auto& item : session->lastCleanResult()->cleanedItems) {
-            ids.insert(item.candidate.id);
-        }
-        return ids;
-    }
-    void undo(const std::set<std::string, std::less<>>& ids)
-    {
-        session->undoLastTrashClean(ids);
-        settle();
-    }
-};
 
 } // namespace
 
@@ -265,110 +233,6 @@ TEST_F(CleanerViewModelCleaningTest, BlocksWhatLiesInAFolderWithoutAccess)
     ASSERT_THAT(session->lastCleanResult()->failedItems, SizeIs(1));
     EXPECT_EQ(session->lastCleanResult()->failedItems.front().reason, CustomScanFolderAccess::unavailableReason);
     EXPECT_THAT(trash.itemAnchors(), IsEmpty());
-}
-
-TEST_F(CleanerViewModelCleaningTest, PutsBackWhatItMoved)
-{
-    scanCaches();
-    clean();
-    session->undoLastTrashClean(cleanedIDs());
-    EXPECT_EQ(session->phase(), Phase::restoring);
-    EXPECT_FALSE(session->canUndoLastTrashClean());
-    settle();
-    EXPECT_EQ(session->phase(), Phase::finished);
-    EXPECT_TRUE(stands("home/Caches/large/data"));
-    EXPECT_EQ(trashedCount(), 0);
-    EXPECT_THAT(names(), ElementsAre("large", "middle", "small"));
-    EXPECT_EQ(session->selectedCount(), 0);
-    EXPECT_EQ(session->lastCleanResult(), std::nullopt);
-    EXPECT_THAT(session->lastRestoreResult()->restoredItems, SizeIs(3));
-    ASSERT_THAT(session->auditEntries(), SizeIs(2));
-    EXPECT_EQ(auditStore.loadEntries().size(), 2U);
-}
-
-TEST_F(CleanerViewModelCleaningTest, LeavesTheRestOfAPartialRestoreRestorable)
-{
-    scanCaches();
-    clean();
-    const auto ids = cleanedIDs();
-    undo({*ids.begin()});
-    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(2));
-    EXPECT_TRUE(session->canUndoLastTrashClean());
-    undo(ids);
-    EXPECT_EQ(session->lastCleanResult(), std::nullopt);
-    EXPECT_THAT(names(), SizeIs(3));
-}
-
-TEST_F(CleanerViewModelCleaningTest, RestoresNothingForUnknownIdsOrWithoutAClean)
-{
-    scanCaches();
-    undo({"x"});
-    EXPECT_EQ(session->phase(), Phase::ready);
-    clean();
-    undo({});
-    undo({"x"});
-    EXPECT_EQ(session->phase(), Phase::finished);
-    EXPECT_EQ(session->lastRestoreResult(), std::nullopt);
-    EXPECT_EQ(trashedCount(), 3);
-}
-
-TEST_F(CleanerViewModelCleaningTest, DoesNotShowARestoredCandidateTwice)
-{
-    scanCaches();
-    select({"small"});
-    clean();
-    const auto ids = cleanedIDs();
-    // Another one stands there by now, so that the restore is refused, and the candidate is known again.
-    tree.add("home/Caches/small/data size=8K");
-    undo(ids);
-    EXPECT_EQ(session->errorMessage(), "Some items could not be restored.");
-    EXPECT_EQ(session->phase(), Phase::finished);
-    EXPECT_THAT(session->lastRestoreResult()->failedItems, SizeIs(1));
-    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(1));
-    EXPECT_THAT(names(), ElementsAre("large", "middle"));
-}
-
-TEST_F(CleanerViewModelCleaningTest, ARestoreToldToStopBeforeItBeganMovesNothing)
-{
-    scanCaches();
-    clean();
-    const auto ids = cleanedIDs();
-    session->undoLastTrashClean(ids);
-    session->cancelCurrentOperation();
-    settle();
-    // Nothing is in the report any more.
-    EXPECT_EQ(session->phase(), Phase::idle);
-    EXPECT_EQ(session->errorMessage(), "Restore was cancelled.");
-    EXPECT_TRUE(session->lastRestoreResult()->wasCancelled);
-    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(3));
-    EXPECT_EQ(trashedCount(), 3);
-    EXPECT_THAT(session->auditEntries(), SizeIs(2));
-}
-
-TEST_F(CleanerViewModelCleaningTest, ARestoreToldToStopWhenAllWasBackCountsAsDone)
-{
-    scanCaches();
-    select({"small"});
-    clean();
-    session->undoLastTrashClean(cleanedIDs());
-    executor.runOne();
-    session->cancelCurrentOperation();
-    settle();
-    EXPECT_EQ(session->phase(), Phase::finished);
-    EXPECT_FALSE(session->lastRestoreResult()->wasCancelled);
-}
-
-TEST_F(CleanerViewModelCleaningTest, ShowsInTheRestoreCenterTheLogAfterANewScan)
-{
-    scanCaches();
-    clean();
-    EXPECT_TRUE(session->restoreCenterSnapshot().allowsRestoreAttempts);
-    EXPECT_THAT(session->restoreCenterSnapshot().restoreAuthorizedItems, SizeIs(3));
-    scanCaches();
-    EXPECT_EQ(session->lastCleanResult(), std::nullopt);
-    EXPECT_FALSE(session->canUndoLastTrashClean());
-    EXPECT_FALSE(session->restoreCenterSnapshot().allowsRestoreAttempts);
-    EXPECT_EQ(session->restoreCenterSnapshot().recordedAt, now);
 }
 
 TEST_F(CleanerViewModelCleaningTest, MayBeDestroyedAtAnyMomentOfAClean)

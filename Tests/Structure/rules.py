@@ -17,6 +17,7 @@ FOLDERS = {
     "Platform/Files": ("Platform/Base", "Platform/Files"),
     "KarvelloUI/Copy": ("KarvelloUI/Copy", "CleanerCore", "Platform"),
     "KarvelloUI/Design": ("KarvelloUI/Design", "KarvelloUI/Copy", "CleanerCore", "Platform"),
+    "KarvelloUI/Controls": ("KarvelloUI/Controls", "KarvelloUI/Design", "KarvelloUI/Copy", "CleanerCore", "Platform"),
     "KarvelloUI/Advisors": ("KarvelloUI/Advisors", "KarvelloUI/Copy", "CleanerCore", "Platform"),
     "KarvelloUI/Stores": ("KarvelloUI/Stores", "KarvelloUI/Copy", "KarvelloUI/Advisors", "CleanerCore",
                           "PlatformDesktop", "Platform"),

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Shapes
+import Karvello.Design
 
 // Something is under way: an arc that turns, or three still dots where motion is unwanted.
 Item {

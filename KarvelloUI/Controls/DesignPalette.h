@@ -40,7 +40,7 @@ class DesignPalette : public QObject {
     Q_PROPERTY(QColor heatmapInvertedInk3 READ heatmapInvertedInk3 NOTIFY paletteChanged FINAL)
 
 public:
-    explicit DesignPalette(QObject* parent = nullptr);
+    explicit DesignPalette(QObject* parent);
 
     /// Of the scheme that shows now.
     [[nodiscard]] const KarvelloDesign::Palette& palette() const { return KarvelloDesign::palette(m_scheme); }

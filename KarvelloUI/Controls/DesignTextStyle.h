@@ -34,7 +34,7 @@ class DesignTextStyle : public QObject {
     Q_PROPERTY(qreal lineHeight READ lineHeight NOTIFY changed FINAL)
 
 public:
-    explicit DesignTextStyle(KarvelloTextStyle style, QObject* parent = nullptr);
+    explicit DesignTextStyle(KarvelloTextStyle style, QObject* parent);
 
     /// In the style's own weight; `medium` and `strong` are its heavier forms.
     [[nodiscard]] QFont font() const { return weighted(KarvelloDesign::fontSpec(m_style).weight); }

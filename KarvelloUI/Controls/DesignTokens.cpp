@@ -1,6 +1,6 @@
 #include "KarvelloUI/Controls/DesignTokens.h"
 
-#include <cstddef>
+#include <QQmlEngine>
 
 namespace KarvelloUI {
 
@@ -25,6 +25,14 @@ DesignTokens::DesignTokens(QObject* parent)
     for (std::uint8_t index = 0; index < count; ++index) {
         m_styles.append(new DesignTextStyle(static_cast<KarvelloTextStyle>(index), this));
     }
+}
+
+DesignTokens* DesignTokens::create(QQmlEngine* engine, QJSEngine* /*scripts*/)
+{
+    auto* const tokens = engine->findChild<DesignTokens*>(Qt::FindDirectChildrenOnly);
+    // They have their parent, and outlive what a script does.
+    QQmlEngine::setObjectOwnership(tokens, QQmlEngine::CppOwnership);
+    return tokens;
 }
 
 QString DesignTokens::spoken(const QStringList& parts)

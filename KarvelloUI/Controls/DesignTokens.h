@@ -8,6 +8,9 @@
 #include <QList>
 #include <QStringList>
 
+class QQmlEngine;
+class QJSEngine;
+
 namespace KarvelloUI {
 
 /// `KarvelloDesign` of the screens: colours of the scheme, text styles of the scale, sizes and durations. Screens read it;
@@ -73,7 +76,10 @@ public:
     // NOLINTEND(readability-identifier-naming)
     Q_ENUM(PillKind)
 
-    explicit DesignTokens(QObject* parent = nullptr);
+    explicit DesignTokens(QObject* parent);
+
+    /// Called by QML: those that `installDesign` gave to the engine.
+    static DesignTokens* create(QQmlEngine* engine, QJSEngine* scripts);
 
     /// The parts that are not empty, as one list for an assistant to read.
     [[nodiscard]] Q_INVOKABLE static QString spoken(const QStringList& parts);

@@ -1,4 +1,5 @@
 import QtQuick
+import Karvello.Design
 
 // Shows where the keyboard is. Two pixels outside of the control that it belongs to, or inside with a positive margin.
 Rectangle {

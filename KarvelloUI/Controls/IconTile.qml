@@ -1,4 +1,5 @@
 import QtQuick
+import Karvello.Design
 
 // The square ground under an icon in lists, dialogs and empty states.
 Rectangle {

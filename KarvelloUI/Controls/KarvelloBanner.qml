@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import Karvello.Design
 
 // Caution, review and accent need attention and are alerts; a notice is only to know.
 T.Control {

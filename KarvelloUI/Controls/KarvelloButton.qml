@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import Karvello.Design
 
 // Primary commits, and there is one on a screen. Tonal looks and scans, Outline is everything else, Quiet steps back, Link
 // leads elsewhere. A button without a text needs an `accessibleName`, which is its tool tip as well.

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import Karvello.Design
 
 // A sheet of the page: a head with a heading, a small line and something at its right, then the content.
 Rectangle {

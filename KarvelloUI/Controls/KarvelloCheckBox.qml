@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Karvello.Design
 
 // A mixed box becomes checked by a press. What may not be selected has a lock in the box's place.
 T.CheckBox {
@@ -8,6 +9,8 @@ T.CheckBox {
     property string accessibleName: text
     property string disabledReason
     property bool isLocked: false
+    // A press only asks: whoever owns the state answers by `checkState`.
+    property bool isAsking: false
     readonly property bool isMarked: checkState !== Qt.Unchecked
 
     enabled: !isLocked
@@ -18,7 +21,8 @@ T.CheckBox {
     spacing: KarvelloDesign.spacing8
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    nextCheckState: () => control.checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
+    nextCheckState: () => control.isAsking ? control.checkState
+        : control.checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
@@ -32,8 +36,11 @@ T.CheckBox {
     function toggleByAssistant() {
         if (!control.enabled)
             return
-        control.checkState = control.checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
-        control.toggled()
+        if (!control.isAsking) {
+            control.toggle()
+            control.toggled()
+        }
+        control.clicked()
     }
 
     indicator: Item {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import Karvello.Design
 
 // Asks before something moves. Cancel comes first and has the focus, so a stray Return or Escape changes nothing. It is
 // `accepted` once, by the button alone.

@@ -1,4 +1,5 @@
 import QtQuick
+import Karvello.Design
 
 // An icon of the set, tinted. It grows with the text, by whole pixels on both sides of its middle. A word beside it says
 // the same, so it is not spoken.

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import Karvello.Design
 
 // One item of a list: box, tile, name over path, reason, pill, age and size. A press on the box or on a blank place toggles,
 // one on the texts or on the chevron opens the details. It holds no state: whoever owns the selection sets `isChecked`.
@@ -73,8 +74,7 @@ T.ItemDelegate {
             isLocked: !control.isSelectable
             checkState: control.isChecked ? Qt.Checked : Qt.Unchecked
             focusPolicy: Qt.NoFocus
-            // A press asks; the answer comes as `isChecked`.
-            nextCheckState: () => checkState
+            isAsking: true
             onClicked: control.toggleIfSelectable()
             Accessible.ignored: true
         }

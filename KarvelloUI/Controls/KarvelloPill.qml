@@ -1,4 +1,5 @@
 import QtQuick
+import Karvello.Design
 
 // A word on its ground. It tells and never acts.
 Rectangle {

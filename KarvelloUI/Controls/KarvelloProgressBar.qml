@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Karvello.Design
 
 // How much is done, or used. Without a known fraction it is a still piece: nothing here pretends to know.
 T.ProgressBar {

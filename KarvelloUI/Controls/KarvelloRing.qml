@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Shapes
+import Karvello.Design
 
 // A share of a whole as a ring, with a word in its middle. A value below 0, or none at all, leaves the ring empty.
 Item {

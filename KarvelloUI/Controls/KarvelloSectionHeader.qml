@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import Karvello.Design
 
 // The band over a section of a list: a box for all its visible rows, name, count, note and sum.
 T.Control {
@@ -39,8 +40,7 @@ T.Control {
             checkState: control.checkState
             tristate: true
             accessibleName: control.name
-            // A press asks; the answer comes as `checkState`.
-            nextCheckState: () => control.checkState
+            isAsking: true
             onClicked: control.toggleRequested()
         }
         KarvelloButton {

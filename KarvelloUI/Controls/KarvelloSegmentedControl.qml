@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Karvello.Design
 
 // Two to four choices, one of them chosen. One stop for Tab; the arrows choose.
 Rectangle {
@@ -13,14 +14,14 @@ Rectangle {
     // The user chose; whoever owns the choice sets `currentIndex`.
     signal activated(int index)
 
-    function choose(index: int) {
+    function choose(index: int, reason: int) {
         const wanted = Math.max(0, Math.min(index, choices.length - 1))
         if (wanted === currentIndex)
             return
         activated(wanted)
         const button = segments.itemAt(currentIndex) as Item
         if (button)
-            button.forceActiveFocus(Qt.TabFocusReason)
+            button.forceActiveFocus(reason)
     }
 
     implicitWidth: row.implicitWidth + 4
@@ -52,7 +53,7 @@ Rectangle {
                 text: modelData
                 hoverEnabled: true
                 focusPolicy: isChosen ? Qt.StrongFocus : Qt.NoFocus
-                onClicked: control.choose(index)
+                onClicked: control.choose(index, Qt.MouseFocusReason)
 
                 Accessible.role: Accessible.RadioButton
                 Accessible.name: text
@@ -63,7 +64,7 @@ Rectangle {
 
                 function chooseByAssistant() {
                     if (segment.enabled)
-                        control.choose(segment.index)
+                        control.choose(segment.index, Qt.OtherFocusReason)
                 }
 
                 Keys.onPressed: event => {
@@ -77,7 +78,7 @@ Rectangle {
                     }
                     event.accepted = event.key in moves
                     if (event.accepted)
-                        control.choose(moves[event.key])
+                        control.choose(moves[event.key], Qt.TabFocusReason)
                 }
 
                 background: Rectangle {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Shapes
+import Karvello.Design
 
 // The course of a figure between 0 and 1, the latest 24 samples. It is the picture of what the words beside it say, and
 // not spoken. With fewer than two samples there is a word in its place.

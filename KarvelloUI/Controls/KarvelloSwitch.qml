@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Karvello.Design
 
 T.Switch {
     id: control
@@ -27,6 +28,7 @@ T.Switch {
             return
         control.toggle()
         control.toggled()
+        control.clicked()
     }
 
     indicator: Rectangle {

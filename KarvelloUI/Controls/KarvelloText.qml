@@ -1,4 +1,5 @@
 import QtQuick
+import Karvello.Design
 
 // A text of the interface. Names come from the disk, so nothing in them counts as markup, and one line stays one line.
 // What is elided can be read in a tool tip.

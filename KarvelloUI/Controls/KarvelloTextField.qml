@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Karvello.Design
 
 // One line of text, with a button that clears it. Escape clears it as well, and is left to others once there is nothing.
 T.TextField {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Karvello.Design
 
 T.ToolTip {
     id: control

@@ -16,7 +16,7 @@ QColor colorNamed(const DesignTokens& design, std::string_view name)
 
 TEST(DesignTokens, HasEveryColourOfThePaletteUnderItsNameInBothSchemes)
 {
-    DesignTokens design;
+    DesignTokens design(nullptr);
     for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
         design.setPlatformScheme(scheme);
         for (const auto& field : KarvelloDesign::kPaletteFields) {
@@ -27,7 +27,7 @@ TEST(DesignTokens, HasEveryColourOfThePaletteUnderItsNameInBothSchemes)
 
 TEST(DesignTokens, FollowsThePlatformUntilTheUserForcesAScheme)
 {
-    DesignTokens design;
+    DesignTokens design(nullptr);
     QSignalSpy changes(&design, &DesignPalette::paletteChanged);
     design.setPlatformScheme(ColorScheme::dark);
     EXPECT_TRUE(design.isDark());
@@ -43,7 +43,7 @@ TEST(DesignTokens, FollowsThePlatformUntilTheUserForcesAScheme)
 
 TEST(DesignTokens, HasTheColoursOfEachKindOfPill)
 {
-    const DesignTokens design;
+    const DesignTokens design(nullptr);
     const auto& palette = KarvelloDesign::lightPalette;
     EXPECT_EQ(design.pillForegrounds()[DesignTokens::NeutralPill], qtColor(palette.ink2));
     EXPECT_EQ(design.pillStrokes()[DesignTokens::NeutralPill], qtColor(palette.line));
@@ -55,7 +55,7 @@ TEST(DesignTokens, HasTheColoursOfEachKindOfPill)
 
 TEST(DesignTokens, ScalesEveryTextStyleByBothScales)
 {
-    DesignTokens design;
+    DesignTokens design(nullptr);
     QSignalSpy changes(design.body(), &DesignTextStyle::changed);
     EXPECT_EQ(design.body()->font().pixelSize(), 13);
     EXPECT_EQ(design.display()->font().pixelSize(), 44);
@@ -70,7 +70,7 @@ TEST(DesignTokens, ScalesEveryTextStyleByBothScales)
 
 TEST(DesignTokens, WeighsTextsByTheirStyle)
 {
-    const DesignTokens design;
+    const DesignTokens design(nullptr);
     EXPECT_EQ(design.title()->font().weight(), QFont::DemiBold);
     EXPECT_EQ(design.body()->font().weight(), QFont::Normal);
     EXPECT_EQ(design.body()->medium().weight(), QFont::Medium);
@@ -80,7 +80,7 @@ TEST(DesignTokens, WeighsTextsByTheirStyle)
 
 TEST(DesignTokens, GivesCJKMoreRoomAndNoTighterLetters)
 {
-    DesignTokens design;
+    DesignTokens design(nullptr);
     EXPECT_EQ(design.title()->lineHeight(), 28);
     EXPECT_EQ(design.body()->lineHeight(), 18);
     EXPECT_LT(design.title()->font().letterSpacing(), 0);
@@ -92,7 +92,7 @@ TEST(DesignTokens, GivesCJKMoreRoomAndNoTighterLetters)
 
 TEST(DesignTokens, MovesNothingWhereMotionIsUnwanted)
 {
-    DesignTokens design;
+    DesignTokens design(nullptr);
     EXPECT_EQ(design.shortDuration(), 120);
     EXPECT_EQ(design.expandDuration(), 160);
     design.setReducedMotion(true);
@@ -102,7 +102,7 @@ TEST(DesignTokens, MovesNothingWhereMotionIsUnwanted)
 
 TEST(DesignTokens, KeepsAllDistancesOnTheGrid)
 {
-    const DesignTokens design;
+    const DesignTokens design(nullptr);
     QSet<int> distances;
     for (int index = 0; index < design.metaObject()->propertyCount(); ++index) {
         const QMetaProperty property = design.metaObject()->property(index);

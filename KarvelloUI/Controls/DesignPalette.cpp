@@ -15,7 +15,7 @@ void DesignPalette::setScheme(ColorScheme scheme)
     }
 }
 
-QColor DesignPalette::color(Color KarvelloDesign::Palette::*field) const
+QColor DesignPalette::color(Color KarvelloDesign::Palette::* field) const
 {
     return qtColor(palette().*field);
 }

@@ -80,7 +80,7 @@ protected:
     void setScheme(ColorScheme scheme);
 
 private:
-    [[nodiscard]] QColor color(Color KarvelloDesign::Palette::*field) const;
+    [[nodiscard]] QColor color(Color KarvelloDesign::Palette::* field) const;
 
     ColorScheme m_scheme = ColorScheme::light;
 };

@@ -29,7 +29,7 @@ DesignTokens::DesignTokens(QObject* parent)
 
 DesignTokens* DesignTokens::create(QQmlEngine* engine, QJSEngine* /*scripts*/)
 {
-    auto* const tokens = engine->findChild<DesignTokens*>(Qt::FindDirectChildrenOnly);
+    auto* const tokens = engine->findChild<DesignTokens*>(QString(), Qt::FindDirectChildrenOnly);
     // They have their parent, and outlive what a script does.
     QQmlEngine::setObjectOwnership(tokens, QQmlEngine::CppOwnership);
     return tokens;

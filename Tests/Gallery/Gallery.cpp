@@ -38,9 +38,9 @@ int main(int argc, char** argv)
     QQmlApplicationEngine engine;
     DesignTokens& design = installDesign(engine);
     design.setAppearanceMode(Platform::fromRawValue<KarvelloAppearanceMode>(value("scheme").toStdString())
-                                 .value_or(KarvelloAppearanceMode::light));
+            .value_or(KarvelloAppearanceMode::light));
     design.setTextEnvironment({.scale = Platform::fromRawValue<KarvelloTextScale>(value("scale").toStdString())
-                                            .value_or(KarvelloTextScaleKey::defaultValue)});
+                                   .value_or(KarvelloTextScaleKey::defaultValue)});
     design.setReducedMotion(isPhotograph);
     engine.load(QUrl::fromLocalFile(QStringLiteral(KARVELLO_SOURCE_DIR "/Tests/Gallery/Gallery.qml")));
     if (engine.rootObjects().isEmpty()) {
@@ -56,9 +56,8 @@ int main(int argc, char** argv)
     }
     if (isPhotograph) {
         // The window lays itself out in the first frames.
-        QTimer::singleShot(600, window, [window, &value] {
-            QGuiApplication::exit(window->grabWindow().save(value("photograph")) ? 0 : 1);
-        });
+        QTimer::singleShot(600, window,
+            [window, &value] { QGuiApplication::exit(window->grabWindow().save(value("photograph")) ? 0 : 1); });
     }
     return QGuiApplication::exec();
 }

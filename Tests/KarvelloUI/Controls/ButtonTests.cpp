@@ -79,7 +79,8 @@ TEST_F(KarvelloButton, TakesTheWidthOfItsTextAndGrowsWithIt)
     EXPECT_EQ(find("icon")->width(), 34);
     const qreal width = find("long")->width();
     EXPECT_GT(width, 200);
-    m_design.setTextEnvironment({.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
+    m_design.setTextEnvironment(
+        {.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
     EXPECT_GT(find("long")->width(), 1.7 * width);
     EXPECT_EQ(find("short")->height(), 68);
     EXPECT_GE(find("icon")->height(), 60);

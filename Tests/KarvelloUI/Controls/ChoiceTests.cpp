@@ -27,7 +27,8 @@ TEST_F(KarvelloCheckBox, TogglesOnceByMouseKeyAndAssistant)
 
 TEST_F(KarvelloCheckBox, BecomesCheckedFromMixed)
 {
-    show("KarvelloCheckBox { objectName: 'box'; tristate: true; checkState: Qt.PartiallyChecked; accessibleName: 'Safe' }");
+    show("KarvelloCheckBox { objectName: 'box'; tristate: true; checkState: Qt.PartiallyChecked; accessibleName: "
+         "'Safe' }");
     auto* const box = find("box");
     EXPECT_TRUE(spoken(box)->state().checkStateMixed);
     EXPECT_FALSE(spoken(box)->state().checked);
@@ -81,9 +82,10 @@ TEST_F(KarvelloSwitch, TogglesOnceByMouseKeyAndAssistant)
 
 namespace {
 
-constexpr const char* kPicker = "KarvelloSegmentedControl { objectName: 'picker'; accessibleName: 'Scan mode';"
-                                " choices: ['Standard', 'Aggressive', 'Direct']; onActivated: index => currentIndex = index }"
-                                "KarvelloButton { objectName: 'after'; text: 'after' }";
+constexpr const char* kPicker =
+    "KarvelloSegmentedControl { objectName: 'picker'; accessibleName: 'Scan mode';"
+    " choices: ['Standard', 'Aggressive', 'Direct']; onActivated: index => currentIndex = index }"
+    "KarvelloButton { objectName: 'after'; text: 'after' }";
 
 } // namespace
 

@@ -41,8 +41,10 @@ TEST_F(KarvelloText, ShowsAllOfAnElidedTextUnderThePointer)
 
 TEST_F(KarvelloTextField, EscapeClearsFirstAndIsLeftToOthersThen)
 {
-    show("Item { objectName: 'outer'; property int escapes: 0; width: 300; height: 40; Keys.onEscapePressed: escapes += 1;"
-         " KarvelloTextField { objectName: 'field'; text: 'firefox'; placeholderText: 'Search'; clearName: 'Clear' } }");
+    show(
+        "Item { objectName: 'outer'; property int escapes: 0; width: 300; height: 40; Keys.onEscapePressed: escapes += "
+        "1;"
+        " KarvelloTextField { objectName: 'field'; text: 'firefox'; placeholderText: 'Search'; clearName: 'Clear' } }");
     auto* const field = find("field");
     field->forceActiveFocus(Qt::TabFocusReason);
     EXPECT_EQ(nameOf(field), "Search");
@@ -157,11 +159,14 @@ TEST_F(KarvelloCard, GrowsWithItsContentAndTextEvenAtTwoHundredPercent)
          " KarvelloText { objectName: 'text'; Layout.fillWidth: true; wrapMode: Text.Wrap;"
          " text: 'Home stays status-and-summary only. Cleanup moves only selected review items to Trash.' } }");
     auto* const card = find("card");
-    const auto fits = [&] { return find("text")->mapToItem(card, {0, find("text")->height()}).y() <= card->height() - 20; };
+    const auto fits = [&] {
+        return find("text")->mapToItem(card, {0, find("text")->height()}).y() <= card->height() - 20;
+    };
     EXPECT_EQ(nameOf(card), "Safety baseline");
     EXPECT_TRUE(fits());
     const qreal height = card->height();
-    m_design.setTextEnvironment({.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
+    m_design.setTextEnvironment(
+        {.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
     EXPECT_TRUE(QTest::qWaitFor([&] { return card->height() > 1.8 * height; }));
     EXPECT_TRUE(fits());
 }

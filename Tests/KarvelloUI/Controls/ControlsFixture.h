@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 namespace KarvelloUI {
@@ -32,7 +33,7 @@ protected:
         m_design.setReducedMotion(true);
     }
 
-    /// Shows a window with these items, one below the other. Empty after a failure.
+    /// Shows a window with these items, one below the other. A throw ends the test.
     void show(const char* items)
     {
         QQmlComponent component(&m_engine);
@@ -40,17 +41,23 @@ protected:
                                      "Window { width: 640; height: 480; visible: true; Column { width: parent.width\n")
                 + items + "\n} }",
             {});
+        if (!component.isReady()) {
+            throw std::runtime_error(component.errorString().toStdString());
+        }
         m_window.reset(qobject_cast<QQuickWindow*>(component.create()));
-        ASSERT_TRUE(m_window) << component.errorString().toStdString();
         m_window->requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        if (!QTest::qWaitForWindowActive(m_window.get())) {
+            throw std::runtime_error("the window never became active");
+        }
     }
 
     template <typename T = QQuickItem>
     T* find(const char* name)
     {
         auto* const found = m_window->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_TRUE(found) << name;
+        if (found == nullptr) {
+            throw std::runtime_error(name);
+        }
         return found;
     }
 

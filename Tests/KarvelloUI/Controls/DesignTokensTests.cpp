@@ -20,7 +20,8 @@ TEST(DesignTokens, HasEveryColourOfThePaletteUnderItsNameInBothSchemes)
     for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
         design.setPlatformScheme(scheme);
         for (const auto& field : KarvelloDesign::kPaletteFields) {
-            EXPECT_EQ(colorNamed(design, field.name), qtColor(KarvelloDesign::palette(scheme).*field.color)) << field.name;
+            EXPECT_EQ(colorNamed(design, field.name), qtColor(KarvelloDesign::palette(scheme).*field.color))
+                << field.name;
         }
     }
 }
@@ -60,8 +61,10 @@ TEST(DesignTokens, ScalesEveryTextStyleByBothScales)
     EXPECT_EQ(design.body()->font().pixelSize(), 13);
     EXPECT_EQ(design.display()->font().pixelSize(), 44);
     EXPECT_EQ(design.textFactor(), 1);
-    design.setTextEnvironment({.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
-    design.setTextEnvironment({.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
+    design.setTextEnvironment(
+        {.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
+    design.setTextEnvironment(
+        {.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
     EXPECT_EQ(design.body()->font().pixelSize(), 26);
     EXPECT_EQ(design.label()->font().pixelSize(), 22);
     EXPECT_DOUBLE_EQ(design.textFactor(), 1.38 * 1.45);

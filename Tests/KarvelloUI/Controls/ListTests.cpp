@@ -98,8 +98,7 @@ TEST_F(KarvelloListRow, TogglesNothingThatMayNotBeSelected)
 TEST_F(KarvelloListRow, SaysAllOfItselfAsOneCheckBox)
 {
     showRow("; isChecked: true; warning: 'Firefox is running'");
-    EXPECT_EQ(nameOf(m_row),
-        "pip, Safe, 1.27 GB, ~/.cache/pip, Firefox is running, Package-manager caches, 26 days");
+    EXPECT_EQ(nameOf(m_row), "pip, Safe, 1.27 GB, ~/.cache/pip, Firefox is running, Package-manager caches, 26 days");
     EXPECT_EQ(spoken(m_row)->role(), QAccessible::CheckBox);
     EXPECT_TRUE(spoken(m_row)->state().checked);
     // Only the menu is left to be found inside.
@@ -111,7 +110,8 @@ TEST_F(KarvelloListRow, GrowsWithItsTextAtTwoHundredPercent)
 {
     showRow();
     EXPECT_EQ(m_row->height(), 54);
-    m_design.setTextEnvironment({.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
+    m_design.setTextEnvironment(
+        {.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_row->height() >= 76; }));
 }
 

@@ -18,6 +18,7 @@ T.Control {
     property string closeName
 
     readonly property bool isNotice: kind === KarvelloBanner.Notice
+    readonly property int spokenRole: isNotice ? Accessible.Note : Accessible.AlertMessage
     readonly property color ink: [KarvelloDesign.ink3, KarvelloDesign.accent, KarvelloDesign.caution, KarvelloDesign.review][kind]
     readonly property color ground: [KarvelloDesign.elevated2, KarvelloDesign.accentSoft, KarvelloDesign.cautionSoft,
         KarvelloDesign.reviewSoft][kind]
@@ -30,7 +31,10 @@ T.Control {
     horizontalPadding: KarvelloDesign.spacing16
     verticalPadding: KarvelloDesign.spacing12
 
-    Accessible.role: isNotice ? Accessible.Note : Accessible.AlertMessage
+    Accessible.role: spokenRole
+    // A control of Qt takes its own role once an assistant is there, whatever was bound.
+    Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
+    onSpokenRoleChanged: Accessible.role = spokenRole
     Accessible.name: title !== "" ? title : text
     Accessible.description: title !== "" ? text : ""
 

@@ -25,8 +25,9 @@ Rectangle {
 
     ColumnLayout {
         id: column
-        anchors.fill: parent
-        anchors.margins: control.padding
+        x: control.padding
+        y: control.padding
+        width: parent.width - 2 * control.padding
         spacing: KarvelloDesign.spacing12
 
         RowLayout {

@@ -14,15 +14,13 @@ T.CheckBox {
     readonly property bool isMarked: checkState !== Qt.Unchecked
 
     enabled: !isLocked
-    implicitWidth: Math.max(indicator.implicitWidth + leftPadding + rightPadding
-        + (text === "" ? 0 : spacing + implicitContentWidth), 32)
+    implicitWidth: Math.max(leftPadding + rightPadding + (text === "" ? indicator.implicitWidth : implicitContentWidth), 32)
     implicitHeight: Math.max(indicator.implicitHeight + topPadding + bottomPadding, implicitContentHeight, 32)
     padding: KarvelloDesign.spacing8
     spacing: KarvelloDesign.spacing8
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    nextCheckState: () => control.isAsking ? control.checkState
-        : control.checkState === Qt.Checked ? Qt.Unchecked : Qt.Checked
+    nextCheckState: isAsking ? () => control.checkState : undefined
 
     Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName

@@ -25,6 +25,11 @@ T.Dialog {
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape
+    onAboutToShow: {
+        // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
+        contentItem.parent.Accessible.name = title
+        contentItem.parent.Accessible.description = message
+    }
     onOpened: cancelButton.forceActiveFocus(Qt.TabFocusReason)
 
     enter: Transition {

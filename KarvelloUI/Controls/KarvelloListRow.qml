@@ -21,6 +21,7 @@ T.ItemDelegate {
     property bool isChecked: false
     property bool isSelectable: true
     property bool isOpen: false
+    readonly property int spokenRole: isSelectable ? Accessible.CheckBox : Accessible.ListItem
     property string accessibleName: KarvelloDesign.spoken([name, pillText, size, path, warning, reason, age])
     // What the menu button is called.
     required property string menuName
@@ -42,7 +43,10 @@ T.ItemDelegate {
     focusPolicy: Qt.StrongFocus
     onClicked: toggleIfSelectable()
 
-    Accessible.role: isSelectable ? Accessible.CheckBox : Accessible.ListItem
+    Accessible.role: spokenRole
+    // A control of Qt takes its own role once an assistant is there, whatever was bound.
+    Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
+    onSpokenRoleChanged: Accessible.role = spokenRole
     Accessible.name: accessibleName
     Accessible.checkable: isSelectable
     Accessible.checked: isSelectable && isChecked
@@ -60,9 +64,10 @@ T.ItemDelegate {
         else
             event.accepted = false
     }
-    TapHandler {
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onTapped: control.menuRequested()
+        onClicked: control.menuRequested()
     }
 
     contentItem: RowLayout {

@@ -10,7 +10,7 @@ Rectangle {
     property string iconName
     readonly property color ink: KarvelloDesign.pillForegrounds[kind]
 
-    implicitWidth: row.implicitWidth + 14
+    implicitWidth: Math.ceil(label.implicitWidth) + icon.place + 14
     implicitHeight: Math.max(Math.round(20 * KarvelloDesign.textFactor), label.implicitHeight + 4)
     radius: KarvelloDesign.pillRadius
     color: KarvelloDesign.pillBackgrounds[kind]
@@ -21,11 +21,12 @@ Rectangle {
     Accessible.name: text
 
     Row {
-        id: row
         anchors.centerIn: parent
         spacing: KarvelloDesign.spacing4
 
         KarvelloIcon {
+            id: icon
+            readonly property real place: visible ? width + KarvelloDesign.spacing4 : 0
             anchors.verticalCenter: parent.verticalCenter
             visible: control.iconName !== ""
             name: control.iconName
@@ -34,7 +35,7 @@ Rectangle {
         }
         KarvelloText {
             id: label
-            width: Math.min(implicitWidth, control.width - 14)
+            width: Math.min(implicitWidth, control.width - icon.place - 14)
             textStyle: KarvelloDesign.label
             // Two of the pairs are a little pale for a thinner word.
             emphasis: control.kind === KarvelloDesign.SafePill || control.kind === KarvelloDesign.CautionPill

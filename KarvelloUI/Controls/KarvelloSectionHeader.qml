@@ -16,6 +16,7 @@ T.Control {
     property bool isOpen: true
     // What is said of the selection.
     property string accessibleValue
+    readonly property int spokenRole: Accessible.Heading
 
     signal toggleRequested()
     signal openRequested(bool isOpen)
@@ -26,7 +27,10 @@ T.Control {
     rightPadding: KarvelloDesign.spacing16 + 28 + KarvelloDesign.spacing12
     verticalPadding: KarvelloDesign.spacing4
 
-    Accessible.role: Accessible.Heading
+    Accessible.role: spokenRole
+    // A control of Qt takes its own role once an assistant is there, whatever was bound.
+    Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
+    onSpokenRoleChanged: Accessible.role = spokenRole
     Accessible.name: KarvelloDesign.spoken([name, count, total])
     Accessible.description: accessibleValue
 
@@ -38,7 +42,6 @@ T.Control {
             Layout.rightMargin: -padding
             isLocked: !control.isSelectable
             checkState: control.checkState
-            tristate: true
             accessibleName: control.name
             isAsking: true
             onClicked: control.toggleRequested()

@@ -46,16 +46,20 @@ Rectangle {
 
                 required property int index
                 required property string modelData
+                readonly property int spokenRole: Accessible.RadioButton
                 readonly property bool isChosen: index === control.currentIndex
 
                 height: row.height
                 implicitWidth: implicitContentWidth + 2 * KarvelloDesign.spacing12
                 text: modelData
                 hoverEnabled: true
-                focusPolicy: isChosen ? Qt.StrongFocus : Qt.NoFocus
+                // What has the focus has to keep it until the chosen one takes it.
+                focusPolicy: isChosen || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                 onClicked: control.choose(index, Qt.MouseFocusReason)
 
-                Accessible.role: Accessible.RadioButton
+                Accessible.role: spokenRole
+                // A button of Qt takes its own role once an assistant is there, whatever was bound.
+                Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
                 Accessible.name: text
                 Accessible.checkable: true
                 Accessible.checked: isChosen

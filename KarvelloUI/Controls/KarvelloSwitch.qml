@@ -8,7 +8,7 @@ T.Switch {
     property string accessibleName: text
     property string disabledReason
 
-    implicitWidth: indicator.implicitWidth + leftPadding + rightPadding + (text === "" ? 0 : spacing + implicitContentWidth)
+    implicitWidth: leftPadding + rightPadding + (text === "" ? indicator.implicitWidth : implicitContentWidth)
     implicitHeight: Math.max(indicator.implicitHeight + topPadding + bottomPadding, implicitContentHeight, 28)
     padding: KarvelloDesign.spacing4
     spacing: KarvelloDesign.spacing8

@@ -64,7 +64,7 @@ Window {
                 Layout.fillWidth: true
                 spacing: KarvelloDesign.spacing12
                 KarvelloCheckBox { text: "Checked"; checkState: Qt.Checked }
-                KarvelloCheckBox { text: "Mixed"; tristate: true; checkState: Qt.PartiallyChecked }
+                KarvelloCheckBox { text: "Mixed"; checkState: Qt.PartiallyChecked }
                 KarvelloCheckBox { text: "Open" }
                 KarvelloCheckBox { text: "Locked"; isLocked: true }
                 KarvelloCheckBox { text: "Disabled"; enabled: false; checkState: Qt.Checked }

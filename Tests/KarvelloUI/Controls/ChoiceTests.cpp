@@ -27,7 +27,7 @@ TEST_F(KarvelloCheckBox, TogglesOnceByMouseKeyAndAssistant)
 
 TEST_F(KarvelloCheckBox, BecomesCheckedFromMixed)
 {
-    show("KarvelloCheckBox { objectName: 'box'; tristate: true; checkState: Qt.PartiallyChecked; accessibleName: "
+    show("KarvelloCheckBox { objectName: 'box'; checkState: Qt.PartiallyChecked; accessibleName: "
          "'Safe' }");
     auto* const box = find("box");
     EXPECT_TRUE(spoken(box)->state().checkStateMixed);

@@ -83,8 +83,6 @@ TEST_F(KarvelloProgressBar, ShowsAStillPieceWithoutAKnownFraction)
     EXPECT_EQ(filled("little"), 8);
     EXPECT_EQ(spoken(find("known"))->role(), QAccessible::ProgressBar);
     EXPECT_EQ(nameOf(find("known")), "Scan");
-    ASSERT_TRUE(spoken(find("known"))->valueInterface());
-    EXPECT_EQ(spoken(find("known"))->valueInterface()->currentValue().toDouble(), 0.5);
 }
 
 TEST_F(KarvelloRing, ShowsNothingForAnUnknownShareAndNeverMoreThanAll)
@@ -130,6 +128,7 @@ TEST_F(KarvelloPillItem, SaysItsWordAndIsNoTallerThanItsText)
     show("KarvelloPill { objectName: 'pill'; text: 'Safe'; kind: KarvelloDesign.SafePill }");
     EXPECT_EQ(nameOf(find("pill")), "Safe");
     EXPECT_EQ(find("pill")->height(), 20);
+    EXPECT_GT(find("pill")->width(), 34);
     EXPECT_EQ(find("pill")->property("color").value<QColor>(), qtColor(KarvelloDesign::lightPalette.safeSoft));
 }
 

@@ -1,10 +1,9 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Karvello.Design
 
 // Caution, review and accent need attention and are alerts; a notice is only to know.
-T.Control {
+Rectangle {
     id: control
 
     enum Kind { Notice, Accent, Caution, Review }
@@ -18,7 +17,6 @@ T.Control {
     property string closeName
 
     readonly property bool isNotice: kind === KarvelloBanner.Notice
-    readonly property int spokenRole: isNotice ? Accessible.Note : Accessible.AlertMessage
     readonly property color ink: [KarvelloDesign.ink3, KarvelloDesign.accent, KarvelloDesign.caution, KarvelloDesign.review][kind]
     readonly property color ground: [KarvelloDesign.elevated2, KarvelloDesign.accentSoft, KarvelloDesign.cautionSoft,
         KarvelloDesign.reviewSoft][kind]
@@ -27,18 +25,21 @@ T.Control {
     signal closeRequested()
 
     implicitWidth: 480
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    horizontalPadding: KarvelloDesign.spacing16
-    verticalPadding: KarvelloDesign.spacing12
+    implicitHeight: row.implicitHeight + 2 * KarvelloDesign.spacing12
+    radius: KarvelloDesign.bannerRadius
+    color: ground
+    border.width: isNotice ? 1 : 0
+    border.color: KarvelloDesign.line
 
-    Accessible.role: spokenRole
-    // A control of Qt takes its own role once an assistant is there, whatever was bound.
-    Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
-    onSpokenRoleChanged: Accessible.role = spokenRole
+    Accessible.role: isNotice ? Accessible.Note : Accessible.AlertMessage
     Accessible.name: title !== "" ? title : text
     Accessible.description: title !== "" ? text : ""
 
-    contentItem: RowLayout {
+    RowLayout {
+        id: row
+        x: KarvelloDesign.spacing16
+        y: KarvelloDesign.spacing12
+        width: parent.width - 2 * KarvelloDesign.spacing16
         spacing: KarvelloDesign.spacing12
 
         KarvelloIcon {
@@ -81,12 +82,5 @@ T.Control {
             accessibleName: control.closeName
             onClicked: control.closeRequested()
         }
-    }
-
-    background: Rectangle {
-        radius: KarvelloDesign.bannerRadius
-        color: control.ground
-        border.width: control.isNotice ? 1 : 0
-        border.color: KarvelloDesign.line
     }
 }

@@ -21,7 +21,6 @@ T.Button {
 
     readonly property bool isSmall: size === KarvelloButton.Small
     readonly property bool isLink: kind === KarvelloButton.Link
-    readonly property int spokenRole: isLink ? Accessible.Link : Accessible.Button
     readonly property bool isStrong: kind === KarvelloButton.Primary || kind === KarvelloButton.Tonal
     readonly property real baseHeight: isSmall ? 28 : size === KarvelloButton.Large ? 40 : 34
     readonly property color ink: !enabled ? KarvelloDesign.ink4
@@ -46,10 +45,6 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     opacity: down ? 0.92 : 1
 
-    Accessible.role: spokenRole
-    // A control of Qt takes its own role once an assistant is there, whatever was bound.
-    Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
-    onSpokenRoleChanged: Accessible.role = spokenRole
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : disabledReason
     Accessible.onPressAction: {

@@ -14,6 +14,9 @@ T.Dialog {
     required property string cancelText
     property string acceptIconName: iconName
     property bool canAccept: true
+    // Gets the focus back.
+    property Item opener
+    property int openerReason: Qt.PopupFocusReason
 
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
@@ -25,7 +28,14 @@ T.Dialog {
     modal: true
     focus: true
     closePolicy: T.Popup.CloseOnEscape
+    onClosed: {
+        if (opener)
+            opener.forceActiveFocus(openerReason)
+        opener = null
+    }
     onAboutToShow: {
+        opener = parent.Window.activeFocusItem
+        openerReason = (opener as T.Control)?.visualFocus ? Qt.TabFocusReason : Qt.PopupFocusReason
         // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
         contentItem.parent.Accessible.name = title
         contentItem.parent.Accessible.description = message

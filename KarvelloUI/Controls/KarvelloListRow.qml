@@ -5,7 +5,7 @@ import Karvello.Design
 
 // One item of a list: box, tile, name over path, reason, pill, age and size. A press on the box or on a blank place toggles,
 // one on the texts or on the chevron opens the details. It holds no state: whoever owns the selection sets `isChecked`.
-T.ItemDelegate {
+T.CheckDelegate {
     id: control
 
     required property string name
@@ -21,7 +21,6 @@ T.ItemDelegate {
     property bool isChecked: false
     property bool isSelectable: true
     property bool isOpen: false
-    readonly property int spokenRole: isSelectable ? Accessible.CheckBox : Accessible.ListItem
     property string accessibleName: KarvelloDesign.spoken([name, pillText, size, path, warning, reason, age])
     // What the menu button is called.
     required property string menuName
@@ -35,6 +34,8 @@ T.ItemDelegate {
             control.toggleRequested()
     }
 
+    // Its kind is what makes it a check box for assistants; the state is the owner's.
+    checkable: false
     implicitWidth: 640
     implicitHeight: Math.max(54, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
     horizontalPadding: KarvelloDesign.spacing16
@@ -43,10 +44,6 @@ T.ItemDelegate {
     focusPolicy: Qt.StrongFocus
     onClicked: toggleIfSelectable()
 
-    Accessible.role: spokenRole
-    // A control of Qt takes its own role once an assistant is there, whatever was bound.
-    Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
-    onSpokenRoleChanged: Accessible.role = spokenRole
     Accessible.name: accessibleName
     Accessible.checkable: isSelectable
     Accessible.checked: isSelectable && isChecked

@@ -1,10 +1,9 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Karvello.Design
 
 // The band over a section of a list: a box for all its visible rows, name, count, note and sum.
-T.Control {
+Rectangle {
     id: control
 
     required property string name
@@ -16,25 +15,24 @@ T.Control {
     property bool isOpen: true
     // What is said of the selection.
     property string accessibleValue
-    readonly property int spokenRole: Accessible.Heading
 
     signal toggleRequested()
     signal openRequested(bool isOpen)
 
     implicitWidth: 640
-    implicitHeight: Math.max(40, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
-    leftPadding: KarvelloDesign.spacing16
-    rightPadding: KarvelloDesign.spacing16 + 28 + KarvelloDesign.spacing12
-    verticalPadding: KarvelloDesign.spacing4
+    implicitHeight: Math.max(40, Math.ceil(row.implicitHeight) + 2 * KarvelloDesign.spacing4)
+    color: KarvelloDesign.elevated2
 
-    Accessible.role: spokenRole
-    // A control of Qt takes its own role once an assistant is there, whatever was bound.
-    Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
-    onSpokenRoleChanged: Accessible.role = spokenRole
+    Accessible.role: Accessible.Heading
     Accessible.name: KarvelloDesign.spoken([name, count, total])
     Accessible.description: accessibleValue
 
-    contentItem: RowLayout {
+    RowLayout {
+        id: row
+        anchors.fill: parent
+        anchors.leftMargin: KarvelloDesign.spacing16
+        // The sums stand over the sizes of the rows, beside whose menu there is nothing here.
+        anchors.rightMargin: KarvelloDesign.spacing16 + 28 + KarvelloDesign.spacing12
         spacing: KarvelloDesign.spacing12
 
         KarvelloCheckBox {
@@ -85,18 +83,15 @@ T.Control {
         }
     }
 
-    background: Rectangle {
-        color: KarvelloDesign.elevated2
-        Rectangle {
-            width: parent.width
-            height: 1
-            color: KarvelloDesign.line
-        }
-        Rectangle {
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: 1
-            color: KarvelloDesign.lineSoft
-        }
+    Rectangle {
+        width: parent.width
+        height: 1
+        color: KarvelloDesign.line
+    }
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 1
+        color: KarvelloDesign.lineSoft
     }
 }

@@ -41,14 +41,15 @@ Rectangle {
             id: segments
             model: control.choices
 
-            T.AbstractButton {
+            // Its kind is what makes it a choice for assistants; the state is the owner's.
+            T.RadioButton {
                 id: segment
 
                 required property int index
                 required property string modelData
-                readonly property int spokenRole: Accessible.RadioButton
                 readonly property bool isChosen: index === control.currentIndex
 
+                checkable: false
                 height: row.height
                 implicitWidth: implicitContentWidth + 2 * KarvelloDesign.spacing12
                 text: modelData
@@ -57,9 +58,6 @@ Rectangle {
                 focusPolicy: isChosen || activeFocus ? Qt.StrongFocus : Qt.NoFocus
                 onClicked: control.choose(index, Qt.MouseFocusReason)
 
-                Accessible.role: spokenRole
-                // A button of Qt takes its own role once an assistant is there, whatever was bound.
-                Accessible.onRoleChanged: if (Accessible.role !== spokenRole) Accessible.role = spokenRole
                 Accessible.name: text
                 Accessible.checkable: true
                 Accessible.checked: isChosen

@@ -47,12 +47,10 @@ TEST_F(KarvelloButton, DoesNothingWhileDisabledAndSaysWhy)
 TEST_F(KarvelloButton, SaysItsNameAndRole)
 {
     show("KarvelloButton { objectName: 'scan'; text: 'Scan' }"
-         "KarvelloButton { objectName: 'export'; iconName: 'export'; accessibleName: 'Export JSON' }"
-         "KarvelloButton { objectName: 'link'; text: 'Open'; kind: KarvelloButton.Link }");
+         "KarvelloButton { objectName: 'export'; iconName: 'export'; accessibleName: 'Export JSON' }");
     EXPECT_EQ(nameOf(find("scan")), "Scan");
     EXPECT_EQ(spoken(find("scan"))->role(), QAccessible::Button);
     EXPECT_EQ(nameOf(find("export")), "Export JSON");
-    EXPECT_EQ(spoken(find("link"))->role(), QAccessible::Link);
 }
 
 TEST_F(KarvelloButton, ShowsTheFocusOnlyForTheKeyboard)

@@ -1,9 +1,9 @@
 #include "KarvelloUI/Controls/IconProvider.h"
 
 #include <QColor>
-#include <QFile>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QResource>
 #include <QSvgRenderer>
 
 namespace KarvelloUI {
@@ -26,11 +26,11 @@ QImage IconProvider::requestImage(const QString& id, QSize* size, const QSize& r
 {
     static const QRegularExpression shape(QStringLiteral("^([a-z-]+)/([0-9a-f]{6})$"));
     const QRegularExpressionMatch match = shape.match(id);
-    QFile file(QStringLiteral(":/qt/qml/Karvello/Design/icons/%1.svg").arg(match.captured(1)));
-    if (!match.hasMatch() || !file.open(QIODevice::ReadOnly)) {
+    const QResource icon(QStringLiteral(":/qt/qml/Karvello/Design/icons/%1.svg").arg(match.captured(1)));
+    if (!match.hasMatch() || !icon.isValid()) {
         return {};
     }
-    QByteArray drawing = file.readAll();
+    QByteArray drawing = icon.uncompressedData();
     drawing.replace(kDrawnColor, '#' + match.captured(2).toLatin1());
     QSvgRenderer renderer(drawing);
 

@@ -21,8 +21,7 @@ QList<QColor> ofEachPill(const KarvelloDesign::Palette& palette, QColor (*choose
 DesignTokens::DesignTokens(QObject* parent)
     : DesignPalette(parent)
 {
-    const auto count = static_cast<std::uint8_t>(KarvelloTextStyle::onboardingBody) + 1;
-    for (std::uint8_t index = 0; index < count; ++index) {
+    for (int index = 0; index <= static_cast<int>(KarvelloTextStyle::onboardingBody); ++index) {
         m_styles.append(new DesignTextStyle(static_cast<KarvelloTextStyle>(index), this));
     }
 }

@@ -71,3 +71,31 @@ function(karvello_qt_layer name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOMOC_MOC_OPTIONS "-D_GLIBCXX_CONCEPTS")
   target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 endfunction()
+
+# The screens of a layer as a QML module: every .qml file of its folder, and the drawings below `icons`. Files of the build's
+# own making are compiled without our warnings.
+function(karvello_qml_module name)
+  cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "URI;FOLDER" "")
+  file(GLOB screens RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" CONFIGURE_DEPENDS "${MODULE_FOLDER}/*.qml")
+  file(GLOB drawings RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" CONFIGURE_DEPENDS "${MODULE_FOLDER}/icons/*.svg")
+  foreach(file IN LISTS screens drawings)
+    string(REPLACE "${MODULE_FOLDER}/" "" alias "${file}")
+    set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${alias}")
+  endforeach()
+  string(REPLACE "." "/" path "${MODULE_URI}")
+  qt_add_qml_module(${name}
+    URI ${MODULE_URI}
+    VERSION 1.0
+    OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}"
+    IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
+    RESOURCE_PREFIX /qt/qml
+    NO_PLUGIN
+    DEPENDENCIES QtQuick
+    QML_FILES ${screens}
+    RESOURCES ${drawings})
+  get_target_property(sources ${name} SOURCES)
+  list(FILTER sources INCLUDE REGEX "^${CMAKE_CURRENT_BINARY_DIR}/.*\\.cpp$")
+  set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+  # The registration that the build writes includes headers by their bare names.
+  target_include_directories(${name} PRIVATE "${MODULE_FOLDER}")
+endfunction()

@@ -16,13 +16,16 @@ FOLDERS = {
     "Platform/Base": ("Platform/Base",),
     "Platform/Files": ("Platform/Base", "Platform/Files"),
     "KarvelloUI/Copy": ("KarvelloUI/Copy", "CleanerCore", "Platform"),
+    "KarvelloUI/Design": ("KarvelloUI/Design", "KarvelloUI/Copy", "CleanerCore", "Platform"),
+    "KarvelloUI/Controls": ("KarvelloUI/Controls", "KarvelloUI/Design", "KarvelloUI/Copy", "CleanerCore", "Platform"),
     "KarvelloUI/Advisors": ("KarvelloUI/Advisors", "KarvelloUI/Copy", "CleanerCore", "Platform"),
     "KarvelloUI/Stores": ("KarvelloUI/Stores", "KarvelloUI/Copy", "KarvelloUI/Advisors", "CleanerCore",
                           "PlatformDesktop", "Platform"),
     "KarvelloUI/Sessions": ("KarvelloUI/Sessions", "KarvelloUI/Stores", "KarvelloUI/Copy", "KarvelloUI/Advisors",
                             "CleanerCore", "PlatformDesktop", "Platform"),
 }
-WITHOUT_QT = ("Platform/", "CleanerCore/", "KarvelloCLI/", "KarvelloUI/Copy/", "KarvelloUI/Advisors/")
+WITHOUT_QT = ("Platform/", "CleanerCore/", "KarvelloCLI/", "KarvelloUI/Copy/", "KarvelloUI/Advisors/",
+              "KarvelloUI/Design/")
 MAY_CHANGE_FILES = ("Platform/Files/", "Platform/Linux/", "Platform/macOS/")
 
 MAXIMUM_LINES = 400

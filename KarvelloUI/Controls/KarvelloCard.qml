@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Layouts
+import Karvello.Design
+
+// A sheet of the page: a head with a heading, a small line and something at its right, then the content.
+Rectangle {
+    id: control
+
+    default property alias content: body.data
+    property alias headItem: head.data
+    property string title
+    property string subtitle
+    // The one that is recommended among its neighbours.
+    property bool isFirstChoice: false
+    property int padding: KarvelloDesign.spacing20
+
+    implicitWidth: column.implicitWidth + 2 * padding
+    implicitHeight: column.implicitHeight + 2 * padding
+    radius: KarvelloDesign.cardRadius
+    color: KarvelloDesign.elevated1
+    border.color: isFirstChoice ? KarvelloDesign.accent : KarvelloDesign.line
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title
+
+    ColumnLayout {
+        id: column
+        x: control.padding
+        y: control.padding
+        width: parent.width - 2 * control.padding
+        spacing: KarvelloDesign.spacing12
+
+        RowLayout {
+            visible: control.title !== ""
+            spacing: KarvelloDesign.spacing12
+
+            ColumnLayout {
+                spacing: 2
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: control.title
+                    textStyle: KarvelloDesign.heading
+                    color: KarvelloDesign.ink
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.Heading
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    visible: text !== ""
+                    text: control.subtitle
+                    textStyle: KarvelloDesign.small
+                    color: KarvelloDesign.ink3
+                    wrapMode: Text.Wrap
+                }
+            }
+            RowLayout {
+                id: head
+                Layout.alignment: Qt.AlignTop
+                spacing: KarvelloDesign.spacing8
+            }
+        }
+        ColumnLayout {
+            id: body
+            spacing: KarvelloDesign.spacing12
+        }
+    }
+}

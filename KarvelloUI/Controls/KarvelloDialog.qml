@@ -1,0 +1,130 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Karvello.Design
+
+// Asks before something moves. Cancel comes first and has the focus, so a stray Return or Escape changes nothing. It is
+// `accepted` once, by the button alone.
+T.Dialog {
+    id: control
+
+    property string message
+    property string iconName: "trash"
+    required property string acceptText
+    required property string cancelText
+    property string acceptIconName: iconName
+    property bool canAccept: true
+    // Gets the focus back.
+    property Item opener
+    property int openerReason: Qt.PopupFocusReason
+
+    parent: T.Overlay.overlay
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? Math.round((parent.height - height) / 2) : 0
+    width: Math.min(520, parent ? parent.width - 2 * KarvelloDesign.spacing32 : 520)
+    implicitHeight: implicitHeaderHeight + implicitContentHeight + implicitFooterHeight + topPadding + bottomPadding
+    padding: KarvelloDesign.spacing24
+    topPadding: 0
+    modal: true
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape
+    onClosed: {
+        if (opener)
+            opener.forceActiveFocus(openerReason)
+        opener = null
+    }
+    onAboutToShow: {
+        opener = parent.Window.activeFocusItem
+        openerReason = (opener as T.Control)?.visualFocus ? Qt.TabFocusReason : Qt.PopupFocusReason
+        // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
+        contentItem.parent.Accessible.name = title
+        contentItem.parent.Accessible.description = message
+    }
+    onOpened: cancelButton.forceActiveFocus(Qt.TabFocusReason)
+
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: KarvelloDesign.expandDuration }
+    }
+    exit: Transition {
+        NumberAnimation { property: "opacity"; from: 1; to: 0; duration: KarvelloDesign.expandDuration }
+    }
+    T.Overlay.modal: Rectangle { color: KarvelloDesign.scrim }
+
+    header: Item {
+        implicitHeight: head.implicitHeight + control.padding + KarvelloDesign.spacing16
+
+        RowLayout {
+            id: head
+            x: control.padding
+            y: control.padding
+            width: parent.width - 2 * control.padding
+            spacing: KarvelloDesign.spacing16
+
+            IconTile {
+                Layout.alignment: Qt.AlignTop
+                size: 40
+                iconSize: 20
+                color: KarvelloDesign.accentSoft
+                tint: KarvelloDesign.accent
+                name: control.iconName
+            }
+            ColumnLayout {
+                spacing: KarvelloDesign.spacing4
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: control.title
+                    textStyle: KarvelloDesign.dialogTitle
+                    color: KarvelloDesign.ink
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.Heading
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    visible: text !== ""
+                    text: control.message
+                    wrapMode: Text.Wrap
+                }
+            }
+        }
+    }
+
+    contentItem: ColumnLayout { spacing: KarvelloDesign.spacing12 }
+
+    footer: Item {
+        implicitHeight: buttons.implicitHeight + 2 * KarvelloDesign.spacing16
+
+        Rectangle {
+            width: parent.width
+            height: 1
+            color: KarvelloDesign.line
+        }
+        RowLayout {
+            id: buttons
+            anchors.right: parent.right
+            anchors.rightMargin: control.padding
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, parent.width - 2 * control.padding)
+            spacing: KarvelloDesign.spacing12
+
+            KarvelloButton {
+                id: cancelButton
+                text: control.cancelText
+                onClicked: control.reject()
+            }
+            KarvelloButton {
+                Layout.fillWidth: true
+                kind: KarvelloButton.Primary
+                text: control.acceptText
+                iconName: control.acceptIconName
+                enabled: control.canAccept
+                onClicked: control.accept()
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: KarvelloDesign.cardRadius
+        color: KarvelloDesign.elevated1
+        border.color: KarvelloDesign.lineStrong
+    }
+}

@@ -1,0 +1,109 @@
+#include "Tests/KarvelloUI/Controls/ControlsFixture.h"
+
+namespace KarvelloUI {
+
+/// A button that opens a dialog.
+class KarvelloDialog : public Controls {
+protected:
+    void open()
+    {
+        show("KarvelloButton { objectName: 'opener'; text: 'Move'; onClicked: dialog.open();"
+             " KarvelloDialog { id: dialog; objectName: 'dialog'; title: 'Move selected items to Trash?';"
+             " message: 'This will move 2 items.'; acceptText: 'Move Selected to Trash'; cancelText: 'Cancel';"
+             " KarvelloText { text: 'Cleanup Preview' } } }");
+        m_dialog = find<QObject>("dialog");
+        m_accepted = std::make_unique<QSignalSpy>(m_dialog, SIGNAL(accepted()));
+        m_rejected = std::make_unique<QSignalSpy>(m_dialog, SIGNAL(rejected()));
+        find("opener")->forceActiveFocus(Qt::TabFocusReason);
+        key(Qt::Key_Return);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->property("opened").toBool(); }));
+    }
+
+    [[nodiscard]] std::string focused() const
+    {
+        return m_window->activeFocusItem()->property("text").toString().toStdString();
+    }
+    [[nodiscard]] bool isOpen() const { return m_dialog->property("visible").toBool(); }
+
+    QObject* m_dialog = nullptr;
+    std::unique_ptr<QSignalSpy> m_accepted;
+    std::unique_ptr<QSignalSpy> m_rejected;
+};
+
+TEST_F(KarvelloDialog, HasTheFocusOnCancelWhereItCanBeSeen)
+{
+    open();
+    EXPECT_EQ(focused(), "Cancel");
+    EXPECT_TRUE(m_window->activeFocusItem()->property("visualFocus").toBool());
+}
+
+TEST_F(KarvelloDialog, MovesNothingByAStrayReturn)
+{
+    open();
+    key(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+    EXPECT_EQ(m_accepted->count(), 0);
+    EXPECT_EQ(m_rejected->count(), 1);
+}
+
+TEST_F(KarvelloDialog, IsCancelledOnceByEscape)
+{
+    open();
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+    EXPECT_EQ(m_accepted->count(), 0);
+    EXPECT_EQ(m_rejected->count(), 1);
+}
+
+TEST_F(KarvelloDialog, KeepsTheKeyboardInsideAndIsAcceptedByItsButton)
+{
+    open();
+    key(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "Move Selected to Trash");
+    key(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "Cancel");
+    key(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), "Move Selected to Trash");
+    key(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+    EXPECT_EQ(m_accepted->count(), 1);
+    EXPECT_EQ(m_rejected->count(), 0);
+}
+
+TEST_F(KarvelloDialog, CannotBeAcceptedBeforeItMayBe)
+{
+    open();
+    m_dialog->setProperty("canAccept", false);
+    key(Qt::Key_Tab);
+    key(Qt::Key_Return);
+    EXPECT_EQ(m_accepted->count(), 0);
+}
+
+TEST_F(KarvelloDialog, GivesTheFocusBackToWhatOpenedIt)
+{
+    open();
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return find("opener")->hasActiveFocus(); }));
+}
+
+TEST_F(KarvelloDialog, SaysItsTitleAndIsADialog)
+{
+    open();
+    QAccessibleInterface* found = nullptr;
+    for (QObject* const child : m_window->findChildren<QQuickItem*>()) {
+        QAccessibleInterface* const item = spoken(child);
+        found = item != nullptr && item->role() == QAccessible::Dialog ? item : found;
+    }
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->text(QAccessible::Name), QStringLiteral("Move selected items to Trash?"));
+}
+
+TEST_F(KarvelloDialog, DoesNotCloseByAClickBesideIt)
+{
+    open();
+    QTest::mouseClick(m_window.get(), Qt::LeftButton, Qt::NoModifier, QPoint(4, 470));
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(m_rejected->count(), 0);
+}
+
+} // namespace KarvelloUI

@@ -20,7 +20,7 @@ std::vector<AppsRow> appsRows(std::span<const Platform::RunningApplication> appl
     std::unordered_map<std::int32_t, std::size_t> processCounts;
     for (const auto& application : applications) {
         snapshots.push_back(ResourceReliefProcessSnapshot::of(application));
-        processCounts.emplace(application.processIdentifier, application.processCount);
+        processCounts.emplace(application.processIdentifier, application.processes.size());
     }
     const ResourceReliefPolicy policy(ownProcess, std::nullopt, ResourceReliefCapability::unknown());
     std::vector<AppsRow> rows;

@@ -11,17 +11,25 @@ CleanupSafetyBreakdown::CleanupSafetyBreakdown(std::span<const CleanupCandidate>
 
 void CleanupSafetyBreakdown::add(CleanupSafety safety)
 {
+    ++count(safety);
+}
+
+void CleanupSafetyBreakdown::remove(CleanupSafety safety)
+{
+    --count(safety);
+}
+
+std::int64_t& CleanupSafetyBreakdown::count(CleanupSafety safety)
+{
     switch (safety) {
     case CleanupSafety::safe:
-        ++safeCount;
-        return;
+        return safeCount;
     case CleanupSafety::caution:
-        ++cautionCount;
-        return;
+        return cautionCount;
     case CleanupSafety::manualReview:
-        ++manualReviewCount;
-        return;
+        break;
     }
+    return manualReviewCount;
 }
 
 } // namespace CleanerCore

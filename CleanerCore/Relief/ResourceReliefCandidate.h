@@ -31,8 +31,8 @@ struct ResourceReliefCandidateID {
 
 /// A running application in the list of those that could be asked to quit, with the answer whether it may be.
 struct ResourceReliefCandidate {
-    ResourceReliefCandidateID id;
-    std::string displayName;
+    ResourceReliefCandidateID id = {};
+    std::string displayName = {};
     std::optional<std::string> bundleIdentifier = {};
     std::int32_t processIdentifier = 0;
     bool isFrontmost = false;

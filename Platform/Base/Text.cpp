@@ -89,22 +89,6 @@ void appendScalar(std::string& text, char32_t scalar)
 
 #pragma GCC diagnostic pop
 
-/// The number of leading bytes that form characters.
-std::size_t lengthOfValidPrefix(std::string_view bytes)
-{
-    auto rest = bytes;
-    for (;;) {
-        rest.remove_prefix(lengthOfASCIIPrefix(rest));
-        if (rest.empty()) {
-            return bytes.size();
-        }
-        const auto before = rest.size();
-        if (takeCharacter(rest) < 0) {
-            return bytes.size() - before;
-        }
-    }
-}
-
 bool isInCategories(char32_t scalar, std::uint32_t categories)
 {
     return (U_GET_GC_MASK(static_cast<UChar32>(scalar)) & categories) != 0;
@@ -126,6 +110,21 @@ void appendLowercased(std::string& result, std::string_view validText)
 }
 
 } // namespace
+
+std::size_t lengthOfValidPrefix(std::string_view bytes)
+{
+    auto rest = bytes;
+    for (;;) {
+        rest.remove_prefix(lengthOfASCIIPrefix(rest));
+        if (rest.empty()) {
+            return bytes.size();
+        }
+        const auto before = rest.size();
+        if (takeCharacter(rest) < 0) {
+            return bytes.size() - before;
+        }
+    }
+}
 
 bool isValidUTF8(std::string_view bytes)
 {

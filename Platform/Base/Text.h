@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,8 @@
 namespace Platform::Text {
 
 [[nodiscard]] bool isValidUTF8(std::string_view bytes);
+/// The number of leading bytes that form characters.
+[[nodiscard]] std::size_t lengthOfValidPrefix(std::string_view bytes);
 
 /// Valid UTF-8 for any bytes: each byte that is part of no character becomes `mark` and two upper-case hexadecimal
 /// digits, "\xHH" unless told otherwise; the rest stands as it is.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <tuple>
 #include <unistd.h>
 #include <utility>
 
@@ -76,7 +77,15 @@ RunningApplication LinuxRunningApplications::applicationOf(const ApplicationGrou
         application.isUserVisible = group.entry->isShown;
     }
     application.processIdentifier = group.leader.processIdentifier;
-    application.processCount = group.members.size();
+    application.processes.reserve(group.members.size());
+    for (const auto& member : group.members) {
+        application.processes.push_back(
+            {.processIdentifier = member.processIdentifier, .startTicks = member.startTicks});
+    }
+    std::ranges::sort(application.processes, {}, [&group](const ProcessIdentity& process) {
+        const bool follows = process.processIdentifier != group.leader.processIdentifier;
+        return std::tuple(follows, process.startTicks, process.processIdentifier);
+    });
     if (m_startOfMachine) {
         application.launchDate = Date::fromUnixTime(*m_startOfMachine)
                                      .addingSeconds(static_cast<double>(group.leader.startTicks)

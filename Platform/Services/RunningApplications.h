@@ -2,7 +2,6 @@
 
 #include "Platform/Base/Date.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <expected>
 #include <optional>
@@ -12,18 +11,28 @@
 
 namespace Platform {
 
+/// Names a process for good: its number alone may be given out again.
+struct ProcessIdentity {
+    std::int32_t processIdentifier = 0;
+    /// In ticks since the start of the machine.
+    std::uint64_t startTicks = 0;
+
+    friend bool operator==(const ProcessIdentity&, const ProcessIdentity&) = default;
+};
+
 /// An application of this user that runs. It may have many processes; one of them, its first, stands for it.
 struct RunningApplication {
     std::optional<std::string> displayName = {};
     std::optional<std::string> bundleIdentifier = {};
-    /// Together with `launchDate` it names the process for good: the number alone may be given out again.
+    /// Together with `launchDate` it names the process that stands for the application.
     std::int32_t processIdentifier = 0;
     bool isFrontmost = false;
     bool isTerminated = false;
     /// It has a face that the user knows, and is no helper in the background.
     bool isUserVisible = false;
     std::optional<Date> launchDate = {};
-    std::size_t processCount = 1;
+    /// The one that stands for all comes first, the others follow as they were started.
+    std::vector<ProcessIdentity> processes = {};
 
     /// From 0 to 1, of all processors together.
     std::optional<double> cpuFractionOfTotalCapacity = {};

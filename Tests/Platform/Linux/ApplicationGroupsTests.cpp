@@ -17,7 +17,7 @@ TEST_F(ApplicationGroupsTest, TheDesktopFileOfAUnitNamesTheApplication)
             .processIdentifier = 10,
             .isUserVisible = true,
             .launchDate = Date{10.5},
-            .processCount = 1}));
+            .processes = {{.processIdentifier = 10, .startTicks = 1050}}}));
 }
 
 TEST_F(ApplicationGroupsTest, WithoutADesktopFileThereIsNoIdentifier)
@@ -93,9 +93,9 @@ TEST_F(ApplicationGroupsTest, WhatAnApplicationStartsBelongsToIt)
     add({.number = 21, .start = 110, .parent = 20, .program = "bash"});
     const auto found = list();
     ASSERT_EQ(found.size(), 3U);
-    EXPECT_EQ(found[0].processCount, 3U);
+    EXPECT_EQ(found[0].processes.size(), 3U);
     EXPECT_EQ(found[1].bundleIdentifier, "org.example.Notes");
-    EXPECT_EQ(found[2].processCount, 1U) << "what the desktop's own programs start is not theirs";
+    EXPECT_EQ(found[2].processes.size(), 1U) << "what the desktop's own programs start is not theirs";
 }
 
 TEST_F(ApplicationGroupsTest, ParentsInACircleEnd)
@@ -110,7 +110,7 @@ TEST_F(ApplicationGroupsTest, AUnitThatTellsNothingIsWhatItsFirstProcessIs)
     add({.number = 10, .start = 100, .unit = "app-gnome-unknown-10.scope", .program = "editor"});
     add({.number = 11, .start = 110, .unit = "app-gnome-unknown-10.scope", .program = "notes"});
     EXPECT_EQ(identifiers(), std::vector<std::string>{"editor"});
-    EXPECT_EQ(list()[0].processCount, 2U);
+    EXPECT_EQ(list()[0].processes.size(), 2U);
 }
 
 TEST_F(ApplicationGroupsTest, TheOwnProcessIsNoPartOfItsTerminal)
@@ -134,7 +134,7 @@ TEST_F(ApplicationGroupsTest, TheOwnProcessStandsForItsOwnApplication)
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].processIdentifier, kOwn);
     EXPECT_EQ(found[0].bundleIdentifier, "editor");
-    EXPECT_EQ(found[0].processCount, 3U);
+    EXPECT_EQ(found[0].processes.size(), 3U);
 }
 
 } // namespace

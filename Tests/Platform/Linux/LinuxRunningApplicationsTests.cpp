@@ -20,7 +20,8 @@ TEST_F(LinuxRunningApplicationsTest, ProcessesOfOneApplicationAreOneRowWithTheir
     const auto found = measured();
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].processIdentifier, 12) << "the first that was started stands for all";
-    EXPECT_EQ(found[0].processCount, 3U);
+    EXPECT_THAT(found[0].processes,
+        testing::ElementsAre(ProcessIdentity{12, 90}, ProcessIdentity{10, 95}, ProcessIdentity{20, 200}));
     EXPECT_EQ(found[0].residentMemoryBytes, 125U * 1024);
     EXPECT_EQ(found[0].memoryFractionOfPhysicalMemory, 0.125);
 }

@@ -24,6 +24,7 @@ namespace RunningApplicationsTests {
 using Platform::Date;
 using Platform::LinuxRunningApplications;
 using Platform::LinuxSystemStatistics;
+using Platform::ProcessIdentity;
 using Platform::RunningApplication;
 using Platform::RunningApplications;
 

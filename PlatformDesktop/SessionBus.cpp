@@ -1,0 +1,117 @@
+#include "PlatformDesktop/SessionBus.h"
+
+#include <QtCore/QVariant>
+#include <QtDBus/QDBusArgument>
+#include <QtDBus/QDBusError>
+#include <QtDBus/QDBusSignature>
+#include <algorithm>
+#include <atomic>
+#include <utility>
+
+namespace PlatformDesktop {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kPatienceWithTheBus = 1000ms;
+constexpr auto kPatienceWithAnApplication = 2000ms;
+
+QString newConnectionName()
+{
+    static std::atomic<unsigned> count = 0;
+    return QStringLiteral("karvello-session-bus-%1").arg(++count);
+}
+
+QDBusMessage callOfTheBus(const char* method, const QString& argument)
+{
+    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"), QLatin1String(method));
+    message.setArguments({argument});
+    return message;
+}
+
+/// Where an application of this name puts its objects (Desktop Entry Specification, "D-Bus Activation").
+QString objectPathOf(const std::string& identifier)
+{
+    auto path = "/" + identifier;
+    std::ranges::replace(path, '.', '/');
+    std::ranges::replace(path, '-', '_');
+    return QString::fromStdString(path);
+}
+
+/// GIO's "D-Bus API for exporting action groups".
+QDBusMessage callOfActions(const SessionBus::Owner& application, const std::string& identifier, const char* method)
+{
+    return QDBusMessage::createMethodCall(
+        application.connection, objectPathOf(identifier), QStringLiteral("org.gtk.Actions"), QLatin1String(method));
+}
+
+} // namespace
+
+// By its kind, not by its address: after a refusal of the bus, Qt does not close what it has opened by an address, which
+// libdbus answers with the end of the program.
+SessionBus::SessionBus()
+    : m_connection(QDBusConnection::connectToBus(QDBusConnection::SessionBus, newConnectionName()))
+{
+}
+
+SessionBus::~SessionBus()
+{
+    QDBusConnection::disconnectFromBus(m_connection.name());
+}
+
+QDBusMessage SessionBus::call(QDBusMessage message, std::chrono::milliseconds patience) const
+{
+    message.setAutoStartService(false);
+    return m_connection.call(message, QDBus::Block, static_cast<int>(patience.count()));
+}
+
+std::optional<SessionBus::Owner> SessionBus::ownerOf(const std::string& name) const
+{
+    const auto owner = call(callOfTheBus("GetNameOwner", QString::fromStdString(name)), kPatienceWithTheBus);
+    if (owner.type() != QDBusMessage::ReplyMessage || owner.signature() != QLatin1String("s")) {
+        return std::nullopt;
+    }
+    const auto connection = owner.arguments().constFirst().toString();
+    const auto process = call(callOfTheBus("GetConnectionUnixProcessID", connection), kPatienceWithTheBus);
+    if (process.type() != QDBusMessage::ReplyMessage || process.signature() != QLatin1String("u")) {
+        return std::nullopt;
+    }
+    const auto number = process.arguments().constFirst().toUInt();
+    if (!std::in_range<std::int32_t>(number)) {
+        return std::nullopt;
+    }
+    return Owner{.connection = connection, .process = static_cast<std::int32_t>(number)};
+}
+
+bool SessionBus::offersQuit(const Owner& application, const std::string& identifier) const
+{
+    auto message = callOfActions(application, identifier, "Describe");
+    message.setArguments({QStringLiteral("quit")});
+    const auto reply = call(message, kPatienceWithAnApplication);
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != QLatin1String("(bgav)")) {
+        return false;
+    }
+    bool isEnabled = false;
+    QDBusSignature parameter;
+    const auto description = reply.arguments().constFirst().value<QDBusArgument>();
+    description.beginStructure();
+    description >> isEnabled >> parameter;
+    return isEnabled && parameter.signature().isEmpty();
+}
+
+bool SessionBus::activateQuit(const Owner& application, const std::string& identifier) const
+{
+    auto message = callOfActions(application, identifier, "Activate");
+    message.setArguments({QStringLiteral("quit"), QVariantList(), QVariantMap()});
+    const auto reply = call(message, kPatienceWithAnApplication);
+    if (reply.type() == QDBusMessage::ReplyMessage) {
+        return true;
+    }
+    // It asks its user, or it has quit without another word.
+    const auto error = QDBusError(reply).type();
+    return error == QDBusError::NoReply || error == QDBusError::TimedOut || error == QDBusError::Timeout;
+}
+
+} // namespace PlatformDesktop

@@ -21,6 +21,8 @@ FOLDERS = {
                           "PlatformDesktop", "Platform"),
     "KarvelloUI/Sessions": ("KarvelloUI/Sessions", "KarvelloUI/Stores", "KarvelloUI/Copy", "KarvelloUI/Advisors",
                             "CleanerCore", "PlatformDesktop", "Platform"),
+    "KarvelloUI/MenuBar": ("KarvelloUI/MenuBar", "KarvelloUI/Sessions", "KarvelloUI/Stores", "KarvelloUI/Copy",
+                           "KarvelloUI/Advisors", "CleanerCore", "Platform"),
 }
 WITHOUT_QT = ("Platform/", "CleanerCore/", "KarvelloCLI/", "KarvelloUI/Copy/", "KarvelloUI/Advisors/")
 MAY_CHANGE_FILES = ("Platform/Files/", "Platform/Linux/", "Platform/macOS/")

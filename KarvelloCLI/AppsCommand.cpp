@@ -4,6 +4,7 @@
 #include "KarvelloCLI/CommandOutput.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/Say.h"
 #include "Platform/Services/HomeDirectory.h"
 
 #include <fmt/format.h>
@@ -46,11 +47,11 @@ ExitCode AppsCommand::run(const AppsOptions& options) const
     const auto applications = m_applications.measuredApplications(interruption->token());
     if (!applications) {
         if (applications.error() == ECANCELED) {
-            printMessage("Interrupted.");
+            printMessage(say("Interrupted."));
             return ExitCode::interrupted;
         }
-        printMessage(fmt::format(
-            "The running programs could not be read: {}.", std::generic_category().message(applications.error())));
+        printMessage(say("The running programs could not be read: {}.",
+            sayReason(std::generic_category().message(applications.error()))));
         return ExitCode::partial;
     }
     interruption.reset();
@@ -59,7 +60,7 @@ ExitCode AppsCommand::run(const AppsOptions& options) const
         TextStyle::of(common, output->descriptor(), Platform::homeDirectoryForCurrentUser(), m_environment);
     const auto text = textOf(rows, Platform::Date::now(), common, style);
     if (!text) {
-        printMessage("The list could not be written: " + text.error().localizedDescription() + ".");
+        printMessage(say("The list could not be written: {}.", text.error().localizedDescription()));
         return ExitCode::partial;
     }
     return deliver(*text, *output, m_fileManager) == Delivery::written ? ExitCode::done : ExitCode::partial;

@@ -1,9 +1,8 @@
 #include "KarvelloCLI/AppsTexts.h"
 
 #include "CleanerCore/Export/ReportExportText.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/Words.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
@@ -51,9 +50,9 @@ std::string sizeOf(std::optional<std::uint64_t> bytes, const TextStyle& style)
 
 Row titles()
 {
-    return {TerminalText("CPU"), TerminalText("Memory"), TerminalText("Share"), TerminalText("PID"),
-        TerminalText("Processes"), TerminalText("Running"), TerminalText("Quit"), TerminalText("Name"),
-        TerminalText("Identifier")};
+    return {TerminalText(say("CPU")), TerminalText(say("Memory")), TerminalText(say("Share")), TerminalText("PID"),
+        TerminalText(say("Processes")), TerminalText(say("Running")), TerminalText(say("Quit")),
+        TerminalText(say("Name")), TerminalText(say("Identifier"))};
 }
 
 Row rowOf(const AppsRow& row, Platform::Date now, CleanerCore::ReportExportText& words, const TextStyle& style)
@@ -134,21 +133,21 @@ std::string appsTable(std::span<const AppsRow> rows, Platform::Date now, bool is
     for (const AppsRow* const row : shown) {
         cells.push_back(rowOf(*row, now, words, style));
     }
-    std::string text = style.painter(Ink::title, fmt::format("Running applications: {}", localTime(now))) + "\n\n";
-    text +=
-        cells.empty() ? style.paragraph("No application that the desktop knows is running.") : tableOf(cells, style);
+    std::string text = style.painter(Ink::title, say("Running applications: {}", localTime(now))) + "\n\n";
+    text += cells.empty() ? style.paragraph(say("No application that the desktop knows is running."))
+                          : tableOf(cells, style);
     text += '\n';
     if (background > 0) {
-        text += style.paragraph(
-            fmt::format("{} in the background; --verbose lists them.", counted(background, "more program")));
+        text += style.paragraph(counted(background, "{} more program in the background; --verbose lists them.",
+            "{} more programs in the background; --verbose lists them."));
     }
     const bool isAnyAllowed = std::ranges::any_of(shown, [](const AppsRow* row) {
         return row->candidate.eligibility.reason == ResourceReliefProtectionReason::sandboxUnavailable;
     });
-    text += style.paragraph("CPU is of all processors together. Nobody was asked to quit.", 0, Ink::quiet);
+    text += style.paragraph(say("CPU is of all processors together. Nobody was asked to quit."), 0, Ink::quiet);
     if (isAnyAllowed) {
         text += style.paragraph(
-            "“Not from here”: it may be asked, but only a program on the desktop can reach its windows.", 0,
+            say("“Not from here”: it may be asked, but only a program on the desktop can reach its windows."), 0,
             Ink::quiet);
     }
     return text;

@@ -1,7 +1,7 @@
 #include "KarvelloCLI/AppsTexts.h"
 
 #include "CleanerCore/Relief/ResourceReliefPolicy.h"
-#include "KarvelloCLI/Words.h"
+#include "KarvelloCLI/Say.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -31,26 +31,26 @@ std::vector<AppsRow> appsRows(std::span<const Platform::RunningApplication> appl
     return rows;
 }
 
-std::string_view quitWords(const CleanerCore::ResourceReliefEligibility& eligibility)
+std::string quitWords(const CleanerCore::ResourceReliefEligibility& eligibility)
 {
     if (!eligibility.reason) {
-        return eligibility.isActionable ? "can be asked" : "unknown";
+        return eligibility.isActionable ? say("can be asked") : say("unknown");
     }
     switch (*eligibility.reason) {
     case ResourceReliefProtectionReason::currentApplication:
-        return "this program";
+        return say("this program");
     case ResourceReliefProtectionReason::protectedSystemApplication:
-        return "part of the desktop";
+        return say("part of the desktop");
     case ResourceReliefProtectionReason::missingUserFacingIdentity:
-        return "has no name";
+        return say("has no name");
     case ResourceReliefProtectionReason::alreadyTerminated:
-        return "has ended";
+        return say("has ended");
     case ResourceReliefProtectionReason::notUserVisible:
-        return "in the background";
+        return say("in the background");
     case ResourceReliefProtectionReason::sandboxUnavailable:
         break;
     }
-    return "not from here";
+    return say("not from here");
 }
 
 } // namespace KarvelloCLI

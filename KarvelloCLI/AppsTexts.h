@@ -30,7 +30,7 @@ struct AppsRow {
     std::span<const Platform::RunningApplication> applications, std::int32_t ownProcess);
 
 /// Why an application is not asked, in few words.
-[[nodiscard]] std::string_view quitWords(const CleanerCore::ResourceReliefEligibility& eligibility);
+[[nodiscard]] std::string quitWords(const CleanerCore::ResourceReliefEligibility& eligibility);
 
 /// Those that take the most memory first. What runs in the background is only counted unless the table is verbose. With
 /// `isRedacted`, tokens stand for names and identifiers.

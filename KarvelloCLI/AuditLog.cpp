@@ -2,12 +2,10 @@
 
 #include "CleanerCore/Audit/LossyCleanupAuditEntryList.h"
 #include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/TerminalText.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
-#include <string_view>
 #include <tuple>
 #include <utility>
 
@@ -18,11 +16,6 @@ namespace {
 using CleanerCore::CleanupAuditEntry;
 using CleanerCore::CleanupAuditStore;
 using CleanerCore::LossyCleanupAuditEntryList;
-
-std::string complaintOn(const Platform::FileURL& log, std::string_view what)
-{
-    return fmt::format("The log {}: {}", what, TerminalText(log.path()).string());
-}
 
 std::vector<CleanupAuditEntry> newest(std::vector<CleanupAuditEntry> entries, std::int64_t limit)
 {
@@ -41,6 +34,7 @@ AuditLogReading AuditLogReading::of(
     const CleanupAuditStore& store, const Platform::FileManager& fileManager, std::int64_t limit)
 {
     const auto& log = store.fileURL();
+    const std::string place = TerminalText(log.path()).string();
     AuditLogReading reading;
     const auto bytes = fileManager.readFile(log, CleanupAuditStore::kMaximumBytes);
     if (!bytes) {
@@ -48,10 +42,11 @@ AuditLogReading AuditLogReading::of(
         case Platform::FileErrorKind::noSuchFile:
             break;
         case Platform::FileErrorKind::tooLarge:
-            reading.complaint = complaintOn(log, "is too large to be one of Karvello's; the next clean moves it aside");
+            reading.complaint =
+                say("The log is too large to be one of Karvello's; the next clean moves it aside: {}.", place);
             break;
         default:
-            reading.complaint = complaintOn(log, "could not be read; the next clean moves it aside");
+            reading.complaint = say("The log could not be read; the next clean moves it aside: {}.", place);
             break;
         }
         return reading;
@@ -61,11 +56,13 @@ AuditLogReading AuditLogReading::of(
     }
     auto list = LossyCleanupAuditEntryList::read(*bytes);
     if (!list) {
-        reading.complaint = complaintOn(log, "is damaged, nothing in it can be read; the next clean moves it aside");
+        reading.complaint =
+            say("The log is damaged, nothing in it can be read; the next clean moves it aside: {}.", place);
     } else if (list->completeness == LossyCleanupAuditEntryList::Completeness::lossy) {
         // The store would tidy the file, and what is unreadable to this program would be gone.
-        reading.complaint = complaintOn(
-            log, "is damaged or of a newer version; what could be read is shown, and the next clean keeps a copy");
+        reading.complaint = say("The log is damaged or of a newer version; what could be read is shown, and the next "
+                                "clean keeps a copy: {}.",
+            place);
         reading.entries = newest(std::move(list->entries), limit);
     } else {
         reading.entries = store.loadEntries(limit);
@@ -81,9 +78,9 @@ Logged appendToAuditLog(
     if (std::ranges::find(entries, entry.id, &CleanupAuditEntry::id) != entries.end()) {
         return Logged::yes;
     }
-    printMessage(fmt::format(
-        "This run could not be logged: {}. History does not show it, and restore does not know of its items.",
-        TerminalText(store.fileURL().path()).string()));
+    printMessage(
+        say("This run could not be logged: {}. History does not show it, and restore does not know of its items.",
+            TerminalText(store.fileURL().path()).string()));
     return Logged::no;
 }
 

@@ -1,5 +1,7 @@
 #include "KarvelloCLI/CandidateRows.h"
 
+#include "KarvelloCLI/Say.h"
+
 #include <algorithm>
 
 namespace KarvelloCLI {
@@ -10,34 +12,29 @@ constexpr std::size_t kWide = 76;
 constexpr std::size_t kVeryWide = 120;
 constexpr std::string_view kGap = "  ";
 
-const TerminalText& sizeTitle()
+TerminalText sizeTitle()
 {
-    static const TerminalText text("Size");
-    return text;
+    return TerminalText(say("Size"));
 }
 
-const TerminalText& ageTitle()
+TerminalText ageTitle()
 {
-    static const TerminalText text("Age");
-    return text;
+    return TerminalText(say("Age"));
 }
 
-const TerminalText& nameTitle()
+TerminalText nameTitle()
 {
-    static const TerminalText text("Name");
-    return text;
+    return TerminalText(say("Name"));
 }
 
-const TerminalText& kindTitle()
+TerminalText kindTitle()
 {
-    static const TerminalText text("Kind");
-    return text;
+    return TerminalText(say("Kind"));
 }
 
-const TerminalText& pathTitle()
+TerminalText pathTitle()
 {
-    static const TerminalText text("Path");
-    return text;
+    return TerminalText(say("Path"));
 }
 
 std::size_t widest(

@@ -8,18 +8,15 @@
 #include "KarvelloCLI/Errand.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/ScanRun.h"
 #include "KarvelloCLI/SelectedCandidates.h"
-#include "KarvelloCLI/Words.h"
 #include "Platform/Files/FileError.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace KarvelloCLI {
 
@@ -36,14 +33,15 @@ constexpr auto kMode = CleanerCore::CleaningMode::moveToTrash;
 ExitCode nothingToMove(const CleanOptions& options, const ScanRun& run, const SelectedCandidates& selected)
 {
     if (!selected.unknownIds.empty()) {
-        printMessage("Nothing was moved.");
+        printMessage(say("Nothing was moved."));
         return ExitCode::refused;
     }
     if (options.selection == CleanSelection::preselected && !run.report.candidates.empty()) {
-        printMessage(fmt::format(
-            "Nothing was moved: none of the {} found is preselected.", counted(run.report.candidates.size(), "item")));
+        printMessage(
+            counted(run.report.candidates.size(), "Nothing was moved: none of the {} item found is preselected.",
+                "Nothing was moved: none of the {} items found is preselected."));
     } else {
-        printMessage("Nothing was moved: nothing to clean up was found.");
+        printMessage(say("Nothing was moved: nothing to clean up was found."));
     }
     return run.judgement.exitCode;
 }
@@ -74,7 +72,7 @@ public:
     {
     }
 
-    std::string_view participle() const override { return "moved"; }
+    ErrandKind kind() const override { return ErrandKind::clean; }
     std::string preview(const TextStyle& style) const override
     {
         return cleanPreview(m_candidates, m_run.report.scannedAt, style);
@@ -122,7 +120,7 @@ ExitCode CleanCommand::run(const CleanOptions& options) const
         return ExitCode::wrongUsage;
     }
     const OutputFile& output = opened->output;
-    if (!mayBeAgreedTo(options.isConfirmed, "moved")) {
+    if (!mayBeAgreedTo(options.isConfirmed, ErrandKind::clean)) {
         return ExitCode::refused;
     }
 
@@ -134,7 +132,7 @@ ExitCode CleanCommand::run(const CleanOptions& options) const
         return ExitCode::refused;
     }
     if (run->plan.subject.isIncomplete) {
-        printMessage("Interrupted: nothing was moved.");
+        printMessage(say("Interrupted: nothing was moved."));
         return ExitCode::interrupted;
     }
     // Now, so that a folder that is put in the place of another one while the question waits is found out.
@@ -144,14 +142,15 @@ ExitCode CleanCommand::run(const CleanOptions& options) const
 
     run->judgement.tellRefusals(m_fileManager);
     if (run->judgement.failures > 0) {
-        printMessage(counted(run->judgement.failures, "item") + " could not be read; karvello-cli scan tells which.");
+        printMessage(counted(run->judgement.failures, "{} item could not be read; karvello-cli scan tells which.",
+            "{} items could not be read; karvello-cli scan tells which."));
     }
     if (run->judgement.exitCode == ExitCode::refused) {
         return ExitCode::refused;
     }
     const auto selected = SelectedCandidates::of(run->report.candidates, options.selection, options.ids);
     for (const std::string& id : selected.unknownIds) {
-        printMessage(fmt::format("The scan found no item with the id “{}”.", TerminalText(id).string()));
+        printMessage(say("The scan found no item with the id “{}”.", TerminalText(id).string()));
     }
     if (selected.candidates.empty()) {
         return nothingToMove(options, *run, selected);

@@ -4,9 +4,8 @@
 #include "CleanerCore/Cleaning/CleanupSelectionPreview.h"
 #include "KarvelloCLI/ItemLines.h"
 #include "KarvelloCLI/OwnerNote.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/Words.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -27,7 +26,7 @@ using CleanerCore::FailedCleanItem;
 
 std::string countAndSize(std::int64_t count, std::int64_t bytes, const TextStyle& style)
 {
-    return fmt::format("{}, {}", counted(static_cast<std::size_t>(count), "item"), style.size(bytes));
+    return say("{}, {}", itemCount(static_cast<std::size_t>(count)), style.size(bytes));
 }
 
 std::string countAndSize(std::span<const CleanupCandidate> candidates, const TextStyle& style)
@@ -36,18 +35,18 @@ std::string countAndSize(std::span<const CleanupCandidate> candidates, const Tex
     return countAndSize(preview.count, preview.bytes, style);
 }
 
-std::string kinds(const CleanupSelectionPreview& preview, const TextStyle& style)
+std::vector<ItemLines::Item> kinds(const CleanupSelectionPreview& preview, const TextStyle& style)
 {
     std::vector<ItemLines::Item> items;
     items.reserve(preview.categorySummaries.size());
     for (const auto& summary : preview.categorySummaries) {
         items.push_back({.size = style.size(summary.bytes),
             .age = {},
-            .words = fmt::format(
-                "{}: {}", displayName(summary.category), counted(static_cast<std::size_t>(summary.count), "item")),
+            .words = say(
+                "{}: {}", sayReason(displayName(summary.category)), itemCount(static_cast<std::size_t>(summary.count))),
             .notes = {}});
     }
-    return ItemLines(std::move(items)).text();
+    return items;
 }
 
 std::string group(std::span<const CleanupCandidate> candidates, Platform::Date scannedAt, const TextStyle& style)
@@ -65,8 +64,8 @@ std::string group(std::span<const CleanupCandidate> candidates, Platform::Date s
         items.push_back(std::move(item));
     }
     const CleanupSafety safety = candidates.front().safety;
-    return fmt::format("{}: {}\n{}", style.painter(inkOf(safety), displayName(safety)), countAndSize(candidates, style),
-        ItemLines(std::move(items)).text());
+    return headed(style.painter(inkOf(safety), sayReason(displayName(safety))), countAndSize(candidates, style),
+        std::move(items));
 }
 
 std::string reviewNotice(std::span<const CleanupCandidate> candidates, const TextStyle& style)
@@ -76,9 +75,10 @@ std::string reviewNotice(std::span<const CleanupCandidate> candidates, const Tex
         return {};
     }
     return "\n"
-        + style.paragraph(
-            fmt::format("! {} your own review: only you can tell whether {} may go.",
-                count == 1 ? "1 item needs" : fmt::format("{} items need", count), count == 1 ? "it" : "they"),
+        + style.paragraph("! "
+                + counted(static_cast<std::size_t>(count),
+                    "{} item needs your own review: only you can tell whether it may go.",
+                    "{} items need your own review: only you can tell whether they may go."),
             0, Ink::manualReview);
 }
 
@@ -93,16 +93,16 @@ std::string moved(std::span<const CleanedItem> cleaned, const CleanResult& resul
             .words = style.path(item.candidate.url),
             .notes = {}};
         if (style.isVerbose && item.destinationURL) {
-            line.notes.push_back("now at " + style.path(*item.destinationURL));
+            line.notes.push_back(say("now at {}", style.path(*item.destinationURL)));
         }
         items.push_back(std::move(line));
     }
-    std::string text = fmt::format("{}: {}\n{}", style.painter(Ink::safe, "Moved to the Trash"),
-        countAndSize(static_cast<std::int64_t>(cleaned.size()), result.reclaimedBytes(), style),
-        ItemLines(std::move(items)).text());
+    std::string text = headed(style.painter(Ink::safe, say("Moved to the Trash")),
+        countAndSize(static_cast<std::int64_t>(cleaned.size()), result.reclaimedBytes(), style), std::move(items));
     if (shown < cleaned.size()) {
-        text += style.paragraph(
-            fmt::format("and {}; --verbose names each.", counted(cleaned.size() - shown, "more item")), 2);
+        text += style.paragraph(counted(cleaned.size() - shown, "and {} more item; --verbose names each.",
+                                    "and {} more items; --verbose names each."),
+            2);
     }
     return text;
 }
@@ -116,10 +116,10 @@ std::string refused(std::span<const FailedCleanItem> failed, const TextStyle& st
         items.push_back({.size = style.size(item.candidate.sizeBytes),
             .age = {},
             .words = style.path(item.candidate.url),
-            .notes = {TerminalText(item.reason, TerminalText::Kind::sentence).string()}});
+            .notes = {TerminalText(sayReason(item.reason), TerminalText::Kind::sentence).string()}});
     }
-    return fmt::format("{}: {}\n{}", style.painter(Ink::warning, "Refused or failed"), countAndSize(candidates, style),
-        ItemLines(std::move(items)).text());
+    return headed(
+        style.painter(Ink::warning, say("Refused or failed")), countAndSize(candidates, style), std::move(items));
 }
 
 std::string notReached(std::span<const CleanupCandidate> requested, const CleanResult& result, const TextStyle& style)
@@ -143,8 +143,8 @@ std::string notReached(std::span<const CleanupCandidate> requested, const CleanR
     if (candidates.empty()) {
         return {};
     }
-    return fmt::format("{}: {}\n{}", style.painter(Ink::warning, "Not reached, still in place"),
-        countAndSize(candidates, style), ItemLines(std::move(items)).text());
+    return headed(style.painter(Ink::warning, say("Not reached, still in place")), countAndSize(candidates, style),
+        std::move(items));
 }
 
 } // namespace
@@ -152,8 +152,8 @@ std::string notReached(std::span<const CleanupCandidate> requested, const CleanR
 std::string cleanPreview(std::span<const CleanupCandidate> candidates, Platform::Date scannedAt, const TextStyle& style)
 {
     const CleanupSelectionPreview preview(candidates);
-    std::string text = style.painter(Ink::title, "To the Trash") + ": "
-        + countAndSize(preview.count, preview.bytes, style) + "\n" + kinds(preview, style);
+    std::string text = headed(style.painter(Ink::title, say("To the Trash")),
+        countAndSize(preview.count, preview.bytes, style), kinds(preview, style));
     const std::string notice = reviewNotice(candidates, style);
     // They come by safety.
     while (!candidates.empty()) {
@@ -170,8 +170,8 @@ std::string cleanPreview(std::span<const CleanupCandidate> candidates, Platform:
 std::string cleanQuestion(std::span<const CleanupCandidate> candidates, const TextStyle& style)
 {
     const CleanupSelectionPreview preview(candidates);
-    return fmt::format("Move {} ({}) to the Trash?", counted(static_cast<std::size_t>(preview.count), "item"),
-        style.size(preview.bytes));
+    return say(
+        "Move {} ({}) to the Trash?", itemCount(static_cast<std::size_t>(preview.count)), style.size(preview.bytes));
 }
 
 std::string cleanAccount(std::span<const CleanupCandidate> requested, const CleanResult& result, const TextStyle& style)
@@ -188,16 +188,17 @@ std::string cleanAccount(std::span<const CleanupCandidate> requested, const Clea
     }
     append(notReached(requested, result, style));
     if (result.cleanedItems.empty()) {
-        append(style.paragraph("Nothing was moved to the Trash."));
+        append(style.paragraph(say("Nothing was moved to the Trash.")));
         return text;
     }
-    append(style.paragraph("The space returns when the Trash is emptied. Until then, karvello-cli restore puts "
-                           "things back."));
+    append(style.paragraph(
+        say("The space returns when the Trash is emptied. Until then, karvello-cli restore puts things back.")));
     const std::size_t kept = CleanerCore::CleanupAuditEntry::cleanedItemLimit;
     if (result.cleanedItems.size() > kept) {
-        text += style.paragraph(fmt::format("The log keeps the first {} items of a clean; the others can be put back "
-                                            "from the Trash of the desktop.",
-            kept));
+        text += style.paragraph(
+            say("The log keeps the first {} items of a clean; the others can be put back from the Trash of "
+                "the desktop.",
+                kept));
     }
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include "KarvelloCLI/HelpFormatter.h"
 #include "KarvelloCLI/OptionChecks.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/SharedOptions.h"
 #include "KarvelloCLI/TerminalText.h"
 
@@ -130,7 +131,7 @@ void addCleanOptions(CLI::App& app, CleanOptions& options, CleanWords& words)
     const std::string group = "What to move (one kind is needed)";
     app.add_flag("--default", words.wantsPreselected, "What a scan marks with *: safe to make anew")->group(group);
     addRepeated(app, "--id", options.ids, "One item, by its id in the JSON or CSV of scan. May be repeated")
-        ->check(notEmpty("needs an id"))
+        ->check(notEmpty(say("needs an id")))
         ->type_name("ID")
         ->group(group);
     app.add_flag("--all", words.wantsAll, "All findings, those for manual review too")->group(group);
@@ -143,7 +144,7 @@ void addRestoreOptions(CLI::App& app, RestoreOptions& options, bool& wantsAll)
 {
     const std::string group = "What to put back";
     addRepeated(app, "--id", options.ids, "One item, by its id in the list. May be repeated")
-        ->check(notEmpty("needs an id"))
+        ->check(notEmpty(say("needs an id")))
         ->type_name("ID")
         ->group(group);
     app.add_flag("--all", wantsAll, "Everything that can be put back")->group(group);
@@ -190,14 +191,14 @@ std::string helpOf(const CLI::App& app)
 UsageError usageError(std::string message, const CLI::App* command)
 {
     const std::string about = command != nullptr ? fmt::format("{} {}", kProgram, command->get_name()) : kProgram;
-    return {std::move(message), fmt::format("Try '{} --help'.", about)};
+    return {std::move(message), say("Try '{} --help'.", about)};
 }
 
 /// A table shows where things are, which is what it is for.
 std::optional<std::string> complaintOnRedaction(const CommonOptions& options)
 {
     return options.isRedacted && options.format == OutputFormat::table
-        ? std::optional<std::string>("--redacted needs --format json or csv here: what moves is shown by its path.")
+        ? std::optional(say("--redacted needs --format json or csv here: what moves is shown by its path."))
         : std::nullopt;
 }
 
@@ -205,8 +206,8 @@ std::optional<std::string> settle(CleanOptions& options, const CleanWords& words
 {
     const int kinds = int{words.wantsPreselected} + int{words.wantsAll} + int{!options.ids.empty()};
     if (kinds != 1) {
-        return kinds == 0 ? "What shall be moved? One of --default, --id and --all is needed."
-                          : "--default, --id and --all exclude each other.";
+        return kinds == 0 ? say("What shall be moved? One of --default, --id and --all is needed.")
+                          : say("--default, --id and --all exclude each other.");
     }
     options.selection = words.wantsAll ? CleanSelection::all
         : words.wantsPreselected       ? CleanSelection::preselected
@@ -217,13 +218,13 @@ std::optional<std::string> settle(CleanOptions& options, const CleanWords& words
 std::optional<std::string> settle(RestoreOptions& options, bool wantsAll)
 {
     if (wantsAll && !options.ids.empty()) {
-        return "--id and --all exclude each other.";
+        return say("--id and --all exclude each other.");
     }
     options.selection = wantsAll ? RestoreSelection::all
         : options.ids.empty()    ? RestoreSelection::none
                                  : RestoreSelection::byId;
     if (options.isConfirmed && options.selection == RestoreSelection::none) {
-        return "--yes needs --id or --all.";
+        return say("--yes needs --id or --all.");
     }
     return complaintOnRedaction(options.common);
 }
@@ -291,7 +292,7 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
     }) != commands.end();
     if (!arguments.front().starts_with('-') && !isKnown) {
         return std::unexpected(
-            usageError(fmt::format("There is no command “{}”.", TerminalText(arguments.front()).string()), nullptr));
+            usageError(say("There is no command “{}”.", TerminalText(arguments.front()).string()), nullptr));
     }
 
     const auto parsedCommand = [&commands]() -> const CLI::App* {
@@ -309,12 +310,11 @@ std::expected<Command, UsageError> parseCommandLine(std::span<const std::string>
         return Information{std::string(call.what()) + "\n"};
     } catch (const CLI::ArgumentMismatch& error) {
         const std::string_view what = error.what();
-        return std::unexpected(
-            usageError(fmt::format("{} needs a value.", what.substr(0, what.find(':'))), parsedCommand()));
+        return std::unexpected(usageError(say("{} needs a value.", what.substr(0, what.find(':'))), parsedCommand()));
     } catch (const CLI::ParseError& error) {
         // The library's sentences hold the user's words as they came.
-        const TerminalText message(error.what(), TerminalText::Kind::sentence);
-        return std::unexpected(usageError(message.string() + ".", parsedCommand()));
+        const TerminalText message(sayReason(error.what()), TerminalText::Kind::sentence);
+        return std::unexpected(usageError(say("{}.", message.string()), parsedCommand()));
     }
     if (scan->parsed()) {
         return scanOptions;

@@ -2,9 +2,8 @@
 
 #include "CleanerCore/Audit/CleanupAuditExporter.h"
 #include "KarvelloCLI/Messages.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/WorkingDirectory.h"
-
-#include <fmt/format.h>
 
 #include <string>
 #include <system_error>
@@ -16,7 +15,8 @@ namespace {
 
 std::string wordsOf(const Platform::FileError& error)
 {
-    return error.systemError != 0 ? std::generic_category().message(error.systemError) : error.localizedDescription();
+    return sayReason(
+        error.systemError != 0 ? std::generic_category().message(error.systemError) : error.localizedDescription());
 }
 
 std::optional<OutputFile> openOutput(
@@ -29,7 +29,7 @@ std::optional<OutputFile> openOutput(
         options.output->starts_with('/') ? *options.output : workingDirectory.path() + "/" + *options.output;
     auto named = OutputFile::named(path, fileManager);
     if (!named) {
-        printMessage(fmt::format("--output: {}.", named.error()));
+        printMessage("--output: " + say("{}.", named.error()));
         return std::nullopt;
     }
     return *std::move(named);
@@ -65,7 +65,7 @@ std::optional<OutputFile> outputOf(const CommonOptions& options, const Platform:
 Delivery deliver(std::string_view data, const OutputFile& output, const Platform::FileManager& fileManager)
 {
     if (const auto written = output.write(data, fileManager); !written) {
-        printMessage(fmt::format("{} could not be written: {}.", output.name(), wordsOf(written.error())));
+        printMessage(say("{} could not be written: {}.", output.name(), wordsOf(written.error())));
         return Delivery::failed;
     }
     return Delivery::written;

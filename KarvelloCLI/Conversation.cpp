@@ -1,6 +1,8 @@
 #include "KarvelloCLI/Conversation.h"
 
 #include "KarvelloCLI/OutputFile.h"
+#include "KarvelloCLI/Say.h"
+#include "Platform/Base/Text.h"
 #include "Platform/Files/FileDescriptor.h"
 
 #include <fmt/format.h>
@@ -10,6 +12,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cerrno>
@@ -34,10 +37,19 @@ bool isYes(std::string_view line)
     std::string word;
     for (const char letter : line) {
         if (std::isspace(static_cast<unsigned char>(letter)) == 0) {
-            word += static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+            word += letter;
         }
     }
-    return word == "y" || word == "yes";
+    word = Platform::Text::lowercased(word);
+    const std::string words = say("y yes");
+    for (std::string_view rest = words; !rest.empty();) {
+        const std::string_view one = rest.substr(0, rest.find(' '));
+        if (word == one) {
+            return true;
+        }
+        rest.remove_prefix(std::min(one.size() + 1, rest.size()));
+    }
+    return false;
 }
 
 /// Waits for a line of standard input, or for a stop.
@@ -109,7 +121,7 @@ Answer Conversation::ask(std::string_view question, const std::stop_token& stop)
         return stop.stop_requested() ? Answer::interrupted : Answer::yes;
     }
     tcflush(STDIN_FILENO, TCIFLUSH);
-    if (writeWholly(STDERR_FILENO, fmt::format("{} [y/N] ", question)) != 0) {
+    if (writeWholly(STDERR_FILENO, fmt::format("{} {} ", question, KarvelloCLI::say("[y/N]"))) != 0) {
         return Answer::no;
     }
     const Answer answer = readAnswer(stop);

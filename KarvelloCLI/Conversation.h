@@ -30,8 +30,8 @@ public:
     [[nodiscard]] bool isOnStandardOutput() const;
     /// False if it could not be written: then nobody has seen it.
     [[nodiscard]] bool say(std::string_view text) const;
-    /// Consent that was given beforehand is a yes without a question. Otherwise only "y" and "yes" are; the end of the
-    /// input is a no. What was typed before the question does not answer it.
+    /// Consent that was given beforehand is a yes without a question. Otherwise only "y" and "yes" are, and the words for
+    /// yes of the spoken language; the end of the input is a no. What was typed before the question does not answer it.
     [[nodiscard]] Answer ask(std::string_view question, const std::stop_token& stop) const;
 
 private:

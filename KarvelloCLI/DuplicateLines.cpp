@@ -1,6 +1,6 @@
 #include "KarvelloCLI/DuplicateLines.h"
 
-#include "KarvelloCLI/Words.h"
+#include "KarvelloCLI/Say.h"
 #include "Platform/Base/CheckedMath.h"
 
 #include <fmt/format.h>
@@ -16,21 +16,19 @@ using CleanerCore::DuplicateFileGroup;
 using CleanerCore::DuplicateKeeperRecommendationReason;
 
 constexpr std::size_t kIndent = 4;
-constexpr std::string_view kKeep = "keep ";
-constexpr std::string_view kExtra = "extra";
 constexpr std::size_t kGap = 2;
 
-std::string_view clause(DuplicateKeeperRecommendationReason reason)
+std::string clause(DuplicateKeeperRecommendationReason reason)
 {
     switch (reason) {
     case DuplicateKeeperRecommendationReason::preferredLocation:
-        return "it lies in the better place";
+        return say("it lies in the better place");
     case DuplicateKeeperRecommendationReason::olderModificationDate:
-        return "it is older than a copy in as good a place";
+        return say("it is older than a copy in as good a place");
     case DuplicateKeeperRecommendationReason::deterministicPathTieBreak:
         break;
     }
-    return "its path comes first, where nothing else decides";
+    return say("its path comes first, where nothing else decides");
 }
 
 /// A size in its column, then words that go on below themselves.
@@ -38,28 +36,31 @@ std::string sizedWords(std::int64_t bytes, std::string_view words, std::size_t s
 {
     const std::size_t indent = kGap + sizeWidth + kGap;
     std::string text = style.paragraph(words, indent);
-    text.replace(0, indent, fmt::format("  {:>{}}  ", style.size(bytes), sizeWidth));
+    text.replace(0, indent, "  " + TerminalText(style.size(bytes)).paddedLeft(sizeWidth) + "  ");
     return text;
 }
 
 std::string copies(
     const DuplicateFileGroup& group, std::span<const CandidateRow> rows, std::size_t ageWidth, const TextStyle& style)
 {
-    const std::size_t indent = kIndent + kKeep.size() + kGap + ageWidth + kGap;
+    const TerminalText keep(say("keep"));
+    const TerminalText extra(say("extra"));
+    const std::size_t markWidth = std::max(keep.columns(), extra.columns());
+    const std::size_t indent = kIndent + markWidth + kGap + ageWidth + kGap;
     const std::size_t room = style.columns > indent ? style.columns - indent : 1;
     std::string text;
     for (const CandidateRow& row : rows) {
         const bool isKeeper = &row == &rows.front();
         text += fmt::format("{:{}}{}  {}  {}\n", "", kIndent,
-            isKeeper ? style.painter(Ink::safe, kKeep) : std::string(kExtra), row.age.paddedLeft(ageWidth),
-            row.path.elidedInMiddle(room).string());
+            isKeeper ? style.painter(Ink::safe, keep.paddedRight(markWidth)) : extra.paddedRight(markWidth),
+            row.age.paddedLeft(ageWidth), row.path.elidedInMiddle(room).string());
         const auto recommendation = isKeeper ? group.keeperRecommendation() : std::nullopt;
         if (recommendation) {
-            text += style.paragraph("because " + keeperReasons(*recommendation), indent, Ink::quiet);
+            text += style.paragraph(say("because {}", keeperReasons(*recommendation)), indent, Ink::quiet);
         }
     }
     if (const std::size_t more = group.files.size() - rows.size(); more > 0) {
-        text += style.paragraph(fmt::format("and {} more {}", more, more == 1 ? "copy" : "copies"), indent, Ink::quiet);
+        text += style.paragraph(counted(more, "and {} more copy", "and {} more copies"), indent, Ink::quiet);
     }
     return text;
 }
@@ -70,8 +71,7 @@ std::string keeperReasons(const CleanerCore::DuplicateKeeperRecommendation& reco
 {
     std::string text;
     for (const auto reason : recommendation.reasons) {
-        text += text.empty() ? "" : ", and ";
-        text += clause(reason);
+        text = text.empty() ? clause(reason) : say("{}, and {}", text, clause(reason));
     }
     return text;
 }
@@ -83,10 +83,10 @@ std::string duplicateLines(
     for (const DuplicateFileGroup& group : groups.subspan(rows.size())) {
         moreBytes = Platform::saturatingAdd(moreBytes, group.wastedBytes());
     }
-    std::size_t sizeWidth = rows.size() < groups.size() ? style.size(moreBytes).size() : 0;
+    std::size_t sizeWidth = rows.size() < groups.size() ? columnsOf(style.size(moreBytes)) : 0;
     std::size_t ageWidth = 0;
     for (std::size_t index = 0; index < rows.size(); ++index) {
-        sizeWidth = std::max(sizeWidth, style.size(groups[index].wastedBytes()).size());
+        sizeWidth = std::max(sizeWidth, columnsOf(style.size(groups[index].wastedBytes())));
         for (const CandidateRow& row : rows[index]) {
             ageWidth = std::max(ageWidth, row.age.columns());
         }
@@ -96,15 +96,16 @@ std::string duplicateLines(
         const DuplicateFileGroup& group = groups[index];
         const std::size_t extras = group.extraCopies().size();
         text += sizedWords(group.wastedBytes(),
-            fmt::format(
-                "in {} extra {} of a file of {}", extras, extras == 1 ? "copy" : "copies", style.size(group.sizeBytes)),
+            counted(extras, "in {} extra copy of a file of {}", "in {} extra copies of a file of {}",
+                style.size(group.sizeBytes)),
             sizeWidth, style);
         text += copies(group, rows[index], ageWidth, style);
     }
     if (rows.size() < groups.size()) {
         text += sizedWords(moreBytes,
-            fmt::format("in the extra copies of {}", counted(groups.size() - rows.size(), "more set")), sizeWidth,
-            style);
+            counted(groups.size() - rows.size(), "in the extra copies of {} more set",
+                "in the extra copies of {} more sets"),
+            sizeWidth, style);
     }
     return text;
 }

@@ -5,8 +5,7 @@
 #include "KarvelloCLI/Conversation.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/ProgressLine.h"
-
-#include <fmt/format.h>
+#include "KarvelloCLI/Say.h"
 
 #include <span>
 #include <tuple>
@@ -14,6 +13,34 @@
 namespace KarvelloCLI {
 
 namespace {
+
+struct ErrandWords {
+    std::string noTerminal;
+    std::string notShown;
+    std::string nothingDone;
+    std::string interruptedBefore;
+    std::string interruptedAndLogged;
+};
+
+ErrandWords wordsOf(ErrandKind kind)
+{
+    if (kind == ErrandKind::restore) {
+        return {
+            .noTerminal = say("There is no terminal to ask on, so nothing was put back; --yes agrees beforehand."),
+            .notShown = say("What would be put back could not be shown, so nothing was put back."),
+            .nothingDone = say("Nothing was put back."),
+            .interruptedBefore = say("Interrupted: nothing was put back."),
+            .interruptedAndLogged = say("Interrupted: what was put back until then has been logged."),
+        };
+    }
+    return {
+        .noTerminal = say("There is no terminal to ask on, so nothing was moved; --yes agrees beforehand."),
+        .notShown = say("What would be moved could not be shown, so nothing was moved."),
+        .nothingDone = say("Nothing was moved."),
+        .interruptedBefore = say("Interrupted: nothing was moved."),
+        .interruptedAndLogged = say("Interrupted: what was moved until then has been logged."),
+    };
+}
 
 Delivery tell(const Errand& errand, const CleanerCore::CleanupAuditEntry& entry, const ErrandSetting& setting,
     const Conversation& conversation)
@@ -36,35 +63,35 @@ CleanerCore::CleanupAuditEntry performShowingProgress(
 
 } // namespace
 
-bool mayBeAgreedTo(bool isConfirmed, std::string_view participle)
+bool mayBeAgreedTo(bool isConfirmed, ErrandKind kind)
 {
     if (isConfirmed || Conversation::isPossible()) {
         return true;
     }
-    printMessage(
-        fmt::format("There is no terminal to ask on, so nothing was {}; --yes agrees beforehand.", participle));
+    printMessage(wordsOf(kind).noTerminal);
     return false;
 }
 
 ExitCode runErrand(Errand& errand, const ErrandSetting& setting, std::optional<Interruption>& interruption)
 {
     const std::stop_token stop = interruption->token();
+    const ErrandWords words = wordsOf(errand.kind());
     using Consent = Conversation::Consent;
     const Conversation conversation(
         setting.common, setting.isConfirmed ? Consent::isGiven : Consent::isAsked, setting.home, setting.environment);
     const TextStyle& style = conversation.style();
     if (!conversation.say(errand.preview(style) + "\n")) {
-        printMessage(fmt::format("What would be {0} could not be shown, so nothing was {0}.", errand.participle()));
+        printMessage(words.notShown);
         return ExitCode::refused;
     }
     switch (conversation.ask(errand.question(style), stop)) {
     case Answer::yes:
         break;
     case Answer::no:
-        printMessage(fmt::format("Nothing was {}.", errand.participle()));
+        printMessage(words.nothingDone);
         return ExitCode::refused;
     case Answer::interrupted:
-        printMessage(fmt::format("Interrupted: nothing was {}.", errand.participle()));
+        printMessage(words.interruptedBefore);
         return ExitCode::interrupted;
     }
 
@@ -76,9 +103,7 @@ ExitCode runErrand(Errand& errand, const ErrandSetting& setting, std::optional<I
     }
     const Delivery delivery = tell(errand, entry, setting, conversation);
     if (entry.wasCancelled) {
-        printMessage(logged == Logged::yes
-                ? fmt::format("Interrupted: what was {} until then has been logged.", errand.participle())
-                : "Interrupted.");
+        printMessage(logged == Logged::yes ? words.interruptedAndLogged : say("Interrupted."));
     }
     const ExitCode code = errand.exitCode();
     const bool isTold = logged == Logged::yes && delivery == Delivery::written;

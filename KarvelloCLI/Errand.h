@@ -12,20 +12,21 @@
 #include "Platform/Files/FileManager.h"
 #include "Platform/Services/Environment.h"
 
+#include <cstdint>
 #include <optional>
 #include <stop_token>
 #include <string>
-#include <string_view>
 
 namespace KarvelloCLI {
+
+enum class ErrandKind : std::uint8_t { clean, restore };
 
 /// Something that moves items of the user, and so wants consent, a truthful account and an entry in the log.
 class Errand {
 public:
     virtual ~Errand() = default;
 
-    /// The participle of what it does: "moved".
-    [[nodiscard]] virtual std::string_view participle() const = 0;
+    [[nodiscard]] virtual ErrandKind kind() const = 0;
     [[nodiscard]] virtual std::string preview(const TextStyle& style) const = 0;
     [[nodiscard]] virtual std::string question(const TextStyle& style) const = 0;
     /// Does it, once, and gives its entry for the log.
@@ -52,7 +53,7 @@ struct ErrandSetting {
 };
 
 /// False, after a message, where nobody has agreed and nobody can be asked.
-[[nodiscard]] bool mayBeAgreedTo(bool isConfirmed, std::string_view participle);
+[[nodiscard]] bool mayBeAgreedTo(bool isConfirmed, ErrandKind kind);
 
 /// Shows, asks, performs, logs and tells. From the consent to the entry in the log a signal stops the work but not the
 /// program; `interruption` ends before a slow reader is waited for.

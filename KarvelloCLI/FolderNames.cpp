@@ -1,6 +1,6 @@
 #include "KarvelloCLI/FolderNames.h"
 
-#include "KarvelloCLI/Words.h"
+#include "KarvelloCLI/Say.h"
 
 #include <algorithm>
 
@@ -16,7 +16,7 @@ std::vector<std::string> folderNames(
     std::span<const Platform::FileURL> folders, const HomePathAbbreviation& paths, bool isRedacted)
 {
     if (isRedacted && !folders.empty()) {
-        return {counted(folders.size(), "given folder")};
+        return {counted(folders.size(), "{} given folder", "{} given folders")};
     }
     std::vector<std::string> names;
     const std::size_t named = std::min(folders.size(), kNamedFolders);
@@ -24,7 +24,7 @@ std::vector<std::string> folderNames(
         names.push_back(paths.abbreviate(folder.path()));
     }
     if (named < folders.size()) {
-        names.push_back(counted(folders.size() - named, "more folder"));
+        names.push_back(counted(folders.size() - named, "{} more folder", "{} more folders"));
     }
     return names;
 }

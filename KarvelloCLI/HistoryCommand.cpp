@@ -21,7 +21,7 @@ ExitCode HistoryCommand::run(const HistoryOptions& options) const
     const AuditLogReading log =
         AuditLogReading::of(m_log, m_fileManager, options.limit.value_or(CleanerCore::CleanupAuditStore::defaultLimit));
     if (log.complaint) {
-        printMessage(*log.complaint + ".");
+        printMessage(*log.complaint);
     }
     const auto style =
         TextStyle::of(common, output->descriptor(), Platform::homeDirectoryForCurrentUser(), m_environment);

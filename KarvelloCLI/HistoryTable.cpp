@@ -1,5 +1,6 @@
 #include "KarvelloCLI/HistoryTable.h"
 
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/Words.h"
 
 #include <fmt/format.h>
@@ -35,32 +36,33 @@ std::string nameOf(CleanupAuditSource source)
 {
     switch (source) {
     case CleanupAuditSource::cleanupDashboard:
-        return "cleanup";
+        return say("cleanup");
     case CleanupAuditSource::macInsights:
-        return "insights";
+        return say("insights");
     case CleanupAuditSource::iOSSandbox:
         break;
     }
-    return "sandbox";
+    return say("sandbox");
 }
 
 Row rowOf(const CleanupAuditEntry& entry, const TextStyle& style)
 {
-    return {localTime(entry.occurredAt), std::string(Platform::rawValue(entry.operation)), nameOf(entry.source),
+    return {localTime(entry.occurredAt), catalogue().auditOperationName(entry.operation), nameOf(entry.source),
         std::to_string(entry.requestedItemCount), std::to_string(entry.succeededItemCount),
-        std::to_string(entry.failedItemCount), style.size(entry.affectedBytes), entry.wasCancelled ? "cancelled" : "",
-        entry.id.string()};
+        std::to_string(entry.failedItemCount), style.size(entry.affectedBytes),
+        entry.wasCancelled ? say("cancelled") : std::string(), entry.id.string()};
 }
 
 std::string wideTable(const std::vector<Row>& rows, const TextStyle& style)
 {
-    const Row titles{"Date", "Operation", "Source", "Asked", "Done", "Failed", "Size", "", "Entry"};
+    const Row titles{say("Date"), say("Operation"), say("Source"), say("Asked"), say("Done"), say("Failed"),
+        say("Size"), "", say("Entry")};
     const std::size_t shown = style.columns >= kVeryWide ? std::size_t{columnCount} : std::size_t{entryId};
     std::array<std::size_t, columnCount> widths{};
     for (std::size_t column = 0; column < shown; ++column) {
-        widths[column] = titles[column].size();
+        widths[column] = columnsOf(titles[column]);
         for (const Row& row : rows) {
-            widths[column] = std::max(widths[column], row[column].size());
+            widths[column] = std::max(widths[column], columnsOf(row[column]));
         }
     }
     const auto line = [&](const Row& row) {
@@ -70,8 +72,8 @@ std::string wideTable(const std::vector<Row>& rows, const TextStyle& style)
                 continue;
             }
             text += text.empty() ? "" : kGap;
-            text += isNumber(column) ? fmt::format("{:>{}}", row[column], widths[column])
-                                     : fmt::format("{:<{}}", row[column], widths[column]);
+            const TerminalText cell(row[column]);
+            text += isNumber(column) ? cell.paddedLeft(widths[column]) : cell.paddedRight(widths[column]);
         }
         return text.substr(0, text.find_last_not_of(' ') + 1);
     };
@@ -87,8 +89,9 @@ std::string narrowTable(const std::vector<Row>& rows)
 {
     std::string text;
     for (const Row& row : rows) {
-        text += fmt::format("{}  {}  {}{}{}\n  {} asked, {} done, {} failed, {}\n", row[date], row[operation],
-            row[source], row[end].empty() ? "" : kGap, row[end], row[asked], row[done], row[failed], row[size]);
+        text +=
+            fmt::format("{}  {}  {}{}{}\n  {}\n", row[date], row[operation], row[source], row[end].empty() ? "" : kGap,
+                row[end], say("{} asked, {} done, {} failed, {}", row[asked], row[done], row[failed], row[size]));
     }
     return text;
 }
@@ -98,7 +101,7 @@ std::string narrowTable(const std::vector<Row>& rows)
 std::string historyTable(std::span<const CleanupAuditEntry> entries, const TextStyle& style)
 {
     if (entries.empty()) {
-        return style.paragraph("Nothing has been cleaned or restored yet.");
+        return style.paragraph(say("Nothing has been cleaned or restored yet."));
     }
     std::vector<Row> rows;
     for (const CleanupAuditEntry& entry : entries) {

@@ -1,10 +1,7 @@
 #include "KarvelloCLI/InsightLimits.h"
 
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
-#include "KarvelloCLI/Words.h"
-
-#include <fmt/format.h>
-#include <fmt/ranges.h>
+#include "KarvelloCLI/Say.h"
 
 #include <algorithm>
 
@@ -20,18 +17,18 @@ std::size_t countOfReason(const CleanerCore::MacStorageInsightReport& report, st
 }
 
 /// The lists that are as long as a list may be, so that there may be more.
-std::vector<std::string_view> fullLists(const CleanerCore::MacStorageInsightReport& report, std::size_t most)
+std::vector<std::string> fullLists(const CleanerCore::MacStorageInsightReport& report, std::size_t most)
 {
-    std::vector<std::string_view> lists;
-    const auto look = [&](const auto& list, std::string_view name) {
+    std::vector<std::string> lists;
+    const auto look = [&](const auto& list, std::string name) {
         if (list.size() >= most) {
-            lists.push_back(name);
+            lists.push_back(std::move(name));
         }
     };
-    look(report.largeFiles, "large files");
-    look(report.downloadFiles, "downloads");
-    look(report.duplicateGroups, "duplicates");
-    look(report.securityFindings, "installers and scripts");
+    look(report.largeFiles, say("large files"));
+    look(report.downloadFiles, say("downloads"));
+    look(report.duplicateGroups, say("duplicates"));
+    look(report.securityFindings, say("installers and scripts"));
     return lists;
 }
 
@@ -40,16 +37,17 @@ std::string duplicateSentence(
 {
     const auto& limits = subject.configuration;
     if (const std::size_t count = countOfReason(report, Reason::duplicateHashBudgetExceeded); count > 0) {
-        return fmt::format("{} above {} of the same size as others {} not read, and no smaller files were compared. "
-                           "--max-hash-file-bytes goes further, and --max-hash-bytes with it.",
-            counted(count, "file"), style.size(limits.maximumDuplicateFullHashBytesPerFile),
-            count == 1 ? "was" : "were");
+        return counted(count,
+            "{} file above {} of the same size as others was not read, and no smaller files were compared. "
+            "--max-hash-file-bytes goes further, and --max-hash-bytes with it.",
+            "{} files above {} of the same size as others were not read, and no smaller files were compared. "
+            "--max-hash-file-bytes goes further, and --max-hash-bytes with it.",
+            style.size(limits.maximumDuplicateFullHashBytesPerFile));
     }
-    return fmt::format("The search for duplicates ended before the smallest files: it reads at most {} and {} whole, "
-                       "and of one size it takes {}. --max-hash-files, --max-hash-bytes and --max-results go further.",
-        counted(static_cast<std::size_t>(limits.maximumDuplicateHashFiles), "file"),
-        style.size(limits.maximumDuplicateHashBytes),
-        counted(static_cast<std::size_t>(limits.maximumResultCount), "file"));
+    return say("The search for duplicates ended before the smallest files: it reads at most {} and {} whole, "
+               "and of one size it takes {}. --max-hash-files, --max-hash-bytes and --max-results go further.",
+        fileCount(static_cast<std::size_t>(limits.maximumDuplicateHashFiles)),
+        style.size(limits.maximumDuplicateHashBytes), fileCount(static_cast<std::size_t>(limits.maximumResultCount)));
 }
 
 } // namespace
@@ -60,15 +58,20 @@ std::vector<std::string> limitSentences(
     const auto& limits = subject.configuration;
     std::vector<std::string> sentences;
     if (subject.cuts.visits) {
-        sentences.push_back(
-            fmt::format("Not every item was visited, so there may be more of everything{}: a folder gets "
-                        "{} visits, and the insides of packages as many in all. --max-visits goes "
-                        "further.",
-                report.heatmapItems.empty() ? "" : " in the folders marked >", limits.maximumVisitedItemsPerRoot));
+        const auto most = limits.maximumVisitedItemsPerRoot;
+        sentences.push_back(report.heatmapItems.empty()
+                ? say("Not every item was visited, so there may be more of everything: a folder gets {} visits, and "
+                      "the "
+                      "insides of packages as many in all. --max-visits goes further.",
+                      most)
+                : say("Not every item was visited, so there may be more of everything in the folders marked >: a "
+                      "folder "
+                      "gets {} visits, and the insides of packages as many in all. --max-visits goes further.",
+                      most));
     }
     if (subject.cuts.recentFiles) {
-        sentences.push_back(fmt::format("More files changed too lately to be listed than the {} that are named. "
-                                        "--max-recent names more, and --min-age 0 lists them all.",
+        sentences.push_back(say("More files changed too lately to be listed than the {} that are named. "
+                                "--max-recent names more, and --min-age 0 lists them all.",
             limits.maximumRecentReviewSkippedItems));
     }
     if (subject.cuts.duplicates) {
@@ -76,9 +79,8 @@ std::vector<std::string> limitSentences(
     }
     const auto full = fullLists(report, static_cast<std::size_t>(limits.maximumResultCount));
     if (!full.empty()) {
-        sentences.push_back(
-            fmt::format("No list gets longer than {}; there may be more {}. --max-results goes further.",
-                limits.maximumResultCount, fmt::join(full, ", ")));
+        sentences.push_back(say("No list gets longer than {}; there may be more {}. --max-results goes further.",
+            limits.maximumResultCount, joined(full)));
     }
     return sentences;
 }

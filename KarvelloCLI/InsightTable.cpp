@@ -3,13 +3,11 @@
 #include "KarvelloCLI/DuplicateLines.h"
 #include "KarvelloCLI/FolderNames.h"
 #include "KarvelloCLI/InsightLimits.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/SizeMapChart.h"
 #include "KarvelloCLI/StatusTexts.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
-
-#include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <utility>
@@ -75,8 +73,8 @@ InsightTable::InsightTable(
     , m_subject(subject)
     , m_settings(std::move(settings))
     , m_rows(report, m_settings.style, m_settings.isRedacted)
-    , m_columns(
-          listed(m_rows), m_settings.style.columns, m_settings.style.painter, m_settings.isRedacted ? "Path" : "Folder")
+    , m_columns(listed(m_rows), m_settings.style.columns, m_settings.style.painter,
+          m_settings.isRedacted ? say("Path") : say("Folder"))
 {
 }
 
@@ -114,7 +112,7 @@ std::string InsightTable::text() const
 std::string InsightTable::title(std::string_view words, std::string_view rest, Ink ink) const
 {
     const TextStyle& style = m_settings.style;
-    std::string text = style.paragraph(fmt::format("{}: {}", words, rest));
+    std::string text = style.paragraph(say("{}: {}", words, rest));
     // The words themselves may go on in the next line where it is very narrow.
     return text.starts_with(words) ? style.painter(ink, words) + text.substr(words.size()) : text;
 }
@@ -124,15 +122,15 @@ std::string InsightTable::heading() const
     const TextStyle& style = m_settings.style;
     std::vector<std::string> places;
     if (m_subject.looksAtHome) {
-        places.push_back(m_settings.isRedacted ? "the home folder" : TerminalText(m_subject.home.path()).string());
+        places.push_back(m_settings.isRedacted ? say("the home folder") : TerminalText(m_subject.home.path()).string());
     }
     for (const std::string& name : folderNames(m_subject.folders, style.paths, m_settings.isRedacted)) {
         places.push_back(TerminalText(name).string());
     }
-    std::string text = style.paragraph(
-        fmt::format("Insights of {}: {}", fmt::join(places, ", "), localTime(m_report.scannedAt)), 0, Ink::title);
+    std::string text =
+        style.paragraph(say("Insights of {}: {}", joined(places), localTime(m_report.scannedAt)), 0, Ink::title);
     if (m_subject.isIncomplete) {
-        text += style.paragraph("Incomplete: interrupted. This is what was found until then.", 0, Ink::warning);
+        text += style.paragraph(say("Incomplete: interrupted. This is what was found until then."), 0, Ink::warning);
     }
     return text;
 }
@@ -141,89 +139,88 @@ std::string InsightTable::nothing() const
 {
     const TextStyle& style = m_settings.style;
     return m_subject.isRefused
-        ? style.paragraph("Nothing was looked at.")
-        : style.paragraph("This home has none of the usual folders, such as Downloads or Documents.")
-            + style.paragraph("--root DIR looks at a folder of your own.");
+        ? style.paragraph(say("Nothing was looked at."))
+        : style.paragraph(say("This home has none of the usual folders, such as Downloads or Documents."))
+            + style.paragraph(say("--root DIR looks at a folder of your own."));
 }
 
 std::string InsightTable::map() const
 {
     const auto& folders = m_report.heatmapItems;
     if (folders.empty()) {
-        return title("Size map", "no folder was looked at");
+        return title(say("Size map"), say("no folder was looked at"));
     }
     const bool isLowerBound = std::ranges::any_of(folders, &CleanerCore::StorageMapItem::isTruncated);
-    return title("Size map",
-               fmt::format("{}, {}{}", counted(folders.size(), "folder"), isLowerBound ? "at least " : "",
-                   size(totalBytes(folders))))
+    const std::string bytes = size(totalBytes(folders));
+    return title(say("Size map"),
+               say("{}, {}", counted(folders.size(), "{} folder", "{} folders"),
+                   isLowerBound ? say("at least {}", bytes) : bytes))
         + sizeMapChart(folders, m_rows.folders, m_settings.style, m_settings.glyphs);
 }
 
 std::string InsightTable::largeFiles() const
 {
-    const std::string words =
-        fmt::format("Large files, {} and more", size(m_subject.configuration.minimumLargeFileBytes));
+    const std::string words = say("Large files, {} and more", size(m_subject.configuration.minimumLargeFileBytes));
     return fileList(words, m_report.largeFiles, m_rows.largeFiles);
 }
 
 std::string InsightTable::downloads() const
 {
     const bool isOfAnyAge = m_subject.configuration.minimumReviewFileAge <= 0;
-    return fileList(isOfAnyAge ? "Downloads" : "Older downloads", m_report.downloadFiles, m_rows.downloads);
+    return fileList(isOfAnyAge ? say("Downloads") : say("Older downloads"), m_report.downloadFiles, m_rows.downloads);
 }
 
 std::string InsightTable::fileList(std::string_view words, Files files, Rows rows) const
 {
     if (files.empty()) {
-        return title(words, "none");
+        return title(words, say("none"));
     }
-    std::string text = title(words, fmt::format("{}, {}", counted(files.size(), "file"), size(totalBytes(files))))
-        + m_columns.header() + '\n';
+    std::string text =
+        title(words, say("{}, {}", fileCount(files.size()), size(totalBytes(files)))) + m_columns.header() + '\n';
     for (const CandidateRow& row : rows) {
         text += m_columns.line(row) + '\n';
     }
     const Files more = files.subspan(rows.size());
-    return text + rest(more.size(), totalBytes(more), "more file");
+    return text
+        + rest(totalBytes(more), more.empty() ? "" : counted(more.size(), "in {} more file", "in {} more files"));
 }
 
-std::string InsightTable::rest(std::size_t count, std::int64_t bytes, std::string_view noun) const
+std::string InsightTable::rest(std::int64_t bytes, std::string_view words) const
 {
-    return count == 0
-        ? std::string()
-        : m_columns.summaryLine(TerminalText(size(bytes)), TerminalText("in " + counted(count, noun))) + '\n';
+    return words.empty() ? std::string() : m_columns.summaryLine(TerminalText(size(bytes)), TerminalText(words)) + '\n';
 }
 
 std::string InsightTable::duplicates() const
 {
-    const std::string words =
-        fmt::format("Duplicates, {} and more", size(m_subject.configuration.minimumDuplicateFileBytes));
+    const std::string words = say("Duplicates, {} and more", size(m_subject.configuration.minimumDuplicateFileBytes));
     const auto& groups = m_report.duplicateGroups;
     if (groups.empty()) {
-        return title(words, "none");
+        return title(words, say("none"));
     }
     std::size_t files = 0;
     for (const auto& group : groups) {
         files += group.files.size();
     }
     return title(words,
-               fmt::format("{}, {}; the extra copies hold {}", counted(groups.size(), "set"), counted(files, "file"),
+               say("{}, {}; the extra copies hold {}", counted(groups.size(), "{} set", "{} sets"), fileCount(files),
                    size(m_report.duplicateWastedBytes())))
         + duplicateLines(groups, m_rows.groups, m_settings.style);
 }
 
 std::string InsightTable::findings() const
 {
-    constexpr std::string_view words = "Installers and scripts";
+    const std::string words = say("Installers and scripts");
     const Files findings = m_report.securityFindings;
     if (findings.empty()) {
-        return title(words, "none");
+        return title(words, say("none"));
     }
     std::string text =
-        title(words, fmt::format("{}, {}, by name alone", counted(findings.size(), "item"), size(totalBytes(findings))))
+        title(words, say("{}, {}, by name alone", itemCount(findings.size()), size(totalBytes(findings))))
         + m_columns.header() + '\n';
     for (const Sort& sort : sortsOf(findings)) {
         const std::size_t shown =
             m_settings.style.isVerbose ? sort.findings.size() : std::min(sort.findings.size(), kShownFindings);
+        const std::size_t more = sort.findings.size() - shown;
         std::string lines;
         std::int64_t bytes = 0;
         std::int64_t shownBytes = 0;
@@ -235,16 +232,17 @@ std::string InsightTable::findings() const
                 lines += m_columns.line(m_rows.findings[index]) + '\n';
             }
         }
-        text += title(sort.detail, fmt::format("{}, {}", counted(sort.findings.size(), "item"), size(bytes)),
+        text += title(sayReason(sort.detail), say("{}, {}", itemCount(sort.findings.size()), size(bytes)),
                     Ink::manualReview)
-            + lines + rest(sort.findings.size() - shown, bytes - shownBytes, "more item");
+            + lines + rest(bytes - shownBytes, more == 0 ? "" : counted(more, "in {} more item", "in {} more items"));
     }
     return text;
 }
 
 std::string InsightTable::machine() const
 {
-    return m_subject.only ? std::string() : title("System", machineWords(m_report.systemSnapshot, m_settings.style));
+    return m_subject.only ? std::string()
+                          : title(say("System"), machineWords(m_report.systemSnapshot, m_settings.style));
 }
 
 std::string InsightTable::skipped() const
@@ -254,7 +252,7 @@ std::string InsightTable::skipped() const
     }
     const SkippedSummary summary(m_rows.skipped);
     const std::size_t columns = m_settings.style.columns;
-    return title("Skipped", counted(summary.count(), "item"))
+    return title(catalogue().skippedTitle(), itemCount(summary.count()))
         + (m_settings.style.isVerbose ? summary.everyItem(columns) : summary.countsByReason(columns, kShownReasons));
 }
 
@@ -264,7 +262,7 @@ std::string InsightTable::cutShort() const
     if (sentences.empty()) {
         return {};
     }
-    std::string text = m_settings.style.painter(Ink::warning, "Cut short") + "\n";
+    std::string text = m_settings.style.painter(Ink::warning, say("Cut short")) + "\n";
     for (const std::string& sentence : sentences) {
         text += m_settings.style.paragraph(sentence, 2);
     }
@@ -289,8 +287,8 @@ std::string InsightTable::ending() const
     const bool verboseTellsMore = !m_settings.style.isVerbose
         && (!m_rows.skipped.empty() || showsLess(m_report.largeFiles, m_rows.largeFiles)
             || showsLess(m_report.downloadFiles, m_rows.downloads) || hidesCopies() || hidesFindings());
-    return m_settings.style.paragraph(
-        verboseTellsMore ? "Nothing was changed on disk. --verbose lists every item." : "Nothing was changed on disk.",
+    return m_settings.style.paragraph(verboseTellsMore ? say("Nothing was changed on disk. --verbose lists every item.")
+                                                       : say("Nothing was changed on disk."),
         0, Ink::quiet);
 }
 

@@ -49,7 +49,7 @@ private:
     [[nodiscard]] std::string ending() const;
 
     [[nodiscard]] std::string fileList(std::string_view title, Files files, Rows rows) const;
-    [[nodiscard]] std::string rest(std::size_t count, std::int64_t bytes, std::string_view noun) const;
+    [[nodiscard]] std::string rest(std::int64_t bytes, std::string_view words) const;
     [[nodiscard]] std::string title(std::string_view words, std::string_view rest, Ink ink = Ink::title) const;
     [[nodiscard]] std::string size(std::int64_t bytes) const { return m_settings.style.size(bytes); }
 

@@ -1,5 +1,8 @@
 #include "KarvelloCLI/ItemLines.h"
 
+#include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TerminalText.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -18,8 +21,8 @@ ItemLines::ItemLines(std::vector<Item> items)
     : m_items(std::move(items))
 {
     for (const Item& item : m_items) {
-        m_sizeWidth = std::max(m_sizeWidth, item.size.size());
-        m_ageWidth = std::max(m_ageWidth, item.age.size());
+        m_sizeWidth = std::max(m_sizeWidth, columnsOf(item.size));
+        m_ageWidth = std::max(m_ageWidth, columnsOf(item.age));
     }
 }
 
@@ -32,9 +35,9 @@ std::string ItemLines::text() const
 {
     std::string text;
     for (const Item& item : m_items) {
-        text += fmt::format("{} {:>{}}  ", item.mark, item.size, m_sizeWidth);
+        text += fmt::format("{} {}  ", item.mark, TerminalText(item.size).paddedLeft(m_sizeWidth));
         if (m_ageWidth > 0) {
-            text += fmt::format("{:>{}}  ", item.age, m_ageWidth);
+            text += TerminalText(item.age).paddedLeft(m_ageWidth) + "  ";
         }
         text += item.words;
         text += '\n';
@@ -43,6 +46,11 @@ std::string ItemLines::text() const
         }
     }
     return text;
+}
+
+std::string headed(std::string_view heading, std::string_view words, std::vector<ItemLines::Item> items)
+{
+    return say("{}: {}", heading, words) + '\n' + ItemLines(std::move(items)).text();
 }
 
 } // namespace KarvelloCLI

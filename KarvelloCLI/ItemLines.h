@@ -34,4 +34,7 @@ private:
     std::size_t m_ageWidth = 0;
 };
 
+/// A heading, what there is to say of all items, and the items.
+[[nodiscard]] std::string headed(std::string_view heading, std::string_view words, std::vector<ItemLines::Item> items);
+
 } // namespace KarvelloCLI

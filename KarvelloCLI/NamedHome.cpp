@@ -1,9 +1,8 @@
 #include "KarvelloCLI/NamedHome.h"
 
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/TerminalText.h"
 #include "KarvelloCLI/WorkingDirectory.h"
-
-#include <fmt/format.h>
 
 namespace KarvelloCLI {
 
@@ -26,7 +25,7 @@ Platform::Environment NamedHome::environment(const Platform::Environment& ofThis
 
 std::string NamedHome::absence() const
 {
-    return fmt::format("There is no home folder at “{}”.", TerminalText(named.path()).string());
+    return say("There is no home folder at “{}”.", TerminalText(named.path()).string());
 }
 
 } // namespace KarvelloCLI

@@ -45,18 +45,6 @@ std::optional<std::int64_t> byteCount(std::string_view text)
 
 } // namespace
 
-CLI::Validator oneOfTheLanguages()
-{
-    return CLI::Validator(
-        [](std::string& value) -> std::string {
-            if (std::ranges::find(kLanguageCodes, value) != kLanguageCodes.end()) {
-                return {};
-            }
-            return fmt::format("“{}” is not one of {}", TerminalText(value).string(), fmt::join(kLanguageCodes, ", "));
-        },
-        std::string{});
-}
-
 CLI::Validator notEmpty(std::string complaint)
 {
     return CLI::Validator(
@@ -73,8 +61,8 @@ CLI::Validator secondsFromZero(std::optional<double> most)
             if (isNumber && seconds >= 0 && (!most || seconds <= *most)) {
                 return {};
             }
-            return most ? fmt::format("“{}” is no number of seconds from 0 to {}", TerminalText(value).string(), *most)
-                        : fmt::format("“{}” is no number of seconds", TerminalText(value).string());
+            return most ? say("“{}” is no number of seconds from {} to {}", TerminalText(value).string(), 0, *most)
+                        : say("“{}” is no number of seconds", TerminalText(value).string());
         },
         std::string{});
 }
@@ -87,7 +75,7 @@ CLI::Validator watchInterval()
             if (CLI::detail::lexical_cast(value, seconds) && seconds >= 0.1 && seconds <= 86'400) {
                 return {};
             }
-            return fmt::format("“{}” is no number of seconds from 0.1 to 86400", TerminalText(value).string());
+            return say("“{}” is no number of seconds from {} to {}", TerminalText(value).string(), 0.1, 86400);
         },
         std::string{});
 }
@@ -100,7 +88,7 @@ CLI::Validator countOfJobs()
             if (CLI::detail::lexical_cast(value, jobs) && jobs >= 1 && jobs <= kMostJobs) {
                 return {};
             }
-            return fmt::format("“{}” is no number from 1 to {}", TerminalText(value).string(), kMostJobs);
+            return say("“{}” is no number from {} to {}", TerminalText(value).string(), 1, kMostJobs);
         },
         std::string{});
 }
@@ -113,7 +101,7 @@ CLI::Validator countFrom(std::int64_t least)
             if (CLI::detail::lexical_cast(value, count) && count >= least) {
                 return {};
             }
-            return fmt::format("“{}” is no number from {} on", TerminalText(value).string(), least);
+            return say("“{}” is no number from {} on", TerminalText(value).string(), least);
         },
         std::string{});
 }
@@ -124,8 +112,7 @@ CLI::Validator byteCountFrom(std::int64_t least)
         [least](std::string& value) -> std::string {
             const auto bytes = byteCount(value);
             if (!bytes || *bytes < least) {
-                return fmt::format(
-                    "“{}” is no number of bytes from {} on, such as 100M", TerminalText(value).string(), least);
+                return say("“{}” is no number of bytes from {} on, such as 100M", TerminalText(value).string(), least);
             }
             value = std::to_string(*bytes);
             return {};
@@ -140,7 +127,7 @@ CLI::Validator entryId()
             if (Platform::UUID::fromString(value)) {
                 return {};
             }
-            return fmt::format("“{}” is no id of an entry", TerminalText(value).string());
+            return say("“{}” is no id of an entry", TerminalText(value).string());
         },
         std::string{});
 }

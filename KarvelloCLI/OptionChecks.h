@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/TerminalText.h"
 #include "Platform/Base/RawValue.h"
 
@@ -24,13 +25,12 @@ template <Platform::RawRepresentable E>
             if (Platform::fromRawValue<E>(value)) {
                 return {};
             }
-            return fmt::format(
-                "“{}” is not one of {}", TerminalText(value).string(), fmt::join(Platform::RawValues<E>::names, ", "));
+            return say("“{}” is not one of {}", TerminalText(value).string(),
+                fmt::format("{}", fmt::join(Platform::RawValues<E>::names, ", ")));
         },
         std::string{});
 }
 
-[[nodiscard]] CLI::Validator oneOfTheLanguages();
 [[nodiscard]] CLI::Validator notEmpty(std::string complaint);
 [[nodiscard]] CLI::Validator secondsFromZero(std::optional<double> most = std::nullopt);
 /// A tenth of a second to a day.

@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Scan/CleanupScanMode.h"
 #include "KarvelloCLI/Terminal.h"
+#include "KarvelloUI/Copy/AppLanguage.h"
 #include "Platform/Base/RawValue.h"
 #include "Platform/Base/UUID.h"
 
@@ -24,8 +25,8 @@ struct CommonOptions {
     std::optional<std::string> output;
     When progress = When::automatic;
     When color = When::automatic;
-    /// One of `kLanguageCodes`.
-    std::string language = "en";
+    /// Absent: what the environment says. `languageAskedFor` has found it before.
+    std::optional<KarvelloUI::AppLanguage> language;
     /// 0: as many as there are processors.
     unsigned jobs = 0;
     bool isVerbose = false;
@@ -80,9 +81,6 @@ struct HistoryOptions {
     /// The newest so many entries, at least 1. Absent: all that the log keeps.
     std::optional<std::int64_t> limit;
 };
-
-inline constexpr std::array<std::string_view, 8> kLanguageCodes{
-    "ko", "en", "ja", "zh-Hans", "zh-Hant", "es", "fr", "de"};
 
 } // namespace KarvelloCLI
 

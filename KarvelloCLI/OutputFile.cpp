@@ -1,9 +1,9 @@
 #include "KarvelloCLI/OutputFile.h"
 
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/TerminalText.h"
 #include "Platform/Files/StreamFile.h"
 
-#include <fmt/format.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -68,7 +68,7 @@ int writeWholly(int descriptor, std::string_view bytes)
 
 OutputFile OutputFile::standardOutput()
 {
-    return {Descriptor{STDOUT_FILENO}, "standard output"};
+    return {Descriptor{STDOUT_FILENO}, say("standard output")};
 }
 
 std::expected<OutputFile, std::string> OutputFile::named(
@@ -82,13 +82,13 @@ std::expected<OutputFile, std::string> OutputFile::named(
     const auto attributes = fileManager.attributes(url);
     const auto isOfType = [&attributes](Platform::FileType type) { return attributes && attributes->type == type; };
     if (isOfType(Platform::FileType::directory) || path.ends_with('/')) {
-        return std::unexpected(fmt::format("“{}” is a folder; a file is needed", shown));
+        return std::unexpected(say("“{}” is a folder; a file is needed", shown));
     }
     if (isOfType(Platform::FileType::other)) {
         return OutputFile{Stream{url}, shown};
     }
     if (!fileManager.directoryExists(url.deletingLastPathComponent())) {
-        return std::unexpected(fmt::format("“{}” lies in no folder that exists", shown));
+        return std::unexpected(say("“{}” lies in no folder that exists", shown));
     }
     return OutputFile{AtomicFile{url}, shown};
 }

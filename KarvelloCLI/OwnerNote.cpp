@@ -1,6 +1,6 @@
 #include "KarvelloCLI/OwnerNote.h"
 
-#include <fmt/format.h>
+#include "KarvelloCLI/Say.h"
 
 namespace KarvelloCLI {
 
@@ -10,8 +10,8 @@ std::string ownerNote(const std::optional<CleanerCore::AppCacheContext>& context
         return {};
     }
     const auto& owner = context->matchedRunningDisplayName;
-    return fmt::format("{} is running and may be using it",
-        owner && name == OwnerName::shown ? std::string_view(*owner) : "its application");
+    return owner && name == OwnerName::shown ? say("{} is running and may be using it", *owner)
+                                             : say("its application is running and may be using it");
 }
 
 } // namespace KarvelloCLI

@@ -6,9 +6,11 @@
 #include "KarvelloCLI/CommandLine.h"
 #include "KarvelloCLI/HistoryCommand.h"
 #include "KarvelloCLI/InsightsCommand.h"
+#include "KarvelloCLI/LanguageChoice.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/OutputFile.h"
 #include "KarvelloCLI/RestoreCommand.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/ScanCommand.h"
 #include "KarvelloCLI/StatusCommand.h"
 #include "Platform/Files/PosixFileManager.h"
@@ -17,7 +19,6 @@
 #include "Platform/Services/UserDirectories.h"
 
 #include <fcntl.h>
-#include <fmt/format.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -45,8 +46,8 @@ void occupyStandardDescriptors()
 ExitCode printInformation(const Information& information)
 {
     if (const int error = writeWholly(STDOUT_FILENO, information.text); error != 0) {
-        printMessage(
-            fmt::format("standard output could not be written to: {}.", std::generic_category().message(error)));
+        printMessage(say(
+            "{} could not be written: {}.", say("standard output"), sayReason(std::generic_category().message(error))));
         return ExitCode::partial;
     }
     return ExitCode::done;
@@ -60,6 +61,8 @@ ExitCode runProgram(std::span<const std::string> arguments)
     // A reader that has gone away is an error of a write, to be told in words.
     std::signal(SIGPIPE, SIG_IGN);
 
+    const Platform::Environment environment = Platform::Environment::current();
+    speak(languageAskedFor(arguments).value_or(languageOf(environment)));
     const auto command = parseCommandLine(arguments);
     if (!command) {
         printMessage(command.error().message);
@@ -70,7 +73,6 @@ ExitCode runProgram(std::span<const std::string> arguments)
         return printInformation(*information);
     }
     const Platform::PosixFileManager fileManager;
-    const Platform::Environment environment = Platform::Environment::current();
     if (const auto* const options = std::get_if<ScanOptions>(&*command)) {
         return ScanCommand(fileManager, environment).run(*options);
     }

@@ -1,7 +1,7 @@
 #include "KarvelloCLI/ProgressLine.h"
 
-#include "CleanerCore/Scan/ByteSizeFormatter.h"
 #include "KarvelloCLI/OutputFile.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/Words.h"
 
 #include <fmt/format.h>
@@ -18,23 +18,18 @@ namespace {
 constexpr std::size_t kLeastColumnsForPath = 12;
 constexpr std::string_view kEraseLine = "\r\x1b[K";
 
-std::size_t columnsOf(std::string_view text)
-{
-    return TerminalText(text, TerminalText::Kind::sentence).columns();
-}
-
 /// The facts that fit, and the place behind them if there is room for it.
 std::string lineOf(std::string_view facts, std::string_view brief, const Platform::FileURL* place, std::size_t columns,
     const std::optional<HomePathAbbreviation>& paths)
 {
     const bool showsPath = place != nullptr && paths;
     const std::size_t leastForPath = showsPath ? 2 + kLeastColumnsForPath : 0;
-    std::string text(facts.size() + leastForPath <= columns ? facts : brief);
-    if (showsPath && text.size() + leastForPath <= columns) {
+    std::string text(columnsOf(facts) + leastForPath <= columns ? facts : brief);
+    if (showsPath && columnsOf(text) + leastForPath <= columns) {
         const TerminalText path(paths->abbreviate(place->path()));
-        text += "  " + path.elidedInMiddle(columns - text.size() - 2).string();
+        return text + "  " + path.elidedInMiddle(columns - columnsOf(text) - 2).string();
     }
-    return columnsOf(text) <= columns ? text : text.substr(0, columns);
+    return TerminalText(text, TerminalText::Kind::sentence).wrapped(std::max<std::size_t>(columns, 1)).front().string();
 }
 
 } // namespace
@@ -119,10 +114,11 @@ void ProgressLine::clear()
 std::string ProgressLine::line(const CleanerCore::StorageScanProgress& progress, std::size_t columns,
     const std::optional<HomePathAbbreviation>& paths)
 {
-    const std::string facts = fmt::format("{:3}%  {} looked at, {} found, {} skipped", progress.percentage(),
-        counted(static_cast<std::size_t>(progress.completedItems), "item"), progress.foundCandidates,
-        progress.skippedItems);
-    const std::string brief = fmt::format("{:3}%  {} found", progress.percentage(), progress.foundCandidates);
+    const std::string percentage = fmt::format("{:3}%  ", progress.percentage());
+    const std::string facts = percentage
+        + say("{} looked at, {} found, {} skipped", itemCount(static_cast<std::size_t>(progress.completedItems)),
+            progress.foundCandidates, progress.skippedItems);
+    const std::string brief = percentage + say("{} found", progress.foundCandidates);
 
     return lineOf(facts, brief, progress.currentURL ? &*progress.currentURL : nullptr, columns, paths);
 }
@@ -130,14 +126,12 @@ std::string ProgressLine::line(const CleanerCore::StorageScanProgress& progress,
 std::string ProgressLine::line(const CleanerCore::MacStorageInsightScanner::Progress& progress, std::size_t columns,
     const std::optional<HomePathAbbreviation>& paths)
 {
-    const std::string brief =
-        fmt::format("{} looked at", counted(static_cast<std::size_t>(progress.visitedItems), "item"));
+    const std::string brief = say("{} looked at", itemCount(static_cast<std::size_t>(progress.visitedItems)));
     if (progress.readBytes > 0) {
-        const std::string read =
-            fmt::format("comparing files, {} read", CleanerCore::ByteSizeFormatter::string(progress.readBytes));
-        return lineOf(fmt::format("{}, {}", brief, read), read, nullptr, columns, paths);
+        const std::string read = say("comparing files, {} read", sizeWords(progress.readBytes));
+        return lineOf(say("{}, {}", brief, read), read, nullptr, columns, paths);
     }
-    const std::string facts = fmt::format(
+    const std::string facts = say(
         "folder {} of {}, {}", std::min(progress.completedRoots + 1, progress.totalRoots), progress.totalRoots, brief);
     return lineOf(facts, brief, &progress.root, columns, paths);
 }
@@ -148,7 +142,7 @@ std::string ProgressLine::line(
     const std::size_t percentage = progress.doneItems * 100 / std::max<std::size_t>(progress.allItems, 1);
     const std::string brief = fmt::format("{:3}%", percentage);
     const std::string facts =
-        fmt::format("{}  {} of {}", brief, progress.doneItems, counted(progress.allItems, "item"));
+        fmt::format("{}  {}", brief, say("{} of {}", progress.doneItems, itemCount(progress.allItems)));
     return lineOf(facts, brief, nullptr, columns, paths);
 }
 

@@ -1,8 +1,7 @@
 #include "KarvelloCLI/RestoreCatalog.h"
 
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/TerminalText.h"
-
-#include <fmt/format.h>
 
 #include <unordered_set>
 #include <utility>
@@ -86,10 +85,10 @@ RestoreCatalog::Selection RestoreCatalog::named(std::span<const std::string> ids
             }
         }
         if (found == nullptr) {
-            selection.complaints.push_back(
-                fmt::format("The log keeps no item with the id “{}”.", TerminalText(id).string()));
+            selection.complaints.push_back(say("The log keeps no item with the id “{}”.", TerminalText(id).string()));
         } else if (found->obstacle) {
-            selection.complaints.push_back(TerminalText(*found->obstacle, TerminalText::Kind::sentence).string());
+            selection.complaints.push_back(
+                TerminalText(sayReason(*found->obstacle), TerminalText::Kind::sentence).string());
         } else {
             selection.items.push_back(found->item);
         }

@@ -11,18 +11,16 @@
 #include "KarvelloCLI/RestoreLocations.h"
 #include "KarvelloCLI/RestoreRehearsal.h"
 #include "KarvelloCLI/RestoreTexts.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/ScanPlan.h"
 #include "KarvelloCLI/WorkingDirectory.h"
 #include "Platform/Files/FileError.h"
 #include "Platform/Services/HomeDirectory.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace KarvelloCLI {
@@ -97,7 +95,7 @@ public:
     {
     }
 
-    std::string_view participle() const override { return "put back"; }
+    ErrandKind kind() const override { return ErrandKind::restore; }
     std::string preview(const TextStyle& style) const override { return restorePreview(m_items, m_bytes, style); }
     std::string question(const TextStyle& style) const override { return restoreQuestion(m_items, m_bytes, style); }
     CleanupAuditEntry perform(const std::stop_token& stop, const CleanerCore::ItemProgressReport& report) override
@@ -147,18 +145,18 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
     }
     const OutputFile& output = opened->output;
     const bool isListing = options.selection == RestoreSelection::none;
-    if (!isListing && !mayBeAgreedTo(options.isConfirmed, "put back")) {
+    if (!isListing && !mayBeAgreedTo(options.isConfirmed, ErrandKind::restore)) {
         return ExitCode::refused;
     }
 
     AuditLogReading log = AuditLogReading::of(m_log, m_fileManager);
     if (log.complaint) {
-        printMessage(*log.complaint + ".");
+        printMessage(*log.complaint);
     }
     if (options.entry) {
         std::erase_if(log.entries, [&](const CleanupAuditEntry& entry) { return entry.id != *options.entry; });
         if (log.entries.empty()) {
-            printMessage(fmt::format("The log has no entry {}.", options.entry->string()));
+            printMessage(say("The log has no entry {}.", options.entry->string()));
             return ExitCode::refused;
         }
     }
@@ -186,12 +184,12 @@ ExitCode RestoreCommand::run(const RestoreOptions& options) const
         options.selection == RestoreSelection::all ? catalog.everything() : catalog.named(options.ids);
     const auto& items = selection.items;
     for (const std::string& complaint : selection.complaints) {
-        printMessage(complaint + ".");
+        printMessage(withFullStop(complaint));
     }
     const auto bytes = totalBytes(items);
     if (items.empty() || !bytes) {
-        printMessage(items.empty() ? "Nothing was put back: there is nothing that can be."
-                                   : "Nothing was put back: the sizes in the log are no sizes of files.");
+        printMessage(items.empty() ? say("Nothing was put back: there is nothing that can be.")
+                                   : say("Nothing was put back: the sizes in the log are no sizes of files."));
         return options.selection == RestoreSelection::all && bytes ? codeOfLog : ExitCode::refused;
     }
     // Now, so that a folder that is put in the place of another one while the question waits is found out.

@@ -1,9 +1,8 @@
 #include "KarvelloCLI/RestoreTexts.h"
 
 #include "KarvelloCLI/ItemLines.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/Words.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <string_view>
@@ -35,30 +34,32 @@ std::string listed(const RecordedClean& clean, const Platform::FileManager& file
         line.mark = recorded.obstacle ? "-" : " ";
         line.notes.push_back("id " + TerminalText(item.candidate.id).string());
         if (item.destinationURL) {
-            line.notes.push_back((isGone ? "was at " : "now at ") + style.path(*item.destinationURL));
+            line.notes.push_back(isGone ? say("was at {}", style.path(*item.destinationURL))
+                                        : say("now at {}", style.path(*item.destinationURL)));
         }
         if (recorded.obstacle) {
-            line.notes.push_back(
-                style.painter(Ink::warning, TerminalText(*recorded.obstacle, TerminalText::Kind::sentence).string()));
+            line.notes.push_back(style.painter(
+                Ink::warning, TerminalText(sayReason(*recorded.obstacle), TerminalText::Kind::sentence).string()));
         }
         items.push_back(std::move(line));
     }
     std::string text = style.painter(Ink::title, localTime(clean.occurredAt)) + "  "
-        + style.painter(Ink::quiet, "entry " + clean.entry.string()) + "\n" + ItemLines(std::move(items)).text();
+        + style.painter(Ink::quiet, say("entry {}", clean.entry.string())) + "\n" + ItemLines(std::move(items)).text();
     if (gone > 0) {
         text += style.paragraph(
-            fmt::format("{} no longer in the Trash.", gone == 1 ? "1 item is" : fmt::format("{} items are", gone)), 2);
+            counted(gone, "{} item is no longer in the Trash.", "{} items are no longer in the Trash."), 2);
     }
     if (const auto count = clean.repeatedCount; count > 0) {
-        text += style.paragraph(fmt::format("{} cleaned once more, which is listed above.",
-                                    count == 1 ? "1 item was" : fmt::format("{} items were", count)),
+        text += style.paragraph(
+            counted(static_cast<std::size_t>(count), "{} item was cleaned once more, which is listed above.",
+                "{} items were cleaned once more, which is listed above."),
             2);
     }
     if (const auto kept = static_cast<std::int64_t>(clean.items.size()) + clean.repeatedCount;
         clean.movedCount > kept) {
-        text += style.paragraph(fmt::format("The log kept {} of {} items; the others can be put back from the Trash of "
-                                            "the desktop.",
-                                    kept, clean.movedCount),
+        text += style.paragraph(
+            say("The log kept {} of {} items; the others can be put back from the Trash of the desktop.", kept,
+                clean.movedCount),
             2);
     }
     return text;
@@ -69,8 +70,8 @@ std::string section(std::string_view heading, Ink ink, std::vector<ItemLines::It
     if (items.empty()) {
         return {};
     }
-    const std::string count = counted(items.size(), "item");
-    return fmt::format("{}: {}\n{}", style.painter(ink, heading), count, ItemLines(std::move(items)).text());
+    const std::string count = itemCount(items.size());
+    return headed(style.painter(ink, heading), count, std::move(items));
 }
 
 } // namespace
@@ -84,11 +85,11 @@ std::string restoreList(const RestoreCatalog& catalog, const Platform::FileManag
     }
     const auto restorable = catalog.everything().items;
     if (restorable.empty()) {
-        return text + style.paragraph("Nothing that the log keeps can be put back.");
+        return text + style.paragraph(say("Nothing that the log keeps can be put back."));
     }
     return text
-        + style.paragraph(fmt::format(
-            "{} can be put back: karvello-cli restore --id ID, or --all.", counted(restorable.size(), "item")));
+        + style.paragraph(counted(restorable.size(), "{} item can be put back: karvello-cli restore --id ID, or --all.",
+            "{} items can be put back: karvello-cli restore --id ID, or --all."));
 }
 
 std::string restorePreview(std::span<const CleanedItem> items, std::int64_t bytes, const TextStyle& style)
@@ -97,13 +98,13 @@ std::string restorePreview(std::span<const CleanedItem> items, std::int64_t byte
     for (const CleanedItem& item : items) {
         lines.push_back(lineOf(item, style.path(item.candidate.url), style));
     }
-    return fmt::format("{}: {}, {}\n{}", style.painter(Ink::title, "Back from the Trash to"),
-        counted(items.size(), "item"), style.size(bytes), ItemLines(std::move(lines)).text());
+    return headed(style.painter(Ink::title, say("Back from the Trash to")),
+        say("{}, {}", itemCount(items.size()), style.size(bytes)), std::move(lines));
 }
 
 std::string restoreQuestion(std::span<const CleanedItem> items, std::int64_t bytes, const TextStyle& style)
 {
-    return fmt::format("Put {} ({}) back?", counted(items.size(), "item"), style.size(bytes));
+    return say("Put {} ({}) back?", itemCount(items.size()), style.size(bytes));
 }
 
 std::string restoreAccount(
@@ -117,7 +118,7 @@ std::string restoreAccount(
     std::vector<ItemLines::Item> refused;
     for (const auto& failed : result.failedItems) {
         refused.push_back(lineOf(failed.cleanedItem, style.path(failed.cleanedItem.candidate.url), style));
-        refused.back().notes.push_back(TerminalText(failed.reason, TerminalText::Kind::sentence).string());
+        refused.back().notes.push_back(TerminalText(sayReason(failed.reason), TerminalText::Kind::sentence).string());
     }
     // Items are dealt with in their order, so what was not reached stands at the end.
     std::vector<ItemLines::Item> left;
@@ -126,10 +127,10 @@ std::string restoreAccount(
     }
     const bool isNothing = back.empty();
     std::string text;
-    for (const std::string& part : {section("Put back", Ink::safe, std::move(back), style),
-             section("Refused or failed", Ink::warning, std::move(refused), style),
-             section("Not reached, still in the Trash", Ink::warning, std::move(left), style),
-             isNothing ? style.paragraph("Nothing was put back.") : std::string()}) {
+    for (const std::string& part : {section(say("Put back"), Ink::safe, std::move(back), style),
+             section(say("Refused or failed"), Ink::warning, std::move(refused), style),
+             section(say("Not reached, still in the Trash"), Ink::warning, std::move(left), style),
+             isNothing ? style.paragraph(say("Nothing was put back.")) : std::string()}) {
         text += text.empty() || part.empty() ? part : "\n" + part;
     }
     return text;

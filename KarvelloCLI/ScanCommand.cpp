@@ -27,7 +27,6 @@ std::string tableOf(const ScanReport& report, const ScanSubject& subject, const 
             .usesColor = usesColor(options.color, Terminal::of(descriptor, environment), environment),
             .isVerbose = options.isVerbose,
             .isRedacted = options.isRedacted,
-            .language = options.language,
         })
         .text();
 }

@@ -3,10 +3,9 @@
 #include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageProfiles.h"
 #include "KarvelloCLI/NamedHome.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/TerminalText.h"
 #include "KarvelloCLI/WorkingDirectory.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <iterator>
@@ -89,7 +88,7 @@ std::vector<std::string> ScanPlan::overlaps() const
             const std::string& outerPath = locations[outer].rootURL.path();
             const bool isSame = innerPath == outerPath && outer < inner;
             if (std::max(inner, outer) >= firstGiven && (isSame || Platform::isPathInside(innerPath, outerPath))) {
-                sentences.push_back(fmt::format("{} is scanned as a part of {} already; what it holds counts twice.",
+                sentences.push_back(say("{} is scanned as a part of {} already; what it holds counts twice.",
                     TerminalText(innerPath).string(), TerminalText(outerPath).string()));
                 break;
             }

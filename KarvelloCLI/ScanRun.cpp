@@ -4,13 +4,11 @@
 #include "CleanerCore/Scan/StorageScanner.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/ProgressLine.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/SkipKind.h"
-#include "KarvelloCLI/Words.h"
 #include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Services/HomeDirectory.h"
 #include "Platform/Services/SystemStatistics.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <optional>
@@ -28,9 +26,9 @@ using Platform::FileURL;
 /// The reason, with the path where it does not name it itself.
 std::string sentenceOn(const SkippedItem& item)
 {
-    const std::string reason = TerminalText(item.reason, TerminalText::Kind::sentence).string();
+    const std::string reason = TerminalText(sayReason(item.reason), TerminalText::Kind::sentence).string();
     const std::string path = TerminalText(item.url.path()).string();
-    return item.reason.ends_with(item.url.path()) ? reason : fmt::format("{}: {}", reason, path);
+    return item.reason.ends_with(item.url.path()) ? reason : say("{}: {}", reason, path);
 }
 
 /// A refused folder often is one that the user reaches through a link, where the folder itself would do.
@@ -40,7 +38,7 @@ std::optional<std::string> hintForLink(const FileURL& folder, const Platform::Fi
     if (real.path() == folder.path() || !fileManager.directoryExists(real)) {
         return std::nullopt;
     }
-    return fmt::format("Its path leads through a symbolic link, and none is followed; the folder itself is {}",
+    return say("Its path leads through a symbolic link, and none is followed; the folder itself is {}",
         TerminalText(real.path()).string());
 }
 
@@ -106,7 +104,7 @@ ScanJudgement ScanJudgement::of(
 void ScanJudgement::tellRefusals(const Platform::FileManager& fileManager) const
 {
     for (const SkippedItem& refusal : refusals) {
-        printMessage(fmt::format("Not scanned: {}", sentenceOn(refusal)));
+        printMessage(say("Not scanned: {}", sentenceOn(refusal)));
         if (const auto hint = hintForLink(refusal.url, fileManager)) {
             printMessage(*hint);
         }
@@ -117,10 +115,11 @@ ExitCode ScanJudgement::conclude(bool isInterrupted, const Platform::FileManager
 {
     tellRefusals(fileManager);
     if (failures > 0) {
-        printMessage(counted(failures, "item") + " could not be read, which the skipped items tell of.");
+        printMessage(counted(failures, "{} item could not be read, which the skipped items tell of.",
+            "{} items could not be read, which the skipped items tell of."));
     }
     if (isInterrupted) {
-        printMessage("Interrupted: the result is incomplete.");
+        printMessage(say("Interrupted: the result is incomplete."));
         return ExitCode::interrupted;
     }
     return exitCode;

@@ -1,14 +1,13 @@
 #include "KarvelloCLI/ScanTable.h"
 
-#include "CleanerCore/Scan/ByteSizeFormatter.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloCLI/FolderNames.h"
 #include "KarvelloCLI/OwnerNote.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/CheckedMath.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <span>
@@ -78,7 +77,7 @@ CandidateRow ScanTable::row(const CleanupCandidate& candidate, std::string_view 
     row.age =
         TerminalText(candidate.lastModified ? shortAge(m_report.scannedAt.secondsSince(*candidate.lastModified)) : "-");
     row.name = TerminalText(name);
-    row.kind = TerminalText(displayName(candidate.category));
+    row.kind = TerminalText(sayReason(displayName(candidate.category)));
     row.path = TerminalText(path);
     row.note = TerminalText(
         ownerNote(candidate.appCacheContext, m_settings.isRedacted ? OwnerName::hidden : OwnerName::shown));
@@ -99,7 +98,7 @@ void ScanTable::makeSkippedRows(CleanerCore::ReportExportRedactionContext& redac
 
 std::string ScanTable::size(std::int64_t bytes) const
 {
-    return CleanerCore::ByteSizeFormatter::string(bytes, m_settings.language);
+    return sizeWords(bytes);
 }
 
 std::string ScanTable::text() const
@@ -129,16 +128,15 @@ std::string ScanTable::heading() const
     std::vector<std::string> places;
     if (m_subject.mode) {
         // "~" for the folder that everything else is shown against would say nothing.
-        const std::string home = m_settings.isRedacted ? "the home folder" : m_subject.home.path();
-        places.push_back(fmt::format("{} (mode {})", home, Platform::rawValue(*m_subject.mode)));
+        const std::string home = m_settings.isRedacted ? say("the home folder") : m_subject.home.path();
+        places.push_back(say("{} (mode {})", home, Platform::rawValue(*m_subject.mode)));
     }
     for (std::string& name : folderNames(m_subject.folders, m_paths, m_settings.isRedacted)) {
         places.push_back(std::move(name));
     }
-    std::string text =
-        paragraph(fmt::format("Scan of {}: {}", fmt::join(places, ", "), localTime(m_report.scannedAt)), Ink::title);
+    std::string text = paragraph(say("Scan of {}: {}", joined(places), localTime(m_report.scannedAt)), Ink::title);
     if (m_subject.isIncomplete) {
-        text += paragraph("Incomplete: interrupted. This is what was found until then.", Ink::warning);
+        text += paragraph(say("Incomplete: interrupted. This is what was found until then."), Ink::warning);
     }
     return text;
 }
@@ -152,7 +150,8 @@ std::string ScanTable::candidates() const
         }
     }
     // One set of columns for all groups, so that sizes stand under sizes from top to bottom.
-    const CandidateColumns columns(rows, m_settings.columns, m_painter, m_settings.isRedacted ? "Path" : "Folder");
+    const CandidateColumns columns(
+        rows, m_settings.columns, m_painter, m_settings.isRedacted ? say("Path") : say("Folder"));
     std::string text = columns.header() + '\n';
     for (const Group& group : m_groups) {
         text += '\n';
@@ -165,8 +164,9 @@ std::string ScanTable::lines(const Group& group, const CandidateColumns& columns
 {
     const std::span candidates = std::span(m_report.candidates).subspan(group.first, group.last - group.first);
     const CleanupSafety safety = candidates.front().safety;
-    std::string text = m_painter(inkOf(safety), displayName(safety))
-        + fmt::format(": {}, {}\n", counted(candidates.size(), "item"), size(totalBytes(candidates)));
+    std::string text = say("{}: {}", m_painter(inkOf(safety), sayReason(displayName(safety))),
+                           say("{}, {}", itemCount(candidates.size()), size(totalBytes(candidates))))
+        + '\n';
     for (const CandidateRow& row : group.rows) {
         text += columns.line(row);
         text += '\n';
@@ -187,7 +187,7 @@ std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const 
         return columns.summaryLine(TerminalText(size(bytes)), TerminalText(words)) + '\n';
     };
     const std::int64_t bytes = totalBytes(candidates);
-    std::string text = line(bytes, fmt::format("in {}", counted(candidates.size(), "more item")));
+    std::string text = line(bytes, counted(candidates.size(), "in {} more item", "in {} more items"));
     if (m_settings.isRedacted) {
         return text;
     }
@@ -214,8 +214,7 @@ std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const 
     std::ranges::partial_sort(folders, folders.begin() + static_cast<std::ptrdiff_t>(shown), std::ranges::greater{},
         [](const Folder& folder) { return std::tie(folder.bytes, folder.path); });
     for (const Folder& folder : std::span(folders).first(shown)) {
-        text += line(
-            folder.bytes, fmt::format("  {} in {}", counted(folder.items, "item"), m_paths.abbreviate(folder.path)));
+        text += line(folder.bytes, "  " + say("{} in {}", itemCount(folder.items), m_paths.abbreviate(folder.path)));
     }
     return text;
 }
@@ -226,7 +225,7 @@ std::string ScanTable::skipped() const
         return {};
     }
     const SkippedSummary summary(m_skippedRows);
-    return m_painter(Ink::title, "Skipped") + fmt::format(": {}\n", counted(summary.count(), "item"))
+    return say("{}: {}", m_painter(Ink::title, catalogue().skippedTitle()), itemCount(summary.count())) + '\n'
         + (m_settings.isVerbose ? summary.everyItem(m_settings.columns)
                                 : summary.countsByReason(m_settings.columns, kShownReasons));
 }
@@ -244,14 +243,17 @@ std::string ScanTable::totals() const
             ++selectedCount;
         }
     }
-    const std::string reclaimable = size(m_report.reclaimableBytes());
-    const std::string preselected = size(selectedBytes);
-    const std::size_t width = std::max(reclaimable.size(), preselected.size());
-    std::string text = fmt::format("  {}  {:>{}}  {}\n", m_painter(Ink::title, "Reclaimable"), reclaimable, width,
-        counted(m_report.candidates.size(), "item"));
+    const TerminalText reclaimable(size(m_report.reclaimableBytes()));
+    const TerminalText preselected(size(selectedBytes));
+    const TerminalText all(catalogue().reclaimableTitle());
+    const TerminalText chosen(say("Preselected"));
+    const std::size_t width = std::max(reclaimable.columns(), preselected.columns());
+    const std::size_t labelWidth = selectedCount > 0 ? std::max(all.columns(), chosen.columns()) : all.columns();
+    std::string text = fmt::format("  {}  {}  {}\n", m_painter(Ink::title, all.paddedRight(labelWidth)),
+        reclaimable.paddedLeft(width), itemCount(m_report.candidates.size()));
     if (selectedCount > 0) {
-        text += fmt::format("{} Preselected  {:>{}}  {}\n", m_painter(Ink::safe, "*"), preselected, width,
-            counted(selectedCount, "item"));
+        text += fmt::format("{} {}  {}  {}\n", m_painter(Ink::safe, "*"), chosen.paddedRight(labelWidth),
+            preselected.paddedLeft(width), itemCount(selectedCount));
     }
     return text;
 }
@@ -259,21 +261,21 @@ std::string ScanTable::totals() const
 std::string ScanTable::nothingFound() const
 {
     if (m_subject.isRefused) {
-        return paragraph("Nothing was scanned.");
+        return paragraph(say("Nothing was scanned."));
     }
-    std::string text = paragraph("Nothing to clean up was found.");
+    std::string text = paragraph(say("Nothing to clean up was found."));
     const auto young = std::ranges::count(m_report.skippedItems,
         CleanerCore::StorageScannerSkipReason::recentlyModified, &CleanerCore::SkippedItem::reason);
     if (young > 0) {
-        text += paragraph(fmt::format(
-            "{} changed recently and may still be in use.", counted(static_cast<std::size_t>(young), "item")));
+        text += paragraph(counted(static_cast<std::size_t>(young), "{} item changed recently and may still be in use.",
+            "{} items changed recently and may still be in use."));
     }
     if (m_subject.mode && *m_subject.mode != CleanerCore::CleanupScanMode::direct) {
-        text += paragraph("--mode direct looks in more places, and --folder DIR in one of your own.");
+        text += paragraph(say("--mode direct looks in more places, and --folder DIR in one of your own."));
     } else if (m_subject.folders.empty()) {
-        text += paragraph("--folder DIR looks in a folder of your own.");
+        text += paragraph(say("--folder DIR looks in a folder of your own."));
     } else if (m_subject.leavesOutHiddenFiles) {
-        text += paragraph("With --root DIR --hidden, hidden files count too.");
+        text += paragraph(say("With --root DIR --hidden, hidden files count too."));
     }
     return text;
 }
@@ -283,8 +285,8 @@ std::string ScanTable::ending() const
     const auto isCut = [](const Group& group) { return group.rows.size() < group.last - group.first; };
     const bool verboseTellsMore =
         !m_settings.isVerbose && (!m_skippedRows.empty() || std::ranges::any_of(m_groups, isCut));
-    return paragraph(
-        verboseTellsMore ? "Nothing was changed on disk. --verbose lists every item." : "Nothing was changed on disk.",
+    return paragraph(verboseTellsMore ? say("Nothing was changed on disk. --verbose lists every item.")
+                                      : say("Nothing was changed on disk."),
         Ink::quiet);
 }
 

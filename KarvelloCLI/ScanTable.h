@@ -48,8 +48,6 @@ public:
         bool isVerbose = false;
         /// Tokens stand for paths and names. They are numbered in the order of the report, as in its exports.
         bool isRedacted = false;
-        /// Of sizes.
-        std::string language = "en";
     };
 
     ScanTable(const CleanerCore::ScanReport& report, const ScanSubject& subject, Settings settings);

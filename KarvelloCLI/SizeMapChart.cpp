@@ -1,5 +1,7 @@
 #include "KarvelloCLI/SizeMapChart.h"
 
+#include "KarvelloCLI/Say.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -7,10 +9,6 @@
 namespace KarvelloCLI {
 
 namespace {
-
-constexpr std::string_view kSizeTitle = "Size";
-constexpr std::string_view kItemsTitle = "Items";
-constexpr std::string_view kFolderTitle = "Folder";
 
 constexpr std::size_t kMarkWidth = 2;
 constexpr std::size_t kGap = 2;
@@ -24,12 +22,15 @@ constexpr std::size_t kShortestName = 16;
 std::string sizeMapChart(std::span<const CleanerCore::StorageMapItem> folders, std::span<const TerminalText> names,
     const TextStyle& style, BarGlyphs glyphs)
 {
-    std::size_t sizeWidth = kSizeTitle.size();
-    std::size_t itemsWidth = kItemsTitle.size();
-    std::size_t longestName = kFolderTitle.size();
+    const TerminalText sizeTitle(say("Size"));
+    const TerminalText itemsTitle(say("Items"));
+    const TerminalText folderTitle(say("Folder"));
+    std::size_t sizeWidth = sizeTitle.columns();
+    std::size_t itemsWidth = itemsTitle.columns();
+    std::size_t longestName = folderTitle.columns();
     std::int64_t largest = 0;
     for (std::size_t index = 0; index < folders.size(); ++index) {
-        sizeWidth = std::max(sizeWidth, style.size(folders[index].sizeBytes).size());
+        sizeWidth = std::max(sizeWidth, columnsOf(style.size(folders[index].sizeBytes)));
         itemsWidth = std::max(itemsWidth, fmt::format_int(folders[index].itemCount).size());
         longestName = std::max(longestName, names[index].columns());
         largest = std::max(largest, folders[index].sizeBytes);
@@ -42,13 +43,14 @@ std::string sizeMapChart(std::span<const CleanerCore::StorageMapItem> folders, s
     const std::size_t barWidth = hasBars ? std::min(left - nameWidth - kGap, kLongestBar) : 0;
 
     std::string text = style.painter(Ink::quiet,
-                           fmt::format("{:{}}{:>{}}  {:>{}}  {}", "", kMarkWidth, kSizeTitle, sizeWidth, kItemsTitle,
-                               itemsWidth, kFolderTitle))
+                           fmt::format("{:{}}{}  {}  {}", "", kMarkWidth, sizeTitle.paddedLeft(sizeWidth),
+                               itemsTitle.paddedLeft(itemsWidth), folderTitle.string()))
         + "\n";
     for (std::size_t index = 0; index < folders.size(); ++index) {
         const auto& folder = folders[index];
         text += folder.isTruncated ? style.painter(Ink::warning, ">") : " ";
-        text += fmt::format(" {:>{}}  {:>{}}  ", style.size(folder.sizeBytes), sizeWidth, folder.itemCount, itemsWidth);
+        text += fmt::format(" {}  {:>{}}  ", TerminalText(style.size(folder.sizeBytes)).paddedLeft(sizeWidth),
+            folder.itemCount, itemsWidth);
         const TerminalText name = names[index].elidedInMiddle(nameWidth);
         const std::string itsBar = bar(folder.sizeBytes, largest, barWidth, glyphs);
         text += itsBar.empty() ? name.string() : name.paddedRight(nameWidth + kGap) + itsBar;

@@ -1,7 +1,7 @@
 #include "KarvelloCLI/SkippedSummary.h"
 
 #include "CleanerCore/Export/SkippedItemExportRow.h"
-#include "KarvelloCLI/Words.h"
+#include "KarvelloCLI/Say.h"
 
 #include <fmt/format.h>
 
@@ -71,12 +71,12 @@ SkippedSummary::SkippedSummary(std::span<const SkippedRow> rows)
     for (const SkippedRow& row : rows) {
         const auto [entry, isNew] = groupOfReason.try_emplace(withoutQuotedName(row.reason), m_groups.size());
         if (isNew) {
-            m_groups.push_back({TerminalText(row.reason, TerminalText::Kind::sentence)});
+            m_groups.push_back({TerminalText(sayReason(row.reason), TerminalText::Kind::sentence)});
         }
         Group& group = m_groups[entry->second];
         group.rows.push_back(&row);
         if (group.rows.size() == 2) {
-            group.reason = TerminalText(entry->first, TerminalText::Kind::sentence);
+            group.reason = TerminalText(sayReason(entry->first), TerminalText::Kind::sentence);
         }
     }
     std::ranges::sort(m_groups, [](const Group& left, const Group& right) {
@@ -105,7 +105,7 @@ std::string SkippedSummary::countsByReason(std::size_t columns, std::size_t most
         text += countedLine(group.rows.size(), group.reason, width, columns);
     }
     if (rest > 0) {
-        const TerminalText words(fmt::format("for {}", counted(m_groups.size() - shown, "other reason")));
+        const TerminalText words(counted(m_groups.size() - shown, "for {} other reason", "for {} other reasons"));
         text += countedLine(rest, words, width, columns);
     }
     return text;

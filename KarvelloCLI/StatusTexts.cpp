@@ -1,6 +1,7 @@
 #include "KarvelloCLI/StatusTexts.h"
 
 #include "CleanerCore/Export/CSVWriter.h"
+#include "KarvelloCLI/Say.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/DateFormat.h"
 #include "Platform/Base/DecimalForm.h"
@@ -8,7 +9,6 @@
 #include "Platform/Base/Text.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <array>
@@ -53,7 +53,6 @@ using CleanerCore::ReportExportPrivacyMode;
 using CleanerCore::SystemResourceSnapshot;
 
 constexpr std::string_view kGap = "  ";
-constexpr std::size_t kLabelWidth = 12;
 constexpr std::size_t kLongestTrend = 24;
 constexpr std::size_t kShortestTrend = 4;
 
@@ -62,9 +61,25 @@ constexpr std::array<std::string_view, 13> kColumns{"captured_at", "physical_mem
     "active_processor_count", "thermal_state", "uptime_seconds", "home_volume_total_bytes",
     "home_volume_available_bytes"};
 
-std::string lowercased(std::string_view word)
+/// A state as it stands in the middle of a line.
+std::string stateWords(std::string_view state, std::string_view localized)
 {
-    return Platform::Text::lowercased(word);
+    return state == "Unknown" ? say("unknown") : Platform::Text::lowercased(localized);
+}
+
+std::string pressureWords(const SystemResourceSnapshot& snapshot)
+{
+    return stateWords(snapshot.memoryPressure, catalogue().localizedPressure(snapshot.memoryPressure));
+}
+
+std::string thermalWords(const SystemResourceSnapshot& snapshot)
+{
+    return stateWords(snapshot.thermalState, catalogue().localizedThermalState(snapshot.thermalState));
+}
+
+std::string loadWords(const SystemResourceSnapshot& snapshot)
+{
+    return fmt::format("{:.2f}", snapshot.cpuLoadAverage);
 }
 
 std::optional<double> usedShare(const SystemResourceSnapshot& snapshot)
@@ -78,34 +93,37 @@ std::string processorWords(const SystemResourceSnapshot& snapshot)
 {
     const auto active = static_cast<std::size_t>(snapshot.activeProcessorCount);
     const auto all = static_cast<std::size_t>(std::max<std::int64_t>(snapshot.processorCount, 0));
-    const std::string count =
-        active < all ? fmt::format("{} of {}", active, counted(all, "processor")) : counted(active, "processor");
-    return fmt::format(
-        "{} busy, load {:.2f} on {}", percentage(snapshot.normalizedCPULoad), snapshot.cpuLoadAverage, count);
+    const std::string busy = percentage(snapshot.normalizedCPULoad);
+    const std::string load = loadWords(snapshot);
+    if (active < all) {
+        return say("{} busy, load {} on {} of {} processors", busy, load, active, all);
+    }
+    return isSingular(active) ? say("{} busy, load {} on {} processor", busy, load, active)
+                              : say("{} busy, load {} on {} processors", busy, load, active);
 }
 
 std::string memoryWords(const SystemResourceSnapshot& snapshot, const TextStyle& style)
 {
     const auto share = usedShare(snapshot);
     if (!share) {
-        return "unknown";
+        return say("unknown");
     }
-    return fmt::format("{} of {} used ({}), pressure {}", style.size(snapshot.usedMemoryBytes),
-        style.size(snapshot.physicalMemoryBytes), percentage(share), lowercased(snapshot.memoryPressure));
+    return say("{} of {} used ({}), pressure {}", style.size(snapshot.usedMemoryBytes),
+        style.size(snapshot.physicalMemoryBytes), percentage(share), pressureWords(snapshot));
 }
 
 std::string uptimeWords(double seconds)
 {
     if (seconds <= 0) {
-        return "unknown";
+        return say("unknown");
     }
-    return seconds < 60 ? "less than a minute" : shortAge(seconds);
+    return seconds < 60 ? say("less than a minute") : shortAge(seconds);
 }
 
 std::string diskWords(const std::optional<Platform::VolumeCapacity>& disk, const TextStyle& style)
 {
-    return disk ? fmt::format("{} of {} free where your home is", style.size(disk->available), style.size(disk->total))
-                : "unknown";
+    return disk ? say("{} of {} free where your home is", style.size(disk->available), style.size(disk->total))
+                : say("unknown");
 }
 
 bool wantsAttention(std::string_view word)
@@ -123,36 +141,46 @@ std::string cell(std::optional<std::int64_t> number)
 std::string statusTable(const StatusReading& reading, const TextStyle& style)
 {
     const auto& snapshot = reading.snapshot;
-    std::string text = style.painter(Ink::title, fmt::format("Status: {}", localTime(snapshot.capturedAt))) + "\n\n";
-    const auto add = [&](std::string_view label, const std::string& words, bool isAlarming) {
-        const auto ink = isAlarming ? std::optional(Ink::warning) : std::nullopt;
-        auto lines = style.paragraph(words, kLabelWidth, ink);
-        // The label stands in the room in front of the first line.
-        lines.replace(0, kLabelWidth, style.painter(Ink::quiet, fmt::format("{:<{}}", label, kLabelWidth)));
-        text += lines;
+    std::string text = style.painter(Ink::title, say("Status: {}", localTime(snapshot.capturedAt))) + "\n\n";
+    struct Fact {
+        TerminalText label;
+        std::string words;
+        bool isAlarming = false;
     };
-    add("Processors", processorWords(snapshot), false);
-    add("Memory", memoryWords(snapshot, style), wantsAttention(snapshot.memoryPressure));
-    add("Thermal", lowercased(snapshot.thermalState), wantsAttention(snapshot.thermalState));
-    add("Uptime", uptimeWords(snapshot.uptime), false);
-    add("Disk", diskWords(reading.disk, style), false);
+    const std::array facts{
+        Fact{TerminalText(say("Processors")), processorWords(snapshot)},
+        Fact{TerminalText(say("Memory")), memoryWords(snapshot, style), wantsAttention(snapshot.memoryPressure)},
+        Fact{TerminalText(say("Thermal")), thermalWords(snapshot), wantsAttention(snapshot.thermalState)},
+        Fact{TerminalText(say("Uptime")), uptimeWords(snapshot.uptime)},
+        Fact{TerminalText(say("Disk")), diskWords(reading.disk, style)},
+    };
+    std::size_t labelWidth = 0;
+    for (const Fact& fact : facts) {
+        labelWidth = std::max(labelWidth, fact.label.columns() + kGap.size());
+    }
+    for (const Fact& fact : facts) {
+        auto lines =
+            style.paragraph(fact.words, labelWidth, fact.isAlarming ? std::optional(Ink::warning) : std::nullopt);
+        // The label stands in the room in front of the first line.
+        lines.replace(0, labelWidth, style.painter(Ink::quiet, fact.label.paddedRight(labelWidth)));
+        text += lines;
+    }
     return text;
 }
 
 std::string statusLine(const StatusReading& reading, const TextStyle& style)
 {
     const auto& snapshot = reading.snapshot;
-    return fmt::format("{}  processors {}  memory {} {}  load {:.2f}  thermal {}  disk {}\n",
-        Platform::DateFormat::iso8601(snapshot.capturedAt), percentage(snapshot.normalizedCPULoad),
-        percentage(usedShare(snapshot)), lowercased(snapshot.memoryPressure), snapshot.cpuLoadAverage,
-        lowercased(snapshot.thermalState),
-        reading.disk ? style.size(reading.disk->available) + " free" : std::string("unknown"));
+    return fmt::format("{}  {}\n", Platform::DateFormat::iso8601(snapshot.capturedAt),
+        say("processors {}  memory {} {}  load {}  thermal {}  disk {}", percentage(snapshot.normalizedCPULoad),
+            percentage(usedShare(snapshot)), pressureWords(snapshot), loadWords(snapshot), thermalWords(snapshot),
+            reading.disk ? say("{} free", style.size(reading.disk->available)) : say("unknown")));
 }
 
 std::string machineWords(const SystemResourceSnapshot& snapshot, const TextStyle& style)
 {
-    return fmt::format("memory {}; processors {}; thermal state {}; up {}", memoryWords(snapshot, style),
-        processorWords(snapshot), lowercased(snapshot.thermalState), uptimeWords(snapshot.uptime));
+    return say("memory {}; processors {}; thermal state {}; up {}", memoryWords(snapshot, style),
+        processorWords(snapshot), thermalWords(snapshot), uptimeWords(snapshot.uptime));
 }
 
 std::expected<std::string, Platform::JSONError> statusJSON(const StatusReading& reading)
@@ -202,22 +230,24 @@ std::string StatusTrend::line(const StatusReading& reading, const TextStyle& sty
 
     // Numbers keep their width, so that nothing jumps.
     const std::string processors = fmt::format("{:>4}", percentage(snapshot.normalizedCPULoad));
-    const std::string memory =
-        fmt::format("{:>4} {}", percentage(usedShare(snapshot)), lowercased(snapshot.memoryPressure));
-    const std::string start = localClock(snapshot.capturedAt) + "  CPU ";
-    const std::string between = processors + "  memory ";
-    std::size_t taken = start.size() + 1 + between.size() + 1 + memory.size();
+    const std::string memory = fmt::format("{:>4}", percentage(usedShare(snapshot)));
+    const auto measures = [&](std::string_view processorTrend, std::string_view memoryTrend) {
+        return fmt::format("{}  {}", localClock(snapshot.capturedAt),
+            say("CPU {} {}  memory {} {} {}", processorTrend, processors, memoryTrend, memory,
+                pressureWords(snapshot)));
+    };
+    std::size_t taken = columnsOf(measures("", ""));
     std::string rest;
-    std::vector<std::string> facts{fmt::format("load {:.2f}", snapshot.cpuLoadAverage),
-        fmt::format("thermal {}", lowercased(snapshot.thermalState))};
+    std::vector<std::string> facts{say("load {}", loadWords(snapshot)), say("thermal {}", thermalWords(snapshot))};
     if (reading.disk) {
-        facts.push_back(fmt::format("{} free", style.size(reading.disk->available)));
+        facts.push_back(say("{} free", style.size(reading.disk->available)));
     }
     for (const std::string& fact : facts) {
-        if (taken + kGap.size() + fact.size() + 2 * kShortestTrend > style.columns) {
+        const std::size_t width = kGap.size() + columnsOf(fact);
+        if (taken + width + 2 * kShortestTrend > style.columns) {
             break;
         }
-        taken += kGap.size() + fact.size();
+        taken += width;
         rest += kGap;
         rest += fact;
     }
@@ -227,7 +257,7 @@ std::string StatusTrend::line(const StatusReading& reading, const TextStyle& sty
         const std::size_t shown = std::min(columns, course.size());
         return fmt::format("{:{}}{}", "", columns - shown, sparkline(course, columns, m_glyphs));
     };
-    const std::string text = start + trend(m_processors) + " " + between + trend(m_memory) + " " + memory + rest;
+    const std::string text = measures(trend(m_processors), trend(m_memory)) + rest;
     return TerminalText(text, TerminalText::Kind::sentence).elidedInMiddle(style.columns).string();
 }
 

@@ -1,5 +1,7 @@
 #include "KarvelloCLI/TerminalText.h"
 
+#include "Platform/Base/Text.h"
+
 #include <fmt/format.h>
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
@@ -65,25 +67,35 @@ std::optional<std::string> escapeOf(UChar32 character, TerminalText::Kind kind)
     return value <= 0xFFFF ? fmt::format("\\u{:04x}", value) : fmt::format("\\U{:08x}", value);
 }
 
-std::size_t columnsOf(UChar32 character)
+/// Of a writing without blanks, in which a line may end behind almost any character. Korean has blanks.
+bool isIdeographic(std::string_view unit)
 {
-    if (isMark(character) || character == kZeroWidthNonJoiner || character == kZeroWidthJoiner) {
-        return 0;
-    }
-    switch (u_getIntPropertyValue(character, UCHAR_HANGUL_SYLLABLE_TYPE)) {
-    case U_HST_VOWEL_JAMO:
-    case U_HST_TRAILING_JAMO:
-        return 0; // drawn into the leading consonant before it
+    const auto character = Platform::Text::takeScalar(unit);
+    switch (ublock_getCode(static_cast<UChar32>(character))) {
+    case UBLOCK_CJK_SYMBOLS_AND_PUNCTUATION:
+    case UBLOCK_HIRAGANA:
+    case UBLOCK_KATAKANA:
+    case UBLOCK_CJK_UNIFIED_IDEOGRAPHS:
+    case UBLOCK_CJK_UNIFIED_IDEOGRAPHS_EXTENSION_A:
+    case UBLOCK_HALFWIDTH_AND_FULLWIDTH_FORMS:
+        return true;
     default:
-        break;
+        return false;
     }
-    switch (u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH)) {
-    case U_EA_WIDE:
-    case U_EA_FULLWIDTH:
-        return 2;
-    default:
-        return 1;
-    }
+}
+
+/// What no line ends with.
+bool isOpening(std::string_view unit)
+{
+    constexpr std::string_view characters = "（「『【“‘(";
+    return characters.find(unit) != std::string_view::npos;
+}
+
+/// What no line begins with.
+bool isClosing(std::string_view unit)
+{
+    constexpr std::string_view characters = "、。，．；：？！）」』】”’ーっゃゅょッャュョ／…,.;:?!)%";
+    return characters.find(unit) != std::string_view::npos;
 }
 
 bool isPlainASCII(char byte)
@@ -122,7 +134,7 @@ TerminalText::TerminalText(std::string_view bytes, Kind kind)
             continue;
         }
         const auto piece = bytes.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(position - start));
-        const std::size_t columns = columnsOf(character);
+        const std::size_t columns = Platform::Text::columns(static_cast<char32_t>(character));
         if (columns == 0 && !m_units.empty()) {
             m_string += piece;
         } else {
@@ -181,6 +193,14 @@ TerminalText TerminalText::elidedInMiddle(std::size_t columns) const
     return result;
 }
 
+bool TerminalText::mayBreakBefore(std::size_t index) const
+{
+    const std::string_view before = unitBytes(index - 1);
+    const std::string_view after = unitBytes(index);
+    const bool isBetweenIdeographs = isIdeographic(before) || isIdeographic(after);
+    return isBetweenIdeographs && before != " " && after != " " && !isOpening(before) && !isClosing(after);
+}
+
 std::vector<TerminalText> TerminalText::wrapped(std::size_t columns) const
 {
     std::vector<TerminalText> lines;
@@ -188,10 +208,16 @@ std::vector<TerminalText> TerminalText::wrapped(std::size_t columns) const
     while (lineBegin < m_units.size()) {
         std::size_t end = lineBegin;
         std::size_t used = 0;
-        std::optional<std::size_t> lastBlank;
+        // Where the line may end, and where the next one begins then.
+        std::optional<std::size_t> lastEnd;
+        std::size_t lastNext = 0;
         while (end < m_units.size() && (used + m_units[end].columns <= columns || end == lineBegin)) {
             if (unitBytes(end) == " ") {
-                lastBlank = end;
+                lastEnd = end;
+                lastNext = end + 1;
+            } else if (end > lineBegin && mayBreakBefore(end)) {
+                lastEnd = end;
+                lastNext = end;
             }
             used += m_units[end].columns;
             ++end;
@@ -200,9 +226,9 @@ std::vector<TerminalText> TerminalText::wrapped(std::size_t columns) const
         if (end < m_units.size()) {
             if (unitBytes(end) == " ") {
                 next = end + 1;
-            } else if (lastBlank && *lastBlank > lineBegin) {
-                end = *lastBlank;
-                next = end + 1;
+            } else if (!mayBreakBefore(end) && lastEnd && *lastEnd > lineBegin) {
+                end = *lastEnd;
+                next = lastNext;
             }
         }
         TerminalText line;
@@ -224,6 +250,11 @@ std::string TerminalText::paddedRight(std::size_t columns) const
 std::string TerminalText::paddedLeft(std::size_t columns) const
 {
     return m_columns < columns ? std::string(columns - m_columns, ' ') + m_string : m_string;
+}
+
+std::size_t columnsOf(std::string_view sentence)
+{
+    return TerminalText(sentence, TerminalText::Kind::sentence).columns();
 }
 
 std::string HomePathAbbreviation::abbreviate(std::string_view path) const

@@ -34,7 +34,8 @@ public:
     /// At most `columns` wide: what is too much gives way to one "…", with a little more kept of the end than of the
     /// beginning, since the end of a path tells more.
     [[nodiscard]] TerminalText elidedInMiddle(std::size_t columns) const;
-    /// Lines of at most `columns`, broken at blanks, and within a word only where it alone is too long. At least one.
+    /// Lines of at most `columns`, broken at blanks and between the characters of Chinese and Japanese, and within a word
+    /// only where it alone is too long. At least one.
     [[nodiscard]] std::vector<TerminalText> wrapped(std::size_t columns) const;
 
     /// With blanks behind or before it, up to `columns`.
@@ -51,11 +52,15 @@ private:
     void appendUnit(std::string_view bytes, std::size_t columns);
     void appendUnits(const TerminalText& source, std::size_t first, std::size_t last);
     [[nodiscard]] std::string_view unitBytes(std::size_t index) const;
+    [[nodiscard]] bool mayBreakBefore(std::size_t index) const;
 
     std::string m_string;
     std::vector<Unit> m_units;
     std::size_t m_columns = 0;
 };
+
+/// The columns of words that may hold escaped names.
+[[nodiscard]] std::size_t columnsOf(std::string_view sentence);
 
 /// The path of an item as a person reads it: the home folder stands as "~".
 class HomePathAbbreviation {

@@ -1,6 +1,6 @@
 #include "KarvelloCLI/TextStyle.h"
 
-#include "CleanerCore/Scan/ByteSizeFormatter.h"
+#include "KarvelloCLI/Words.h"
 
 #include <fmt/format.h>
 
@@ -16,14 +16,13 @@ TextStyle TextStyle::of(const CommonOptions& options, int descriptor, const Plat
         .columns = terminalColumns(descriptor, environment),
         .painter = Painter(usesColor(options.color, Terminal::of(descriptor, environment), environment)),
         .isVerbose = options.isVerbose,
-        .language = options.language,
         .paths = HomePathAbbreviation(home),
     };
 }
 
 std::string TextStyle::size(std::int64_t bytes) const
 {
-    return CleanerCore::ByteSizeFormatter::string(bytes, language);
+    return sizeWords(bytes);
 }
 
 std::string TextStyle::size(std::uint64_t bytes) const

@@ -19,7 +19,6 @@ struct TextStyle {
     std::size_t columns = 100;
     Painter painter{false};
     bool isVerbose = false;
-    std::string language = "en";
     HomePathAbbreviation paths;
 
     /// For what is written to `descriptor`; -1 for a file.

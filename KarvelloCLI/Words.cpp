@@ -1,5 +1,8 @@
 #include "KarvelloCLI/Words.h"
 
+#include "CleanerCore/Scan/ByteSizeFormatter.h"
+#include "KarvelloCLI/Say.h"
+
 #include <fmt/chrono.h>
 #include <fmt/format.h>
 
@@ -26,33 +29,33 @@ std::tm localParts(Platform::Date date)
 
 } // namespace
 
-std::string counted(std::size_t count, std::string_view noun)
+std::string sizeWords(std::int64_t bytes)
 {
-    return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
+    return CleanerCore::ByteSizeFormatter::string(bytes, Platform::rawValue(spokenLanguage()));
 }
 
 std::string shortAge(double seconds)
 {
     if (seconds < -kDay) {
-        return "future";
+        return say("future");
     }
     if (seconds < kMinute) {
-        return "now";
+        return say("now");
     }
     const auto whole = [seconds](double unit) { return static_cast<long>(seconds / unit); };
     if (seconds < kHour) {
-        return fmt::format("{} min", whole(kMinute));
+        return say("{} min", whole(kMinute));
     }
     if (seconds < kDay) {
-        return fmt::format("{} h", whole(kHour));
+        return say("{} h", whole(kHour));
     }
     if (seconds < 2 * kMonth) {
-        return fmt::format("{} d", whole(kDay));
+        return say("{} d", whole(kDay));
     }
     if (seconds < 2 * kYear) {
-        return fmt::format("{} mo", whole(kMonth));
+        return say("{} mo", whole(kMonth));
     }
-    return fmt::format("{} y", whole(kYear));
+    return say("{} y", whole(kYear));
 }
 
 std::string percentage(std::optional<double> fraction)

@@ -2,19 +2,18 @@
 
 #include "Platform/Base/Date.h"
 
-#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace KarvelloCLI {
 
-/// "1 item", "2 items".
-[[nodiscard]] std::string counted(std::size_t count, std::string_view noun);
-
-/// The time between two moments as one number and a unit, at most six columns: "now" below a minute, "5 min", "3 h",
-/// "12 d", "5 mo", "2 y". More than a day below zero is "future".
+/// The time between two moments as one number and a unit, as short as the language has it: "now" below a minute, "5 min",
+/// "3 h", "12 d", "5 mo", "2 y". More than a day below zero is "future".
 [[nodiscard]] std::string shortAge(double seconds);
+
+/// Bytes in the form that the spoken language gives them.
+[[nodiscard]] std::string sizeWords(std::int64_t bytes);
 
 /// "23%" of a fraction, "<1%" of what is more than nothing, "-" of none.
 [[nodiscard]] std::string percentage(std::optional<double> fraction);

@@ -1,5 +1,7 @@
 #include "KarvelloCLI/WorkingDirectory.h"
 
+#include "KarvelloCLI/Say.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
@@ -18,7 +20,7 @@ std::expected<FileURL, std::string> workingDirectoryFor(std::span<const std::str
     if (std::ranges::all_of(paths, [](const std::string& each) { return each.starts_with('/'); })) {
         return FileURL();
     }
-    return std::unexpected("The working directory does not exist any more; give absolute paths.");
+    return std::unexpected(say("The working directory does not exist any more; give absolute paths."));
 }
 
 FileURL absoluteFolder(std::string_view words, const FileURL& workingDirectory)

@@ -42,7 +42,7 @@ std::vector<std::vector<std::int32_t>> HeldProcesses::byProgram() const
         auto name = process.folder.program().value_or("");
         auto program = std::ranges::find(programs, name, [](const auto& each) { return each.first; });
         if (program == programs.end()) {
-            program = programs.insert(programs.end(), {std::move(name), {}});
+            program = programs.emplace(programs.end(), std::move(name), std::vector<std::int32_t>());
         }
         program->second.push_back(process.identity.processIdentifier);
     }

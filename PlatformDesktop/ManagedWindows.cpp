@@ -14,9 +14,13 @@ namespace PlatformDesktop {
 
 namespace {
 
+struct Freeing {
+    void operator()(void* memory) const { std::free(memory); }
+};
+
 /// What a request was answered, which C has allocated.
 template <typename Value>
-using Reply = std::unique_ptr<Value, decltype([](Value* value) { std::free(value); })>;
+using Reply = std::unique_ptr<Value, Freeing>;
 
 /// Pagers and the like ask in their user's name.
 constexpr auto kSourceIndication = XCB_EWMH_CLIENT_SOURCE_TYPE_OTHER;

@@ -211,7 +211,6 @@ NO_CHECKS = {
     REMOVAL + ": enter: (*entry)->type != ListedType::folder -> true": "saves a call, unlinkat(2) refuses folders",
     LOCK + ": FileLock::acquire: !file.isOpen() -> false": "what is not open has no status, and fstat(2) says so",
     ATOMIC + ": ~TemporaryFile: m_descriptor.isOpen() -> true": "the random name was given up by the rename, nothing has it",
-    ATOMIC + ": write: error != 0 -> false": "`error` is what is returned in any case but where fsync(2) fails too",
     FILE + ": addThroughTemporaryName: error != 0 -> true": "the random name was given up by the rename, nothing has it",
     FOLDER + ": isSound: S_ISDIR(found.st_mode) -> true": "only a folder is opened, and only the same item counts later",
 }

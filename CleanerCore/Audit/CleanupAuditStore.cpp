@@ -1,5 +1,6 @@
 #include "CleanerCore/Audit/CleanupAuditStore.h"
 
+#include "CleanerCore/Audit/AuditEntryRetention.h"
 #include "CleanerCore/Audit/CleanupAuditCoding.h"
 #include "CleanerCore/Audit/LossyCleanupAuditEntryList.h"
 #include "Platform/Files/FileLock.h"
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <compare>
 #include <fmt/format.h>
 #include <mutex>
 #include <tuple>
@@ -32,14 +32,6 @@ std::mutex& turnOfThisProcess()
 {
     static std::mutex mutex;
     return mutex;
-}
-
-bool comesFirst(const CleanupAuditEntry& left, const CleanupAuditEntry& right)
-{
-    // A weak order even for dates that are no numbers, which sorting must not meet with "<".
-    const auto order =
-        std::weak_order(left.occurredAt.secondsSinceReferenceDate, right.occurredAt.secondsSinceReferenceDate);
-    return order != 0 ? order > 0 : left.id > right.id;
 }
 
 /// How many of the first entries fit into a file. Each is encoded once, alone.
@@ -125,7 +117,7 @@ void CleanupAuditStore::replaceEntries(std::vector<CleanupAuditEntry> entries, s
 
 std::vector<CleanupAuditEntry> CleanupAuditStore::limited(std::vector<CleanupAuditEntry> entries, std::int64_t limit)
 {
-    std::ranges::stable_sort(entries, comesFirst);
+    std::ranges::stable_sort(entries, AuditEntryRetention::comesFirst);
     const auto kept = static_cast<std::size_t>(std::max<std::int64_t>(limit, 0));
     if (entries.size() > kept) {
         entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(kept), entries.end());

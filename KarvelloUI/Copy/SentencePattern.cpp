@@ -5,6 +5,7 @@
 #include <cctype>
 #include <map>
 #include <mutex>
+#include <unordered_map>
 
 namespace KarvelloUI {
 
@@ -84,6 +85,11 @@ SentencePattern::SentencePattern(std::unique_ptr<icu::RegexPattern> expression, 
 
 std::shared_ptr<const SentencePattern> SentencePattern::compile(std::string_view pattern)
 {
+    return compiledExpression(pattern);
+}
+
+std::shared_ptr<SentencePattern> SentencePattern::compiledExpression(std::string_view pattern)
+{
     UErrorCode status = U_ZERO_ERROR;
     const auto source =
         icu::UnicodeString::fromUTF8(icu::StringPiece(pattern.data(), static_cast<int>(pattern.size())));
@@ -91,7 +97,7 @@ std::shared_ptr<const SentencePattern> SentencePattern::compile(std::string_view
     if (U_FAILURE(status) || !expression) {
         return nullptr;
     }
-    return std::shared_ptr<const SentencePattern>(new SentencePattern(std::move(expression), pattern));
+    return std::shared_ptr<SentencePattern>(new SentencePattern(std::move(expression), pattern));
 }
 
 std::shared_ptr<const SentencePattern> SentencePattern::shared(const std::string& pattern)
@@ -101,9 +107,31 @@ std::shared_ptr<const SentencePattern> SentencePattern::shared(const std::string
     const std::scoped_lock lock(mutex);
     const auto [entry, isNew] = patterns.try_emplace(pattern);
     if (isNew) {
-        entry->second = compile(pattern);
+        if (const auto compiled = compiledExpression(pattern)) {
+            compiled->m_isShared = true;
+            entry->second = compiled;
+        }
     }
     return entry->second;
+}
+
+icu::RegexMatcher* SentencePattern::matcher(std::unique_ptr<icu::RegexMatcher>& own) const
+{
+    // A shared expression is never destroyed, so its address is its name for good.
+    thread_local std::unordered_map<const SentencePattern*, std::unique_ptr<icu::RegexMatcher>> matchersOfThread;
+    auto& matcher = m_isShared ? matchersOfThread[this] : own;
+    if (!matcher) {
+        UErrorCode status = U_ZERO_ERROR;
+        std::unique_ptr<icu::RegexMatcher> made(m_expression->matcher(status));
+        if (U_SUCCESS(status)) {
+            made->setStackLimit(kStackLimit, status);
+        }
+        if (U_FAILURE(status)) {
+            return nullptr;
+        }
+        matcher = std::move(made);
+    }
+    return matcher.get();
 }
 
 bool SentencePattern::mayMatch(std::string_view text) const
@@ -130,14 +158,15 @@ std::expected<std::optional<CapturedParts>, MatchBudgetExhausted> SentencePatter
     if (!mayMatch(sentence.text())) {
         return std::nullopt;
     }
+    std::unique_ptr<icu::RegexMatcher> own;
+    icu::RegexMatcher* const matcher = this->matcher(own);
+    if (matcher == nullptr) {
+        return std::unexpected(MatchBudgetExhausted{});
+    }
     UErrorCode status = U_ZERO_ERROR;
     const BudgetMeter meter{budget};
-    // A matcher belongs to this call, and so to its thread; making one costs less than the match.
-    const std::unique_ptr<icu::RegexMatcher> matcher(m_expression->matcher(sentence.units(), status));
-    if (U_SUCCESS(status)) {
-        matcher->setStackLimit(kStackLimit, status);
-        matcher->setMatchCallback(BudgetMeter::spend, &meter, status);
-    }
+    matcher->reset(sentence.units());
+    matcher->setMatchCallback(BudgetMeter::spend, &meter, status);
     const bool isMatch = U_SUCCESS(status) && matcher->find(status);
     // What ICU cannot finish within its bounds stops the search, like a budget that is used up.
     if (U_FAILURE(status)) {

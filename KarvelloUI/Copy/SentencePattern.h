@@ -48,7 +48,8 @@ class SentencePattern {
 public:
     /// Nothing if the expression is none.
     static std::shared_ptr<const SentencePattern> compile(std::string_view pattern);
-    /// The same, compiled once for all that ask: six languages have the same patterns.
+    /// The same, compiled once for all that ask: six languages have the same patterns. It lives as long as the program, and
+    /// each thread keeps one matcher for it.
     static std::shared_ptr<const SentencePattern> shared(const std::string& pattern);
 
     /// The parts of the first match, or nothing without one. The parts live as long as the bytes of the sentence.
@@ -57,12 +58,16 @@ public:
 
 private:
     explicit SentencePattern(std::unique_ptr<icu::RegexPattern> expression, std::string_view pattern);
+    static std::shared_ptr<SentencePattern> compiledExpression(std::string_view pattern);
     [[nodiscard]] bool mayMatch(std::string_view text) const;
+    /// The matcher of this thread for a shared expression, or a new one in `own`; nothing where ICU fails.
+    [[nodiscard]] icu::RegexMatcher* matcher(std::unique_ptr<icu::RegexMatcher>& own) const;
 
     std::unique_ptr<icu::RegexPattern> m_expression;
     /// What every match begins with, then what it holds between its parts, in this order; empty for an expression of
     /// another form than the tables have.
     std::vector<std::string> m_literals;
+    bool m_isShared = false;
 };
 
 } // namespace KarvelloUI

@@ -23,6 +23,7 @@ public:
     /// Another report: what it still holds of the selection stays selected.
     void setIndex(std::shared_ptr<const CandidateIndex> index);
     [[nodiscard]] const CandidateIndex& index() const { return *m_index; }
+    [[nodiscard]] const std::shared_ptr<const CandidateIndex>& sharedIndex() const { return m_index; }
 
     /// Whether anything changed. An unknown id changes nothing.
     bool setSelected(std::string_view id, bool isSelected);

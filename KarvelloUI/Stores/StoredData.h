@@ -2,6 +2,7 @@
 
 #include "Platform/Services/UserDefaults.h"
 
+#include <cstdint>
 #include <expected>
 #include <functional>
 #include <optional>

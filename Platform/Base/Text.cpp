@@ -134,17 +134,13 @@ bool isValidUTF8(std::string_view bytes)
 std::string escapingInvalidUTF8(std::string_view bytes, std::string_view mark)
 {
     std::string result;
-    for (;;) {
-        const auto valid = lengthOfValidPrefix(bytes);
-        result.append(bytes.substr(0, valid));
-        bytes.remove_prefix(valid);
-        if (bytes.empty()) {
-            return result;
-        }
-        result.append(mark);
-        appendHexDigits(result, static_cast<std::uint8_t>(bytes.front()));
-        bytes.remove_prefix(1);
-    }
+    forEachRun(
+        bytes, [&](std::string_view characters) { result.append(characters); },
+        [&](char byte) {
+            result.append(mark);
+            appendHexDigits(result, static_cast<std::uint8_t>(byte));
+        });
+    return result;
 }
 
 std::string lowercased(std::string_view text)
@@ -158,18 +154,10 @@ std::string lowercased(std::string_view text)
         }
         return result;
     }
-    for (;;) {
-        const auto valid = lengthOfValidPrefix(text);
-        if (valid != 0) {
-            appendLowercased(result, text.substr(0, valid));
-            text.remove_prefix(valid);
-        }
-        if (text.empty()) {
-            return result;
-        }
-        result += text.front();
-        text.remove_prefix(1);
-    }
+    forEachRun(
+        text, [&](std::string_view characters) { appendLowercased(result, characters); },
+        [&](char byte) { result += byte; });
+    return result;
 }
 
 std::string_view trimmed(std::string_view text)
@@ -216,6 +204,41 @@ bool isUnicodeWhitespace(char32_t scalar)
 bool isControl(char32_t scalar)
 {
     return isInCategories(scalar, U_GC_CC_MASK);
+}
+
+std::size_t columns(char32_t scalar)
+{
+    constexpr char32_t zeroWidthNonJoiner = 0x200C;
+    constexpr char32_t zeroWidthJoiner = 0x200D;
+    const auto character = static_cast<UChar32>(scalar);
+    const auto category = u_charType(character);
+    if (category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK || scalar == zeroWidthNonJoiner
+        || scalar == zeroWidthJoiner) {
+        return 0;
+    }
+    switch (u_getIntPropertyValue(character, UCHAR_HANGUL_SYLLABLE_TYPE)) {
+    case U_HST_VOWEL_JAMO:
+    case U_HST_TRAILING_JAMO:
+        return 0; // drawn into the leading consonant before it
+    default:
+        break;
+    }
+    switch (u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH)) {
+    case U_EA_WIDE:
+    case U_EA_FULLWIDTH:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
+std::size_t columns(std::string_view text)
+{
+    std::size_t sum = 0;
+    while (!text.empty()) {
+        sum += columns(takeScalar(text));
+    }
+    return sum;
 }
 
 char32_t takeScalar(std::string_view& text)

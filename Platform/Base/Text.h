@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -11,6 +12,23 @@ namespace Platform::Text {
 [[nodiscard]] bool isValidUTF8(std::string_view bytes);
 /// The number of leading bytes that form characters.
 [[nodiscard]] std::size_t lengthOfValidPrefix(std::string_view bytes);
+
+/// Hands over all of `bytes` in their order: what forms characters in runs, each byte that is part of none by itself.
+template <std::invocable<std::string_view> Characters, std::invocable<char> Byte>
+void forEachRun(std::string_view bytes, Characters characters, Byte strayByte)
+{
+    for (;;) {
+        if (const auto valid = lengthOfValidPrefix(bytes); valid != 0) {
+            characters(bytes.substr(0, valid));
+            bytes.remove_prefix(valid);
+        }
+        if (bytes.empty()) {
+            return;
+        }
+        strayByte(bytes.front());
+        bytes.remove_prefix(1);
+    }
+}
 
 /// Valid UTF-8 for any bytes: each byte that is part of no character becomes `mark` and two upper-case hexadecimal
 /// digits, "\xHH" unless told otherwise; the rest stands as it is.
@@ -29,6 +47,12 @@ namespace Platform::Text {
 [[nodiscard]] bool isWhitespaceOrNewline(char32_t scalar); // Z*, U+0009 to U+000D, U+0085
 [[nodiscard]] bool isUnicodeWhitespace(char32_t scalar);   // the property White_Space
 [[nodiscard]] bool isControl(char32_t scalar);             // general category Cc
+
+/// The columns that a terminal gives a character: two for wide East Asian ones and emoji, none for marks and joiners and
+/// for the vowels and finals of decomposed Hangul, one for the rest.
+[[nodiscard]] std::size_t columns(char32_t scalar);
+/// The sum of its characters.
+[[nodiscard]] std::size_t columns(std::string_view text);
 
 /// Takes the first scalar off `text`, which is not empty; a byte that is part of no character gives U+FFFD.
 char32_t takeScalar(std::string_view& text);

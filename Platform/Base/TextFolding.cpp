@@ -66,18 +66,10 @@ std::string foldedForSearch(std::string_view text)
         std::ranges::transform(text, result.begin(), ASCII::lowercased);
         return result;
     }
-    for (;;) {
-        const auto valid = lengthOfValidPrefix(text);
-        if (valid != 0) {
-            appendFolded(result, text.substr(0, valid));
-            text.remove_prefix(valid);
-        }
-        if (text.empty()) {
-            return result;
-        }
-        result += text.front();
-        text.remove_prefix(1);
-    }
+    forEachRun(
+        text, [&](std::string_view characters) { appendFolded(result, characters); },
+        [&](char byte) { result += byte; });
+    return result;
 }
 
 } // namespace Platform::Text

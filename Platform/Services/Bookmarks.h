@@ -5,6 +5,7 @@
 
 #include <expected>
 #include <string>
+#include <utility>
 
 namespace Platform {
 

@@ -118,4 +118,15 @@ FileURL configurationDirectoryForCurrentUser(const Environment& environment)
     return baseDirectory(environment, "XDG_CONFIG_HOME", ".config");
 }
 
+FileURL cacheDirectoryForCurrentUser(const Environment& environment)
+{
+    return baseDirectory(environment, "XDG_CACHE_HOME", ".cache");
+}
+
+FileURL temporaryDirectory(const Environment& environment)
+{
+    const auto named = environment.value("TMPDIR");
+    return FileURL::folder(named && named->starts_with('/') ? *named : "/tmp");
+}
+
 } // namespace Platform

@@ -15,6 +15,10 @@ namespace Platform {
 [[nodiscard]] FileURL dataDirectoryForCurrentUser(const Environment& environment);
 /// The same for what a user has chosen: `$XDG_CONFIG_HOME`, else ".config".
 [[nodiscard]] FileURL configurationDirectoryForCurrentUser(const Environment& environment);
+/// The same for what can be made again: `$XDG_CACHE_HOME`, else ".cache".
+[[nodiscard]] FileURL cacheDirectoryForCurrentUser(const Environment& environment);
+/// `$TMPDIR` where it is an absolute path, else "/tmp".
+[[nodiscard]] FileURL temporaryDirectory(const Environment& environment);
 
 /// The folders that a desktop makes for its user's files, each under a name in the user's language.
 enum class UserDirectory : std::uint8_t {

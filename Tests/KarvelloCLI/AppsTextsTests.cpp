@@ -20,7 +20,6 @@ TextStyle style(std::size_t columns, bool isVerbose = false)
 {
     return {.columns = columns,
         .isVerbose = isVerbose,
-        .language = "en",
         .paths = HomePathAbbreviation(Platform::FileURL::folder("/home/ada"))};
 }
 

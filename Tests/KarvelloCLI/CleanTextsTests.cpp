@@ -44,7 +44,7 @@ std::vector<CleanupCandidate> threeCandidates()
 
 TextStyle style()
 {
-    return {.columns = 80, .language = "en", .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
+    return {.columns = 80, .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
 }
 
 } // namespace

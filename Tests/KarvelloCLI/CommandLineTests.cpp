@@ -62,7 +62,7 @@ TEST(CommandLine, AScanWithoutOptionsIsOfTheHome)
     EXPECT_EQ(options.common.format, OutputFormat::table);
     EXPECT_EQ(options.common.progress, When::automatic);
     EXPECT_EQ(options.common.color, When::automatic);
-    EXPECT_EQ(options.common.language, "en");
+    EXPECT_EQ(options.common.language, std::nullopt);
     EXPECT_EQ(options.common.jobs, 0U);
     EXPECT_EQ(options.minimumAge, 0);
 }
@@ -85,7 +85,7 @@ TEST(CommandLine, ReadsEveryOption)
     EXPECT_EQ(options.common.output, "o.json");
     EXPECT_EQ(options.common.progress, When::never);
     EXPECT_EQ(options.common.color, When::always);
-    EXPECT_EQ(options.common.language, "zh-Hant");
+    EXPECT_EQ(options.common.language, KarvelloUI::AppLanguage::traditionalChinese);
     EXPECT_EQ(options.common.jobs, 3U);
     EXPECT_TRUE(options.common.isVerbose);
 }
@@ -114,8 +114,9 @@ TEST(CommandLine, OneMentionTakesOneFolder)
 
 TEST(CommandLine, KnowsTheEightLanguages)
 {
-    for (const auto code : kLanguageCodes) {
-        EXPECT_EQ(scanOptions({"scan", "--language", std::string(code)}).common.language, code);
+    for (const auto language : Platform::allCases<KarvelloUI::AppLanguage>()) {
+        const std::string code(Platform::rawValue(language));
+        EXPECT_EQ(scanOptions({"scan", "--language", code}).common.language, language);
     }
     EXPECT_NE(usageError({"scan", "--language", "zh"}).message.find("zh-Hans"), std::string::npos);
 }

@@ -34,14 +34,14 @@ TEST_F(CleanProgram, HistoryShowsTheNewestFirst)
     const ProgramResult result = run({"history"});
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.output, StartsWith("Date"));
-    const auto restore = result.output.find("restore    cleanup      2     2       0  24 KB");
-    const auto clean = result.output.find("clean      cleanup      2     2       0  24 KB");
+    const auto restore = result.output.find("Restore    cleanup      2     2       0  24 KB");
+    const auto clean = result.output.find("Clean      cleanup      2     2       0  24 KB");
     EXPECT_LT(restore, clean) << result.output;
     EXPECT_NE(clean, std::string::npos) << result.output;
 
     const ProgramResult one = run({"history", "--limit", "1"});
-    EXPECT_THAT(one.output, HasSubstr("restore"));
-    EXPECT_THAT(one.output, Not(HasSubstr("clean ")));
+    EXPECT_THAT(one.output, HasSubstr("Restore"));
+    EXPECT_THAT(one.output, Not(HasSubstr("Clean ")));
     EXPECT_THAT(history().at("entries"), SizeIs(2)) << "a short look does not shorten the log";
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 TextStyle style(std::size_t columns)
 {
-    return {.columns = columns, .language = "en", .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
+    return {.columns = columns, .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
 }
 
 std::vector<CleanupAuditEntry> entries()
@@ -53,8 +53,8 @@ TEST(HistoryTable, HasAnEntryALineWhereThereIsRoom)
 {
     const std::string text = historyTable(entries(), style(90));
     EXPECT_THAT(text, HasSubstr("Operation  Source    Asked  Done  Failed     Size\n"));
-    EXPECT_THAT(text, HasSubstr("  clean      cleanup    1200     7       1     2 KB  cancelled\n"));
-    EXPECT_THAT(text, HasSubstr("  restore    insights      0     0       0  0 bytes\n"));
+    EXPECT_THAT(text, HasSubstr("  Clean      cleanup    1200     7       1     2 KB  cancelled\n"));
+    EXPECT_THAT(text, HasSubstr("  Restore    insights      0     0       0  0 bytes\n"));
     EXPECT_LE(widestLine(text), 90U);
 }
 
@@ -67,7 +67,7 @@ TEST(HistoryTable, HasTheIdsWhereThereIsMuchRoom)
 TEST(HistoryTable, HasTwoLinesAnEntryWhereItIsNarrow)
 {
     const std::string text = historyTable(entries(), style(60));
-    EXPECT_THAT(text, HasSubstr("  clean  cleanup  cancelled\n  1200 asked, 7 done, 1 failed, 2 KB\n"));
+    EXPECT_THAT(text, HasSubstr("  Clean  cleanup  cancelled\n  1200 asked, 7 done, 1 failed, 2 KB\n"));
     EXPECT_LE(widestLine(text), 60U);
 }
 

@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 
+#include "Tests/KarvelloCLI/SpokenLanguage.h"
 #include "Tests/KarvelloCLI/TextLines.h"
 
 #include <gmock/gmock.h>
@@ -253,7 +254,8 @@ TEST(ScanTable, UsesColourOnlyWhenTold)
 
 TEST(ScanTable, SizesFollowTheLanguage)
 {
-    EXPECT_THAT(table(ordinaryReport(), {.language = "ko"}), HasSubstr("Safe: 2 items, 65MB\n"));
+    const SpokenLanguage spoken(KarvelloUI::AppLanguage::korean);
+    EXPECT_THAT(table(ordinaryReport(), {}), HasSubstr("안전: 항목 2개, 65MB\n"));
 }
 
 TEST(ScanTable, RedactsPathsAndNamesEverywhere)

@@ -17,7 +17,6 @@ TextStyle style(std::size_t columns, bool usesColor = false)
 {
     return {.columns = columns,
         .painter = Painter(usesColor),
-        .language = "en",
         .paths = HomePathAbbreviation(Platform::FileURL::folder("/home/ada"))};
 }
 

@@ -133,6 +133,37 @@ TEST(TerminalText, BreaksAWordOnlyWhereItAloneIsTooLong)
     EXPECT_EQ(lines, (std::vector<std::string>{"at", "/a/very/", "long/pat", "h here"}));
 }
 
+TEST(TerminalText, WrapsWhatHasNoBlanksBetweenItsCharacters)
+{
+    std::vector<std::string> lines;
+    for (const TerminalText& line : TerminalText("何も変更されていません。--verboseで表示します。").wrapped(12)) {
+        EXPECT_LE(line.columns(), 12U);
+        lines.push_back(line.string());
+    }
+    EXPECT_EQ(lines, (std::vector<std::string>{"何も変更され", "ていません。", "--verboseで", "表示します。"}));
+}
+
+TEST(TerminalText, BeginsNoLineWithAStopAndEndsNoneWithABracket)
+{
+    for (std::size_t columns = 8; columns < 24; ++columns) {
+        for (const TerminalText& line : TerminalText("大文件（100 KB 及以上）：3 个文件，980 KB。").wrapped(columns)) {
+            for (const char* const stop : {"）", "：", "，", "。"}) {
+                EXPECT_FALSE(line.string().starts_with(stop)) << columns << ": " << line.string();
+            }
+            EXPECT_FALSE(line.string().ends_with("（")) << columns << ": " << line.string();
+        }
+    }
+}
+
+TEST(TerminalText, KoreanIsWrappedAtItsBlanks)
+{
+    std::vector<std::string> lines;
+    for (const TerminalText& line : TerminalText("디스크에서 바뀐 것은 없습니다.").wrapped(16)) {
+        lines.push_back(line.string());
+    }
+    EXPECT_EQ(lines, (std::vector<std::string>{"디스크에서 바뀐", "것은 없습니다."}));
+}
+
 TEST(TerminalText, PadsByColumns)
 {
     EXPECT_EQ(TerminalText("한").paddedRight(4), "한  ");

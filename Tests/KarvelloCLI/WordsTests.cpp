@@ -4,13 +4,6 @@
 
 using namespace KarvelloCLI;
 
-TEST(Words, CountsOneInTheSingular)
-{
-    EXPECT_EQ(counted(0, "item"), "0 items");
-    EXPECT_EQ(counted(1, "item"), "1 item");
-    EXPECT_EQ(counted(2, "item"), "2 items");
-}
-
 TEST(Words, TellsAnAgeInOneUnit)
 {
     EXPECT_EQ(shortAge(0), "now");

@@ -3,9 +3,8 @@
 #include "Platform/Linux/ProcessFolder.h"
 #include "PlatformDesktop/LinuxDesktopApplications.h"
 #include "Tests/DesktopSupport/OwnedProgram.h"
+#include "Tests/Support/EventLoop.h"
 
-#include <QtCore/QCoreApplication>
-#include <array>
 #include <charconv>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -68,14 +67,9 @@ protected:
         return LinuxDesktopApplications(m_settings).requestQuit(application);
     }
 
+    /// Qt wants to know a program before it talks to a bus.
+    TestSupport::EventLoop m_loop;
     LinuxDesktopApplications::Settings m_settings;
-
-private:
-    // Qt wants to know a program before it talks to a bus.
-    std::string m_programName = "tests";
-    std::array<char*, 2> m_words{m_programName.data(), nullptr};
-    int m_wordCount = 1;
-    QCoreApplication m_program{m_wordCount, m_words.data()};
 };
 
 } // namespace PlatformDesktopTests

@@ -14,6 +14,8 @@ LANGUAGES = {
     "french": "fr",
     "german": "de",
 }
+# All languages, with their labels in the texts of the command line, in their order.
+LABELS = ("en", "ko", *LANGUAGES.values())
 SECTIONS = ("manualExact", "exact", "manualTemplate", "template", "postProcess", "sameAsEnglish")
 
 _SECTION = re.compile(r"\[(\w+)\]")
@@ -114,3 +116,43 @@ def readable(pattern):
     numbers = iter(range(99))
     text = _GROUP.sub(lambda _: "{%d}" % next(numbers), pattern[1:-1])
     return re.sub(r"\\(.)", lambda match: "\n" if match[1] == "n" else match[1], text.replace("\\\\", "\\"))
+
+
+_PLACEHOLDER = re.compile(r"\{(\d*)\}")
+
+
+def placeholders(text):
+    """The numbers of the values that a text of the command line takes, in order of their mention."""
+    return [int(number) if number else index for index, number in enumerate(_PLACEHOLDER.findall(text))]
+
+
+def read_texts(paths):
+    """The texts of the command line: for each a mapping of labels to texts, with its place in the file as `where`."""
+    texts = []
+    seen = set()
+    for path in map(pathlib.Path, paths):
+        for number, line in enumerate(path.read_text(encoding="utf-8").split("\n"), 1):
+            if not line.strip() or line.startswith("#"):
+                continue
+            where = f"{path.name}:{number}"
+            match = _ROW.fullmatch(line)
+            if not match or match[2] or match[1] not in LABELS or not match[3]:
+                raise Malformed(f'{where}: neither a remark nor label: "text"')
+            if match[1] == "en":
+                if match[3] in seen:
+                    raise Malformed(f"{where}: {match[3]!r} stands twice")
+                seen.add(match[3])
+                texts.append({"where": where})
+            due = LABELS[len(texts[-1]) - 1] if texts and len(texts[-1]) <= len(LABELS) else "en"
+            if match[1] != due:
+                raise Malformed(f'{where}: "{match[1]}", where "{due}" is due')
+            texts[-1][match[1]] = match[3]
+            wanted, found = placeholders(texts[-1]["en"]), placeholders(match[3])
+            if sorted(found) != wanted or re.search(r"[{}]", _PLACEHOLDER.sub("", match[3])):
+                raise Malformed(f"{where}: needs each placeholder of the English once, and no other brace")
+            if len({bool(number) for number in _PLACEHOLDER.findall(match[3])}) > 1:
+                raise Malformed(f"{where}: either all placeholders have a number or none has")
+    for text in texts:
+        if len(text) != len(LABELS) + 1:
+            raise Malformed(f'{text["where"]}: a language is missing')
+    return texts

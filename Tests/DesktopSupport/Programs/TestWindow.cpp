@@ -22,8 +22,12 @@
 
 namespace {
 
+struct Freeing {
+    void operator()(void* memory) const { std::free(memory); }
+};
+
 template <typename Value>
-using Reply = std::unique_ptr<Value, decltype([](Value* value) { std::free(value); })>;
+using Reply = std::unique_ptr<Value, Freeing>;
 
 class Program {
 public:

@@ -55,6 +55,8 @@ TEST(AppLanguage, IgnoresCaseAndRegionOfOtherLanguages)
     EXPECT_EQ(languageMatchingPreferredIdentifier("KO"), korean);
     EXPECT_EQ(languageMatchingPreferredIdentifier("ko-KR"), korean);
     EXPECT_EQ(languageMatchingPreferredIdentifier("en-GB"), english);
+    EXPECT_EQ(languageMatchingPreferredIdentifier("KO_kr"), korean);
+    EXPECT_EQ(languageMatchingPreferredIdentifier("De-Latn-DE-1996"), german);
     EXPECT_EQ(languageMatchingPreferredIdentifier("ZH-HANT"), traditionalChinese);
 }
 

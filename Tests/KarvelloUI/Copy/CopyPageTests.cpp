@@ -1,11 +1,9 @@
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
 
 #include "KarvelloUI/Copy/ReplaceAll.h"
+#include "Tests/KarvelloUI/Copy/GoldenPage.h"
 
-#include <cstdlib>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 
 namespace KarvelloUI {
 namespace {
@@ -34,12 +32,7 @@ std::string copyPage()
 
 TEST(CopyPage, IsWhatTheCatalogueSays)
 {
-    const std::string page = copyPage();
-    if (std::getenv("KARVELLO_WRITE_COPY_PAGE") != nullptr) {
-        std::ofstream(kPath) << page;
-    }
-    std::ifstream file(kPath);
-    EXPECT_EQ(page, std::string(std::istreambuf_iterator<char>(file), {})) << "scripts/write-copy-page writes it anew";
+    expectGolden(copyPage(), kPath);
 }
 
 } // namespace

@@ -97,9 +97,29 @@ TEST(SentencePattern, GivesUpOnASentenceThatWouldTakeTooLong)
     EXPECT_FALSE(SentencePattern::compile("^(.+?) (.+?)!b?$")->firstMatch(sentence, budget));
 }
 
+TEST(SentencePattern, MatchesAgainAndAgainAndAfterHavingGivenUp)
+{
+    const auto pattern = SentencePattern::shared("^(.+?) (.+?) (.+?) (.+?)!$");
+    const auto parts = [&pattern](const std::string& text) -> std::optional<std::string> {
+        MatchableSentence sentence(text);
+        MatchBudget budget;
+        const auto match = pattern->firstMatch(sentence, budget);
+        return match && *match ? std::optional(std::string(*(**match)[3])) : std::nullopt;
+    };
+    std::string hostile;
+    for (int word = 0; word < 2000; ++word) {
+        hostile += "a ";
+    }
+    EXPECT_EQ(parts("a b c d!"), "d");
+    EXPECT_EQ(parts("a b c longer than before!"), "longer than before");
+    EXPECT_EQ(parts(hostile + "!a"), std::nullopt);
+    EXPECT_EQ(parts("w x y z!"), "z") << "its budget is its own";
+    EXPECT_EQ(parts("w x y"), std::nullopt);
+}
+
 TEST(SentencePattern, MatchesOnManyThreadsAtOnce)
 {
-    const auto pattern = SentencePattern::compile(R"(^(.+?)\ of\ (.+?)\ reviewed$)");
+    const auto pattern = SentencePattern::shared(R"(^(.+?)\ of\ (.+?)\ reviewed$)");
     std::vector<std::jthread> threads;
     std::vector<int> matches(4);
     for (int& found : matches) {

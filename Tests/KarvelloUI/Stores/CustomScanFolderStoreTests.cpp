@@ -64,9 +64,9 @@ TEST_F(CustomScanFolderStoreTest, StartsWithNothing)
 
 TEST_F(CustomScanFolderStoreTest, KeepsTheFoldersOverARestart)
 {
-    seed(kBackupKey, "old");
     m_tree.add("home/\"caf\\xE9\\n\"/\n");
     const auto store = makeStore();
+    seed(kBackupKey, "old");
     EXPECT_TRUE(add(*store, "home/Documents/"));
     EXPECT_TRUE(add(*store, "home/caf\xE9\n/"));
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);

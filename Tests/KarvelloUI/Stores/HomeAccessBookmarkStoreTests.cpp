@@ -55,9 +55,9 @@ TEST_F(HomeAccessBookmarkStoreTest, StartsWithNothing)
 
 TEST_F(HomeAccessBookmarkStoreTest, KeepsTheGrantOverARestart)
 {
-    seed(kBackupKey, "old");
     {
         const auto store = makeStore();
+        seed(kBackupKey, "old");
         EXPECT_TRUE(store->setBookmark(m_home, m_files, kNow));
         EXPECT_EQ(store->accessState(), HomeAccessState::authorized);
         EXPECT_EQ(store->bookmark(), grant());

@@ -133,6 +133,16 @@ TEST_F(HomeAccessBookmarkTest, RefusesAHomeBehindALink)
     expectRefused(m_tree.url("alias/me/"), m_tree.url("alias/me/"), Kind::notCurrentUserHome);
 }
 
+TEST_F(HomeAccessBookmarkTest, RefusesAnotherWayToTheHome)
+{
+    m_tree.add("alias -> .\n");
+    const auto otherWay = m_tree.url("alias/home/");
+    expectRefused(otherWay, m_home, Kind::notCurrentUserHome);
+    auto bookmark = homeGrant();
+    bookmark.bookmarkData = m_systemBookmarks.create(otherWay).value();
+    EXPECT_TRUE(isStale(bookmark, m_home));
+}
+
 TEST_F(HomeAccessBookmarkTest, RefusesWhatCannotBeLookedAt)
 {
     TestSupport::FaultyFileManager faulty(m_files);

@@ -137,6 +137,17 @@ TEST(Text, TakesOneScalarAtATime)
     EXPECT_TRUE(rest.empty());
 }
 
+TEST(Text, CountsTheColumnsOfATerminal)
+{
+    EXPECT_EQ(Text::columns("plain"), 5U);
+    EXPECT_EQ(Text::columns("Größe"), 5U);
+    EXPECT_EQ(Text::columns("漢字かな한글，"), 14U);
+    EXPECT_EQ(Text::columns("e\u0301"), 1U) << "a mark takes no column of its own";
+    EXPECT_EQ(Text::columns("\u1112\u1161\u11ab"), 2U) << "nor do the vowels and finals of Hangul";
+    EXPECT_EQ(Text::columns("🗑"), 2U);
+    EXPECT_EQ(Text::columns(""), 0U);
+}
+
 TEST(Text, PutsScalarsTogether)
 {
     EXPECT_EQ(Text::fromScalars(U"aé漢🗑"), "aé漢🗑");

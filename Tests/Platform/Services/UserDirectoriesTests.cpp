@@ -73,4 +73,16 @@ TEST(UserDirectories, PassOverLinesThatNameNoFolder)
     EXPECT_EQ(userDirectory(UserDirectory::music, withNUL, home), FileURL::folder("/home/ada/Music"));
 }
 
+TEST(UserDirectories, KnowTheFoldersForWhatCanBeMadeAgain)
+{
+    EXPECT_EQ(cacheDirectoryForCurrentUser(Environment({{"HOME", "/home/a"}, {"XDG_CACHE_HOME", "/c"}})),
+        FileURL::folder("/c"));
+    EXPECT_EQ(cacheDirectoryForCurrentUser(Environment({{"HOME", "/home/a"}, {"XDG_CACHE_HOME", "c"}})),
+        FileURL::folder("/home/a/.cache"));
+    EXPECT_EQ(
+        temporaryDirectory(Environment({{"HOME", "/home/a"}, {"TMPDIR", "/var/own"}})), FileURL::folder("/var/own"));
+    EXPECT_EQ(temporaryDirectory(Environment({{"HOME", "/home/a"}, {"TMPDIR", "own"}})), FileURL::folder("/tmp"));
+    EXPECT_EQ(temporaryDirectory(Environment()), FileURL::folder("/tmp"));
+}
+
 } // namespace Platform

@@ -1,0 +1,392 @@
+#include "KarvelloUI/Stores/CustomScanFolderAccess.h"
+#include "Tests/KarvelloUI/Sessions/CleanerViewModelFixture.h"
+
+#include <set>
+
+namespace CleanerViewModelTests {
+
+namespace {
+
+using CleanerCore::CleanedItem;
+using CleanerCore::CleaningMode;
+using CleanerCore::CleanResult;
+using CleanerCore::CleanupAuditOperation;
+using CleanerCore::CleanupAuditSource;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr auto kTrash = CleaningMode::moveToTrash;
+constexpr const char* kFailed = "Some items could not be cleaned. Review the result details.";
+constexpr const char* kCancelled = "Cleaning was cancelled. Already cleaned items were removed from the list.";
+
+class CleanerViewModelCleaningTest : public CleanerViewModelTest {
+protected:
+    void clean()
+    {
+        session->cleanSelected(kTrash);
+        settle();
+    }
+    void select(std::vector<std::string> names)
+    {
+        session->clearSelection();
+        for (const auto& name : names) {
+            session->setSelected(candidate(name), true);
+        }
+    }
+    [[nodiscard]] std::set<std::string, std::less<>> cleanedIDs() const
+    {
+        std::set<std::string, std::less<>> ids;
+        for (const auto& item : session->lastCleanResult()->cleanedItems) {
+            ids.insert(item.candidate.id);
+        }
+        return ids;
+    }
+    void undo(const std::set<std::string, std::less<>>& ids)
+    {
+        session->undoLastTrashClean(ids);
+        settle();
+    }
+};
+
+} // namespace
+
+TEST_F(CleanerViewModelCleaningTest, MovesWhatIsSelectedAndTakesItFromTheReport)
+{
+    scanCaches();
+    select({"large", "small"});
+    session->cleanSelected(kTrash);
+    EXPECT_EQ(session->phase(), Phase::cleaning);
+    settle();
+    EXPECT_EQ(session->phase(), Phase::finished);
+    EXPECT_THAT(names(), ElementsAre("middle"));
+    EXPECT_FALSE(stands("home/Caches/large"));
+    EXPECT_TRUE(stands("home/Caches/middle/data"));
+    EXPECT_EQ(trashedCount(), 2U);
+    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(2));
+    EXPECT_EQ(session->errorMessage(), std::nullopt);
+    EXPECT_EQ(session->selectedCount(), 0);
+    EXPECT_TRUE(session->canUndoLastTrashClean());
+}
+
+TEST_F(CleanerViewModelCleaningTest, WritesDownWhatItDid)
+{
+    scanCaches();
+    select({"large"});
+    clean();
+    ASSERT_THAT(session->auditEntries(), SizeIs(1));
+    const auto& entry = session->auditEntries().front();
+    EXPECT_EQ(entry.operation, CleanupAuditOperation::clean);
+    EXPECT_EQ(entry.source, CleanupAuditSource::cleanupDashboard);
+    EXPECT_EQ(entry.occurredAt, now);
+    EXPECT_EQ(entry.requestedItemCount, 1);
+    EXPECT_EQ(entry.succeededItemCount, 1);
+    EXPECT_EQ(auditStore.loadEntries(), session->auditEntries());
+}
+
+TEST_F(CleanerViewModelCleaningTest, IsRefusedWhileBusy)
+{
+    scanCaches();
+    session->cleanSelected(kTrash);
+    session->cleanSelected(kTrash);
+    EXPECT_EQ(executor.waitingCount(), 1U);
+    session->undoLastTrashClean({"x"});
+    EXPECT_EQ(executor.waitingCount(), 1U);
+    settle();
+    EXPECT_THAT(session->auditEntries(), SizeIs(1));
+}
+
+TEST_F(CleanerViewModelCleaningTest, MovesTheSnapshotWhateverIsSelectedByThen)
+{
+    scanCaches();
+    select({"small"});
+    const auto snapshot = session->review().selectionSnapshot();
+    session->selectAllCandidates();
+    session->cleanSelected(kTrash, snapshot);
+    settle();
+    EXPECT_THAT(names(), ElementsAre("large", "middle"));
+    EXPECT_EQ(trashedCount(), 1U);
+}
+
+TEST_F(CleanerViewModelCleaningTest, ChangesNothingForASnapshotThatHasLeftTheReport)
+{
+    scanCaches();
+    select({"small"});
+    const auto snapshot = session->review().selectionSnapshot();
+    clean();
+    scan({location("home/Logs/")});
+    session->cleanSelected(kTrash, snapshot);
+    EXPECT_EQ(session->phase(), Phase::ready);
+    EXPECT_EQ(executor.waitingCount(), 0U);
+}
+
+TEST_F(CleanerViewModelCleaningTest, EmptiesReportAndFiltersWhenAllIsCleaned)
+{
+    scanCaches();
+    session->setFilters({.searchText = "a", .category = CleanerCore::CleanupCategory::userCaches});
+    clean();
+    EXPECT_THAT(session->report().candidates, IsEmpty());
+    EXPECT_EQ(session->filters(), CandidateListFilters());
+    EXPECT_EQ(session->phase(), Phase::finished);
+}
+
+TEST_F(CleanerViewModelCleaningTest, ClearsTheFilterOfACategoryWhoseLastItemWent)
+{
+    scan({location("home/Caches/"),
+        location("home/Logs/", CleanerCore::CleanupCategory::userLogs, CleanerCore::CleanupSafety::caution)});
+    session->setFilters({.searchText = "log", .category = CleanerCore::CleanupCategory::userLogs});
+    select({"old.log"});
+    clean();
+    EXPECT_EQ(session->filters(), CandidateListFilters{.searchText = "log"});
+}
+
+TEST_F(CleanerViewModelCleaningTest, KeepsWhatFailedInTheListAndSelected)
+{
+    scanCaches();
+    trash.behaviour.failure = Platform::FileErrorKind::noTrash;
+    clean();
+    EXPECT_EQ(session->phase(), Phase::finished);
+    EXPECT_THAT(names(), SizeIs(3));
+    EXPECT_EQ(session->selectedCount(), 3);
+    EXPECT_THAT(session->lastCleanResult()->failedItems, SizeIs(3));
+    EXPECT_EQ(session->errorMessage(), kFailed);
+    EXPECT_FALSE(session->canUndoLastTrashClean());
+}
+
+TEST_F(CleanerViewModelCleaningTest, SaysWhatItIsGivenToSay)
+{
+    scanCaches();
+    trash.behaviour.failure = Platform::FileErrorKind::noTrash;
+    session->cleanSelected(kTrash, std::nullopt, "failed", "cancelled");
+    settle();
+    EXPECT_EQ(session->errorMessage(), "failed");
+    session->cleanSelected(kTrash, std::nullopt, "failed", "cancelled");
+    session->cancelCurrentOperation();
+    settle();
+    EXPECT_EQ(session->errorMessage(), "cancelled");
+}
+
+TEST_F(CleanerViewModelCleaningTest, ToldToStopBeforeItBeganMovesNothing)
+{
+    scanCaches();
+    session->cleanSelected(kTrash);
+    session->cancelCurrentOperation();
+    EXPECT_EQ(session->phase(), Phase::cleaning);
+    settle();
+    EXPECT_EQ(session->phase(), Phase::ready);
+    EXPECT_EQ(session->lastCleanResult(), CleanResult{.wasCancelled = true});
+    EXPECT_EQ(session->errorMessage(), kCancelled);
+    EXPECT_EQ(trashedCount(), 0U);
+    ASSERT_THAT(session->auditEntries(), SizeIs(1));
+    EXPECT_TRUE(session->auditEntries().front().wasCancelled);
+    EXPECT_EQ(session->auditEntries().front().requestedItemCount, 3);
+}
+
+TEST_F(CleanerViewModelCleaningTest, ToldToStopInTheMiddleTellsWhatWasMoved)
+{
+    scanCaches();
+    trash.behaviour.afterMove = [this] { session->cancelCurrentOperation(); };
+    clean();
+    EXPECT_EQ(session->phase(), Phase::ready);
+    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(1));
+    EXPECT_TRUE(session->lastCleanResult()->wasCancelled);
+    EXPECT_EQ(session->errorMessage(), kCancelled);
+    EXPECT_EQ(trashedCount(), 1U);
+    EXPECT_THAT(names(), SizeIs(2));
+    EXPECT_THAT(session->auditEntries(), SizeIs(1));
+}
+
+TEST_F(CleanerViewModelCleaningTest, CountsAsCancelledThoughEverythingHadMoved)
+{
+    scanCaches();
+    select({"small"});
+    cleanAction = [this](std::span<const CleanupCandidate> candidates, const CleanRequest& request,
+                      const std::stop_token& stop, const CleanerCore::ItemProgressReport& report) {
+        auto result = cleaningServiceAction(services)(candidates, request, stop, report);
+        session->cancelCurrentOperation();
+        return result;
+    };
+    restart();
+    scanCaches();
+    clean();
+    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(3));
+    EXPECT_TRUE(session->lastCleanResult()->wasCancelled);
+    EXPECT_EQ(session->phase(), Phase::ready);
+}
+
+TEST_F(CleanerViewModelCleaningTest, IsDroppedWholeWhenAScanReplacesIt)
+{
+    scanCaches();
+    session->cleanSelected(kTrash);
+    executor.runOne();
+    session->scan({location("home/Logs/")});
+    settle();
+    EXPECT_EQ(trashedCount(), 3U);
+    EXPECT_EQ(session->lastCleanResult(), std::nullopt);
+    EXPECT_THAT(session->auditEntries(), IsEmpty());
+    EXPECT_THAT(names(), ElementsAre("old.log"));
+}
+
+TEST_F(CleanerViewModelCleaningTest, KeepsACandidateAwayThatWasIgnoredMeanwhile)
+{
+    scanCaches();
+    select({"large"});
+    session->cleanSelected(kTrash);
+    executor.runOne();
+    session->ignoreCandidate(candidate("small"));
+    settle();
+    EXPECT_THAT(names(), ElementsAre("middle"));
+}
+
+TEST_F(CleanerViewModelCleaningTest, BlocksWhatLiesInAFolderWithoutAccess)
+{
+    auto folder = CustomScanFolder::make(tree.url("home/Logs/"), files, bookmarks, now);
+    ASSERT_TRUE(folder.has_value());
+    session->scanMac(CleanerCore::CleanupScanMode::standard, tree.url("home/"), {*folder}, std::nullopt, false);
+    settle();
+    environment = Platform::Environment({{"HOME", tree.path("home")}, {"APP_SANDBOX_CONTAINER_ID", "x"}});
+    std::filesystem::rename(tree.path("home/Logs"), tree.path("home/Aside"));
+    session->selectAllCandidates();
+    clean();
+    ASSERT_THAT(session->lastCleanResult()->failedItems, SizeIs(1));
+    EXPECT_EQ(session->lastCleanResult()->failedItems.front().reason, CustomScanFolderAccess::unavailableReason);
+    EXPECT_THAT(trash.itemAnchors(), IsEmpty());
+}
+
+TEST_F(CleanerViewModelCleaningTest, PutsBackWhatItMoved)
+{
+    scanCaches();
+    clean();
+    session->undoLastTrashClean(cleanedIDs());
+    EXPECT_EQ(session->phase(), Phase::restoring);
+    EXPECT_FALSE(session->canUndoLastTrashClean());
+    settle();
+    EXPECT_EQ(session->phase(), Phase::finished);
+    EXPECT_TRUE(stands("home/Caches/large/data"));
+    EXPECT_EQ(trashedCount(), 0U);
+    EXPECT_THAT(names(), ElementsAre("large", "middle", "small"));
+    EXPECT_EQ(session->selectedCount(), 0);
+    EXPECT_EQ(session->lastCleanResult(), std::nullopt);
+    EXPECT_THAT(session->lastRestoreResult()->restoredItems, SizeIs(3));
+    ASSERT_THAT(session->auditEntries(), SizeIs(2));
+    EXPECT_EQ(auditStore.loadEntries().size(), 2U);
+}
+
+TEST_F(CleanerViewModelCleaningTest, LeavesTheRestOfAPartialRestoreRestorable)
+{
+    scanCaches();
+    clean();
+    const auto ids = cleanedIDs();
+    undo({*ids.begin()});
+    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(2));
+    EXPECT_TRUE(session->canUndoLastTrashClean());
+    undo(ids);
+    EXPECT_EQ(session->lastCleanResult(), std::nullopt);
+    EXPECT_THAT(names(), SizeIs(3));
+}
+
+TEST_F(CleanerViewModelCleaningTest, RestoresNothingForUnknownIdsOrWithoutAClean)
+{
+    scanCaches();
+    undo({"x"});
+    EXPECT_EQ(session->phase(), Phase::ready);
+    clean();
+    undo({});
+    undo({"x"});
+    EXPECT_EQ(session->phase(), Phase::finished);
+    EXPECT_EQ(session->lastRestoreResult(), std::nullopt);
+    EXPECT_EQ(trashedCount(), 3U);
+}
+
+TEST_F(CleanerViewModelCleaningTest, DoesNotShowARestoredCandidateTwice)
+{
+    scanCaches();
+    select({"small"});
+    clean();
+    const auto ids = cleanedIDs();
+    // Another one stands there by now, so that the restore is refused, and the candidate is known again.
+    tree.add("home/Caches/small/data size=8K");
+    undo(ids);
+    EXPECT_EQ(session->errorMessage(), "Some items could not be restored.");
+    EXPECT_EQ(session->phase(), Phase::finished);
+    EXPECT_THAT(session->lastRestoreResult()->failedItems, SizeIs(1));
+    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(1));
+    EXPECT_THAT(names(), ElementsAre("large", "middle"));
+}
+
+TEST_F(CleanerViewModelCleaningTest, ARestoreToldToStopBeforeItBeganMovesNothing)
+{
+    scanCaches();
+    clean();
+    const auto ids = cleanedIDs();
+    session->undoLastTrashClean(ids);
+    session->cancelCurrentOperation();
+    settle();
+    // Nothing is in the report any more.
+    EXPECT_EQ(session->phase(), Phase::idle);
+    EXPECT_EQ(session->errorMessage(), "Restore was cancelled.");
+    EXPECT_TRUE(session->lastRestoreResult()->wasCancelled);
+    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(3));
+    EXPECT_EQ(trashedCount(), 3U);
+    EXPECT_THAT(session->auditEntries(), SizeIs(2));
+}
+
+TEST_F(CleanerViewModelCleaningTest, ARestoreToldToStopWhenAllWasBackCountsAsDone)
+{
+    scanCaches();
+    select({"small"});
+    clean();
+    session->undoLastTrashClean(cleanedIDs());
+    executor.runOne();
+    session->cancelCurrentOperation();
+    settle();
+    EXPECT_EQ(session->phase(), Phase::finished);
+    EXPECT_FALSE(session->lastRestoreResult()->wasCancelled);
+}
+
+TEST_F(CleanerViewModelCleaningTest, ShowsInTheRestoreCenterTheLogAfterANewScan)
+{
+    scanCaches();
+    clean();
+    EXPECT_TRUE(session->restoreCenterSnapshot().allowsRestoreAttempts);
+    EXPECT_THAT(session->restoreCenterSnapshot().restoreAuthorizedItems, SizeIs(3));
+    scanCaches();
+    EXPECT_EQ(session->lastCleanResult(), std::nullopt);
+    EXPECT_FALSE(session->canUndoLastTrashClean());
+    EXPECT_FALSE(session->restoreCenterSnapshot().allowsRestoreAttempts);
+    EXPECT_EQ(session->restoreCenterSnapshot().recordedAt, now);
+}
+
+TEST_F(CleanerViewModelCleaningTest, MayBeDestroyedAtAnyMomentOfAClean)
+{
+    for (int moment = 0; moment < 3; ++moment) {
+        restart();
+        tree.add("home/Caches/again" + std::to_string(moment) + "/data size=8K");
+        scanCaches();
+        session->cleanSelected(kTrash);
+        if (moment == 1) {
+            executor.runOne();
+        } else if (moment == 2) {
+            QObject::connect(session.get(), &CleanerViewModel::resultsChanged, qApp, [&] { session.reset(); });
+            settle();
+            EXPECT_EQ(session, nullptr);
+        }
+        session.reset();
+        settle();
+    }
+    // What was under way when the session had its result is in the log.
+    EXPECT_THAT(auditStore.loadEntries(), SizeIs(1));
+}
+
+TEST_F(CleanerViewModelCleaningTest, TellsHowFarItIs)
+{
+    scanCaches();
+    std::size_t most = 0;
+    QObject::connect(session.get(), &CleanerViewModel::progressChanged, session.get(),
+        [&] { most = std::max(most, session->itemProgress().doneItems); });
+    clean();
+    EXPECT_EQ(most, 3U);
+    EXPECT_EQ(session->itemProgress().allItems, 0U);
+}
+
+} // namespace CleanerViewModelTests

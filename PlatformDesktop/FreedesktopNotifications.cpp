@@ -79,9 +79,7 @@ std::expected<void, std::string> FreedesktopNotifications::deliver(const Platfor
         return std::unexpected(kNobodyAnswers);
     }
     auto body = NotificationText::body(notification.body);
-    if (service->readsMarkup) {
-        body = NotificationText::escapedMarkup(body);
-    }
+    body = service->readsMarkup ? NotificationText::escapedMarkup(body) : NotificationText::withoutTags(body);
     const auto known = m_shown.find(notification.identifier);
     const bool isReplaceable = known != m_shown.end() && known->second.connection == service->connection;
     constexpr uchar kNormalUrgency = 1;

@@ -1,5 +1,6 @@
 #include "PlatformDesktop/NotificationText.h"
 
+#include "Platform/Base/ASCII.h"
 #include "Platform/Base/Text.h"
 
 #include <cstddef>
@@ -76,6 +77,23 @@ std::string escapedMarkup(std::string_view text)
         }
     }
     return escaped;
+}
+
+std::string withoutTags(std::string_view text)
+{
+    std::string plain;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        const char next = index + 1 < text.size() ? text[index + 1] : ' ';
+        const char letter = Platform::ASCII::lowercased(next);
+        const bool isInATag = (letter >= 'a' && letter <= 'z') || next == '/' || next == '!' || next == '?';
+        const bool beginsATag = text[index] == '<' && isInATag;
+        if (beginsATag) {
+            plain += "‹";
+        } else {
+            plain += text[index];
+        }
+    }
+    return plain;
 }
 
 } // namespace PlatformDesktop::NotificationText

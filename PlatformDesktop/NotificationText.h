@@ -12,7 +12,10 @@ namespace PlatformDesktop::NotificationText {
 [[nodiscard]] std::string title(std::string_view text);
 /// With its line feeds.
 [[nodiscard]] std::string body(std::string_view text);
-/// The same text for a service that takes it for markup.
+/// For a service that takes texts for markup: it shows exactly this one.
 [[nodiscard]] std::string escapedMarkup(std::string_view text);
+/// For a service that says that it shows texts as they are. Some take tags for tags all the same, so what could begin
+/// one gets another bracket: "‹b>".
+[[nodiscard]] std::string withoutTags(std::string_view text);
 
 } // namespace PlatformDesktop::NotificationText

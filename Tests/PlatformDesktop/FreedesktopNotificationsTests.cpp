@@ -1,4 +1,5 @@
 #include "Platform/Base/JSONReader.h"
+#include "Platform/Files/PosixFileManager.h"
 #include "PlatformDesktop/FreedesktopNotifications.h"
 #include "Tests/DesktopSupport/OwnedProgram.h"
 #include "Tests/DesktopSupport/PrivateBus.h"
@@ -68,6 +69,28 @@ protected:
         time.start();
         call();
         EXPECT_LT(time.elapsed(), 8000);
+    }
+
+    /// What an installed service says of a notification that it shows.
+    std::string printedByRealService(std::string_view configuration, const UserNotification& notification)
+    {
+        const PrivateDisplay display(PrivateDisplay::Manager::none);
+        EXPECT_NE(display.name(), "");
+        const TestSupport::TemporaryTree home;
+        EXPECT_TRUE(Platform::PosixFileManager().writeAtomically(configuration, home.url("dunstrc")));
+        OwnedProgram service("dunst", {"-config", home.path("dunstrc"), "-print"},
+            {{"DBUS_SESSION_BUS_ADDRESS", m_bus.address()}, {"DISPLAY", display.name()}, {"HOME", home.root().path()}});
+        QElapsedTimer time;
+        time.start();
+        while (!m_center.isAuthorized() && time.elapsed() < 10'000) {
+            std::this_thread::sleep_for(20ms);
+        }
+        EXPECT_TRUE(m_center.deliver(notification));
+        std::string printed;
+        for (auto line = service.line(); line != "}" && !line.empty(); line = service.line()) {
+            printed += line + "\n";
+        }
+        return printed;
     }
 
     const PrivateBus& m_bus = PrivateBus::ofThisProcess();
@@ -164,7 +187,7 @@ TEST_F(FreedesktopNotificationsTest, ANewServiceIsNotAskedToReplaceWhatItDoesNot
     EXPECT_EQ(number(told(*service), "replaces"), 0);
 }
 
-TEST_F(FreedesktopNotificationsTest, MarkupIsEscapedOnlyForAServiceThatReadsIt)
+TEST_F(FreedesktopNotificationsTest, MarkupIsEscapedForAServiceThatReadsItAndTakenOutForOthers)
 {
     const UserNotification hostile{.title = "<b>\n&", .body = "<img src=\"file:///a\"/> & b", .identifier = "a"};
     {
@@ -176,7 +199,7 @@ TEST_F(FreedesktopNotificationsTest, MarkupIsEscapedOnlyForAServiceThatReadsIt)
     }
     const auto service = started("plain");
     EXPECT_TRUE(m_center.deliver(hostile));
-    EXPECT_EQ(text(told(*service), "body"), hostile.body);
+    EXPECT_EQ(text(told(*service), "body"), "‹img src=\"file:///a\"/> & b");
 }
 
 TEST_F(FreedesktopNotificationsTest, HostileTextArrivesHarmless)
@@ -260,25 +283,13 @@ TEST_F(FreedesktopNotificationsTest, MayBeUsedFromSeveralThreads)
     EXPECT_THAT(replaced, testing::ElementsAre(0, 41, 42, 43));
 }
 
-TEST_F(FreedesktopNotificationsTest, ARealServiceShowsTheTextAsItIs)
+TEST_F(FreedesktopNotificationsTest, ARealServiceReadsNoTextAsMarkup)
 {
-    const PrivateDisplay display(PrivateDisplay::Manager::none);
-    ASSERT_NE(display.name(), "");
-    const TestSupport::TemporaryTree home("config/\n");
-    OwnedProgram service("dunst", {"-config", "/dev/null", "-print"},
-        {{"DBUS_SESSION_BUS_ADDRESS", m_bus.address()}, {"DISPLAY", display.name()}, {"HOME", home.root().path()}});
-    QElapsedTimer time;
-    time.start();
-    while (!m_center.isAuthorized() && time.elapsed() < 10'000) {
-        std::this_thread::sleep_for(20ms);
-    }
-    EXPECT_TRUE(m_center.deliver({.title = "<b>Title</b>", .body = "5% < 10% & <i>more</i>", .identifier = "a"}));
-    std::string printed;
-    for (std::string line = service.line(); line != "}" && !line.empty(); line = service.line()) {
-        printed += line + "\n";
-    }
-    EXPECT_THAT(printed, testing::HasSubstr("<b>Title</b>"));
-    EXPECT_THAT(printed, testing::HasSubstr("5% &lt; 10% &amp; &lt;i&gt;more&lt;/i&gt;"));
+    const UserNotification hostile{.title = "<b>Title</b>", .body = "5% < 10% & <i>more</i>", .identifier = "a"};
+    EXPECT_THAT(printedByRealService("[global]\n", hostile), testing::HasSubstr("body: '5% < 10% & ‹i>more‹/i>'"));
+    const auto printed = printedByRealService("[global]\nmarkup = full\n", hostile);
+    EXPECT_THAT(printed, testing::HasSubstr("summary: '<b>Title</b>'"));
+    EXPECT_THAT(printed, testing::HasSubstr("body: '5% &lt; 10% &amp; &lt;i&gt;more&lt;/i&gt;'"));
 }
 
 TEST(FreedesktopNotificationsSettings, ComeFromTheSession)

@@ -11,6 +11,7 @@ namespace {
 using PlatformDesktop::NotificationText::body;
 using PlatformDesktop::NotificationText::escapedMarkup;
 using PlatformDesktop::NotificationText::title;
+using PlatformDesktop::NotificationText::withoutTags;
 using namespace std::string_view_literals;
 
 TEST(NotificationText, PlainTextStandsAsItIs)
@@ -56,6 +57,12 @@ TEST(NotificationText, WhatIsVeryLongIsCut)
 TEST(NotificationText, MarkupIsEscaped)
 {
     EXPECT_EQ(escapedMarkup("<a href=\"x\">&amp;</a>"), "&lt;a href=\"x\"&gt;&amp;amp;&lt;/a&gt;");
+}
+
+TEST(NotificationText, WhereNoMarkupIsReadNothingCanBeATag)
+{
+    EXPECT_EQ(withoutTags("<a href=\"x\">b</a><!-- --><?x?>"), "‹a href=\"x\">b‹/a>‹!-- -->‹?x?>");
+    EXPECT_EQ(withoutTags("5% < 10% & 3 <3 > 2 <"), "5% < 10% & 3 <3 > 2 <");
 }
 
 } // namespace

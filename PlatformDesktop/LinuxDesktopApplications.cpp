@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <sys/stat.h>
 #include <sys/utsname.h>
 #include <utility>
 #include <vector>
@@ -56,14 +55,11 @@ bool requestByWindows(const ManagedWindows& display, const HeldProcesses& proces
 
 LinuxDesktopApplications::Settings LinuxDesktopApplications::Settings::current(const Platform::Environment& environment)
 {
-    struct stat socket{};
-    const auto runtime = environment.value("XDG_RUNTIME_DIR");
-    const bool hasUserBus = runtime && stat((*runtime + "/bus").c_str(), &socket) == 0;
     utsname machine{};
     const bool hasName = uname(&machine) == 0;
     return {
         .display = environment.value("DISPLAY").value_or(""),
-        .hasSessionBus = hasUserBus || environment.value("DBUS_SESSION_BUS_ADDRESS").has_value(),
+        .hasSessionBus = SessionBus::isOffered(environment),
         .hostName = hasName ? std::string(machine.nodename) : std::string(),
     };
 }

@@ -6,6 +6,7 @@
 #include <QtDBus/QDBusSignature>
 #include <algorithm>
 #include <atomic>
+#include <sys/stat.h>
 #include <utility>
 
 namespace PlatformDesktop {
@@ -61,9 +62,17 @@ SessionBus::~SessionBus()
     QDBusConnection::disconnectFromBus(m_connection.name());
 }
 
-QDBusMessage SessionBus::call(QDBusMessage message, std::chrono::milliseconds patience) const
+bool SessionBus::isOffered(const Platform::Environment& environment)
 {
-    message.setAutoStartService(false);
+    struct stat socket{};
+    const auto runtime = environment.value("XDG_RUNTIME_DIR");
+    const bool hasUserBus = runtime && stat((*runtime + "/bus").c_str(), &socket) == 0;
+    return hasUserBus || environment.value("DBUS_SESSION_BUS_ADDRESS").has_value();
+}
+
+QDBusMessage SessionBus::call(QDBusMessage message, std::chrono::milliseconds patience, AbsentService absent) const
+{
+    message.setAutoStartService(absent == AbsentService::isStarted);
     return m_connection.call(message, QDBus::Block, static_cast<int>(patience.count()));
 }
 

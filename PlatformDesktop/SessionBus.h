@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/Services/Environment.h"
+
 #include <QtCore/QString>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
@@ -10,10 +12,13 @@
 
 namespace PlatformDesktop {
 
-/// A connection of its own to the bus on which the programs of this session talk. It starts no service: who does not run
-/// is not there. Calls wait for an answer, and not for long.
+/// A connection of its own to the bus on which the programs of this session talk. It starts no service unless that is
+/// asked for: who does not run is not there. Calls wait for an answer, and not for long. May be used from any thread.
 class SessionBus {
 public:
+    /// What a call to a service that does not run does.
+    enum class AbsentService : std::uint8_t { isNotThere, isStarted };
+
     /// A program that has a name on the bus.
     struct Owner {
         /// Never given to another program.
@@ -26,6 +31,9 @@ public:
     SessionBus& operator=(const SessionBus&) = delete;
     ~SessionBus();
 
+    /// Without one, the library would look for a bus, and start one.
+    [[nodiscard]] static bool isOffered(const Platform::Environment& environment);
+
     [[nodiscard]] bool isConnected() const { return m_connection.isConnected(); }
     [[nodiscard]] std::optional<Owner> ownerOf(const std::string& name) const;
     /// Whether the application whose name on the bus is `identifier` has an action "quit" that can be called as it is.
@@ -33,10 +41,11 @@ public:
     /// True once the call was sent, unless the application says that it has no such action. One that asks its user first
     /// may answer much later.
     [[nodiscard]] bool activateQuit(const Owner& application, const std::string& identifier) const;
+    /// The answer, or an error if none comes in time.
+    [[nodiscard]] QDBusMessage call(QDBusMessage message, std::chrono::milliseconds patience,
+        AbsentService absent = AbsentService::isNotThere) const;
 
 private:
-    [[nodiscard]] QDBusMessage call(QDBusMessage message, std::chrono::milliseconds patience) const;
-
     QDBusConnection m_connection;
 };
 

@@ -1,9 +1,10 @@
 #include "KarvelloUI/Stores/CleanupReviewPreferencesStore.h"
 
+#include "KarvelloUI/Stores/QtDates.h"
+
 #include <QMetaObject>
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <span>
 #include <string>
 #include <utility>
@@ -50,13 +51,7 @@ const CleanupReviewProfile& CleanupReviewPreferencesStore::selectedProfile() con
 
 QDateTime CleanupReviewPreferencesStore::lastReviewedDateTime() const
 {
-    if (!m_preferences.lastReviewedAt) {
-        return {};
-    }
-    // A stored date may lie further ahead than any calendar reaches.
-    constexpr double kLatestMilliseconds = 8.64e15;
-    const double milliseconds = m_preferences.lastReviewedAt->secondsSince1970() * 1000;
-    return QDateTime::fromMSecsSinceEpoch(std::llround(std::min(milliseconds, kLatestMilliseconds)));
+    return toQDateTime(m_preferences.lastReviewedAt);
 }
 
 bool CleanupReviewPreferencesStore::setCadence(CleanupReviewCadence cadence)

@@ -23,6 +23,8 @@ FOLDERS = {
                           "PlatformDesktop", "Platform"),
     "KarvelloUI/Sessions": ("KarvelloUI/Sessions", "KarvelloUI/Stores", "KarvelloUI/Copy", "KarvelloUI/Advisors",
                             "CleanerCore", "PlatformDesktop", "Platform"),
+    "KarvelloUI/MenuBar": ("KarvelloUI/MenuBar", "KarvelloUI/Sessions", "KarvelloUI/Stores", "KarvelloUI/Copy",
+                           "KarvelloUI/Advisors", "CleanerCore", "Platform"),
 }
 WITHOUT_QT = ("Platform/", "CleanerCore/", "KarvelloCLI/", "KarvelloUI/Copy/", "KarvelloUI/Advisors/",
               "KarvelloUI/Design/")

@@ -2,6 +2,7 @@
 
 #include "Tests/KarvelloUI/Stores/PreferencesFixture.h"
 #include "Tests/Support/EventLoop.h"
+#include "Tests/Support/TestTime.h"
 
 #include <chrono>
 #include <gmock/gmock.h>
@@ -19,42 +20,9 @@ namespace {
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-constexpr std::uint64_t kSecond = 1'000'000'000;
-
-/// A clock that a test sets, and the one call that waits by it.
-struct TestTime {
-    std::uint64_t now = 1000 * kSecond;
-    std::optional<std::uint64_t> dueAt;
-    std::function<void()> call;
-
-    void goOn(std::uint64_t seconds)
-    {
-        const auto end = now + seconds * kSecond;
-        while (dueAt && *dueAt <= end) {
-            now = *std::exchange(dueAt, std::nullopt);
-            std::exchange(call, nullptr)();
-        }
-        now = end;
-    }
-};
-
-class TestCall final : public DelayedCall {
-public:
-    explicit TestCall(TestTime& time)
-        : m_time(time)
-    {
-    }
-    void start(std::chrono::nanoseconds delay, std::function<void()> call) override
-    {
-        m_time.dueAt = m_time.now + static_cast<std::uint64_t>(delay.count());
-        m_time.call = std::move(call);
-    }
-    void cancel() override { m_time.dueAt.reset(); }
-
-private:
-    TestTime& m_time;
-};
+using TestSupport::kSecond;
+using TestSupport::TestCall;
+using TestSupport::TestTime;
 
 /// Tells of each save, and lets none through while it is shut.
 class WatchedUserDefaults final : public Platform::UserDefaults {

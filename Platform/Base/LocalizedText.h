@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Platform/Base/Date.h"
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+/// Texts whose form differs from language to language, by ICU's data. `locale` is an identifier such as "en" or
+/// "zh-Hans". Every function may be called from any thread.
+namespace Platform::LocalizedText {
+
+/// "a", "a and b", "a, b, and c". Nothing if the form is not known.
+[[nodiscard]] std::optional<std::string> list(std::span<const std::string> items, std::string_view locale);
+
+/// The time of day alone: "3:04 PM", "15:04". In the system's time zone unless one is named ("Asia/Seoul"). Dates beyond
+/// 270,000 years count as that limit, and what is no number as the reference date.
+[[nodiscard]] std::string shortTime(Date date, std::string_view locale, std::string_view timeZone = {});
+
+} // namespace Platform::LocalizedText

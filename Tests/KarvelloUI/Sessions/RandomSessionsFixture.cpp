@@ -140,6 +140,22 @@ void RandomSessions::dropOfInsights()
     }
 }
 
+void RandomSessions::scanCaches()
+{
+    dropOfCleaner();
+    ++m_cleanerLedger.scansBegun;
+    m_cleanerTruth.beginScan();
+    m_cleaner->scan({cachesIn(m_tree)});
+}
+
+void RandomSessions::scanInsights()
+{
+    dropOfInsights();
+    ++m_insightsLedger.scansBegun;
+    m_insightsTruth.beginScan();
+    m_insights->scan(std::nullopt);
+}
+
 void RandomSessions::stepOfCleaner()
 {
     const auto& candidates = m_cleaner->report().candidates;
@@ -148,10 +164,7 @@ void RandomSessions::stepOfCleaner()
     case 0:
     case 1:
     case 2:
-        dropOfCleaner();
-        ++m_cleanerLedger.scansBegun;
-        m_cleanerTruth.beginScan();
-        m_cleaner->scan({cachesIn(m_tree)});
+        scanCaches();
         break;
     case 3:
         if (m_cleaner->phase() == Cleaner::Phase::scanning) {
@@ -213,6 +226,10 @@ void RandomSessions::stepOfCleaner()
     }
     if (!wasBusy && changesDisk(m_cleaner->phase())) {
         ++m_cleanerLedger.changesBegun;
+        if (below(4) == 0) {
+            // In the middle of it, or before, or right after.
+            scanCaches();
+        }
     }
 }
 
@@ -224,10 +241,7 @@ void RandomSessions::stepOfInsights()
     case 0:
     case 1:
     case 2:
-        dropOfInsights();
-        ++m_insightsLedger.scansBegun;
-        m_insightsTruth.beginScan();
-        m_insights->scan(std::nullopt);
+        scanInsights();
         break;
     case 3:
         if (m_insights->phase() == Insights::Phase::scanning) {
@@ -270,6 +284,9 @@ void RandomSessions::stepOfInsights()
     }
     if (!wasBusy && m_insights->phase() == Insights::Phase::cleaning) {
         ++m_insightsLedger.changesBegun;
+        if (below(4) == 0) {
+            scanInsights();
+        }
     }
 }
 

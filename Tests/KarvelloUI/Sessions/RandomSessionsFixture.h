@@ -117,6 +117,8 @@ private:
     void follow(Session& session, Ledger& ledger, Truth& truth);
     void stepOfCleaner();
     void stepOfInsights();
+    void scanCaches();
+    void scanInsights();
     void dropOfCleaner();
     void dropOfInsights();
     void expectLogToTellWhatMoved(std::ptrdiff_t trashed);

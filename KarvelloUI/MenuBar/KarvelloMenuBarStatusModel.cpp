@@ -1,10 +1,10 @@
 #include "KarvelloUI/MenuBar/KarvelloMenuBarStatusModel.h"
 
 #include "KarvelloUI/MenuBar/DisabledMenuBarReminderScheduler.h"
+#include "KarvelloUI/Sessions/SessionChanges.h"
 #include "KarvelloUI/Stores/QtDates.h"
 
 #include <QMetaObject>
-#include <QPointer>
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -74,7 +74,7 @@ QString KarvelloMenuBarStatusModel::lastReminderErrorText() const
 bool KarvelloMenuBarStatusModel::publish()
 {
     using Model = KarvelloMenuBarStatusModel;
-    static constexpr std::array kSignals{
+    static constexpr std::array signalOf{
         std::pair(Change::snapshot, &Model::snapshotChanged),
         std::pair(Change::activeReminders, &Model::activeRemindersChanged),
         std::pair(Change::remindersEnabled, &Model::remindersEnabledChanged),
@@ -82,17 +82,7 @@ bool KarvelloMenuBarStatusModel::publish()
         std::pair(Change::lastReminderDeliveredAt, &Model::lastReminderDeliveredAtChanged),
         std::pair(Change::lastReminderError, &Model::lastReminderErrorChanged),
     };
-    const QPointer self(this);
-    const auto changes = std::exchange(m_changes, {});
-    for (const auto& [change, signal] : kSignals) {
-        if (changes.testFlag(change)) {
-            Q_EMIT(this->*signal)();
-        }
-        if (!self) {
-            return false;
-        }
-    }
-    return true;
+    return announceChanges(*this, std::exchange(m_changes, {}), signalOf);
 }
 
 // Looking at the machine

@@ -2,8 +2,8 @@
 
 #include "CleanerCore/Relief/ResourceReliefPolicy.h"
 #include "KarvelloUI/Sessions/ResourceReliefOrder.h"
+#include "KarvelloUI/Sessions/SessionChanges.h"
 
-#include <QPointer>
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -26,24 +26,14 @@ MacResourceReliefViewModel::MacResourceReliefViewModel(
 
 bool MacResourceReliefViewModel::publish()
 {
-    static constexpr std::array kSignals{
+    static constexpr std::array signalOf{
         std::pair(Change::candidates, &MacResourceReliefViewModel::candidatesChanged),
         std::pair(Change::selection, &MacResourceReliefViewModel::selectionChanged),
         std::pair(Change::lastResults, &MacResourceReliefViewModel::lastResultsChanged),
         std::pair(Change::refreshing, &MacResourceReliefViewModel::refreshingChanged),
         std::pair(Change::requestingQuit, &MacResourceReliefViewModel::requestingQuitChanged),
     };
-    const QPointer self(this);
-    const auto changes = std::exchange(m_changes, {});
-    for (const auto& [change, signal] : kSignals) {
-        if (changes.testFlag(change)) {
-            Q_EMIT(this->*signal)();
-        }
-        if (!self) {
-            return false;
-        }
-    }
-    return true;
+    return announceChanges(*this, std::exchange(m_changes, {}), signalOf);
 }
 
 void MacResourceReliefViewModel::refreshCandidates(Refreshed refreshed)

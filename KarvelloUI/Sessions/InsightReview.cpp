@@ -2,6 +2,7 @@
 
 #include "Platform/Base/CheckedMath.h"
 
+#include <array>
 #include <utility>
 
 namespace KarvelloUI {
@@ -49,13 +50,13 @@ InsightReview::Outcome InsightReview::setSelected(const std::string& id, bool is
         return {};
     }
     // `id` may be the one that goes.
-    const std::string changed = id;
+    const std::array changed{id};
     if (isSelected) {
-        m_selectedIDs.insert(changed);
+        m_selectedIDs.insert(changed.front());
     } else {
-        m_selectedIDs.erase(changed);
+        m_selectedIDs.erase(changed.front());
     }
-    return refresh({&changed, 1});
+    return refresh(changed);
 }
 
 InsightReview::Outcome InsightReview::selectAll(MacInsightFileSection section)

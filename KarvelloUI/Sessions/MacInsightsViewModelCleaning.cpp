@@ -8,7 +8,6 @@ namespace KarvelloUI {
 
 using CleanerCore::CleanupAuditEntry;
 using CleanerCore::CleanupAuditSource;
-using CleanerCore::CleanupCandidate;
 using CleanerCore::CleanupCategory;
 using CleanerCore::FileInsight;
 

@@ -253,13 +253,8 @@ TEST_F(MacInsightsViewModelTest, SaysWhyTheHomeCannotBeOpenedAndScansWhatItCan)
     enterSandbox();
     TestSupport::RecordingBookmarks refusing(bookmarks);
     refusing.refusesAccess = true;
-    SessionServices refused{.fileManager = fileManager,
-        .trash = trash,
-        .bookmarks = refusing,
-        .environment = environment,
-        .executor = executor,
-        .now = [this] { return now; }};
-    MacInsightsViewModel other(refused, {.homeDirectory = tree.url("config/")}, auditStore, historyStore);
+    MacInsightsViewModel other(
+        servicesWith(refusing), {.homeDirectory = tree.url("config/")}, auditStore, historyStore);
     other.scan(grantOfHome());
     settle();
     EXPECT_EQ(other.phase(), Phase::ready);
@@ -279,13 +274,8 @@ TEST_F(MacInsightsViewModelTest, SaysWhyTheHomeCannotBeOpenedAndScansWhatItCan)
 TEST_F(MacInsightsViewModelTest, OpensAccessToTheHomeForEachOperationAndClosesIt)
 {
     TestSupport::RecordingBookmarks recording(bookmarks);
-    SessionServices recorded{.fileManager = fileManager,
-        .trash = trash,
-        .bookmarks = recording,
-        .environment = environment,
-        .executor = executor,
-        .now = [this] { return now; }};
-    MacInsightsViewModel other(recorded, {.homeDirectory = tree.url("config/")}, auditStore, historyStore);
+    MacInsightsViewModel other(
+        servicesWith(recording), {.homeDirectory = tree.url("config/")}, auditStore, historyStore);
     other.scan(grantOfHome());
     settle();
     EXPECT_EQ(recording.startCount(), 1);

@@ -62,4 +62,26 @@ private:
     std::vector<Cell> m_cells;
 };
 
+/// Takes a new `Stage` through every cell of the table: it reaches the state, meets the event, and comes to rest. It knows
+/// which operations are to be found in the log then.
+template <typename Stage>
+void expectPhases(const PhaseTable& table)
+{
+    for (const auto& cell : table.cells()) {
+        SCOPED_TRACE(cell.event + " in " + cell.state);
+        Stage stage;
+        stage.reach(cell.state);
+        const char before = stage.phase();
+        const auto logged = stage.loggedCount();
+        stage.meet(cell.event);
+        EXPECT_EQ(stage.phase(), cell.now);
+        stage.comeToRest();
+        EXPECT_EQ(stage.phase(), cell.settled);
+        stage.expectRest();
+        // A clean or restore is written down once, and one that was replaced not at all.
+        const char running = cell.event == "settle" ? before : cell.now;
+        EXPECT_EQ(stage.loggedCount(), logged + (Stage::writesDown(running, cell) ? 1 : 0));
+    }
+}
+
 } // namespace SessionTests

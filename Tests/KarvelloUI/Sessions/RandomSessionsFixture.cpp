@@ -6,8 +6,6 @@
 namespace SessionTests {
 
 using namespace KarvelloUI;
-using CleanerCore::CleanupAuditOperation;
-using CleanerCore::CleanupAuditSource;
 using CleanerCore::ScanLocation;
 
 namespace {
@@ -50,18 +48,26 @@ void RandomSessions::makeItems()
     m_insightsTruth.loseTrack();
 }
 
+template <typename Session>
+void RandomSessions::follow(Session& session, Ledger& ledger, Truth& truth)
+{
+    using Phase = typename Session::Phase;
+    QObject::connect(
+        &session, &Session::phaseChanged, &session, [this, &session, &ledger, &truth, before = Phase::idle]() mutable {
+            const auto left = std::exchange(before, session.phase());
+            // What the user does is no result.
+            if (left == Phase::scanning && session.phase() == Phase::ready && !m_isCalling) {
+                ++ledger.scansApplied;
+                truth.applyScan();
+            }
+        });
+}
+
 void RandomSessions::makeCleaner()
 {
     m_cleaner = std::make_unique<Cleaner>(m_services, m_log, m_ignoreStore,
         [] { return std::vector<CleanerCore::AppCacheRunningApplicationIdentity>(); });
-    m_cleanerPhase = m_cleaner->phase();
-    QObject::connect(m_cleaner.get(), &Cleaner::phaseChanged, m_cleaner.get(), [this] {
-        const auto before = std::exchange(m_cleanerPhase, m_cleaner->phase());
-        if (before == Cleaner::Phase::scanning && m_cleanerPhase == Cleaner::Phase::ready && !m_isCalling) {
-            ++m_cleanerLedger.scansApplied;
-            m_cleanerTruth.applyScan();
-        }
-    });
+    follow(*m_cleaner, m_cleanerLedger, m_cleanerTruth);
     m_cleanerTruth.loseTrack();
 }
 
@@ -81,14 +87,7 @@ void RandomSessions::makeInsights()
                 .maximumDuplicateHashBytes = 1 << 30,
             })},
         m_log, m_history);
-    m_insightsPhase = m_insights->phase();
-    QObject::connect(m_insights.get(), &Insights::phaseChanged, m_insights.get(), [this] {
-        const auto before = std::exchange(m_insightsPhase, m_insights->phase());
-        if (before == Insights::Phase::scanning && m_insightsPhase == Insights::Phase::ready && !m_isCalling) {
-            ++m_insightsLedger.scansApplied;
-            m_insightsTruth.applyScan();
-        }
-    });
+    follow(*m_insights, m_insightsLedger, m_insightsTruth);
     m_insightsTruth.loseTrack();
 }
 
@@ -141,6 +140,22 @@ void RandomSessions::dropOfInsights()
     }
 }
 
+void RandomSessions::scanCaches()
+{
+    dropOfCleaner();
+    ++m_cleanerLedger.scansBegun;
+    m_cleanerTruth.beginScan();
+    m_cleaner->scan({cachesIn(m_tree)});
+}
+
+void RandomSessions::scanInsights()
+{
+    dropOfInsights();
+    ++m_insightsLedger.scansBegun;
+    m_insightsTruth.beginScan();
+    m_insights->scan(std::nullopt);
+}
+
 void RandomSessions::stepOfCleaner()
 {
     const auto& candidates = m_cleaner->report().candidates;
@@ -149,10 +164,7 @@ void RandomSessions::stepOfCleaner()
     case 0:
     case 1:
     case 2:
-        dropOfCleaner();
-        ++m_cleanerLedger.scansBegun;
-        m_cleanerTruth.beginScan();
-        m_cleaner->scan({cachesIn(m_tree)});
+        scanCaches();
         break;
     case 3:
         if (m_cleaner->phase() == Cleaner::Phase::scanning) {
@@ -214,6 +226,10 @@ void RandomSessions::stepOfCleaner()
     }
     if (!wasBusy && changesDisk(m_cleaner->phase())) {
         ++m_cleanerLedger.changesBegun;
+        if (below(4) == 0) {
+            // In the middle of it, or before, or right after.
+            scanCaches();
+        }
     }
 }
 
@@ -225,10 +241,7 @@ void RandomSessions::stepOfInsights()
     case 0:
     case 1:
     case 2:
-        dropOfInsights();
-        ++m_insightsLedger.scansBegun;
-        m_insightsTruth.beginScan();
-        m_insights->scan(std::nullopt);
+        scanInsights();
         break;
     case 3:
         if (m_insights->phase() == Insights::Phase::scanning) {
@@ -271,6 +284,9 @@ void RandomSessions::stepOfInsights()
     }
     if (!wasBusy && m_insights->phase() == Insights::Phase::cleaning) {
         ++m_insightsLedger.changesBegun;
+        if (below(4) == 0) {
+            scanInsights();
+        }
     }
 }
 
@@ -284,142 +300,6 @@ void RandomSessions::comeToRest()
     m_cleanerTruth.hasLeftovers = false;
     m_insightsTruth.hasLeftovers = false;
     expectDiskSessionAndLogToAgree();
-}
-
-void RandomSessions::expectSoundSelections() const
-{
-    std::int64_t bytes = 0;
-    for (const auto& selected : m_cleaner->review().selection().candidates()) {
-        ASSERT_NE(m_cleaner->index()->candidate(selected.id), nullptr);
-        bytes += selected.sizeBytes;
-    }
-    EXPECT_EQ(m_cleaner->selectedBytes(), bytes);
-
-    bytes = 0;
-    std::size_t count = 0;
-    for (const auto section : {MacInsightFileSection::largeFiles, MacInsightFileSection::downloads,
-             MacInsightFileSection::duplicates, MacInsightFileSection::security}) {
-        for (const auto* const file : m_insights->selectedFiles(section)) {
-            EXPECT_TRUE(m_insights->isSelectable(*file));
-            bytes += file->sizeBytes;
-            ++count;
-        }
-    }
-    EXPECT_EQ(m_insights->selectedIDs().size(), count);
-    EXPECT_EQ(m_insights->selectedBytes(), bytes);
-    // What clicks made of the groups is what a look at all of them makes.
-    for (const auto& review : m_insights->duplicateReviewGroups()) {
-        for (const auto& row : review.rows) {
-            EXPECT_EQ(row.isSelected, m_insights->isSelected(*row.file));
-            EXPECT_FALSE(!row.isExtra() && row.isSelected);
-        }
-    }
-}
-
-std::set<std::string> RandomSessions::entriesOf(std::string_view folder) const
-{
-    std::set<std::string> names;
-    const std::filesystem::path path = m_tree.path(folder);
-    if (std::filesystem::exists(path)) {
-        for (const auto& entry : std::filesystem::directory_iterator(path)) {
-            names.insert(entry.path().filename());
-        }
-    }
-    return names;
-}
-
-void RandomSessions::expectDiskSessionAndLogToAgree()
-{
-    // Nothing is lost, and nothing is in two places.
-    std::set<std::string> found;
-    std::size_t count = 0;
-    for (const auto* const folder : {"home/Caches", "home/Downloads", "home/Documents", "data/Trash/files"}) {
-        const auto names = entriesOf(folder);
-        count += names.size();
-        found.insert(names.begin(), names.end());
-    }
-    EXPECT_EQ(found, m_made);
-    EXPECT_EQ(count, m_made.size());
-    const auto trashed = entriesOf("data/Trash/files").size();
-    EXPECT_EQ(entriesOf("data/Trash/info").size(), trashed);
-    m_mostTrashed = std::max(m_mostTrashed, trashed);
-
-    expectLogToTellWhatMoved(static_cast<std::ptrdiff_t>(trashed));
-    expectReportsToTellWhatStands();
-    expectSoundSelections();
-}
-
-void RandomSessions::expectLogToTellWhatMoved(std::ptrdiff_t trashed)
-{
-    for (auto& entry : m_log.loadEntries()) {
-        m_entries.insert_or_assign(entry.id.string(), std::move(entry));
-    }
-    std::ptrdiff_t logged = 0;
-    std::size_t ofCleaner = 0;
-    std::size_t ofInsights = 0;
-    m_restored = 0;
-    for (const auto& [id, entry] : m_entries) {
-        const bool isRestore = entry.operation == CleanupAuditOperation::restore;
-        logged += isRestore ? -entry.succeededItemCount : entry.succeededItemCount;
-        m_restored += isRestore ? static_cast<std::size_t>(entry.succeededItemCount) : 0;
-        ++(entry.source == CleanupAuditSource::macInsights ? ofInsights : ofCleaner);
-    }
-    if (std::exchange(m_mayHaveUnlogged, false)) {
-        m_unlogged = trashed - logged;
-    }
-    EXPECT_EQ(logged + m_unlogged, trashed);
-
-    // What was begun and not dropped was applied, and once.
-    EXPECT_EQ(ofCleaner, m_cleanerLedger.changesBegun - m_cleanerLedger.changesDropped);
-    EXPECT_EQ(ofInsights, m_insightsLedger.changesBegun - m_insightsLedger.changesDropped);
-    EXPECT_EQ(m_cleanerLedger.scansApplied, m_cleanerLedger.scansBegun - m_cleanerLedger.scansDropped);
-    EXPECT_EQ(m_insightsLedger.scansApplied, m_insightsLedger.scansBegun - m_insightsLedger.scansDropped);
-
-    for (const auto* const shown : {&m_cleaner->auditEntries(), &m_insights->auditEntries()}) {
-        std::set<std::string> ids;
-        for (const auto& entry : *shown) {
-            EXPECT_TRUE(m_entries.contains(entry.id.string()));
-            EXPECT_TRUE(ids.insert(entry.id.string()).second);
-        }
-    }
-}
-
-void RandomSessions::expectReportsToTellWhatStands() const
-{
-    for (const auto* const result : {&m_cleaner->lastCleanResult(), &m_insights->lastCleanResult()}) {
-        if (*result) {
-            for (const auto& item : (*result)->cleanedItems) {
-                ASSERT_TRUE(item.destinationURL.has_value());
-                EXPECT_TRUE(std::filesystem::exists(item.destinationURL->path()));
-                EXPECT_FALSE(std::filesystem::exists(item.candidate.url.path()));
-            }
-        }
-    }
-    if (m_cleaner->lastRestoreResult()) {
-        for (const auto& item : m_cleaner->lastRestoreResult()->restoredItems) {
-            EXPECT_TRUE(std::filesystem::exists(item.restoredURL.path()));
-        }
-    }
-    if (m_cleanerTruth.isTrue) {
-        const auto standing = entriesOf("home/Caches");
-        const auto& candidates = m_cleaner->report().candidates;
-        EXPECT_EQ(candidates.size() + static_cast<std::size_t>(m_cleaner->ignoredCandidateCount()), standing.size());
-        for (const auto& candidate : candidates) {
-            EXPECT_TRUE(standing.contains(candidate.displayName));
-        }
-        ++m_comparedReports;
-    }
-    if (m_insightsTruth.isTrue) {
-        std::set<std::string> shown;
-        for (const auto* const file : m_insights->files(MacInsightFileSection::downloads)) {
-            shown.insert(file->displayName);
-        }
-        EXPECT_EQ(shown, entriesOf("home/Downloads"));
-        for (const auto* const file : m_insights->files(MacInsightFileSection::duplicates)) {
-            EXPECT_TRUE(std::filesystem::exists(file->url.path()));
-        }
-        ++m_comparedReports;
-    }
 }
 
 } // namespace SessionTests

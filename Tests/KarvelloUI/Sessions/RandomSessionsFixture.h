@@ -91,8 +91,9 @@ public:
 
     /// One step of a user.
     void step();
-    /// What holds at any moment, and what holds once nothing is under way.
+    /// At any moment.
     void expectSoundSelections() const;
+    /// Once nothing is under way.
     void expectDiskSessionAndLogToAgree();
 
     [[nodiscard]] const Ledger& cleanerLedger() const { return m_cleanerLedger; }
@@ -112,8 +113,12 @@ private:
     void makeItems();
     void makeCleaner();
     void makeInsights();
+    template <typename Session>
+    void follow(Session& session, Ledger& ledger, Truth& truth);
     void stepOfCleaner();
     void stepOfInsights();
+    void scanCaches();
+    void scanInsights();
     void dropOfCleaner();
     void dropOfInsights();
     void expectLogToTellWhatMoved(std::ptrdiff_t trashed);
@@ -151,8 +156,6 @@ private:
     std::unique_ptr<Insights> m_insights;
     Ledger m_cleanerLedger;
     Ledger m_insightsLedger;
-    Cleaner::Phase m_cleanerPhase = Cleaner::Phase::idle;
-    Insights::Phase m_insightsPhase = Insights::Phase::idle;
     Truth m_cleanerTruth;
     Truth m_insightsTruth;
     std::set<std::string> m_made;

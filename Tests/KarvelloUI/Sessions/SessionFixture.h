@@ -44,6 +44,17 @@ protected:
         environment = Platform::Environment({{"HOME", tree.path("home")}, {"APP_SANDBOX_CONTAINER_ID", "x"}});
     }
 
+    /// `services` with other bookmarks, which must outlive it.
+    [[nodiscard]] KarvelloUI::SessionServices servicesWith(const Platform::Bookmarks& others)
+    {
+        return {.fileManager = fileManager,
+            .trash = trash,
+            .bookmarks = others,
+            .environment = environment,
+            .executor = executor,
+            .now = [this] { return now; }};
+    }
+
     [[nodiscard]] bool stands(std::string_view path) const { return std::filesystem::exists(tree.path(path)); }
     [[nodiscard]] std::ptrdiff_t trashedCount() const
     {
@@ -58,12 +69,7 @@ protected:
     Platform::Environment environment{{{"HOME", tree.path("home")}, {"TMPDIR", tree.path("home")}}};
     TestSupport::ManualExecutor executor;
     Platform::Date now = tree.now();
-    KarvelloUI::SessionServices services{.fileManager = fileManager,
-        .trash = trash,
-        .bookmarks = bookmarks,
-        .environment = environment,
-        .executor = executor,
-        .now = [this] { return now; }};
+    KarvelloUI::SessionServices services = servicesWith(bookmarks);
     Platform::FileUserDefaults stored{fileManager, tree.url("config/preferences.json")};
     TestSupport::FailingUserDefaults defaults{stored};
     CleanerCore::CleanupAuditStore auditStore{fileManager, tree.url("home/data/Karvello/log.json")};

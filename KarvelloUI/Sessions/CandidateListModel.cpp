@@ -104,31 +104,31 @@ int CandidateListModel::rowCount(const QModelIndex& parent) const
 
 QVariant CandidateListModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+    const auto* const candidate = this->candidate(index.row());
+    if (candidate == nullptr) {
         return {};
     }
     const auto& row = m_content.rows[static_cast<std::size_t>(index.row())];
-    const auto& candidate = m_content.index->candidates()[row.position];
     switch (role) {
     case idRole:
-        return QString::fromStdString(candidate.id);
+        return QString::fromStdString(candidate->id);
     case Qt::DisplayRole:
     case nameRole:
-        return shown(candidate.displayName);
+        return shown(candidate->displayName);
     case pathRole:
-        return shown(candidate.url.path());
+        return shown(candidate->url.path());
     case sizeBytesRole:
-        return QVariant::fromValue<qint64>(candidate.sizeBytes);
+        return QVariant::fromValue<qint64>(candidate->sizeBytes);
     case sizeTextRole:
-        return QString::fromStdString(CleanerCore::ByteSizeFormatter::string(candidate.sizeBytes, m_copy.locale()));
+        return QString::fromStdString(CleanerCore::ByteSizeFormatter::string(candidate->sizeBytes, m_copy.locale()));
     case categoryRole:
-        return ascii(Platform::rawValue(candidate.category));
+        return ascii(Platform::rawValue(candidate->category));
     case categoryNameRole:
-        return m_categoryNames[static_cast<std::size_t>(candidate.category)];
+        return m_categoryNames[static_cast<std::size_t>(candidate->category)];
     case safetyRole:
-        return ascii(Platform::rawValue(candidate.safety));
+        return ascii(Platform::rawValue(candidate->safety));
     case safetyNameRole:
-        return m_safetyNames[static_cast<std::size_t>(candidate.safety)];
+        return m_safetyNames[static_cast<std::size_t>(candidate->safety)];
     case isSelectedRole:
         return isSelected(row);
     case sectionIDRole:

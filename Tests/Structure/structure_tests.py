@@ -12,7 +12,7 @@ import source_text
 from source_text import SourceFile
 
 ROOT = pathlib.Path(os.environ["KARVELLO_SOURCE_DIR"])
-PROGRAMS = [program for program in os.environ.get("KARVELLO_PROGRAMS_WITHOUT_QT", "").split(";") if program]
+PROGRAMS = [program for program in os.environ.get("KARVELLO_PROGRAMS_WITHOUT_QT", "").split(":") if program]
 
 
 class StructureTest(unittest.TestCase):
@@ -101,7 +101,8 @@ class Qt(StructureTest):
 
 class Headers(StructureTest):
     compiler = os.environ.get("KARVELLO_CXX_COMPILER", "c++")
-    flags = [f"-I{folder}" for folder in os.environ.get("KARVELLO_INCLUDES", "").split(";") if folder]
+    # Qt insists on code that may stand anywhere.
+    flags = ["-fPIC"] + [f"-isystem{folder}" for folder in os.environ.get("KARVELLO_INCLUDES", "").split(":") if folder]
 
     def test_compile_alone(self):
         self.assert_none(headers.offences(ROOT, headers.to_compile(self.files), self.compiler, self.flags))

@@ -166,9 +166,13 @@ TEST_F(CandidateReviewTest, TheGroupingModeSurvivesAScan)
 
 TEST_F(CandidateReviewTest, SumsCategoriesTheLargestFirst)
 {
+    auto second = kArchive;
+    second.path = "/h/archive-2";
+    second.sizeBytes = 40;
+    apply({kCache, kLog, kArchive, second}, Filters::reset);
     EXPECT_EQ(review.index().categorySummaries(),
-        (std::vector<CleanupCategorySummary>{{CleanupCategory::userCaches, 100}, {CleanupCategory::userLogs, 50},
-            {CleanupCategory::buildArchives, 30}}));
+        (std::vector<CleanupCategorySummary>{{CleanupCategory::userCaches, 100}, {CleanupCategory::buildArchives, 70},
+            {CleanupCategory::userLogs, 50}}));
     EXPECT_TRUE(CandidateReview().index().categorySummaries().empty());
 }
 
@@ -186,6 +190,20 @@ TEST_F(CandidateReviewTest, FindsTheWordsOfTheLanguageThatIsAsked)
     EXPECT_EQ(review.visibleCandidateIDs(korean), IDs{idOf(kArchive)});
     EXPECT_EQ(visible(), IDs{});
     EXPECT_EQ(review.visibleCandidateIDs(korean), IDs{idOf(kArchive)});
+}
+
+TEST_F(CandidateReviewTest, FindsTheApplicationsOfTheReportOnShow)
+{
+    const auto ofApplication = [](const std::string& name) {
+        return CleanupCandidate({.url = Platform::FileURL("/h/data"),
+            .category = CleanupCategory::appContainerCaches,
+            .appCacheContext = CleanerCore::AppCacheContext{.containerIdentifier = "com.example." + name}});
+    };
+    filter({.searchText = "com.example.second"});
+    review.apply(indexOf({ofApplication("first")}), Filters::reconcile);
+    EXPECT_EQ(visible(), IDs{});
+    review.apply(indexOf({ofApplication("second")}), Filters::reconcile);
+    EXPECT_EQ(visible().size(), 1U);
 }
 
 TEST_F(CandidateReviewTest, SumsBeyondTheRangeEndTheProgram)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <gtest/gtest.h>
 #include <latch>
 #include <memory>
@@ -57,9 +58,11 @@ TEST(JobThreads, AreNoMoreThanTheLimit)
     std::atomic<int> most = 0;
     {
         JobThreads threads(2);
-        for (int index = 0; index < 200; ++index) {
+        for (int index = 0; index < 50; ++index) {
             threads.execute([&] {
                 const int now = ++running;
+                // Long enough for the next one to ask for a thread.
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
                 most = std::max(most.load(), now);
                 {
                     const std::scoped_lock guard(lock);

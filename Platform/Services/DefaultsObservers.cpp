@@ -34,16 +34,11 @@ public:
 
     void end()
     {
-        UserDefaults::Observer ended; // What it holds goes away without the lock.
         std::unique_lock guard(m_lock);
         m_isOver = true;
         // An observer that ends its own observation is in a call, and waits for none of its own thread.
         const auto isOwn = [self = std::this_thread::get_id()](std::thread::id caller) { return caller == self; };
         m_callEnded.wait(guard, [&] { return std::ranges::all_of(m_callers, isOwn); });
-        if (m_callers.empty()) {
-            ended.swap(m_observer);
-        }
-        guard.unlock();
     }
 
 private:

@@ -132,6 +132,14 @@ void takeOverAScan(benchmark::State& state, Subject& subject)
     }
 }
 
+/// Takes a sample of the machine, too.
+void clearResults(benchmark::State& state, Subject& subject)
+{
+    for (auto _ : state) {
+        subject.session.clearScanResults();
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -145,5 +153,6 @@ int main(int argc, char** argv)
     measure("click", click)->Unit(benchmark::kMicrosecond);
     measure("selectAndClearAll", selectAndClearAll)->Unit(benchmark::kMillisecond);
     measure("takeOverAScan", takeOverAScan)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(5);
+    measure("clearResults", clearResults)->Unit(benchmark::kMicrosecond);
     benchmark::RunSpecifiedBenchmarks();
 }

@@ -37,7 +37,7 @@ std::int64_t totalBytes(std::span<const CleanupCandidate> candidates)
 ScanTable::ScanTable(const CleanerCore::ScanReport& report, const ScanSubject& subject, Settings settings)
     : m_report(report)
     , m_subject(subject)
-    , m_settings(std::move(settings))
+    , m_settings(settings)
     , m_painter(m_settings.usesColor)
     , m_paths(subject.home)
 {

@@ -182,20 +182,6 @@ TEST_F(CleanerViewModelCleaningTest, CountsAsCancelledThoughEverythingHadMoved)
     EXPECT_EQ(session->phase(), Phase::ready);
 }
 
-TEST_F(CleanerViewModelCleaningTest, CountsAsCancelledThoughItsResultWasOnTheWay)
-{
-    scanCaches();
-    session->cleanSelected(kTrash);
-    executor.runOne();
-    session->cancelCurrentOperation();
-    settle();
-    EXPECT_THAT(session->lastCleanResult()->cleanedItems, SizeIs(3));
-    EXPECT_TRUE(session->lastCleanResult()->wasCancelled);
-    EXPECT_TRUE(session->auditEntries().front().wasCancelled);
-    EXPECT_EQ(session->errorMessage(), kCancelled);
-    EXPECT_EQ(session->phase(), Phase::ready);
-}
-
 TEST_F(CleanerViewModelCleaningTest, IsDroppedWholeWhenAScanReplacesIt)
 {
     scanCaches();

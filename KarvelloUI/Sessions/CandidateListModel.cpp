@@ -1,7 +1,7 @@
 #include "KarvelloUI/Sessions/CandidateListModel.h"
 
 #include "CleanerCore/Scan/ByteSizeFormatter.h"
-#include "Platform/Base/Text.h"
+#include "KarvelloUI/Sessions/ShownText.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -15,11 +15,6 @@ namespace {
 
 /// A view handles each run by itself; beyond some it is quicker to look at everything anew.
 constexpr std::size_t kMostRuns = 100;
-
-QString shown(std::string_view text)
-{
-    return QString::fromStdString(Platform::Text::escapingInvalidUTF8(text));
-}
 
 QString ascii(std::string_view text)
 {
@@ -114,9 +109,9 @@ QVariant CandidateListModel::data(const QModelIndex& index, int role) const
         return QString::fromStdString(candidate->id);
     case Qt::DisplayRole:
     case nameRole:
-        return shown(candidate->displayName);
+        return shownText(candidate->displayName);
     case pathRole:
-        return shown(candidate->url.path());
+        return shownText(candidate->url.path());
     case sizeBytesRole:
         return QVariant::fromValue<qint64>(candidate->sizeBytes);
     case sizeTextRole:

@@ -56,7 +56,7 @@ bool CleanupIgnoreStore::ignore(
     return replace(addingIgnoredItem(old, IgnoredCleanupItem(candidate, now, duration), now)) && items() != old;
 }
 
-bool CleanupIgnoreStore::remove(std::string_view id)
+bool CleanupIgnoreStore::remove(std::string id)
 {
     refresh();
     auto kept = items();

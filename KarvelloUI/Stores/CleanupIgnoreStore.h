@@ -50,8 +50,9 @@ public:
     /// Whether the stored list is another one now. A duration that is not available changes nothing. This and the calls
     /// below leave the list as it was where it cannot be stored, and `lastErrorMessage` says so.
     bool ignore(const CleanerCore::CleanupCandidate& candidate, CleanupIgnoreDuration duration, Platform::Date now);
-    /// Whether there was such a rule, and it is gone.
-    bool remove(std::string_view id);
+    /// Whether there was such a rule, and it is gone. The id may be that of an item here: it is taken by value, because the
+    /// items may be others before it is looked for.
+    bool remove(std::string id);
     Q_INVOKABLE void removeAll();
     /// Whether there were expired rules, and they are gone.
     bool pruneExpired(Platform::Date now);

@@ -33,7 +33,7 @@ bool CustomScanFolderStore::addFolder(
     return true;
 }
 
-bool CustomScanFolderStore::removeFolder(const Platform::UUID& id)
+bool CustomScanFolderStore::removeFolder(Platform::UUID id)
 {
     refresh();
     auto kept = folders();

@@ -36,8 +36,9 @@ public:
     /// `lastErrorMessage` says why.
     bool addFolder(const Platform::FileURL& picked, const Platform::FileManager& fileManager,
         Platform::Date now = Platform::Date::now());
-    /// False for a folder that is not in the list, or that could not be taken out.
-    bool removeFolder(const Platform::UUID& id);
+    /// False for a folder that is not in the list, or that could not be taken out. The id may be that of a folder here, and
+    /// these may be others before it is looked for.
+    bool removeFolder(Platform::UUID id);
 
     void refresh() override;
 

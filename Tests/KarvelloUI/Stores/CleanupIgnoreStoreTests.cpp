@@ -293,6 +293,16 @@ TEST_F(CleanupIgnoreStoreTest, SpeaksTheLanguageOfTheMoment)
         store->lastErrorMessage(), (KarvelloCopy{{{AppLanguage::japanese}}}.cleanupIgnoreSaveFailedMessage(kDiskFull)));
 }
 
+TEST_F(CleanupIgnoreStoreTest, RemovesAnItemByItsOwnIdThoughTheListBecomesAnother)
+{
+    const auto store = makeStore();
+    const auto other = makeStore();
+    ASSERT_TRUE(store->ignore(candidate("/h/a-name-too-long-to-lie-within-the-string"), Duration::oneDay, kNow));
+    ASSERT_TRUE(other->ignore(candidate("/h/b"), Duration::oneDay, kNow.addingSeconds(1)));
+    EXPECT_TRUE(store->remove(store->items().front().id));
+    EXPECT_EQ(pathsOf(store->items()), Paths{"/h/b"});
+}
+
 TEST_F(CleanupIgnoreStoreTest, LosesNothingToAnotherStore)
 {
     const auto store = makeStore();

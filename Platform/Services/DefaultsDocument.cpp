@@ -5,6 +5,7 @@
 #include "Platform/Base/JSONReader.h"
 #include "Platform/Base/JSONWriter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -133,9 +134,19 @@ std::optional<DefaultsValue> DefaultsDocument::value(std::string_view key) const
 
 bool DefaultsDocument::isChangedBy(std::span<const DefaultsChange> changes) const
 {
-    auto changed = *this;
-    changed.apply(changes);
-    return changed != *this;
+    std::map<std::string_view, const std::optional<DefaultsValue>*> lastOfEachKey;
+    for (const auto& change : changes) {
+        lastOfEachKey[change.key] = &change.value;
+    }
+    return std::ranges::any_of(lastOfEachKey, [this](const auto& last) {
+        const auto& [key, value] = last;
+        const auto entry = m_entries.find(key);
+        if (!*value) {
+            return entry != m_entries.end();
+        }
+        const auto* const held = entry != m_entries.end() ? std::get_if<DefaultsValue>(&entry->second) : nullptr;
+        return held == nullptr || *held != **value;
+    });
 }
 
 void DefaultsDocument::apply(std::span<const DefaultsChange> changes)

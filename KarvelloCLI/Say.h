@@ -3,10 +3,10 @@
 #include "KarvelloCLI/Texts/EnglishTexts.h"
 #include "KarvelloUI/Copy/AppLanguage.h"
 #include "KarvelloUI/Copy/KarvelloCopy.h"
+#include "KarvelloUI/Copy/OwnText.h"
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <span>
 #include <string>
@@ -23,26 +23,9 @@ void speak(KarvelloUI::AppLanguage language);
 /// Where the catalogue has the words, they are taken from there.
 [[nodiscard]] KarvelloUI::KarvelloCopy catalogue();
 
-/// One of the program's own texts, by its English wording; `Texts` has it in all languages. One that is not there, or
-/// that does not fit its values, does not compile.
+/// One of the program's own texts, by its English wording; `Texts` has it in all languages.
 template <typename... Values>
-class OwnText {
-public:
-    consteval OwnText(const char* english) // NOLINT(google-explicit-constructor): a text is written as it is
-        : m_index(static_cast<std::size_t>(
-              std::ranges::find(kEnglishTexts, std::string_view(english)) - kEnglishTexts.begin()))
-    {
-        [[maybe_unused]] const fmt::format_string<const Values&...> form{std::string_view(english)};
-        if (m_index == kEnglishTexts.size()) {
-            throw "Texts has no such text";
-        }
-    }
-
-    [[nodiscard]] std::size_t index() const { return m_index; }
-
-private:
-    std::size_t m_index;
-};
+using OwnText = KarvelloUI::OwnText<kEnglishTexts, Values...>;
 
 /// The text at a place of `kEnglishTexts`, in the spoken language.
 [[nodiscard]] std::string_view textAt(std::size_t index);

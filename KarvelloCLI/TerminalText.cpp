@@ -257,15 +257,4 @@ std::size_t columnsOf(std::string_view sentence)
     return TerminalText(sentence, TerminalText::Kind::sentence).columns();
 }
 
-std::string HomePathAbbreviation::abbreviate(std::string_view path) const
-{
-    if (path == m_home) {
-        return "~";
-    }
-    if (Platform::isPathInside(path, m_home)) {
-        return fmt::format("~{}", path.substr(m_home.size()));
-    }
-    return std::string(path);
-}
-
 } // namespace KarvelloCLI

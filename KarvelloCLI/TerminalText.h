@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Base/FileURL.h"
+#include "Platform/Base/HomePathAbbreviation.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -62,17 +62,6 @@ private:
 /// The columns of words that may hold escaped names.
 [[nodiscard]] std::size_t columnsOf(std::string_view sentence);
 
-/// The path of an item as a person reads it: the home folder stands as "~".
-class HomePathAbbreviation {
-public:
-    explicit HomePathAbbreviation(const Platform::FileURL& home)
-        : m_home(home.path())
-    {
-    }
-    [[nodiscard]] std::string abbreviate(std::string_view path) const;
-
-private:
-    std::string m_home;
-};
+using Platform::HomePathAbbreviation;
 
 } // namespace KarvelloCLI

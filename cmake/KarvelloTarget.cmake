@@ -99,3 +99,30 @@ function(karvello_qml_module name)
   # The registration that the build writes includes headers by their bare names.
   target_include_directories(${name} PRIVATE "${MODULE_FOLDER}")
 endfunction()
+
+# The texts that a layer has of its own, in the folder `Texts` beside it: in all languages they become a header with the
+# English ones, against which each use is checked, and constants.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+function(karvello_own_texts name)
+  cmake_parse_arguments(PARSE_ARGV 1 TEXTS "" "FOLDER" "")
+  set(folder "${CMAKE_CURRENT_SOURCE_DIR}")
+  set(output "${CMAKE_CURRENT_BINARY_DIR}")
+  if(TEXTS_FOLDER)
+    string(APPEND folder "/${TEXTS_FOLDER}")
+    string(APPEND output "/${TEXTS_FOLDER}")
+  endif()
+  cmake_path(RELATIVE_PATH folder BASE_DIRECTORY "${CMAKE_SOURCE_DIR}" OUTPUT_VARIABLE owner)
+  file(GLOB own CONFIGURE_DEPENDS "${folder}/Texts/*.txt")
+  file(GLOB others CONFIGURE_DEPENDS "${folder}/Texts/Others/*.txt")
+  set(generated "${output}/Texts/EnglishTexts.h" "${output}/Texts/TextTables.cpp")
+  set(translations "${CMAKE_SOURCE_DIR}/KarvelloUI/Copy/Translations")
+  add_custom_command(OUTPUT ${generated}
+    COMMAND Python3::Interpreter "${translations}/generate" texts ${owner} ${generated} ${own} -- ${others}
+    DEPENDS "${translations}/generate" "${translations}/tables.py" ${own} ${others}
+    VERBATIM)
+  target_sources(${name} PRIVATE ${generated})
+  # What reads the sources without building them needs the header too.
+  add_custom_target(${name}Texts DEPENDS ${generated})
+  add_dependencies(${name} ${name}Texts)
+  target_include_directories(${name} PUBLIC "${CMAKE_BINARY_DIR}")
+endfunction()

@@ -13,10 +13,13 @@ class EventLoop {
 public:
     EventLoop()
     {
-        static int count = 1;
-        static char name[] = "tests";
-        static char* arguments[] = {name, nullptr};
-        static QCoreApplication application(count, arguments);
+        // Programs that show something have made an application of their own.
+        if (QCoreApplication::instance() == nullptr) {
+            static int count = 1;
+            static char name[] = "tests";
+            static char* arguments[] = {name, nullptr};
+            static QCoreApplication application(count, arguments);
+        }
     }
 
     /// Handles the events that wait, and those that they lead to at once.

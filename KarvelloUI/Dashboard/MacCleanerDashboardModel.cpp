@@ -1,0 +1,231 @@
+#include "KarvelloUI/Dashboard/MacCleanerDashboardModel.h"
+
+#include "KarvelloUI/Stores/KarvelloDashboardLaunchRequestStore.h"
+
+#include <QMetaObject>
+#include <algorithm>
+#include <utility>
+
+namespace KarvelloUI {
+
+namespace {
+
+/// Whether the sidebar leads to it.
+bool isInSidebar(MacDashboardSection section)
+{
+    return section != MacDashboardSection::iosGuide;
+}
+
+bool showsMachine(MacDashboardSection section)
+{
+    return section == MacDashboardSection::dashboard || section == MacDashboardSection::system
+        || section == MacDashboardSection::cpuAnalysis || section == MacDashboardSection::memoryAnalysis;
+}
+
+/// Whether it shows what the insights session has found.
+bool showsInsights(MacDashboardSection section)
+{
+    return section == MacDashboardSection::heatmap || section == MacDashboardSection::largeFiles
+        || section == MacDashboardSection::downloads || section == MacDashboardSection::duplicates
+        || section == MacDashboardSection::security;
+}
+
+} // namespace
+
+MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
+    MacCleanerDashboardDependencies dependencies, DashboardPreferences& preferences, QObject* parent)
+    : QObject(parent)
+    , m_services(std::move(services))
+    , m_preferences(preferences)
+    , m_dependencies(std::move(dependencies))
+    , m_reviewPreferences(m_services.defaults)
+    , m_diskSnapshotJob(m_services.session.executor)
+{
+    connect(&cleaner(), &CleanerViewModel::phaseChanged, this, &MacCleanerDashboardModel::accessChanged);
+    connect(&homeAccess(), &HomeAccessBookmarkStore::bookmarkChanged, this, &MacCleanerDashboardModel::accessChanged);
+    connect(&resourceRelief(), &MacResourceReliefViewModel::candidatesChanged, this,
+        &MacCleanerDashboardModel::sanitizeScanModeForDistribution);
+    connect(&m_preferences, &DashboardPreferences::scanModeChanged, this, &MacCleanerDashboardModel::clearScanResults);
+    connect(&m_systemSnapshotTimer, &QTimer::timeout, this, [this] { insights().refreshSystemSnapshot(); });
+    // The observer may be called on any thread.
+    m_launchRequests = m_services.defaults.observe([this](std::span<const std::string> keys) {
+        if (std::ranges::find(keys, KarvelloDashboardLaunchRequestStore::requestIDDefaultsKey) != keys.end()) {
+            QMetaObject::invokeMethod(this, [this] { consumePendingLaunchDestination(); }, Qt::QueuedConnection);
+        }
+    });
+}
+
+void MacCleanerDashboardModel::start()
+{
+    sanitizeScanModeForDistribution();
+    consumePendingLaunchDestination();
+    refreshDiskSnapshot();
+    insights().refreshSystemSnapshot();
+}
+
+void MacCleanerDashboardModel::setWindowVisible(bool isVisible)
+{
+    m_isWindowVisible = isVisible;
+    updateSystemSnapshotPolling();
+}
+
+QString MacCleanerDashboardModel::selectedSectionText() const
+{
+    const std::string_view raw = Platform::rawValue(m_selectedSection);
+    return QString::fromUtf8(raw.data(), static_cast<qsizetype>(raw.size()));
+}
+
+void MacCleanerDashboardModel::showSection(MacDashboardSection section)
+{
+    if (section == m_selectedSection) {
+        return;
+    }
+    m_selectedSection = section;
+    updateSystemSnapshotPolling();
+    if (isInSidebar(section)) {
+        prepare(section);
+    }
+    Q_EMIT selectedSectionChanged();
+}
+
+void MacCleanerDashboardModel::selectSection(MacDashboardSection section)
+{
+    showSection(isInSidebar(section) ? section : MacDashboardSection::dashboard);
+}
+
+void MacCleanerDashboardModel::selectSectionText(const QString& rawValue)
+{
+    const auto section = Platform::fromRawValue<MacDashboardSection>(rawValue.toStdString());
+    selectSection(section.value_or(MacDashboardSection::dashboard));
+}
+
+void MacCleanerDashboardModel::prepare(MacDashboardSection section)
+{
+    if (section == MacDashboardSection::cpuAnalysis || section == MacDashboardSection::memoryAnalysis) {
+        resourceRelief().refreshCandidates();
+    } else if (!showsInsights(section)) {
+        insights().refreshSystemSnapshot();
+    }
+}
+
+void MacCleanerDashboardModel::updateSystemSnapshotPolling()
+{
+    if (!m_isWindowVisible || !showsMachine(m_selectedSection)) {
+        m_systemSnapshotTimer.stop();
+    } else if (!m_systemSnapshotTimer.isActive()) {
+        insights().refreshSystemSnapshot();
+        m_systemSnapshotTimer.start(kSystemSnapshotIntervalMilliseconds);
+    }
+}
+
+MacAccessPolicy MacCleanerDashboardModel::accessPolicy() const
+{
+    return {
+        .supportsDirectDistributionScans = m_services.supportsDirectDistributionScans(),
+        .isHomeBookmarkStored = homeAccess().bookmark().has_value(),
+        .isBusy = cleaner().isBusy(),
+    };
+}
+
+bool MacCleanerDashboardModel::canStartCleanupScan() const
+{
+    const MacAccessPolicy policy = accessPolicy();
+    return !policy.isBusy && policy.hasHomeAccess();
+}
+
+CleanerCore::CleanupScanMode MacCleanerDashboardModel::scanMode() const
+{
+    return CleanerCore::sanitized(m_preferences.scanMode(), m_services.supportsDirectDistributionScans());
+}
+
+void MacCleanerDashboardModel::sanitizeScanModeForDistribution()
+{
+    if (const auto mode = scanMode(); mode != m_preferences.scanMode()) {
+        m_preferences.setScanMode(mode);
+    }
+}
+
+void MacCleanerDashboardModel::clearScanResults()
+{
+    cleaner().clearScanResults();
+    insights().clearScanResults();
+}
+
+void MacCleanerDashboardModel::consumePendingLaunchDestination()
+{
+    if (const auto destination = KarvelloDashboardLaunchRequestStore::consumePending(m_services.defaults)) {
+        selectSection(sectionOf(*destination));
+    }
+}
+
+void MacCleanerDashboardModel::scanCleanup()
+{
+    if (!canStartCleanupScan()) {
+        return;
+    }
+    const auto grant = homeAccess().resolveBookmark(m_services.session.fileManager);
+    // The grant may have gone just now.
+    if (canStartCleanupScan()) {
+        cleaner().scanMac(scanMode(), m_services.homeDirectory, customFolders().folders(), grant,
+            m_services.supportsDirectDistributionScans());
+    }
+}
+
+void MacCleanerDashboardModel::scanInsights()
+{
+    if (!hasHomeAccess() || insights().isBusy()) {
+        return;
+    }
+    const auto grant = homeAccess().resolveBookmark(m_services.session.fileManager);
+    if (hasHomeAccess()) {
+        insights().scan(grant);
+    }
+}
+
+void MacCleanerDashboardModel::requestHomeAccess(std::function<void(bool granted)> answered)
+{
+    const auto copy = words();
+    m_services.fileDialogs.chooseFolder(
+        {
+            .message = copy.homeAccessPanelMessage(),
+            .prompt = copy.homeAccessPanelPrompt(),
+            .directory = m_services.homeDirectory,
+        },
+        [this, answered = std::move(answered)](const std::optional<Platform::FileURL>& picked) {
+            const bool isGranted =
+                picked && homeAccess().setBookmark(*picked, m_services.session.fileManager, m_services.session.now());
+            if (answered) {
+                answered(isGranted);
+            }
+        });
+}
+
+void MacCleanerDashboardModel::refreshDiskSnapshot()
+{
+    m_diskSnapshotJob.start([read = m_services.diskSnapshot](const std::stop_token&) { return read(); },
+        [this](JobOutcome<DiskCapacitySnapshot> outcome) {
+            if (!outcome || *outcome == m_diskSnapshot) {
+                return;
+            }
+            m_diskSnapshot = *outcome;
+            Q_EMIT diskSnapshotChanged();
+        });
+}
+
+void MacCleanerDashboardModel::setRestoreCenterSelectedIDs(std::set<std::string, std::less<>> ids)
+{
+    if (ids != m_restoreCenterSelectedIDs) {
+        m_restoreCenterSelectedIDs = std::move(ids);
+        Q_EMIT restoreCenterSelectionChanged();
+    }
+}
+
+void MacCleanerDashboardModel::restoreSelectedTrashMoves()
+{
+    const auto copy = words();
+    cleaner().undoLastTrashClean(
+        m_restoreCenterSelectedIDs, copy.restoreFailureMessage(), copy.restoreCancelledMessage());
+    setRestoreCenterSelectedIDs({});
+}
+
+} // namespace KarvelloUI

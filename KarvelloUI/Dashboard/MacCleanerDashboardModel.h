@@ -1,0 +1,168 @@
+#pragma once
+
+#include "CleanerCore/Cleaning/CleanupSelectionPreview.h"
+#include "KarvelloUI/Advisors/DiskCapacitySnapshot.h"
+#include "KarvelloUI/Advisors/MacAccessPolicy.h"
+#include "KarvelloUI/Copy/Vocabulary/MacDashboardSection.h"
+#include "KarvelloUI/Copy/Vocabulary/MacInsightFileSection.h"
+#include "KarvelloUI/Dashboard/DashboardMessage.h"
+#include "KarvelloUI/Dashboard/DashboardPreferences.h"
+#include "KarvelloUI/Dashboard/DashboardServices.h"
+#include "KarvelloUI/Dashboard/MacCleanerDashboardDependencies.h"
+#include "KarvelloUI/Sessions/CandidateReview.h"
+#include "KarvelloUI/Sessions/Job.h"
+#include "KarvelloUI/Stores/CleanupReviewPreferencesStore.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+
+namespace KarvelloUI {
+
+/// The state of the dashboard's window: which section is on show, what waits for a confirmation, what there is to tell. It
+/// guards the way to every move: only a confirmation leads to the sessions. Main thread only.
+class MacCleanerDashboardModel final : public QObject {
+    Q_OBJECT
+    /// The raw value of a section.
+    Q_PROPERTY(
+        QString selectedSection READ selectedSectionText WRITE selectSectionText NOTIFY selectedSectionChanged FINAL)
+    Q_PROPERTY(bool hasHomeAccess READ hasHomeAccess NOTIFY accessChanged FINAL)
+    Q_PROPERTY(bool canStartCleanupScan READ canStartCleanupScan NOTIFY accessChanged FINAL)
+    Q_PROPERTY(bool isShowingCleanConfirmation READ isShowingCleanConfirmation NOTIFY confirmationChanged FINAL)
+    Q_PROPERTY(
+        bool isShowingInsightCleanConfirmation READ isShowingInsightCleanConfirmation NOTIFY confirmationChanged FINAL)
+    Q_PROPERTY(bool isShowingResourceReliefConfirmation READ isShowingResourceReliefConfirmation NOTIFY
+            confirmationChanged FINAL)
+
+public:
+    static constexpr int kSystemSnapshotIntervalMilliseconds = 1'000;
+
+    /// `services` names what outlives the model.
+    MacCleanerDashboardModel(DashboardServices services, MacCleanerDashboardDependencies dependencies,
+        DashboardPreferences& preferences, QObject* parent = nullptr);
+
+    [[nodiscard]] const DashboardServices& services() const { return m_services; }
+    [[nodiscard]] DashboardPreferences& preferences() const { return m_preferences; }
+    [[nodiscard]] DashboardWords words() const { return m_preferences.words(); }
+    [[nodiscard]] CleanerViewModel& cleaner() const { return *m_dependencies.cleanerViewModel; }
+    [[nodiscard]] MacInsightsViewModel& insights() const { return *m_dependencies.insightsViewModel; }
+    [[nodiscard]] MacResourceReliefViewModel& resourceRelief() const { return *m_dependencies.resourceReliefViewModel; }
+    [[nodiscard]] CustomScanFolderStore& customFolders() const { return *m_dependencies.customFolderStore; }
+    [[nodiscard]] HomeAccessBookmarkStore& homeAccess() const { return *m_dependencies.homeAccessBookmarkStore; }
+    [[nodiscard]] CleanupIgnoreStore& ignoreStore() const { return *m_dependencies.ignoreStore; }
+    [[nodiscard]] CleanupReviewPreferencesStore& reviewPreferences() { return m_reviewPreferences; }
+
+    /// The first appearance of the window: a stored mode that the build does not offer is given up, a waiting launch
+    /// request is taken, disk and machine are looked at.
+    void start();
+    /// Nothing is polled for a window that nobody sees.
+    void setWindowVisible(bool isVisible);
+
+    [[nodiscard]] MacDashboardSection selectedSection() const { return m_selectedSection; }
+    [[nodiscard]] QString selectedSectionText() const;
+    /// Any section, the iOS guide as well: it belongs to no group, so only this leads to it.
+    void showSection(MacDashboardSection section);
+    /// A selection as it may be stored anywhere: what no group of the sidebar holds becomes the dashboard.
+    void selectSection(MacDashboardSection section);
+    void selectSectionText(const QString& rawValue);
+    Q_INVOKABLE void openIOSGuide() { showSection(MacDashboardSection::iosGuide); }
+
+    [[nodiscard]] MacAccessPolicy accessPolicy() const;
+    [[nodiscard]] bool hasHomeAccess() const { return accessPolicy().hasHomeAccess(); }
+    [[nodiscard]] bool canStartCleanupScan() const;
+    /// The mode that scans use.
+    [[nodiscard]] CleanerCore::CleanupScanMode scanMode() const;
+
+    /// Nothing happens where no scan can start.
+    Q_INVOKABLE void scanCleanup();
+    Q_INVOKABLE void scanInsights();
+    /// Asks for the home folder with the desktop's dialog; `granted` tells whether it is granted now.
+    void requestHomeAccess(std::function<void(bool granted)> answered = {});
+    Q_INVOKABLE void grantHomeAccess() { requestHomeAccess(); }
+
+    [[nodiscard]] const DiskCapacitySnapshot& diskSnapshot() const { return m_diskSnapshot; }
+    Q_INVOKABLE void refreshDiskSnapshot();
+
+    /// The only way to a clean of the review: what is confirmed is what was asked about, whatever is selected by then.
+    Q_INVOKABLE void requestCleanSelected();
+    Q_INVOKABLE void cleanSelected();
+    Q_INVOKABLE void requestInsightClean(const QString& sectionRawValue);
+    void requestInsightClean(MacInsightFileSection section);
+    Q_INVOKABLE void cleanSelectedInsight();
+    Q_INVOKABLE void requestQuitSelected();
+    Q_INVOKABLE void quitSelected();
+    /// Any of the three; nothing is pending then.
+    Q_INVOKABLE void cancelConfirmation();
+    [[nodiscard]] bool isShowingCleanConfirmation() const { return m_pendingCleanSelection.has_value(); }
+    [[nodiscard]] bool isShowingInsightCleanConfirmation() const { return m_pendingInsightSection.has_value(); }
+    [[nodiscard]] bool isShowingResourceReliefConfirmation() const { return m_isResourceReliefPending; }
+    [[nodiscard]] const std::optional<CandidateSelectionSnapshot>& pendingCleanSelection() const
+    {
+        return m_pendingCleanSelection;
+    }
+    [[nodiscard]] const CleanerCore::CleanupSelectionPreview& pendingCleanPreview() const
+    {
+        return m_pendingCleanPreview;
+    }
+    [[nodiscard]] std::optional<MacInsightFileSection> pendingInsightSection() const { return m_pendingInsightSection; }
+
+    [[nodiscard]] const std::set<std::string, std::less<>>& restoreCenterSelectedIDs() const
+    {
+        return m_restoreCenterSelectedIDs;
+    }
+    void setRestoreCenterSelectedIDs(std::set<std::string, std::less<>> ids);
+    Q_INVOKABLE void restoreSelectedTrashMoves();
+
+    /// Shows the item in the file manager, or its folder if it has gone, or says why neither can be.
+    void revealInFinder(const Platform::FileURL& item);
+    [[nodiscard]] const std::optional<FinderRevealAlert>& alert() const { return m_alert; }
+    [[nodiscard]] const std::optional<FinderRevealNotice>& notice() const { return m_notice; }
+    void showAlert(FinderRevealAlert alert);
+    void showNotice(FinderRevealNotice notice);
+    Q_INVOKABLE void dismissAlert();
+    Q_INVOKABLE void dismissNotice();
+    Q_INVOKABLE void openActivityMonitor();
+
+Q_SIGNALS:
+    void selectedSectionChanged();
+    void accessChanged();
+    void diskSnapshotChanged();
+    void confirmationChanged();
+    void restoreCenterSelectionChanged();
+    void alertChanged();
+    void noticeChanged();
+
+private:
+    void sanitizeScanModeForDistribution();
+    void consumePendingLaunchDestination();
+    void clearScanResults();
+    void prepare(MacDashboardSection section);
+    void updateSystemSnapshotPolling();
+    void openParent(const Platform::FileURL& item);
+    [[nodiscard]] bool isStanding(const Platform::FileURL& item) const;
+
+    DashboardServices m_services;
+    DashboardPreferences& m_preferences;
+    MacCleanerDashboardDependencies m_dependencies;
+    CleanupReviewPreferencesStore m_reviewPreferences;
+
+    MacDashboardSection m_selectedSection = MacDashboardSection::dashboard;
+    bool m_isWindowVisible = false;
+    DiskCapacitySnapshot m_diskSnapshot;
+    std::optional<CandidateSelectionSnapshot> m_pendingCleanSelection;
+    CleanerCore::CleanupSelectionPreview m_pendingCleanPreview;
+    std::optional<MacInsightFileSection> m_pendingInsightSection;
+    bool m_isResourceReliefPending = false;
+    std::set<std::string, std::less<>> m_restoreCenterSelectedIDs;
+    std::optional<FinderRevealAlert> m_alert;
+    std::optional<FinderRevealNotice> m_notice;
+    QTimer m_systemSnapshotTimer;
+    Job m_diskSnapshotJob;
+    Platform::UserDefaults::Observation m_launchRequests;
+};
+
+} // namespace KarvelloUI

@@ -1,0 +1,298 @@
+#include "KarvelloUI/Stores/KarvelloDashboardLaunchRequestStore.h"
+#include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+
+#include <chrono>
+#include <filesystem>
+#include <gmock/gmock.h>
+
+namespace DashboardTests {
+
+using CleanerCore::CleanupScanMode;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class MacCleanerDashboardModelTest : public DashboardTest {};
+
+TEST_F(MacCleanerDashboardModelTest, StartsOnTheDashboard)
+{
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::dashboard);
+}
+
+TEST_F(MacCleanerDashboardModelTest, GivesUpAStoredModeThatTheBuildDoesNotOffer)
+{
+    isDirectDistribution = false;
+    ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
+    restart();
+    dashboard->start();
+    settle();
+    EXPECT_EQ(preferences->scanMode(), CleanupScanMode::standard);
+    EXPECT_EQ(defaults.string("karvello.macScanMode"), "standard");
+}
+
+TEST_F(MacCleanerDashboardModelTest, KeepsADirectModeWhereTheBuildOffersIt)
+{
+    ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
+    dashboard->start();
+    settle();
+    EXPECT_EQ(preferences->scanMode(), CleanupScanMode::direct);
+}
+
+TEST_F(MacCleanerDashboardModelTest, ClearsTheResultsOfBothSessionsWithAnotherMode)
+{
+    scanForCleanup();
+    ASSERT_FALSE(dashboard->cleaner().report().candidates.empty());
+    dashboard->scanInsights();
+    settle();
+    ASSERT_EQ(dashboard->insights().phase(), MacInsightsViewModel::Phase::ready);
+    ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::aggressive));
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::idle);
+    EXPECT_TRUE(dashboard->cleaner().report().candidates.empty());
+    EXPECT_EQ(dashboard->insights().phase(), MacInsightsViewModel::Phase::idle);
+}
+
+TEST_F(MacCleanerDashboardModelTest, TakesALaunchRequestFromBeforeItStarted)
+{
+    ASSERT_TRUE(
+        KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::memoryReview, defaults));
+    restart();
+    dashboard->start();
+    settle();
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::memoryAnalysis);
+    EXPECT_FALSE(KarvelloDashboardLaunchRequestStore::pendingRequest(defaults));
+}
+
+TEST_F(MacCleanerDashboardModelTest, FollowsALaunchRequestWhileItIsOpen)
+{
+    dashboard->start();
+    ASSERT_TRUE(
+        KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::cleanupReview, defaults));
+    settle();
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::cleanup);
+}
+
+TEST_F(MacCleanerDashboardModelTest, FollowsARepeatedRequestForTheSameSection)
+{
+    dashboard->start();
+    ASSERT_TRUE(
+        KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::systemReview, defaults));
+    settle();
+    dashboard->selectSection(MacDashboardSection::settings);
+    ASSERT_TRUE(
+        KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::systemReview, defaults));
+    settle();
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::system);
+}
+
+TEST_F(MacCleanerDashboardModelTest, TurnsAStaleSelectionOfTheIOSGuideIntoTheDashboard)
+{
+    dashboard->selectSection(MacDashboardSection::settings);
+    dashboard->selectSectionText(QStringLiteral("iosGuide"));
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::dashboard);
+    dashboard->selectSectionText(QStringLiteral("nothing of the kind"));
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::dashboard);
+}
+
+TEST_F(MacCleanerDashboardModelTest, LeadsToTheIOSGuideFromInside)
+{
+    dashboard->openIOSGuide();
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::iosGuide);
+}
+
+TEST_F(MacCleanerDashboardModelTest, ScansNothingWithoutAccess)
+{
+    isDirectDistribution = false;
+    EXPECT_FALSE(dashboard->canStartCleanupScan());
+    dashboard->scanCleanup();
+    dashboard->scanInsights();
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::idle);
+    EXPECT_EQ(dashboard->insights().phase(), MacInsightsViewModel::Phase::idle);
+}
+
+TEST_F(MacCleanerDashboardModelTest, ScansWithAGrantedHome)
+{
+    isDirectDistribution = false;
+    bool isGranted = false;
+    dashboard->requestHomeAccess([&isGranted](bool granted) { isGranted = granted; });
+    ASSERT_TRUE(fileDialogs.isOpen());
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_TRUE(isGranted);
+    EXPECT_TRUE(dashboard->canStartCleanupScan());
+    dashboard->scanCleanup();
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::scanning);
+    settle();
+    EXPECT_FALSE(dashboard->cleaner().report().candidates.empty());
+}
+
+TEST_F(MacCleanerDashboardModelTest, IsNotGrantedAnythingByADialogThatWasCancelled)
+{
+    isDirectDistribution = false;
+    bool isGranted = true;
+    dashboard->requestHomeAccess([&isGranted](bool granted) { isGranted = granted; });
+    fileDialogs.answer(std::nullopt);
+    EXPECT_FALSE(isGranted);
+    EXPECT_FALSE(dashboard->hasHomeAccess());
+}
+
+TEST_F(MacCleanerDashboardModelTest, AsksBeforeItCleansAndMovesWhatWasAskedAbout)
+{
+    scanForCleanup();
+    dashboard->cleaner().selectAllCandidates();
+    const auto selected = dashboard->cleaner().selectedCount();
+    ASSERT_GT(selected, 1);
+    dashboard->requestCleanSelected();
+    ASSERT_TRUE(dashboard->isShowingCleanConfirmation());
+    EXPECT_EQ(trashedCount(), 0);
+    EXPECT_EQ(dashboard->pendingCleanPreview().count, selected);
+    dashboard->cleaner().clearSelection();
+    dashboard->cleanSelected();
+    settle();
+    EXPECT_EQ(trashedCount(), selected);
+    EXPECT_FALSE(dashboard->isShowingCleanConfirmation());
+}
+
+TEST_F(MacCleanerDashboardModelTest, MovesNothingWithoutAQuestionOrAfterACancelledOne)
+{
+    scanForCleanup();
+    dashboard->cleaner().selectAllCandidates();
+    dashboard->cleanSelected();
+    settle();
+    EXPECT_EQ(trashedCount(), 0);
+    dashboard->requestCleanSelected();
+    dashboard->cancelConfirmation();
+    EXPECT_FALSE(dashboard->pendingCleanSelection());
+    dashboard->cleanSelected();
+    settle();
+    EXPECT_EQ(trashedCount(), 0);
+}
+
+TEST_F(MacCleanerDashboardModelTest, AsksOnlyOnTheReviewScreen)
+{
+    scanForCleanup();
+    dashboard->cleaner().selectAllCandidates();
+    dashboard->requestCleanSelected();
+    ASSERT_TRUE(dashboard->isShowingCleanConfirmation());
+    dashboard->selectSection(MacDashboardSection::dashboard);
+    dashboard->requestCleanSelected();
+    EXPECT_FALSE(dashboard->isShowingCleanConfirmation());
+    dashboard->cleanSelected();
+    settle();
+    EXPECT_EQ(trashedCount(), 0);
+}
+
+TEST_F(MacCleanerDashboardModelTest, AsksNothingWithoutASelection)
+{
+    scanForCleanup();
+    dashboard->cleaner().clearSelection();
+    dashboard->requestCleanSelected();
+    EXPECT_FALSE(dashboard->isShowingCleanConfirmation());
+    dashboard->requestInsightClean(MacInsightFileSection::downloads);
+    EXPECT_FALSE(dashboard->isShowingInsightCleanConfirmation());
+    dashboard->requestQuitSelected();
+    EXPECT_FALSE(dashboard->isShowingResourceReliefConfirmation());
+}
+
+TEST_F(MacCleanerDashboardModelTest, RevealsWhatStands)
+{
+    dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
+    EXPECT_THAT(fileViewer.selected, ElementsAre(tree.path("home/Downloads/report.pdf")));
+    EXPECT_FALSE(dashboard->alert());
+    EXPECT_FALSE(dashboard->notice());
+}
+
+TEST_F(MacCleanerDashboardModelTest, OpensTheFolderOfWhatHasGone)
+{
+    std::filesystem::remove(tree.path("home/Downloads/report.pdf"));
+    dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
+    EXPECT_THAT(fileViewer.selected, IsEmpty());
+    EXPECT_THAT(fileViewer.opened, ElementsAre(tree.path("home/Downloads")));
+    ASSERT_TRUE(dashboard->notice());
+    EXPECT_EQ(dashboard->notice()->title, QStringLiteral("Opened Parent Folder"));
+    EXPECT_EQ(dashboard->notice()->message,
+        QStringLiteral("The item no longer exists, so the parent folder was opened.\n~/Downloads"));
+}
+
+TEST_F(MacCleanerDashboardModelTest, SaysSoWhenTheFolderHasGoneToo)
+{
+    std::filesystem::remove_all(tree.path("home/Downloads"));
+    dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
+    EXPECT_THAT(fileViewer.opened, IsEmpty());
+    ASSERT_TRUE(dashboard->alert());
+    EXPECT_EQ(dashboard->alert()->title, shown(dashboard->words().finderItemMissingTitle()));
+    dashboard->dismissAlert();
+    EXPECT_FALSE(dashboard->alert());
+}
+
+TEST_F(MacCleanerDashboardModelTest, SaysSoWhenNothingCanBeOpened)
+{
+    fileViewer.canSelect = false;
+    fileViewer.canOpen = false;
+    dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
+    ASSERT_TRUE(dashboard->alert());
+    EXPECT_EQ(dashboard->alert()->title, QStringLiteral("Could Not Open in Finder"));
+}
+
+TEST_F(MacCleanerDashboardModelTest, TakesANewRevealAsTheEndOfTheLastMessage)
+{
+    std::filesystem::remove(tree.path("home/Downloads/report.pdf"));
+    dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
+    ASSERT_TRUE(dashboard->notice());
+    dashboard->revealInFinder(tree.url("home/Downloads"));
+    EXPECT_FALSE(dashboard->notice());
+}
+
+TEST_F(MacCleanerDashboardModelTest, PollsOnlyWhereAndWhileSomebodySees)
+{
+    const auto isPolling = [this] {
+        const int before = systemSnapshotsTaken;
+        return loop.runUntil(
+            [&] {
+                settle();
+                return systemSnapshotsTaken > before;
+            },
+            std::chrono::seconds(2));
+    };
+    EXPECT_FALSE(isPolling());
+    dashboard->setWindowVisible(true);
+    EXPECT_TRUE(isPolling());
+    EXPECT_TRUE(isPolling());
+    dashboard->selectSection(MacDashboardSection::settings);
+    settle();
+    EXPECT_FALSE(isPolling());
+    dashboard->selectSection(MacDashboardSection::cpuAnalysis);
+    settle();
+    EXPECT_TRUE(isPolling());
+    dashboard->setWindowVisible(false);
+    settle();
+    EXPECT_FALSE(isPolling());
+}
+
+TEST_F(MacCleanerDashboardModelTest, ReadsTheDiskInTheBackground)
+{
+    dashboard->refreshDiskSnapshot();
+    EXPECT_EQ(dashboard->diskSnapshot(), DiskCapacitySnapshot());
+    settle();
+    EXPECT_EQ(dashboard->diskSnapshot(), disk);
+}
+
+TEST_F(MacCleanerDashboardModelTest, ForgetsTheRestoreSelectionWithTheRestore)
+{
+    dashboard->setRestoreCenterSelectedIDs({"a", "b"});
+    dashboard->restoreSelectedTrashMoves();
+    EXPECT_THAT(dashboard->restoreCenterSelectedIDs(), IsEmpty());
+}
+
+TEST(MacCleanerDashboardDependencies, ScanInsightsWithTheApplicationsOwnLimits)
+{
+    const auto configuration = MacCleanerDashboardDependencies::insightConfiguration();
+    EXPECT_EQ(configuration.minimumLargeFileBytes, 104'857'600);
+    EXPECT_EQ(configuration.minimumDuplicateFileBytes, 20'971'520);
+    EXPECT_EQ(configuration.minimumReviewFileAge, 86'400.0);
+    EXPECT_EQ(configuration.maximumVisitedItemsPerRoot, 8'000);
+    EXPECT_EQ(configuration.maximumResultCount, 250);
+    EXPECT_EQ(configuration.maximumRecentReviewSkippedItems, 250);
+    EXPECT_EQ(configuration.maximumDuplicateHashFiles, 500);
+    EXPECT_EQ(configuration.maximumDuplicateFullHashBytesPerFile, 536'870'912);
+    EXPECT_EQ(configuration.maximumDuplicateHashBytes, 1'073'741'824);
+}
+
+} // namespace DashboardTests

@@ -35,9 +35,9 @@ Rectangle {
     readonly property real room: width - 2 * sideMargin - boxWidth - KarvelloDesign.spacing24
     readonly property real buttonsWidth: (clearText === "" ? 0 : clear.implicitWidth + buttons.spacing) + primary.implicitWidth
     readonly property real selectAllWidth: selectAllText === "" ? 0 : selectAll.implicitWidth + buttons.spacing
-    readonly property bool isFolded: selectAllText !== "" && title.implicitWidth + buttonsWidth + selectAllWidth > room
+    readonly property bool isFolded: selectAllText !== "" && heading.implicitWidth + buttonsWidth + selectAllWidth > room
     readonly property bool hasRoomForPills: KarvelloDesign.textFactor < 1.25
-        && title.implicitWidth + pillRow.implicitWidth + KarvelloDesign.spacing8 + buttonsWidth + selectAllWidth <= room
+        && heading.implicitWidth + pillRow.implicitWidth + KarvelloDesign.spacing8 + buttonsWidth + selectAllWidth <= room
 
     signal clearRequested()
     signal selectAllRequested()
@@ -82,7 +82,7 @@ Rectangle {
                 RowLayout {
                     spacing: KarvelloDesign.spacing8
                     KarvelloText {
-                        id: title
+                        id: heading
                         Layout.fillWidth: true
                         Layout.maximumWidth: Math.ceil(implicitWidth)
                         text: control.title

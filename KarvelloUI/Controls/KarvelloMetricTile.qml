@@ -46,7 +46,7 @@ Rectangle {
 
         RowLayout {
             id: head
-            readonly property real spare: width - icon.width - name.implicitWidth - 2 * spacing
+            readonly property real spare: width - icon.width - nameText.implicitWidth - 2 * spacing
             Layout.bottomMargin: KarvelloDesign.spacing12
             spacing: KarvelloDesign.spacing8
 
@@ -56,7 +56,7 @@ Rectangle {
                 tint: KarvelloDesign.ink2
             }
             KarvelloText {
-                id: name
+                id: nameText
                 Layout.fillWidth: true
                 text: control.name
                 Accessible.ignored: true
@@ -80,7 +80,7 @@ Rectangle {
             spacing: KarvelloDesign.spacing8
 
             KarvelloText {
-                id: figure
+                id: figureText
                 width: Math.min(implicitWidth, parent.width)
                 text: control.figure
                 textStyle: KarvelloDesign.title
@@ -88,14 +88,14 @@ Rectangle {
                 Accessible.ignored: true
             }
             KarvelloText {
+                readonly property bool isBeside: figureText.width + parent.spacing + implicitWidth <= parent.width
+
                 width: Math.min(implicitWidth, parent.width)
-                height: parent.width >= figure.width + spacing + implicitWidth ? figure.height : implicitHeight
-                readonly property real spacing: KarvelloDesign.spacing8
+                height: isBeside ? figureText.implicitHeight - 3 : implicitHeight
                 visible: text !== ""
                 text: control.unit
                 color: KarvelloDesign.ink3
                 verticalAlignment: Text.AlignBottom
-                bottomPadding: height > implicitHeight ? 3 : 0
                 Accessible.ignored: true
             }
         }

@@ -24,9 +24,10 @@ def sections(text):
 
 
 def page_options(lines):
-    """The options that begin a paragraph, with their arguments."""
+    """The options that begin a paragraph, with their arguments. A short one has its text on the same line."""
     title = lines[0]
-    return {line.strip() for before, line in zip(lines, lines[1:]) if before in ("", title) and line.startswith("       -")}
+    return {re.split(r"\s{2,}", line.strip())[0] for before, line in zip(lines, lines[1:])
+            if before in ("", title) and line.startswith("       -")}
 
 
 def help_options(text):

@@ -31,6 +31,7 @@ if(TARGET karvello)
   string(REGEX REPLACE "^runtime: *" "" runtime "${runtime}")
   string(REGEX REPLACE " +" ", " CPACK_DEBIAN_PACKAGE_DEPENDS "${runtime}")
   set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "default-dbus-session-bus | dbus-session-bus, qt6-wayland, xdg-desktop-portal")
-  set(CPACK_DEBIAN_PACKAGE_SUGGESTS gnome-shell-extension-appindicator)
+  # GNOME shows no tray of its own; and not every system has letters for Chinese, Japanese and Korean.
+  set(CPACK_DEBIAN_PACKAGE_SUGGESTS "gnome-shell-extension-appindicator, fonts-noto-cjk")
 endif()
 include(CPack)

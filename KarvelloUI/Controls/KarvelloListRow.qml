@@ -26,6 +26,8 @@ T.CheckDelegate {
     required property string menuName
     // Why it may not be selected.
     property string disabledReason
+    // Without a box it is only to look at.
+    property bool hasCheckBox: true
     // Shown below the row while it is open.
     property Component details: null
 
@@ -37,7 +39,7 @@ T.CheckDelegate {
     readonly property int pillWidth: 104
     readonly property real ageWidth: Math.round(60 * KarvelloDesign.textFactor)
     readonly property real sizeWidth: Math.round(72 * KarvelloDesign.textFactor)
-    readonly property real textStart: 2 * Math.round(8 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12
+    readonly property real textStart: (hasCheckBox ? 2 * Math.round(8 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12 : 0)
         + 2 * Math.round(16 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12
     readonly property real reasonWidth: availableWidth - textStart - nameWidth - pillWidth - ageWidth - sizeWidth - 28
         - 5 * KarvelloDesign.spacing12
@@ -64,6 +66,7 @@ T.CheckDelegate {
     focusPolicy: Qt.StrongFocus
     onClicked: toggleIfSelectable()
 
+    Accessible.role: hasCheckBox ? Accessible.CheckBox : Accessible.ListItem
     Accessible.name: accessibleName
     Accessible.description: isSelectable ? "" : disabledReason
     Accessible.checkable: isSelectable
@@ -95,6 +98,7 @@ T.CheckDelegate {
             spacing: KarvelloDesign.spacing12
 
             KarvelloCheckBox {
+                visible: control.hasCheckBox
                 Layout.leftMargin: -padding
                 Layout.rightMargin: -padding
                 isLocked: !control.isSelectable
@@ -107,7 +111,7 @@ T.CheckDelegate {
             }
             IconTile {
                 name: control.iconName
-                opacity: control.isSelectable ? 1 : 0.5
+                opacity: control.isSelectable || !control.hasCheckBox ? 1 : 0.5
             }
             ColumnLayout {
                 Layout.preferredWidth: control.hasReasonColumn ? control.nameWidth : 0

@@ -13,9 +13,6 @@ using CleanerCore::FileInsight;
 
 namespace {
 
-constexpr const char* kNoLongerEligible =
-    "Some selected items are no longer eligible for cleanup. Refresh the scan and review them again.";
-
 CleanerCore::MacStorageInsightReport without(
     CleanerCore::MacStorageInsightReport report, const CleanerCore::CleanResult& result)
 {
@@ -80,7 +77,7 @@ void MacInsightsViewModel::cleanSelected(MacInsightFileSection section, std::opt
 void MacInsightsViewModel::applyEligibility(const Eligibility& eligibility)
 {
     if (!eligibility.lostIDs.empty()) {
-        setErrorMessage(kNoLongerEligible);
+        setErrorMessage(std::string(RunMessages::kNoLongerEligible));
         noteSelection(m_review.deselect(eligibility.lostIDs));
     }
     if (eligibility.leavesSome) {

@@ -12,6 +12,8 @@ struct RunMessages {
     static constexpr std::string_view kCleanFailed = "Some items could not be cleaned. Review the result details.";
     static constexpr std::string_view kCleanCancelled =
         "Cleaning was cancelled. Already cleaned items were removed from the list.";
+    static constexpr std::string_view kNoLongerEligible =
+        "Some selected items are no longer eligible for cleanup. Refresh the scan and review them again.";
     static constexpr std::string_view kRestoreFailed = "Some items could not be restored.";
     static constexpr std::string_view kRestoreCancelled = "Restore was cancelled.";
 

@@ -1,0 +1,72 @@
+import QtQuick
+import QtQuick.Layouts
+import Karvello.Design
+import Karvello.Screens.Insights
+
+// One file of the list, with what there is to know of it below while it is open.
+KarvelloListRow {
+    id: row
+
+    required property InsightListScreenModel screen
+    required property int index
+    required property int key
+    required property string spokenName
+    required property string fullPath
+    required property string explanation
+    required isSelectable
+    required iconName
+    required property bool isSelected
+    required property bool isCurrent
+
+    hasCheckBox: screen.hasFooter
+    isChecked: isSelected
+    pillKind: KarvelloDesign.ReviewPill
+    accessibleName: spokenName
+    menuName: screen.moreName
+    disabledReason: hasCheckBox && !isSelectable ? screen.notSelectableText : ""
+    // The list is one stop; arrows go on from there.
+    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
+    onToggleRequested: screen.toggle(key)
+    onOpenRequested: isOpen => screen.setOpen(key, isOpen)
+
+    details: Component {
+        ColumnLayout {
+            spacing: KarvelloDesign.spacing4
+
+            KarvelloText {
+                Layout.fillWidth: true
+                text: row.screen.whyText
+                textStyle: KarvelloDesign.small
+                emphasis: KarvelloText.Medium
+                color: KarvelloDesign.ink
+            }
+            KarvelloText {
+                Layout.fillWidth: true
+                text: row.explanation
+                textStyle: KarvelloDesign.small
+                wrapMode: Text.Wrap
+            }
+            KarvelloText {
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: row.disabledReason
+                textStyle: KarvelloDesign.small
+                wrapMode: Text.Wrap
+            }
+            KarvelloText {
+                Layout.fillWidth: true
+                text: row.fullPath
+                textStyle: KarvelloDesign.small
+                wrapMode: Text.WrapAnywhere
+            }
+            KarvelloButton {
+                Layout.topMargin: KarvelloDesign.spacing4
+                Layout.bottomMargin: KarvelloDesign.spacing8
+                size: KarvelloButton.Small
+                iconName: "folder"
+                text: row.screen.revealText
+                onClicked: row.screen.reveal(row.key)
+            }
+        }
+    }
+}

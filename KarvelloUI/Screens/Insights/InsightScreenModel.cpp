@@ -1,0 +1,289 @@
+#include "KarvelloUI/Screens/Insights/InsightScreenModel.h"
+
+#include "KarvelloUI/Sessions/RunMessages.h"
+#include "KarvelloUI/Sessions/ShownText.h"
+#include "Platform/Base/HomePathAbbreviation.h"
+
+#include <QPointer>
+
+namespace KarvelloUI {
+
+using Phase = MacInsightsViewModel::Phase;
+
+InsightScreenModel::InsightScreenModel(
+    MacCleanerDashboardModel& dashboard, MacDashboardSection section, QObject* parent)
+    : QObject(parent)
+    , m_dashboard(dashboard)
+    , m_section(section)
+{
+    const auto tell = [this] { Q_EMIT stateChanged(); };
+    const auto tellAnew = [this] {
+        m_isBannerClosed = false;
+        Q_EMIT stateChanged();
+    };
+    connect(&insights(), &MacInsightsViewModel::reportChanged, this, tell);
+    connect(&insights(), &MacInsightsViewModel::resultsChanged, this, tellAnew);
+    connect(&insights(), &MacInsightsViewModel::errorMessageChanged, this, tellAnew);
+    connect(&insights(), &MacInsightsViewModel::phaseChanged, this, [this] {
+        m_isCancelling = false;
+        Q_EMIT stateChanged();
+    });
+    connect(&m_dashboard, &MacCleanerDashboardModel::accessChanged, this, tell);
+    connect(&m_dashboard.preferences(), &DashboardPreferences::languageChanged, this, tell);
+}
+
+InsightScreenModel::Content InsightScreenModel::content() const
+{
+    switch (insights().phase()) {
+    case Phase::idle:
+        return m_dashboard.hasHomeAccess() ? Idle : Denied;
+    case Phase::scanning:
+        return Scanning;
+    case Phase::ready:
+    case Phase::cleaning:
+    case Phase::finished:
+        break;
+    }
+    return count() > 0 ? Results : Nothing;
+}
+
+QString InsightScreenModel::title() const
+{
+    return shown(words().macDashboardSectionTitle(m_section));
+}
+
+QString InsightScreenModel::subtitle() const
+{
+    return shown(content() == Results ? resultsLine() : purposeLine());
+}
+
+QString InsightScreenModel::scanText() const
+{
+    const auto copy = words();
+    return shown(content() == Idle || content() == Denied ? copy.text("인사이트 스캔 시작", "Start Insight Scan")
+                                                          : copy.scanAgain());
+}
+
+bool InsightScreenModel::canScan() const
+{
+    return m_dashboard.hasHomeAccess() && !insights().isBusy();
+}
+
+QString InsightScreenModel::scanDisabledReason() const
+{
+    if (m_dashboard.hasHomeAccess()) {
+        return {};
+    }
+    return shown(words().text(
+        "스캔을 시작하기 전에 홈 폴더 접근을 허용하세요.", "Grant home folder access before starting a scan."));
+}
+
+QString InsightScreenModel::blankIconName() const
+{
+    switch (content()) {
+    case Denied:
+        return QStringLiteral("lock");
+    case Nothing:
+        return isBlankGoodNews() ? QStringLiteral("done") : QStringLiteral("search");
+    case Idle:
+    case Scanning:
+    case Results:
+        break;
+    }
+    return QStringLiteral("scan");
+}
+
+QString InsightScreenModel::blankTitle() const
+{
+    const auto copy = words();
+    switch (content()) {
+    case Denied:
+        return shown(copy.homeAccessOnboardingTitle());
+    case Nothing:
+        return shown(copy.text("표시할 항목 없음", "No items to show"));
+    case Idle:
+    case Scanning:
+    case Results:
+        break;
+    }
+    return shown(copy.text("스캔 준비 완료", "Ready to scan"));
+}
+
+QString InsightScreenModel::blankText() const
+{
+    const auto copy = words();
+    switch (content()) {
+    case Denied:
+        return shown(copy.text("인사이트를 실행하려면 Karvello가 홈 폴더에 접근할 수 있어야 합니다. 홈 폴더 접근을 "
+                               "허용하면 스캔이 자동으로 시작됩니다.",
+            "Karvello needs access to your home folder before insights can run. Grant home folder access and the scan "
+            "will start automatically."));
+    case Nothing:
+        return shown(nothingFoundText());
+    case Idle:
+    case Scanning:
+    case Results:
+        break;
+    }
+    return shown(copy.say("A read-only scan of your own folders finds large files, older downloads, duplicates and "
+                          "installers. It changes nothing."));
+}
+
+QString InsightScreenModel::blankActionText() const
+{
+    switch (content()) {
+    case Idle:
+        return scanText();
+    case Denied:
+        return shown(words().homeAccessGrantButton());
+    case Scanning:
+    case Nothing:
+    case Results:
+        break;
+    }
+    return {};
+}
+
+bool InsightScreenModel::isBlankGoodNews() const
+{
+    const auto& report = insights().report();
+    return content() == Nothing && report.skippedItems.empty() && !report.isTruncated;
+}
+
+QString InsightScreenModel::workTitle() const
+{
+    const auto copy = words();
+    return shown(isCleaning() ? copy.cleaningMessage()
+                              : copy.text("저장 공간 인사이트를 스캔하는 중…", "Scanning storage insights…"));
+}
+
+QString InsightScreenModel::workHint() const
+{
+    return content() == Scanning ? shown(words().scanRunnerHint()) : QString();
+}
+
+QString InsightScreenModel::cancelText() const
+{
+    return shown(words().cancelOperation());
+}
+
+bool InsightScreenModel::isDone() const
+{
+    return insights().lastCleanResult().has_value() && !insights().isBusy();
+}
+
+InsightScreenModel::Banner InsightScreenModel::banner() const
+{
+    if (m_isBannerClosed) {
+        return NoBanner;
+    }
+    if (insights().errorMessage()) {
+        return FailedBanner;
+    }
+    return isDone() ? DoneBanner : NoBanner;
+}
+
+QString InsightScreenModel::bannerTitle() const
+{
+    const auto copy = words();
+    switch (banner()) {
+    case FailedBanner: {
+        const std::string& message = *insights().errorMessage();
+        return message == RunMessages::kNoLongerEligible
+            ? shown(copy.say("Some selected items are no longer eligible for cleanup. Refresh the scan and review them "
+                             "again."))
+            : shownText(copy.skippedReason(message));
+    }
+    case DoneBanner:
+        return shown(copy.lastCleanTitle(CleanerCore::CleaningMode::moveToTrash));
+    case NoBanner:
+        break;
+    }
+    return {};
+}
+
+QString InsightScreenModel::bannerText() const
+{
+    if (banner() == NoBanner || !isDone()) {
+        return {};
+    }
+    return shown(
+        words().lastCleanSubtitle(*insights().lastCleanResult(), CleanerCore::CleaningMode::moveToTrash));
+}
+
+QString InsightScreenModel::bannerActionText() const
+{
+    return banner() != NoBanner && isDone()
+        ? shown(words().text("검토와 근거 열기", "Open Review & Evidence"))
+        : QString();
+}
+
+QString InsightScreenModel::bannerCloseName() const
+{
+    return shown(words().say("Close"));
+}
+
+QString InsightScreenModel::noticeText() const
+{
+    if (content() != Results && content() != Nothing) {
+        return {};
+    }
+    QStringList lines;
+    if (content() == Results) {
+        lines.append(shown(noticeLine()));
+    }
+    if (const auto& skipped = insights().report().skippedItems; !skipped.empty()) {
+        lines.append(shown(words().insightSkippedBody(std::ssize(skipped))));
+    }
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
+void InsightScreenModel::scan()
+{
+    m_dashboard.scanInsights();
+}
+
+void InsightScreenModel::runBlankAction()
+{
+    if (content() == Idle) {
+        scan();
+    } else if (content() == Denied) {
+        // The dialog may be open for longer than the screen.
+        m_dashboard.requestHomeAccess([model = QPointer<InsightScreenModel>(this)](bool isGranted) {
+            if (isGranted && model) {
+                model->scan();
+            }
+        });
+    }
+}
+
+void InsightScreenModel::cancel()
+{
+    if (!insights().isBusy()) {
+        return;
+    }
+    m_isCancelling = true;
+    Q_EMIT stateChanged();
+    insights().cancelCurrentOperation();
+}
+
+void InsightScreenModel::runBannerAction()
+{
+    if (!bannerActionText().isEmpty()) {
+        m_dashboard.selectSection(MacDashboardSection::reviewEvidence);
+    }
+}
+
+void InsightScreenModel::closeBanner()
+{
+    m_isBannerClosed = true;
+    Q_EMIT stateChanged();
+}
+
+QString InsightScreenModel::shownPath(const Platform::FileURL& url) const
+{
+    return shownText(Platform::HomePathAbbreviation(m_dashboard.services().homeDirectory).abbreviate(url.path()));
+}
+
+} // namespace KarvelloUI

@@ -1,0 +1,128 @@
+#pragma once
+
+#include "KarvelloUI/Dashboard/MacCleanerDashboardModel.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQmlIntegration>
+#include <cstdint>
+
+namespace KarvelloUI {
+
+/// What the screens over the insights session have in common: whether there is something to show, what stands in its place
+/// while there is not, what the session has to tell, and the scan. `dashboard` outlives it. Main thread only.
+class InsightScreenModel : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("A screen has it.")
+    Q_PROPERTY(Content content READ content NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString title READ title NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY stateChanged FINAL)
+    /// How many items the screen lists.
+    Q_PROPERTY(int count READ count NOTIFY stateChanged FINAL)
+    Q_PROPERTY(bool isCleaning READ isCleaning NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString scanText READ scanText NOTIFY stateChanged FINAL)
+    Q_PROPERTY(bool canScan READ canScan NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString scanDisabledReason READ scanDisabledReason NOTIFY stateChanged FINAL)
+    /// What stands in the place of the results.
+    Q_PROPERTY(QString blankIconName READ blankIconName NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString blankTitle READ blankTitle NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString blankText READ blankText NOTIFY stateChanged FINAL)
+    /// Nothing where there is nothing to do about it.
+    Q_PROPERTY(QString blankActionText READ blankActionText NOTIFY stateChanged FINAL)
+    Q_PROPERTY(bool isBlankGoodNews READ isBlankGoodNews NOTIFY stateChanged FINAL)
+    /// The work that is under way.
+    Q_PROPERTY(QString workTitle READ workTitle NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString workHint READ workHint NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString cancelText READ cancelText NOTIFY stateChanged FINAL)
+    Q_PROPERTY(bool isCancelling READ isCancelling NOTIFY stateChanged FINAL)
+    Q_PROPERTY(Banner banner READ banner NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString bannerTitle READ bannerTitle NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString bannerText READ bannerText NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString bannerActionText READ bannerActionText NOTIFY stateChanged FINAL)
+    Q_PROPERTY(QString bannerCloseName READ bannerCloseName NOTIFY stateChanged FINAL)
+    /// What to know about the results; nothing where there are none.
+    Q_PROPERTY(QString noticeText READ noticeText NOTIFY stateChanged FINAL)
+
+public:
+    // QML reads only enumerators with a capital letter.
+    // NOLINTBEGIN(readability-identifier-naming)
+    enum Content : std::uint8_t {
+        /// Nothing was looked for yet.
+        Idle,
+        /// Nothing may be looked for.
+        Denied,
+        Scanning,
+        /// Nothing was found.
+        Nothing,
+        Results,
+    };
+    Q_ENUM(Content)
+    /// The more severe of what there is to tell.
+    enum Banner : std::uint8_t { NoBanner, FailedBanner, DoneBanner };
+    Q_ENUM(Banner)
+    // NOLINTEND(readability-identifier-naming)
+
+    [[nodiscard]] Content content() const;
+    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString subtitle() const;
+    [[nodiscard]] virtual int count() const = 0;
+    [[nodiscard]] bool isCleaning() const { return insights().phase() == MacInsightsViewModel::Phase::cleaning; }
+    [[nodiscard]] QString scanText() const;
+    [[nodiscard]] bool canScan() const;
+    [[nodiscard]] QString scanDisabledReason() const;
+    [[nodiscard]] QString blankIconName() const;
+    [[nodiscard]] QString blankTitle() const;
+    [[nodiscard]] QString blankText() const;
+    [[nodiscard]] QString blankActionText() const;
+    [[nodiscard]] bool isBlankGoodNews() const;
+    [[nodiscard]] QString workTitle() const;
+    [[nodiscard]] QString workHint() const;
+    [[nodiscard]] QString cancelText() const;
+    [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
+    [[nodiscard]] Banner banner() const;
+    [[nodiscard]] QString bannerTitle() const;
+    [[nodiscard]] QString bannerText() const;
+    [[nodiscard]] QString bannerActionText() const;
+    [[nodiscard]] QString bannerCloseName() const;
+    [[nodiscard]] QString noticeText() const;
+
+    /// Nothing happens where no scan can start.
+    Q_INVOKABLE void scan();
+    /// What the button in the place of the results does: it scans, or asks for the home folder and scans then.
+    Q_INVOKABLE void runBlankAction();
+    Q_INVOKABLE void cancel();
+    /// To where what was moved can be restored.
+    Q_INVOKABLE void runBannerAction();
+    Q_INVOKABLE void closeBanner();
+
+Q_SIGNALS:
+    /// Any of the above, the language as well.
+    void stateChanged();
+
+protected:
+    InsightScreenModel(MacCleanerDashboardModel& dashboard, MacDashboardSection section, QObject* parent);
+
+    [[nodiscard]] MacCleanerDashboardModel& dashboard() const { return m_dashboard; }
+    [[nodiscard]] MacInsightsViewModel& insights() const { return m_dashboard.insights(); }
+    [[nodiscard]] DashboardWords words() const { return m_dashboard.words(); }
+    /// A path with "~" for the home folder.
+    [[nodiscard]] QString shownPath(const Platform::FileURL& url) const;
+
+    /// The line below the title, with results and without.
+    [[nodiscard]] virtual std::string resultsLine() const = 0;
+    [[nodiscard]] virtual std::string purposeLine() const = 0;
+    [[nodiscard]] virtual std::string nothingFoundText() const = 0;
+    /// What to know about these results beside what was skipped; nothing if there is nothing.
+    [[nodiscard]] virtual std::string noticeLine() const = 0;
+
+private:
+    [[nodiscard]] bool isDone() const;
+
+    MacCleanerDashboardModel& m_dashboard;
+    MacDashboardSection m_section;
+    bool m_isCancelling = false;
+    bool m_isBannerClosed = false;
+};
+
+} // namespace KarvelloUI

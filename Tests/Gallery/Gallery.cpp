@@ -1,5 +1,5 @@
-// karvello-gallery [--scheme light|dark] [--scale standard|large|extraLarge] [--dialog] [--width N] [--height N]
-// [--photograph FILE]: shows all controls on one page, or writes a picture of it and ends.
+// karvello-gallery [--page Gallery|Screens|Panels] [--scheme light|dark] [--scale standard|large|extraLarge] [--dialog]
+// [--width N] [--height N] [--photograph FILE]: shows a page of controls, or writes a picture of it and ends.
 
 #include "KarvelloUI/Controls/DesignTokens.h"
 #include "KarvelloUI/Controls/InstallDesign.h"
@@ -26,6 +26,7 @@ int main(int argc, char** argv)
     option("width", "1240");
     option("height", "900");
     option("photograph", "");
+    option("page", "Gallery");
     parser.addOption(QCommandLineOption(QStringLiteral("dialog")));
     parser.addHelpOption();
     parser.process(application);
@@ -42,7 +43,7 @@ int main(int argc, char** argv)
     design.setTextEnvironment({.scale = Platform::fromRawValue<KarvelloTextScale>(value("scale").toStdString())
                                    .value_or(KarvelloTextScaleKey::defaultValue)});
     design.setReducedMotion(isPhotograph);
-    engine.load(QUrl::fromLocalFile(QStringLiteral(KARVELLO_SOURCE_DIR "/Tests/Gallery/Gallery.qml")));
+    engine.load(QUrl::fromLocalFile(QStringLiteral(KARVELLO_SOURCE_DIR "/Tests/Gallery/%1.qml").arg(value("page"))));
     if (engine.rootObjects().isEmpty()) {
         return 1;
     }

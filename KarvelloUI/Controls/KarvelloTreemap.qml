@@ -1,0 +1,122 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Karvello.Design
+
+// Areas as large as what they hold. The cells are a list of { id, name, sizeText, countText, partialText, shareText, tint,
+// x, y, width, height } with a place in the unit square. One stop for Tab; arrows go to the nearest cell and select it. It
+// only asks: whoever owns the selection sets `selectedId`.
+FocusScope {
+    id: control
+
+    property var cells: []
+    property var selectedId
+    // What the pointer is over elsewhere, in the table beside the map.
+    property var hoveredId
+    property string accessibleName
+    readonly property int gap: 3
+    readonly property int selectedIndex: indexOf(selectedId)
+    // The cell that has, or gets, the focus.
+    property int currentIndex: selectedIndex >= 0 ? selectedIndex : 0
+
+    // Undefined when the pointer has left.
+    signal hovered(var id)
+    signal selected(var id)
+    signal activated(var id)
+
+    function indexOf(id: var): int {
+        for (let index = 0; index < cells.length; ++index) {
+            if (cells[index].id === id)
+                return index
+        }
+        return -1
+    }
+
+    // Whose middle lies in that direction, the closest first; what lies beside the way counts twice.
+    function nearest(from: int, key: int): int {
+        const isAcross = key === Qt.Key_Left || key === Qt.Key_Right
+        const sign = key === Qt.Key_Right || key === Qt.Key_Down ? 1 : -1
+        const middle = index => {
+            const cell = cells[index]
+            return Qt.point((cell.x + cell.width / 2) * width, (cell.y + cell.height / 2) * height)
+        }
+        const start = middle(from)
+        let best = -1
+        let least = Infinity
+        for (let index = 0; index < cells.length; ++index) {
+            const to = middle(index)
+            const ahead = sign * (isAcross ? to.x - start.x : to.y - start.y)
+            const beside = Math.abs(isAcross ? to.y - start.y : to.x - start.x)
+            const distance = ahead + 2 * beside
+            if (index !== from && ahead > 0.5 && distance < least) {
+                least = distance
+                best = index
+            }
+        }
+        return best
+    }
+
+    function moveTo(index: int) {
+        if (index < 0 || index >= cells.length)
+            return
+        selected(cells[index].id)
+        currentIndex = index
+        const item = repeater.itemAt(index) as Item
+        item.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    implicitWidth: 480
+    implicitHeight: 360
+    onSelectedIndexChanged: currentIndex = Math.max(0, selectedIndex)
+    onCellsChanged: currentIndex = Math.max(0, selectedIndex)
+
+    Accessible.role: Accessible.List
+    Accessible.name: accessibleName
+
+    Keys.onPressed: event => {
+        const arrows = [Qt.Key_Left, Qt.Key_Right, Qt.Key_Up, Qt.Key_Down]
+        event.accepted = true
+        if (arrows.includes(event.key))
+            control.moveTo(control.nearest(control.currentIndex, event.key))
+        else if (event.key === Qt.Key_Home)
+            control.moveTo(0)
+        else if (event.key === Qt.Key_End)
+            control.moveTo(control.cells.length - 1)
+        else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter || event.key === Qt.Key_Space)
+                 && control.currentIndex < control.cells.length) {
+            if (!event.isAutoRepeat)
+                control.activated(control.cells[control.currentIndex].id)
+        } else
+            event.accepted = false
+    }
+
+    Repeater {
+        id: repeater
+        model: control.cells
+
+        KarvelloTreemapCell {
+            id: cell
+
+            required property var modelData
+            required property int index
+
+            // Whole pixels on both sides, so that all gaps are the same.
+            x: Math.round(modelData.x * (control.width + control.gap))
+            y: Math.round(modelData.y * (control.height + control.gap))
+            width: Math.max(1, Math.round((modelData.x + modelData.width) * (control.width + control.gap)) - control.gap - x)
+            height: Math.max(1, Math.round((modelData.y + modelData.height) * (control.height + control.gap)) - control.gap - y)
+            cell: modelData
+            isSelected: control.selectedIndex === index
+            isHovered: hovered || (control.hoveredId !== undefined && control.hoveredId === modelData.id)
+            activeFocusOnTab: control.currentIndex === index
+            focus: control.currentIndex === index
+
+            onClicked: {
+                control.currentIndex = cell.index
+                control.selected(cell.modelData.id)
+            }
+            onDoubleClicked: control.activated(cell.modelData.id)
+            onHoveredChanged: control.hovered(cell.hovered ? cell.modelData.id : undefined)
+            Accessible.onPressAction: control.activated(cell.modelData.id)
+        }
+    }
+}

@@ -111,8 +111,9 @@ T.Button {
         FocusRing { isShown: control.visualFocus }
     }
 
-    KarvelloToolTip {
-        text: control.accessibleName
-        visible: control.hovered && control.text === "" && text !== ""
+    KarvelloHint {
+        target: control
+        text: !control.enabled && control.disabledReason !== "" ? control.disabledReason
+            : control.text === "" ? control.accessibleName : ""
     }
 }

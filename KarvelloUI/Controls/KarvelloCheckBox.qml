@@ -9,6 +9,7 @@ T.CheckBox {
     property string accessibleName: text
     property string disabledReason
     property bool isLocked: false
+    property color lockTint: KarvelloDesign.ink3
     // A press only asks: whoever owns the state answers by `checkState`.
     property bool isAsking: false
     readonly property bool isMarked: checkState !== Qt.Unchecked
@@ -41,6 +42,11 @@ T.CheckBox {
         control.clicked()
     }
 
+    KarvelloHint {
+        target: control
+        text: control.enabled ? "" : control.disabledReason
+    }
+
     indicator: Item {
         implicitWidth: 2 * Math.round(8 * KarvelloDesign.textFactor)
         implicitHeight: implicitWidth
@@ -68,6 +74,7 @@ T.CheckBox {
             anchors.centerIn: parent
             visible: control.isLocked
             name: "lock"
+            tint: control.lockTint
         }
         FocusRing {
             isShown: control.visualFocus

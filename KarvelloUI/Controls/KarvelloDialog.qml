@@ -8,6 +8,7 @@ import Karvello.Design
 T.Dialog {
     id: control
 
+    default property alias content: column.data
     property string message
     property string iconName: "trash"
     required property string acceptText
@@ -22,6 +23,7 @@ T.Dialog {
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
     width: Math.min(520, parent ? parent.width - 2 * KarvelloDesign.spacing32 : 520)
+    height: Math.min(implicitHeight, parent ? parent.height - 2 * KarvelloDesign.spacing16 : implicitHeight)
     implicitHeight: implicitHeaderHeight + implicitContentHeight + implicitFooterHeight + topPadding + bottomPadding
     padding: KarvelloDesign.spacing24
     topPadding: 0
@@ -88,7 +90,39 @@ T.Dialog {
         }
     }
 
-    contentItem: ColumnLayout { spacing: KarvelloDesign.spacing12 }
+    // What does not fit into the window scrolls between head and buttons, which can always be seen.
+    readonly property Item body: ColumnLayout {
+        id: column
+        width: control.availableWidth
+        spacing: KarvelloDesign.spacing12
+    }
+    contentItem: Flickable {
+        function scrollBy(distance: real) {
+            contentY = Math.max(0, Math.min(contentY + distance, contentHeight - height))
+        }
+
+        implicitHeight: control.body.implicitHeight
+        contentHeight: control.body.implicitHeight
+        interactive: contentHeight > height
+        activeFocusOnTab: interactive
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
+        Component.onCompleted: control.body.parent = contentItem
+        Keys.onUpPressed: scrollBy(-40)
+        Keys.onDownPressed: scrollBy(40)
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_PageDown || event.key === Qt.Key_PageUp
+            if (event.accepted)
+                scrollBy(event.key === Qt.Key_PageDown ? height : -height)
+        }
+        T.ScrollBar.vertical: KarvelloScrollBar {}
+
+        FocusRing {
+            parent: control.contentItem
+            isShown: control.contentItem.activeFocus
+            distance: 0
+        }
+    }
 
     footer: Item {
         implicitHeight: buttons.implicitHeight + 2 * KarvelloDesign.spacing16

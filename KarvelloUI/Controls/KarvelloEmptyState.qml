@@ -74,7 +74,7 @@ Item {
 
             KarvelloButton {
                 id: action
-                Layout.fillWidth: true
+                Layout.alignment: Qt.AlignHCenter
                 Layout.maximumWidth: column.width
                 visible: text !== ""
                 kind: KarvelloButton.Tonal
@@ -86,7 +86,7 @@ Item {
             }
             KarvelloButton {
                 id: secondary
-                Layout.fillWidth: true
+                Layout.alignment: Qt.AlignHCenter
                 Layout.maximumWidth: column.width
                 visible: text !== ""
                 text: control.secondaryText

@@ -12,6 +12,8 @@ Item {
     // A rule below it, unless it is the last of its card.
     property bool isLast: false
     property int padding: KarvelloDesign.spacing20
+    // The most that its control can take, for one that can do with less.
+    readonly property real slotMaximumWidth: width - 2 * padding
     readonly property real leastTextWidth: Math.max(label.implicitWidth,
         Math.min(line.implicitWidth, Math.round(150 * KarvelloDesign.textFactor)))
     readonly property bool isWrapped:
@@ -54,6 +56,7 @@ Item {
         }
         RowLayout {
             id: slot
+            Layout.fillWidth: false
             Layout.maximumWidth: grid.width
             spacing: KarvelloDesign.spacing8
         }

@@ -29,7 +29,7 @@ T.CheckDelegate {
     readonly property bool isLargeText: KarvelloDesign.textFactor >= 1.25
 
     signal toggleRequested()
-    signal menuRequested()
+    signal menuRequested(point at)
 
     function toggleIfSelectable() {
         if (control.enabled && control.isSelectable)
@@ -57,13 +57,13 @@ T.CheckDelegate {
         event.accepted = control.menuName !== ""
             && (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
         if (event.accepted)
-            control.menuRequested()
+            control.menuRequested(Qt.point(leftPadding, height))
     }
     MouseArea {
         anchors.fill: parent
         enabled: control.menuName !== ""
         acceptedButtons: Qt.RightButton
-        onClicked: control.menuRequested()
+        onClicked: mouse => control.menuRequested(Qt.point(mouse.x, mouse.y))
     }
 
     contentItem: RowLayout {
@@ -73,6 +73,7 @@ T.CheckDelegate {
             Layout.leftMargin: -padding
             Layout.rightMargin: -padding
             isLocked: !control.isSelectable
+            lockTint: control.isKeeper ? KarvelloDesign.accent : KarvelloDesign.ink3
             disabledReason: control.disabledReason
             checkState: control.isChecked ? Qt.Checked : Qt.Unchecked
             focusPolicy: Qt.NoFocus
@@ -173,7 +174,7 @@ T.CheckDelegate {
             focusPolicy: Qt.NoFocus
             iconName: "more"
             accessibleName: control.menuName
-            onClicked: control.menuRequested()
+            onClicked: control.menuRequested(mapToItem(control, 0, height))
         }
     }
     background: Rectangle {

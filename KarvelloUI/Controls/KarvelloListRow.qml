@@ -24,10 +24,30 @@ T.CheckDelegate {
     property string accessibleName: KarvelloDesign.spoken([name, pillText, size, path, warning, reason, age])
     // What the menu button is called.
     required property string menuName
+    // Why it may not be selected.
+    property string disabledReason
+    // Shown below the row while it is open.
+    property Component details: null
+
+    // Large texts take the room of the columns: pill, age and reason then stand with name and path.
+    readonly property bool isLargeText: KarvelloDesign.textFactor >= 1.25
+    readonly property bool hasReason: reason !== "" || warning !== ""
+    readonly property real nameWidth: availableWidth * 0.3
+    readonly property string pathLine: !isLargeText || age === "" ? path : path === "" ? age : path + " · " + age
+    readonly property int pillWidth: 104
+    readonly property real ageWidth: Math.round(60 * KarvelloDesign.textFactor)
+    readonly property real sizeWidth: Math.round(72 * KarvelloDesign.textFactor)
+    readonly property real textStart: 2 * Math.round(8 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12
+        + 2 * Math.round(16 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12
+    readonly property real reasonWidth: availableWidth - textStart - nameWidth - pillWidth - ageWidth - sizeWidth - 28
+        - 5 * KarvelloDesign.spacing12
+    // Too narrow a reason goes under the path.
+    readonly property bool hasReasonColumn: hasReason && !isLargeText && reasonWidth >= 200
 
     signal toggleRequested()
     signal openRequested(bool isOpen)
-    signal menuRequested()
+    // Where in this row.
+    signal menuRequested(point at)
 
     function toggleIfSelectable() {
         if (control.enabled && control.isSelectable)
@@ -45,6 +65,7 @@ T.CheckDelegate {
     onClicked: toggleIfSelectable()
 
     Accessible.name: accessibleName
+    Accessible.description: isSelectable ? "" : disabledReason
     Accessible.checkable: isSelectable
     Accessible.checked: isSelectable && isChecked
     Accessible.onToggleAction: toggleIfSelectable()
@@ -57,123 +78,183 @@ T.CheckDelegate {
         else if (event.key === Qt.Key_Left && control.isOpen)
             control.openRequested(false)
         else if (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
-            control.menuRequested()
+            control.menuRequested(Qt.point(control.textStart, control.height))
         else
             event.accepted = false
     }
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onClicked: control.menuRequested()
+        onClicked: mouse => control.menuRequested(Qt.point(mouse.x, mouse.y))
     }
 
-    contentItem: RowLayout {
-        spacing: KarvelloDesign.spacing12
+    contentItem: ColumnLayout {
+        spacing: 0
 
-        KarvelloCheckBox {
-            Layout.leftMargin: -padding
-            Layout.rightMargin: -padding
-            isLocked: !control.isSelectable
-            checkState: control.isChecked ? Qt.Checked : Qt.Unchecked
-            focusPolicy: Qt.NoFocus
-            isAsking: true
-            onClicked: control.toggleIfSelectable()
-            Accessible.ignored: true
-        }
-        IconTile {
-            name: control.iconName
-            opacity: control.isSelectable ? 1 : 0.5
-        }
-        ColumnLayout {
-            Layout.preferredWidth: control.availableWidth * 0.3
-            Layout.fillWidth: control.reason === "" && control.warning === ""
-            spacing: 0
+        RowLayout {
+            spacing: KarvelloDesign.spacing12
 
-            KarvelloText {
-                Layout.fillWidth: true
-                text: control.name
-                emphasis: KarvelloText.Medium
-                color: KarvelloDesign.ink
+            KarvelloCheckBox {
+                Layout.leftMargin: -padding
+                Layout.rightMargin: -padding
+                isLocked: !control.isSelectable
+                disabledReason: control.disabledReason
+                checkState: control.isChecked ? Qt.Checked : Qt.Unchecked
+                focusPolicy: Qt.NoFocus
+                isAsking: true
+                onClicked: control.toggleIfSelectable()
                 Accessible.ignored: true
             }
-            KarvelloText {
-                Layout.fillWidth: true
-                visible: text !== ""
-                text: control.path
-                textStyle: KarvelloDesign.small
-                color: KarvelloDesign.ink3
-                elide: Text.ElideMiddle
-                Accessible.ignored: true
+            IconTile {
+                name: control.iconName
+                opacity: control.isSelectable ? 1 : 0.5
             }
-            TapHandler { onTapped: control.openRequested(!control.isOpen) }
-        }
-        ColumnLayout {
-            Layout.fillWidth: true
-            Layout.preferredWidth: 0
-            visible: control.reason !== "" || control.warning !== ""
-            spacing: 0
+            ColumnLayout {
+                Layout.preferredWidth: control.hasReasonColumn ? control.nameWidth : 0
+                Layout.fillWidth: !control.hasReasonColumn
+                spacing: 0
 
-            RowLayout {
-                visible: control.warning !== ""
-                spacing: KarvelloDesign.spacing4
-                Rectangle {
-                    implicitWidth: 6
-                    implicitHeight: 6
-                    radius: 3
-                    color: KarvelloDesign.caution
+                RowLayout {
+                    spacing: KarvelloDesign.spacing8
+                    KarvelloText {
+                        Layout.fillWidth: true
+                        Layout.maximumWidth: Math.ceil(implicitWidth)
+                        text: control.name
+                        emphasis: KarvelloText.Medium
+                        color: KarvelloDesign.ink
+                        Accessible.ignored: true
+                    }
+                    KarvelloPill {
+                        visible: control.isLargeText && text !== ""
+                        kind: control.pillKind
+                        text: control.pillText
+                        Accessible.ignored: true
+                    }
+                    Item { Layout.fillWidth: true }
                 }
                 KarvelloText {
                     Layout.fillWidth: true
-                    text: control.warning
+                    visible: text !== ""
+                    text: control.pathLine
                     textStyle: KarvelloDesign.small
-                    emphasis: KarvelloText.Medium
-                    color: KarvelloDesign.caution
+                    color: KarvelloDesign.ink3
+                    elide: Text.ElideMiddle
                     Accessible.ignored: true
                 }
+                RowLayout {
+                    visible: control.hasReason && !control.hasReasonColumn
+                    spacing: KarvelloDesign.spacing8
+                    Warning {
+                        Layout.fillWidth: control.reason === ""
+                        visible: text !== ""
+                        text: control.warning
+                    }
+                    KarvelloText {
+                        Layout.fillWidth: true
+                        visible: text !== ""
+                        text: control.reason
+                        textStyle: KarvelloDesign.small
+                        color: KarvelloDesign.ink3
+                        Accessible.ignored: true
+                    }
+                }
+                TapHandler { onTapped: control.openRequested(!control.isOpen) }
             }
-            KarvelloText {
+            ColumnLayout {
                 Layout.fillWidth: true
-                visible: text !== ""
-                text: control.reason
-                textStyle: KarvelloDesign.small
-                color: KarvelloDesign.ink3
-                wrapMode: Text.Wrap
-                maximumLineCount: control.warning === "" ? 2 : 1
+                Layout.preferredWidth: 0
+                visible: control.hasReasonColumn
+                spacing: 0
+
+                Warning {
+                    visible: text !== ""
+                    text: control.warning
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    visible: text !== ""
+                    text: control.reason
+                    textStyle: KarvelloDesign.small
+                    color: KarvelloDesign.ink3
+                    wrapMode: Text.Wrap
+                    maximumLineCount: control.warning === "" ? 2 : 1
+                    Accessible.ignored: true
+                }
+                TapHandler { onTapped: control.openRequested(!control.isOpen) }
+            }
+            KarvelloPill {
+                Layout.rightMargin: Math.max(0, control.pillWidth - implicitWidth)
+                visible: !control.isLargeText && text !== ""
+                kind: control.pillKind
+                text: control.pillText
                 Accessible.ignored: true
             }
-            TapHandler { onTapped: control.openRequested(!control.isOpen) }
+            KarvelloText {
+                Layout.preferredWidth: Math.max(control.ageWidth, Math.ceil(implicitWidth))
+                visible: !control.isLargeText && control.age !== ""
+                text: control.age
+                textStyle: KarvelloDesign.small
+                color: KarvelloDesign.ink3
+                horizontalAlignment: Text.AlignRight
+                Accessible.ignored: true
+            }
+            KarvelloText {
+                Layout.preferredWidth: Math.max(control.sizeWidth, Math.ceil(implicitWidth))
+                text: control.size
+                emphasis: KarvelloText.Medium
+                color: KarvelloDesign.ink
+                horizontalAlignment: Text.AlignRight
+                Accessible.ignored: true
+            }
+            KarvelloButton {
+                kind: KarvelloButton.Quiet
+                size: KarvelloButton.Small
+                focusPolicy: Qt.NoFocus
+                iconName: control.hovered ? "more" : control.isOpen ? "chevron-down" : "chevron-right"
+                accessibleName: control.menuName
+                onClicked: {
+                    if (control.hovered)
+                        control.menuRequested(mapToItem(control, 0, height))
+                    else
+                        control.openRequested(!control.isOpen)
+                }
+            }
         }
-        KarvelloPill {
-            Layout.rightMargin: Math.max(0, 104 - implicitWidth)
-            visible: text !== ""
-            kind: control.pillKind
-            text: control.pillText
-            Accessible.ignored: true
+        Loader {
+            Layout.fillWidth: true
+            Layout.topMargin: KarvelloDesign.spacing8
+            // Under the texts, beside box and tile.
+            Layout.leftMargin: control.textStart
+            active: control.isOpen && control.details !== null
+            visible: active
+            opacity: status === Loader.Ready ? 1 : 0
+            sourceComponent: control.details
+
+            // A press between the details is none on the row.
+            MouseArea {
+                anchors.fill: parent
+                z: -1
+            }
+            Behavior on opacity { NumberAnimation { duration: KarvelloDesign.expandDuration } }
+        }
+    }
+
+    component Warning: RowLayout {
+        property string text
+        spacing: KarvelloDesign.spacing4
+        Rectangle {
+            implicitWidth: 6
+            implicitHeight: 6
+            radius: 3
+            color: KarvelloDesign.caution
         }
         KarvelloText {
-            Layout.preferredWidth: Math.round(60 * KarvelloDesign.textFactor)
-            visible: control.age !== ""
-            text: control.age
+            Layout.fillWidth: true
+            text: parent.text
             textStyle: KarvelloDesign.small
-            color: KarvelloDesign.ink3
-            horizontalAlignment: Text.AlignRight
-            Accessible.ignored: true
-        }
-        KarvelloText {
-            Layout.preferredWidth: Math.round(72 * KarvelloDesign.textFactor)
-            text: control.size
             emphasis: KarvelloText.Medium
-            color: KarvelloDesign.ink
-            horizontalAlignment: Text.AlignRight
+            color: KarvelloDesign.caution
             Accessible.ignored: true
-        }
-        KarvelloButton {
-            kind: KarvelloButton.Quiet
-            size: KarvelloButton.Small
-            focusPolicy: Qt.NoFocus
-            iconName: control.hovered ? "more" : control.isOpen ? "chevron-down" : "chevron-right"
-            accessibleName: control.menuName
-            onClicked: control.hovered ? control.menuRequested() : control.openRequested(!control.isOpen)
         }
     }
 

@@ -14,9 +14,14 @@ T.Menu {
 
     // Opens it below an item, with the first entry chosen as a menu that the keyboard asked for has it.
     function openBelow(item: Item) {
+        openAt(item, Qt.point(0, item.height + KarvelloDesign.spacing4))
+    }
+
+    // Where the item was pressed, or where its keyboard asks for it.
+    function openAt(item: Item, at: point) {
         parent = item
-        x = 0
-        y = item.height + KarvelloDesign.spacing4
+        x = at.x
+        y = at.y
         open()
         currentIndex = 0
     }

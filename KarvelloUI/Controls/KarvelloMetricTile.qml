@@ -25,6 +25,10 @@ Rectangle {
     property bool isCard: false
     property int padding: KarvelloDesign.spacing20
 
+    // From widths that no layout decides, so that what it shows does not depend on itself.
+    readonly property bool isRoomForNote: icon.width + nameText.implicitWidth + noteText.implicitWidth
+        + 2 * KarvelloDesign.spacing8 <= width - 2 * padding
+
     implicitWidth: 176
     implicitHeight: Math.ceil(column.implicitHeight) + 2 * padding
     radius: KarvelloDesign.cardRadius
@@ -45,8 +49,6 @@ Rectangle {
         spacing: 0
 
         RowLayout {
-            id: head
-            readonly property real spare: width - icon.width - nameText.implicitWidth - 2 * spacing
             Layout.bottomMargin: KarvelloDesign.spacing12
             spacing: KarvelloDesign.spacing8
 
@@ -62,7 +64,8 @@ Rectangle {
                 Accessible.ignored: true
             }
             KarvelloText {
-                visible: control.note !== "" && implicitWidth <= head.spare
+                id: noteText
+                visible: control.note !== "" && control.isRoomForNote
                 text: control.note
                 textStyle: KarvelloDesign.label
                 color: KarvelloDesign.ink4

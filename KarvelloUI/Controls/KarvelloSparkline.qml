@@ -12,6 +12,7 @@ Item {
     property color tint: KarvelloDesign.accent
     property real lineWidth: 1.5
     readonly property int mostSamples: 24
+    readonly property int inset: 3
     readonly property bool hasCourse: points.length > 1
     // From the left to the right edge, so far inside that neither the line nor its dot is cut.
     readonly property var points: {
@@ -21,7 +22,6 @@ Item {
             if (isFinite(samples[index]))
                 shown.push(Math.max(0, Math.min(1, samples[index])))
         }
-        const inset = 3
         const step = (width - 2 * inset) / Math.max(1, shown.length - 1)
         return shown.map((value, index) => Qt.point(inset + index * step, inset + (1 - value) * (height - 2 * inset)))
     }
@@ -39,8 +39,8 @@ Item {
             fillColor: Qt.alpha(control.tint, 0.1)
             PathPolyline {
                 path: control.hasCourse
-                    ? [Qt.point(control.points[0].x, control.height), ...control.points,
-                       Qt.point(control.points[control.points.length - 1].x, control.height)]
+                    ? [Qt.point(control.points[0].x, control.height - control.inset), ...control.points,
+                       Qt.point(control.points[control.points.length - 1].x, control.height - control.inset)]
                     : []
             }
         }

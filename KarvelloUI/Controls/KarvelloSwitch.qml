@@ -31,6 +31,11 @@ T.Switch {
         control.clicked()
     }
 
+    KarvelloHint {
+        target: control
+        text: control.enabled ? "" : control.disabledReason
+    }
+
     indicator: Rectangle {
         implicitWidth: 2 * Math.round(18 * KarvelloDesign.textFactor)
         implicitHeight: 2 * Math.round(10 * KarvelloDesign.textFactor)

@@ -104,6 +104,9 @@ Item {
                 Accessible.ignored: true
             }
             KarvelloButton {
+                Layout.topMargin: -6
+                Layout.bottomMargin: -6
+                Layout.rightMargin: -rightPadding
                 visible: text !== ""
                 kind: KarvelloButton.Link
                 size: KarvelloButton.Small

@@ -4,7 +4,7 @@ namespace KarvelloUI {
 
 namespace {
 
-constexpr const char* kRow = "KarvelloListRow { objectName: 'row'; width: 640; name: 'pip'; path: '~/.cache/pip';"
+constexpr const char* kRow = "KarvelloListRow { objectName: 'row'; name: 'pip'; path: '~/.cache/pip';"
                              " reason: 'Package-manager caches'; size: '1.27 GB'; age: '26 days'; pillText: 'Safe';"
                              " menuName: 'Actions'";
 
@@ -15,11 +15,11 @@ class KarvelloListRow : public Controls {
 protected:
     void showRow(const std::string& properties = "")
     {
-        show((kRow + properties + " }").c_str());
+        show((kRow + properties + (properties.contains("width") ? " }" : "; width: 640 }")).c_str());
         m_row = find("row");
         m_toggles = std::make_unique<QSignalSpy>(m_row, SIGNAL(toggleRequested()));
         m_opens = std::make_unique<QSignalSpy>(m_row, SIGNAL(openRequested(bool)));
-        m_menus = std::make_unique<QSignalSpy>(m_row, SIGNAL(menuRequested()));
+        m_menus = std::make_unique<QSignalSpy>(m_row, SIGNAL(menuRequested(QPointF)));
     }
 
     QQuickItem* m_row = nullptr;
@@ -107,7 +107,7 @@ TEST_F(KarvelloListRow, SaysAllOfItselfAsOneCheckBox)
 
 TEST_F(KarvelloListRow, GrowsWithItsTextAtTwoHundredPercent)
 {
-    showRow();
+    showRow("; width: 900");
     EXPECT_EQ(m_row->height(), 54);
     m_design.setTextEnvironment(
         {.scale = KarvelloTextScale::extraLarge, .dynamicTypeSize = DynamicTypeSize::accessibility2});

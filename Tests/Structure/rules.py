@@ -30,6 +30,7 @@ _BELOW_SCREENS = ("KarvelloUI/Dashboard", "KarvelloUI/Controls", "KarvelloUI/Des
                   "KarvelloUI/Stores", "KarvelloUI/Advisors", "KarvelloUI/Copy", "CleanerCore", "Platform")
 FOLDERS["KarvelloUI/Dashboard"] = tuple(name for name in _BELOW_SCREENS if name != "KarvelloUI/Controls")
 FOLDERS["KarvelloUI/Screens"] = ("KarvelloUI/Screens", "KarvelloUI/MenuBar") + _BELOW_SCREENS
+FOLDERS["KarvelloUI/Shell"] = ("KarvelloUI/Shell", "KarvelloUI/Screens") + _BELOW_SCREENS
 WITHOUT_QT = ("Platform/", "CleanerCore/", "KarvelloCLI/", "KarvelloUI/Copy/", "KarvelloUI/Advisors/",
               "KarvelloUI/Design/")
 MAY_CHANGE_FILES = ("Platform/Files/", "Platform/Linux/", "Platform/macOS/")

@@ -1,0 +1,74 @@
+#include "KarvelloMac/DashboardWindow.h"
+
+#include "KarvelloUI/Stores/KarvelloWindowID.h"
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QScreen>
+#include <QVariant>
+
+namespace KarvelloMac {
+
+namespace {
+
+QString identifier()
+{
+    return QString::fromUtf8(KarvelloUI::KarvelloWindowID::dashboard.data(),
+        static_cast<qsizetype>(KarvelloUI::KarvelloWindowID::dashboard.size()));
+}
+
+} // namespace
+
+DashboardWindow::DashboardWindow(QQmlEngine& engine, KarvelloUI::MacCleanerDashboardModel& dashboard, const QIcon& icon)
+    : m_screens(dashboard)
+{
+    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qt/qml/Karvello/Shell/DashboardWindow.qml")));
+    auto* const object =
+        component.createWithInitialProperties({{QStringLiteral("screens"), QVariant::fromValue(&m_screens)}});
+    m_window.reset(qobject_cast<QQuickWindow*>(object));
+    if (!m_window) {
+        delete object;
+        qCritical("%s", qUtf8Printable(component.errorString()));
+        return;
+    }
+    m_window->setTitle(QStringLiteral("Karvello"));
+    m_window->setObjectName(identifier());
+    m_window->setIcon(icon);
+    m_window->resize(kSize);
+    m_window->setMinimumSize(kMinimumSize);
+    if (const auto* const screen = m_window->screen()) {
+        QRect place(QPoint(), kSize);
+        place.moveCenter(screen->availableGeometry().center());
+        m_window->setPosition(place.topLeft());
+    }
+    QObject::connect(
+        m_window.get(), &QWindow::visibilityChanged, &dashboard, [&dashboard](QWindow::Visibility visibility) {
+            dashboard.setWindowVisible(visibility != QWindow::Hidden && visibility != QWindow::Minimized);
+        });
+}
+
+QWindow* DashboardWindow::primary(const QList<QWindow*>& windows)
+{
+    for (QWindow* const window : windows) {
+        const bool isPanel = window->type() != Qt::Window;
+        const bool canBecomeKey = !window->flags().testFlag(Qt::WindowDoesNotAcceptFocus);
+        if (window->objectName() == identifier() && canBecomeKey && !isPanel) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+void DashboardWindow::bringForward(QWindow& window)
+{
+    if (window.windowStates().testFlag(Qt::WindowMinimized)) {
+        window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
+    }
+    window.show();
+    window.raise();
+    window.requestActivate();
+}
+
+} // namespace KarvelloMac

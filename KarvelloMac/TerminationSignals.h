@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QSocketNotifier>
+#include <functional>
+#include <memory>
+
+namespace KarvelloMac {
+
+/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread, so that work that has begun comes to a true end. One at
+/// a time; make it before any other thread, which would take the signals otherwise.
+class TerminationSignals {
+public:
+    /// Blocks the signals for all threads to come.
+    TerminationSignals();
+    TerminationSignals(const TerminationSignals&) = delete;
+    TerminationSignals& operator=(const TerminationSignals&) = delete;
+    ~TerminationSignals();
+
+    /// From now on, `requested` is called for each. Needs the application object.
+    void watch(std::function<void()> requested);
+
+private:
+    int m_descriptor = -1;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace KarvelloMac

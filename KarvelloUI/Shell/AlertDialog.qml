@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Karvello.Design
+import Karvello.Shell
+
+// A failure, with one button that dismisses it.
+T.Dialog {
+    id: control
+
+    required property WindowMessagesModel messages
+    // Gets the focus back.
+    property Item opener
+
+    parent: T.Overlay.overlay
+    x: parent ? Math.round((parent.width - width) / 2) : 0
+    y: parent ? Math.round((parent.height - height) / 2) : 0
+    width: Math.min(520, parent ? parent.width - 2 * KarvelloDesign.spacing32 : 520)
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    padding: KarvelloDesign.spacing24
+    modal: true
+    focus: true
+    visible: messages.hasAlert
+    closePolicy: T.Popup.CloseOnEscape
+    onAboutToShow: {
+        opener = parent.Window.activeFocusItem
+        // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
+        contentItem.parent.Accessible.name = messages.alertTitle
+        contentItem.parent.Accessible.description = messages.alertText
+    }
+    onOpened: okButton.forceActiveFocus(Qt.TabFocusReason)
+    onClosed: {
+        messages.dismissAlert()
+        if (opener)
+            opener.forceActiveFocus(Qt.PopupFocusReason)
+        opener = null
+    }
+    T.Overlay.modal: Rectangle { color: KarvelloDesign.scrim }
+
+    contentItem: ColumnLayout {
+        spacing: KarvelloDesign.spacing12
+
+        RowLayout {
+            spacing: KarvelloDesign.spacing16
+            IconTile {
+                Layout.alignment: Qt.AlignTop
+                size: 40
+                iconSize: 20
+                name: "warning"
+            }
+            ColumnLayout {
+                spacing: KarvelloDesign.spacing4
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: control.messages.alertTitle
+                    textStyle: KarvelloDesign.dialogTitle
+                    color: KarvelloDesign.ink
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.Heading
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: control.messages.alertText
+                    wrapMode: Text.Wrap
+                }
+            }
+        }
+        KarvelloButton {
+            id: okButton
+            Layout.alignment: Qt.AlignRight
+            text: control.messages.okText
+            onClicked: control.close()
+        }
+    }
+    background: Rectangle {
+        radius: KarvelloDesign.cardRadius
+        color: KarvelloDesign.elevated1
+        border.color: KarvelloDesign.lineStrong
+    }
+}

@@ -1,0 +1,66 @@
+#include "KarvelloUI/Shell/WindowMessagesModel.h"
+
+namespace KarvelloUI {
+
+WindowMessagesModel::WindowMessagesModel(MacCleanerDashboardModel& dashboard, QObject* parent)
+    : QObject(parent)
+    , m_dashboard(dashboard)
+{
+    connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &WindowMessagesModel::accessChanged);
+    connect(&dashboard.homeAccess(), &HomeAccessBookmarkStore::lastErrorMessageChanged, this,
+        &WindowMessagesModel::accessChanged);
+    connect(&dashboard, &MacCleanerDashboardModel::alertChanged, this, &WindowMessagesModel::alertChanged);
+    connect(&dashboard, &MacCleanerDashboardModel::noticeChanged, this, &WindowMessagesModel::noticeChanged);
+    connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {
+        Q_EMIT accessChanged();
+        Q_EMIT wordsChanged();
+    });
+}
+
+QString WindowMessagesModel::accessTitle() const
+{
+    return shown(m_dashboard.words().homeAccessOnboardingTitle());
+}
+
+QString WindowMessagesModel::accessText() const
+{
+    const auto& failure = m_dashboard.homeAccess().lastErrorMessage();
+    return shown(failure.value_or(m_dashboard.words().homeAccessOnboardingMessage()));
+}
+
+QString WindowMessagesModel::accessActionText() const
+{
+    return shown(m_dashboard.words().homeAccessGrantButton());
+}
+
+QString WindowMessagesModel::alertTitle() const
+{
+    return hasAlert() ? m_dashboard.alert()->title : QString();
+}
+
+QString WindowMessagesModel::alertText() const
+{
+    return hasAlert() ? m_dashboard.alert()->message : QString();
+}
+
+QString WindowMessagesModel::okText() const
+{
+    return shown(m_dashboard.words().okButtonTitle());
+}
+
+QString WindowMessagesModel::noticeTitle() const
+{
+    return hasNotice() ? m_dashboard.notice()->title : QString();
+}
+
+QString WindowMessagesModel::noticeText() const
+{
+    return hasNotice() ? m_dashboard.notice()->message : QString();
+}
+
+QString WindowMessagesModel::closeText() const
+{
+    return shown(m_dashboard.words().say("Close"));
+}
+
+} // namespace KarvelloUI

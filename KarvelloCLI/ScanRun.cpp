@@ -58,11 +58,7 @@ void addRunningOwners(ScanReport& report, const FileURL& home, const Platform::F
     if (!applications) {
         return;
     }
-    std::vector<CleanerCore::AppCacheRunningApplicationIdentity> identities;
-    identities.reserve(applications->size());
-    for (const auto& application : *applications) {
-        identities.push_back(CleanerCore::AppCacheRunningApplicationIdentity::of(application));
-    }
+    const auto identities = CleanerCore::AppCacheRunningApplicationIdentity::of(*applications);
     report.candidates = CleanerCore::AppCacheContextEnricher::enrich(std::move(report.candidates), identities);
 }
 

@@ -78,12 +78,10 @@ KarvelloUI::MacCleanerDashboardDependencies ApplicationServices::makeDependencie
 {
     KarvelloUI::MacCleanerDashboardDependencies::Providers providers;
     providers.runningApplications = [this] {
-        std::vector<AppCacheRunningApplicationIdentity> identities;
         // Without the list no cache is known to be in use, and each keeps saying that it is not known.
-        for (const auto& application : m_runningApplications.applications().value_or({})) {
-            identities.push_back(AppCacheRunningApplicationIdentity::of(application));
-        }
-        return identities;
+        const auto applications = m_runningApplications.applications();
+        return applications ? AppCacheRunningApplicationIdentity::of(*applications)
+                            : std::vector<AppCacheRunningApplicationIdentity>();
     };
     providers.resourceRelief = KarvelloUI::ResourceReliefProviders::of(m_reliefRuntime);
     providers.requester = {.currentProcessIdentifier = ::getpid(), .currentBundleIdentifier = kApplicationIdentifier};

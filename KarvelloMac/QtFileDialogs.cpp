@@ -1,5 +1,6 @@
 #include "KarvelloMac/QtFileDialogs.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QMetaObject>
 #include <utility>
@@ -45,7 +46,7 @@ void QtFileDialogs::open(QFileDialog* dialog, Platform::DirectoryHint hint, Answ
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (m_open) {
         delete dialog;
-        QMetaObject::invokeMethod(qApp, [answer = std::move(answer)] { answer(std::nullopt); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(QCoreApplication::instance(), [answer = std::move(answer)] { answer(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
     m_open = dialog;

@@ -27,4 +27,15 @@ AppCacheRunningApplicationIdentity AppCacheRunningApplicationIdentity::of(
     });
 }
 
+std::vector<AppCacheRunningApplicationIdentity> AppCacheRunningApplicationIdentity::of(
+    std::span<const Platform::RunningApplication> applications)
+{
+    std::vector<AppCacheRunningApplicationIdentity> identities;
+    identities.reserve(applications.size());
+    for (const auto& application : applications) {
+        identities.push_back(of(application));
+    }
+    return identities;
+}
+
 } // namespace CleanerCore

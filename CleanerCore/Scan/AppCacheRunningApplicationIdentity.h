@@ -4,7 +4,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace CleanerCore {
 
@@ -23,6 +25,8 @@ struct AppCacheRunningApplicationIdentity {
     AppCacheRunningApplicationIdentity() = default;
     explicit AppCacheRunningApplicationIdentity(const Fields& fields);
     static AppCacheRunningApplicationIdentity of(const Platform::RunningApplication& application);
+    static std::vector<AppCacheRunningApplicationIdentity> of(
+        std::span<const Platform::RunningApplication> applications);
 
     std::optional<std::string> displayName;
     std::optional<std::string> bundleIdentifier;

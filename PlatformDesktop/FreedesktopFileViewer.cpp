@@ -64,9 +64,12 @@ void FreedesktopFileViewer::askPortal(Request request)
         startProgram(request);
         return;
     }
+    // The former opens the folder that it is handed; the latter shows what it is handed in the folder around it.
+    const auto method =
+        request.kind == ShownItemKind::folder ? QStringLiteral("OpenFile") : QStringLiteral("OpenDirectory");
     PortalRequest::send(m_context, *m_bus,
         {.interface = QStringLiteral("org.freedesktop.portal.OpenURI"),
-            .method = QStringLiteral("OpenDirectory"),
+            .method = method,
             .arguments = {QString(), QVariant::fromValue(QDBusUnixFileDescriptor(item.get()))},
             .options = {}},
         m_settings.patience, [this, request = std::move(request)](PortalRequest::Outcome outcome, const QVariantMap&) {

@@ -67,7 +67,6 @@ protected:
         EXPECT_EQ(given.st_dev, there.st_dev);
     }
 
-    /// The library takes no NUL, and the file system no slash.
     TestSupport::TemporaryTree m_tree{"bin/\nfolder/\n"};
     const std::string m_program = m_tree.path("bin/xdg-open");
     const FileURL m_folder = m_tree.url("folder/");
@@ -139,7 +138,7 @@ TEST_F(FreedesktopFileViewerTest, WithoutAManagerThePortalIsHandedTheFolder)
 {
     const FakePortal portal;
     EXPECT_TRUE(isTakenByPortal(portal, 0, m_folder, false));
-    ASSERT_THAT(portal.methods(), ElementsAre("OpenDirectory"));
+    ASSERT_THAT(portal.methods(), ElementsAre("OpenFile"));
     const auto& call = portal.calls().front();
     EXPECT_EQ(call.interface(), QLatin1String("org.freedesktop.portal.OpenURI"));
     EXPECT_EQ(call.signature(), QLatin1String("sha{sv}"));
@@ -178,7 +177,7 @@ TEST_F(FreedesktopFileViewerTest, APortalThatDoesNotBeginIsGivenUpAndTold)
     const FakePortal portal(saysNothing);
     EXPECT_FALSE(open(m_folder));
     EXPECT_TRUE(m_loop.runUntil([&portal] { return portal.calls().size() == 2; }));
-    EXPECT_THAT(portal.methods(), ElementsAre("OpenDirectory", "Close"));
+    EXPECT_THAT(portal.methods(), ElementsAre("OpenFile", "Close"));
     EXPECT_FALSE(wasStarted(m_program));
 }
 

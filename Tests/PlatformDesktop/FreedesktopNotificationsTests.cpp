@@ -4,8 +4,8 @@
 #include "Tests/DesktopSupport/OwnedProgram.h"
 #include "Tests/DesktopSupport/PrivateBus.h"
 #include "Tests/DesktopSupport/PrivateDisplay.h"
+#include "Tests/Support/EventLoop.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 #include <array>
 #include <gmock/gmock.h>
@@ -93,16 +93,11 @@ protected:
         return printed;
     }
 
+    /// Qt wants to know a program before it talks to a bus.
+    TestSupport::EventLoop m_loop;
     const PrivateBus& m_bus = PrivateBus::ofThisProcess();
     FreedesktopNotifications m_center{
         {.hasSessionBus = true, .applicationName = "Karvello", .desktopEntry = "karvello", .patience = 2s}};
-
-private:
-    // Qt wants to know a program before it talks to a bus.
-    std::string m_programName = "tests";
-    std::array<char*, 2> m_words{m_programName.data(), nullptr};
-    int m_wordCount = 1;
-    QCoreApplication m_program{m_wordCount, m_words.data()};
 };
 
 TEST_F(FreedesktopNotificationsTest, WithoutAServiceNothingIsAuthorized)

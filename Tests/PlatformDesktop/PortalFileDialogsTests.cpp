@@ -135,6 +135,21 @@ TEST_F(PortalFileDialogsTest, ADestinationIsChosen)
     EXPECT_THAT(m_answers, ElementsAre(Picked(FileURL("/home/a/other.json"))));
 }
 
+TEST_F(PortalFileDialogsTest, AnyTextReachesThePortalAsText)
+{
+    const FakePortal portal;
+    const auto dialogs = this->dialogs();
+    using namespace std::string_literals;
+    dialogs->chooseDestination(
+        {.message = "a\xFF\n\xED\xA0\x80"s, .suggestedName = "b\0c\xC3"s, .directory = FileURL::folder("/\xFF\n%")},
+        noting(m_answers));
+    ASSERT_TRUE(waitForCalls(portal, 1));
+    EXPECT_TRUE(portal.calls().front().arguments().at(1).toString().startsWith(QStringLiteral("a\uFFFD\n")));
+    const auto options = FakePortal::optionsOf(portal.calls().front());
+    EXPECT_TRUE(options.value(QStringLiteral("current_name")).toString().startsWith(QLatin1Char('b')));
+    EXPECT_EQ(options.value(QStringLiteral("current_folder")), QVariant(QByteArray("/\xFF\n%\0", 5)));
+}
+
 TEST_F(PortalFileDialogsTest, APortalThatRespondsBeforeItAnswersIsHeard)
 {
     const auto dialogs = this->dialogs();

@@ -207,15 +207,13 @@ QString InsightScreenModel::bannerText() const
     if (banner() == NoBanner || !isDone()) {
         return {};
     }
-    return shown(
-        words().lastCleanSubtitle(*insights().lastCleanResult(), CleanerCore::CleaningMode::moveToTrash));
+    return shown(words().lastCleanSubtitle(*insights().lastCleanResult(), CleanerCore::CleaningMode::moveToTrash));
 }
 
 QString InsightScreenModel::bannerActionText() const
 {
-    return banner() != NoBanner && isDone()
-        ? shown(words().text("검토와 근거 열기", "Open Review & Evidence"))
-        : QString();
+    return banner() != NoBanner && isDone() ? shown(words().text("검토와 근거 열기", "Open Review & Evidence"))
+                                            : QString();
 }
 
 QString InsightScreenModel::bannerCloseName() const

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Karvello.Design
 import Karvello.Screens.Duplicates
 
@@ -36,7 +37,10 @@ FocusScope {
         if (number < 0 || number >= rowCount)
             return false
         currentRow = number
-        row(number).forceActiveFocus(Qt.TabFocusReason)
+        const reached = row(number) as T.Control
+        reached.forceActiveFocus(Qt.TabFocusReason)
+        // It may have got the focus with its number already.
+        reached.focusReason = Qt.TabFocusReason
         return true
     }
 
@@ -64,7 +68,7 @@ FocusScope {
             objectName: "head"
             Layout.fillWidth: true
             focus: card.currentRow === 0
-            focusPolicy: card.isCurrent && card.currentRow === 0 ? Qt.StrongFocus : Qt.ClickFocus
+            focusPolicy: activeFocus || (card.isCurrent && card.currentRow === 0) ? Qt.StrongFocus : Qt.ClickFocus
             title: card.title
             stateText: card.stateText
             bytesText: card.bytesText
@@ -95,7 +99,7 @@ FocusScope {
 
                 Layout.fillWidth: true
                 focus: card.currentRow === index + 1
-                focusPolicy: card.isCurrent && card.currentRow === index + 1 ? Qt.StrongFocus : Qt.ClickFocus
+                focusPolicy: activeFocus || (card.isCurrent && card.currentRow === index + 1) ? Qt.StrongFocus : Qt.ClickFocus
                 name: modelData.name
                 path: modelData.path
                 kindText: modelData.kind

@@ -15,6 +15,7 @@ InsightPage {
     insights: screen
 
     footer: InsightFooter {
+        objectName: "footer"
         Layout.fillWidth: true
         hasKeys: page.visible
         sideMargin: page.sideMargin

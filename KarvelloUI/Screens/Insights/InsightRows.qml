@@ -18,7 +18,12 @@ ListView {
         if (currentIndex !== reached)
             currentIndex = reached
         positionViewAtIndex(currentIndex, ListView.Contain)
-        currentItem?.forceActiveFocus(Qt.TabFocusReason)
+        const item = currentItem as T.Control
+        if (item === null)
+            return
+        item.forceActiveFocus(Qt.TabFocusReason)
+        // The list has given it the focus by itself already.
+        item.focusReason = Qt.TabFocusReason
     }
 
     clip: true

@@ -15,6 +15,7 @@ InsightScreenModel::InsightScreenModel(
     : QObject(parent)
     , m_dashboard(dashboard)
     , m_section(section)
+    , m_exports(dashboard, ExportMenuModel::Source::insightScan)
 {
     const auto tell = [this] { Q_EMIT stateChanged(); };
     const auto tellAnew = [this] {

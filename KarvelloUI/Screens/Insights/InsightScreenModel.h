@@ -1,6 +1,7 @@
 #pragma once
 
 #include "KarvelloUI/Dashboard/MacCleanerDashboardModel.h"
+#include "KarvelloUI/Screens/Exports/ExportMenuModel.h"
 
 #include <QObject>
 #include <QString>
@@ -43,6 +44,7 @@ class InsightScreenModel : public QObject {
     Q_PROPERTY(QString bannerCloseName READ bannerCloseName NOTIFY stateChanged FINAL)
     /// What to know about the results; nothing where there are none.
     Q_PROPERTY(QString noticeText READ noticeText NOTIFY stateChanged FINAL)
+    Q_PROPERTY(KarvelloUI::ExportMenuModel* exports READ exports CONSTANT FINAL)
 
 public:
     // QML reads only enumerators with a capital letter.
@@ -86,6 +88,7 @@ public:
     [[nodiscard]] QString bannerActionText() const;
     [[nodiscard]] QString bannerCloseName() const;
     [[nodiscard]] QString noticeText() const;
+    [[nodiscard]] ExportMenuModel* exports() { return &m_exports; }
 
     /// Nothing happens where no scan can start.
     Q_INVOKABLE void scan();
@@ -121,6 +124,7 @@ private:
 
     MacCleanerDashboardModel& m_dashboard;
     MacDashboardSection m_section;
+    ExportMenuModel m_exports;
     bool m_isCancelling = false;
     bool m_isBannerClosed = false;
 };

@@ -20,7 +20,7 @@ T.AbstractButton {
     horizontalPadding: KarvelloDesign.spacing16
     verticalPadding: KarvelloDesign.spacing4
     hoverEnabled: true
-    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.role: Accessible.ListItem
     Accessible.name: spokenName

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/StorageMap/StorageMapScreenModel.h"
 
+#include "KarvelloUI/Controls/DesignPalette.h"
 #include "KarvelloUI/Copy/PercentText.h"
 #include "KarvelloUI/Design/StorageTreemapLayout.h"
 #include "KarvelloUI/Design/StorageTreemapTint.h"
@@ -15,11 +16,6 @@ namespace {
 
 /// The least shares of the colours; what is smaller has the colour of the last one.
 constexpr std::array kLegendShares{0.75, 0.45, 0.2, 0.06};
-
-QColor qtColorOf(const Color& color)
-{
-    return QColor(color.red, color.green, color.blue);
-}
 
 } // namespace
 
@@ -83,7 +79,7 @@ StorageMapArea StorageMapScreenModel::areaOf(int id, const DashboardWords& copy)
             .toString(static_cast<qlonglong>(item.itemCount)),
         .partialText = item.isTruncated ? shown(copy.text("일부", "partial")) : QString(),
         .shareText = shown(copy.say("{} of the largest area", percentText(share))),
-        .tint = qtColorOf(tint(item, m_maximumBytes, palette()))};
+        .tint = qtColor(tint(item, m_maximumBytes, palette()))};
     const auto cell =
         std::ranges::find(m_layout, item.id, [](const StorageTreemapCell& candidate) { return candidate.item.id; });
     if (cell != m_layout.end()) {
@@ -100,7 +96,7 @@ QVariantList StorageMapScreenModel::legend() const
     QVariantList entries;
     for (const double share : kLegendShares) {
         entries.append(QVariant::fromValue(StorageMapLegendEntry{
-            .tint = qtColorOf(tintOfShare(share, palette())), .text = shown(percentText(share) + "+")}));
+            .tint = qtColor(tintOfShare(share, palette())), .text = shown(percentText(share) + "+")}));
     }
     return entries;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KarvelloUI/Design/Palette.h"
 #include "KarvelloUI/Design/StorageTreemapCell.h"
 #include "KarvelloUI/Screens/Insights/InsightScreenModel.h"
 #include "KarvelloUI/Screens/StorageMap/StorageMapArea.h"

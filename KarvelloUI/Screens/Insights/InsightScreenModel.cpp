@@ -228,10 +228,11 @@ QString InsightScreenModel::noticeText() const
         return {};
     }
     QStringList lines;
-    if (content() == Results) {
+    const auto& skipped = insights().report().skippedItems;
+    if (content() == Results && (skipped.empty() || !isNoticeOnHeldBackFiles())) {
         lines.append(shown(noticeLine()));
     }
-    if (const auto& skipped = insights().report().skippedItems; !skipped.empty()) {
+    if (!skipped.empty()) {
         lines.append(shown(words().insightSkippedBody(std::ssize(skipped))));
     }
     lines.removeAll(QString());

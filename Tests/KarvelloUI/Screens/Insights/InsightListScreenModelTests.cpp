@@ -198,8 +198,12 @@ TEST_F(InsightListScreenModelTest, TellsWhatIsHeldBack)
     InsightListScreenModel screen(*dashboard, downloads);
     EXPECT_TRUE(screen.noticeText().isEmpty());
     scan();
+    EXPECT_TRUE(screen.noticeText().startsWith(QStringLiteral("1 item was held back")));
+    tree.remove("home/Downloads/new.bin");
+    scan();
     EXPECT_TRUE(screen.noticeText().contains(QStringLiteral("recent downloads are held back")));
-    EXPECT_TRUE(screen.noticeText().contains(QStringLiteral("1 item was held back")));
+    InsightListScreenModel review(*dashboard, security);
+    EXPECT_TRUE(review.noticeText().contains(QStringLiteral("does not claim malware detection")));
 }
 
 TEST_F(InsightListScreenModelTest, SaysWhyThereIsNothingToShow)

@@ -33,7 +33,7 @@ MacCleanerDashboardDependencies MacCleanerDashboardDependencies::make(
     made.insightsViewModel = std::make_unique<MacInsightsViewModel>(services,
         MacInsightsViewModel::Setup{
             .homeDirectory = std::move(providers.homeDirectory),
-            .scannerConfiguration = insightConfiguration(),
+            .scannerConfiguration = providers.insightConfiguration,
             .systemSnapshotProvider = std::move(providers.systemSnapshot),
             .metricHistoryTime = std::move(providers.metricHistoryTime),
         },

@@ -26,6 +26,8 @@ struct MacCleanerDashboardDependencies {
         HomeAccessBookmarkStore::CurrentHomeProvider currentHome = CleanerCore::cleanerCoreRealUserHomeDirectory;
         SystemMetricHistoryPersistenceScheduler::Time metricHistoryTime =
             SystemMetricHistoryPersistenceScheduler::Time::ofMachine();
+        CleanerCore::InsightConfiguration insightConfiguration =
+            MacCleanerDashboardDependencies::insightConfiguration();
     };
 
     std::unique_ptr<CleanupIgnoreStore> ignoreStore;

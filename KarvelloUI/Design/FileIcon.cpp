@@ -16,8 +16,10 @@ struct Icon {
 
 constexpr std::array kIcons{
     Icon{.name = "film", .extensions = " avi m4v mkv mov mp4 mpeg mpg mts ogv webm wmv "},
-    Icon{.name = "image", .extensions = " arw avif bmp cr2 dng gif heic jpeg jpg nef png psd raw svg tif tiff webp xcf "},
-    Icon{.name = "archive", .extensions = " 7z bz2 cpio dmg gz img iso qcow2 rar squashfs tar tgz vdi vmdk xz zip zst "},
+    Icon{.name = "image",
+        .extensions = " arw avif bmp cr2 dng gif heic jpeg jpg nef png psd raw svg tif tiff webp xcf "},
+    Icon{
+        .name = "archive", .extensions = " 7z bz2 cpio dmg gz img iso qcow2 rar squashfs tar tgz vdi vmdk xz zip zst "},
     Icon{.name = "installer", .extensions = " appimage deb flatpak msi pkg rpm run snap "},
     Icon{.name = "terminal", .extensions = " bash command fish sh zsh "},
     Icon{.name = "code", .extensions = " c cpp go h hpp java js json py rb rs swift ts xml "},

@@ -55,10 +55,11 @@ int DuplicateGroupListModel::rowCount(const QModelIndex& parent) const
 
 QVariant DuplicateGroupListModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+    const auto* const found = group(index.row());
+    if (found == nullptr) {
         return {};
     }
-    const auto& group = m_session.duplicateReviewGroups()[static_cast<std::size_t>(index.row())];
+    const auto& group = *found;
     switch (role) {
     case idRole:
         return shownText(group.id());
@@ -91,6 +92,18 @@ QHash<int, QByteArray> DuplicateGroupListModel::roleNames() const
         {selectionStateRole, "selectionState"}, {filesRole, "files"}};
 }
 
+const DuplicateReviewGroupPresentation* DuplicateGroupListModel::group(int row) const
+{
+    // Between a new report and its rows, the session may have fewer groups.
+    const auto& groups = m_session.duplicateReviewGroups();
+    return row < 0 || row >= std::ssize(groups) ? nullptr : &groups[static_cast<std::size_t>(row)];
+}
+
+QList<int> DuplicateGroupListModel::selectionRoles() const
+{
+    return {selectedExtraBytesRole, selectionStateRole, filesRole};
+}
+
 void DuplicateGroupListModel::showReport()
 {
     beginResetModel();
@@ -103,7 +116,7 @@ void DuplicateGroupListModel::announce(const std::vector<std::size_t>& positions
 {
     for (const auto position : positions) {
         const auto row = index(static_cast<int>(position));
-        Q_EMIT dataChanged(row, row, {selectedExtraBytesRole, selectionStateRole, filesRole});
+        Q_EMIT dataChanged(row, row, selectionRoles());
     }
 }
 

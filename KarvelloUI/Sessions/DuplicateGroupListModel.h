@@ -10,7 +10,7 @@ namespace KarvelloUI {
 
 /// The groups of duplicates of a session as rows of a view, in the order of the report. A click announces the rows of the
 /// groups that it changed, and no others; a new report resets the model.
-class DuplicateGroupListModel final : public QAbstractListModel {
+class DuplicateGroupListModel : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged FINAL)
 
@@ -27,6 +27,8 @@ public:
         /// A list of objects in the order of the group, the keeper first: id, name, path, sizeBytes, isKeeper,
         /// isSelectable, isSelected. Names and paths are shown texts.
         filesRole,
+        /// Where a screen's own roles begin.
+        firstOtherRole,
     };
 
     /// `session` outlives the model.
@@ -39,6 +41,13 @@ public:
 
 Q_SIGNALS:
     void countChanged();
+
+protected:
+    /// Nothing outside of the rows.
+    [[nodiscard]] const DuplicateReviewGroupPresentation* group(int row) const;
+    [[nodiscard]] const MacInsightsViewModel& session() const { return m_session; }
+    /// What a click in a group changes.
+    [[nodiscard]] virtual QList<int> selectionRoles() const;
 
 private:
     void showReport();

@@ -14,6 +14,7 @@ InsightPage {
     insights: screen
 
     footer: InsightFooter {
+        objectName: "footer"
         Layout.fillWidth: true
         visible: page.screen.hasFooter
         hasKeys: page.visible && page.screen.hasFooter

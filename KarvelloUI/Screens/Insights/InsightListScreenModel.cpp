@@ -84,8 +84,8 @@ std::string InsightListScreenModel::resultsLine() const
     for (const auto& row : m_rows.rows()) {
         bytes += row.file.sizeBytes;
     }
-    return DashboardWords::joinedParts({copy.cleanupPreviewItemCount(std::ssize(m_rows.rows())), copy.byteSize(bytes),
-        copy.insightDetail(files())});
+    return DashboardWords::joinedParts(
+        {copy.cleanupPreviewItemCount(std::ssize(m_rows.rows())), copy.byteSize(bytes), copy.insightDetail(files())});
 }
 
 std::string InsightListScreenModel::noticeLine() const

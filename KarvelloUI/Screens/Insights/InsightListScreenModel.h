@@ -30,6 +30,7 @@ public:
 protected:
     [[nodiscard]] std::string resultsLine() const override;
     [[nodiscard]] std::string noticeLine() const override;
+    [[nodiscard]] bool isNoticeOnHeldBackFiles() const override { return hasFooter(); }
 
 private:
     void showFiles();

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Exports
 import Karvello.Screens.Insights
 
 // The page of a screen over the insights session. Its content shows only while there are results; before and between them
@@ -10,8 +11,6 @@ KarvelloPage {
 
     required property InsightScreenModel insights
     default property alias results: resultsSlot.data
-    // Beside the scan button.
-    property alias headActions: extraActions.data
 
     readonly property bool hasResults: insights.content === InsightScreenModel.Results
     readonly property bool isWorking: insights.content === InsightScreenModel.Scanning || insights.isCleaning
@@ -31,10 +30,10 @@ KarvelloPage {
             disabledReason: page.insights.scanDisabledReason
             onClicked: page.insights.scan()
         },
-        RowLayout {
-            id: extraActions
+        ExportMenu {
+            objectName: "export"
             visible: page.hasResults
-            spacing: KarvelloDesign.spacing8
+            exportModel: page.insights.exports
         }
     ]
 
@@ -45,7 +44,7 @@ KarvelloPage {
     }
     Shortcut {
         enabled: page.visible && page.isWorking
-        sequence: "Escape"
+        sequence: "Esc"
         onActivated: strip.focusCancel()
     }
 

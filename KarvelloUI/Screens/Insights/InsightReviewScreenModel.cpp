@@ -2,8 +2,8 @@
 
 namespace KarvelloUI {
 
-InsightReviewScreenModel::InsightReviewScreenModel(MacCleanerDashboardModel& dashboard, MacDashboardSection section,
-    MacInsightFileSection files, QObject* parent)
+InsightReviewScreenModel::InsightReviewScreenModel(
+    MacCleanerDashboardModel& dashboard, MacDashboardSection section, MacInsightFileSection files, QObject* parent)
     : InsightScreenModel(dashboard, section, parent)
     , m_files(files)
 {
@@ -36,9 +36,8 @@ void InsightReviewScreenModel::countSelection()
 QString InsightReviewScreenModel::selectionTitle() const
 {
     const auto copy = words();
-    return shown(m_figures.selected == 0
-            ? copy.bulkSelectionAccessibilityValue(0, m_figures.selectable)
-            : copy.selectedSummary(m_figures.selected, m_figures.selectedBytes, 0));
+    return shown(m_figures.selected == 0 ? copy.bulkSelectionAccessibilityValue(0, m_figures.selectable)
+                                         : copy.selectedSummary(m_figures.selected, m_figures.selectedBytes, 0));
 }
 
 QString InsightReviewScreenModel::selectionText() const

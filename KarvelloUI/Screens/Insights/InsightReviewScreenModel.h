@@ -60,8 +60,8 @@ Q_SIGNALS:
     void selectionChanged();
 
 protected:
-    InsightReviewScreenModel(MacCleanerDashboardModel& dashboard, MacDashboardSection section,
-        MacInsightFileSection files, QObject* parent);
+    InsightReviewScreenModel(
+        MacCleanerDashboardModel& dashboard, MacDashboardSection section, MacInsightFileSection files, QObject* parent);
 
     [[nodiscard]] MacInsightFileSection files() const { return m_files; }
     [[nodiscard]] std::string purposeLine() const override;

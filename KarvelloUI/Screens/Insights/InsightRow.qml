@@ -13,8 +13,14 @@ KarvelloListRow {
     required property string spokenName
     required property string fullPath
     required property string explanation
-    required isSelectable
+    required path
+    required age
+    required size
+    required reason
+    required pillText
     required iconName
+    required isOpen
+    required isSelectable
     required property bool isSelected
     required property bool isCurrent
 
@@ -25,7 +31,7 @@ KarvelloListRow {
     menuName: screen.moreName
     disabledReason: hasCheckBox && !isSelectable ? screen.notSelectableText : ""
     // The list is one stop; arrows go on from there.
-    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     onToggleRequested: screen.toggle(key)
     onOpenRequested: isOpen => screen.setOpen(key, isOpen)
 

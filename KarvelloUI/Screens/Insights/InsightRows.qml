@@ -8,10 +8,22 @@ ListView {
 
     property string accessibleName
 
+    // The keyboard went to another row.
+    signal moved(int row)
+
     function moveTo(row: int) {
-        currentIndex = Math.max(0, Math.min(row, count - 1))
+        const reached = Math.max(0, Math.min(row, count - 1))
+        moved(reached)
+        // Who follows `moved` may have set it, and keeps its binding.
+        if (currentIndex !== reached)
+            currentIndex = reached
         positionViewAtIndex(currentIndex, ListView.Contain)
-        currentItem?.forceActiveFocus(Qt.TabFocusReason)
+        const item = currentItem as T.Control
+        if (item === null)
+            return
+        item.forceActiveFocus(Qt.TabFocusReason)
+        // The list has given it the focus by itself already.
+        item.focusReason = Qt.TabFocusReason
     }
 
     clip: true

@@ -15,6 +15,7 @@ InsightScreenModel::InsightScreenModel(
     : QObject(parent)
     , m_dashboard(dashboard)
     , m_section(section)
+    , m_exports(dashboard, ExportMenuModel::Source::insightScan)
 {
     const auto tell = [this] { Q_EMIT stateChanged(); };
     const auto tellAnew = [this] {
@@ -207,15 +208,13 @@ QString InsightScreenModel::bannerText() const
     if (banner() == NoBanner || !isDone()) {
         return {};
     }
-    return shown(
-        words().lastCleanSubtitle(*insights().lastCleanResult(), CleanerCore::CleaningMode::moveToTrash));
+    return shown(words().lastCleanSubtitle(*insights().lastCleanResult(), CleanerCore::CleaningMode::moveToTrash));
 }
 
 QString InsightScreenModel::bannerActionText() const
 {
-    return banner() != NoBanner && isDone()
-        ? shown(words().text("검토와 근거 열기", "Open Review & Evidence"))
-        : QString();
+    return banner() != NoBanner && isDone() ? shown(words().text("검토와 근거 열기", "Open Review & Evidence"))
+                                            : QString();
 }
 
 QString InsightScreenModel::bannerCloseName() const
@@ -229,10 +228,11 @@ QString InsightScreenModel::noticeText() const
         return {};
     }
     QStringList lines;
-    if (content() == Results) {
+    const auto& skipped = insights().report().skippedItems;
+    if (content() == Results && (skipped.empty() || !isNoticeOnHeldBackFiles())) {
         lines.append(shown(noticeLine()));
     }
-    if (const auto& skipped = insights().report().skippedItems; !skipped.empty()) {
+    if (!skipped.empty()) {
         lines.append(shown(words().insightSkippedBody(std::ssize(skipped))));
     }
     lines.removeAll(QString());

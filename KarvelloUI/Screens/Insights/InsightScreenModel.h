@@ -1,11 +1,11 @@
 #pragma once
 
 #include "KarvelloUI/Dashboard/MacCleanerDashboardModel.h"
+#include "KarvelloUI/Screens/Exports/ExportMenuModel.h"
 
 #include <QObject>
 #include <QString>
 #include <QtQmlIntegration>
-#include <cstdint>
 
 namespace KarvelloUI {
 
@@ -43,11 +43,12 @@ class InsightScreenModel : public QObject {
     Q_PROPERTY(QString bannerCloseName READ bannerCloseName NOTIFY stateChanged FINAL)
     /// What to know about the results; nothing where there are none.
     Q_PROPERTY(QString noticeText READ noticeText NOTIFY stateChanged FINAL)
+    Q_PROPERTY(KarvelloUI::ExportMenuModel* exports READ exports CONSTANT FINAL)
 
 public:
-    // QML reads only enumerators with a capital letter.
-    // NOLINTBEGIN(readability-identifier-naming)
-    enum Content : std::uint8_t {
+    // QML reads only enumerators with a capital letter, and four bytes of a property that has one.
+    // NOLINTBEGIN(readability-identifier-naming,performance-enum-size)
+    enum Content : int {
         /// Nothing was looked for yet.
         Idle,
         /// Nothing may be looked for.
@@ -59,9 +60,9 @@ public:
     };
     Q_ENUM(Content)
     /// The more severe of what there is to tell.
-    enum Banner : std::uint8_t { NoBanner, FailedBanner, DoneBanner };
+    enum Banner : int { NoBanner, FailedBanner, DoneBanner };
     Q_ENUM(Banner)
-    // NOLINTEND(readability-identifier-naming)
+    // NOLINTEND(readability-identifier-naming,performance-enum-size)
 
     [[nodiscard]] Content content() const;
     [[nodiscard]] QString title() const;
@@ -86,6 +87,7 @@ public:
     [[nodiscard]] QString bannerActionText() const;
     [[nodiscard]] QString bannerCloseName() const;
     [[nodiscard]] QString noticeText() const;
+    [[nodiscard]] ExportMenuModel* exports() { return &m_exports; }
 
     /// Nothing happens where no scan can start.
     Q_INVOKABLE void scan();
@@ -113,14 +115,17 @@ protected:
     [[nodiscard]] virtual std::string resultsLine() const = 0;
     [[nodiscard]] virtual std::string purposeLine() const = 0;
     [[nodiscard]] virtual std::string nothingFoundText() const = 0;
-    /// What to know about these results beside what was skipped; nothing if there is nothing.
+    /// What to know about these results; nothing if there is nothing.
     [[nodiscard]] virtual std::string noticeLine() const = 0;
+    /// Whether what was skipped says the same in more words.
+    [[nodiscard]] virtual bool isNoticeOnHeldBackFiles() const { return false; }
 
 private:
     [[nodiscard]] bool isDone() const;
 
     MacCleanerDashboardModel& m_dashboard;
     MacDashboardSection m_section;
+    ExportMenuModel m_exports;
     bool m_isCancelling = false;
     bool m_isBannerClosed = false;
 };

@@ -91,7 +91,7 @@ FocusScope {
             GridLayout {
                 Layout.fillWidth: true
                 Layout.topMargin: KarvelloDesign.spacing16
-                columns: begin.implicitWidth + later.implicitWidth + columnSpacing <= width ? 2 : 1
+                columns: begin.implicitWidth + later.implicitWidth + columnSpacing <= parent.width ? 2 : 1
                 columnSpacing: KarvelloDesign.spacing12
                 rowSpacing: KarvelloDesign.spacing8
 

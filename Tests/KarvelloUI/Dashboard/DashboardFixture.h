@@ -64,6 +64,7 @@ protected:
         providers.resourceRelief.postQuitRefreshDelay = [](const std::stop_token&) {};
         providers.requester = {.currentProcessIdentifier = 1, .currentBundleIdentifier = "test.karvello"};
         providers.homeDirectory = tree.url("home/");
+        providers.insightConfiguration = insightConfiguration;
         providers.currentHome = [this] { return tree.url("home/"); };
         dashboard = std::make_unique<MacCleanerDashboardModel>(
             DashboardServices{
@@ -93,6 +94,7 @@ protected:
 
     std::vector<std::string> preferredLanguages{"en"};
     bool isDirectDistribution = true;
+    CleanerCore::InsightConfiguration insightConfiguration = MacCleanerDashboardDependencies::insightConfiguration();
     DiskCapacitySnapshot disk{.totalBytes = 500'000'000'000, .freeBytes = 200'000'000'000};
     CleanerCore::SystemResourceSnapshot systemSnapshot = CleanerCore::SystemResourceSnapshot();
     int systemSnapshotsTaken = 0;

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+
+#include <QSignalSpy>
+#include <string>
+#include <vector>
+
+namespace InsightScreenTests {
+
+using namespace KarvelloUI;
+using enum MacInsightFileSection;
+
+/// A home with large files (one where nothing may be cleaned, one too new to be judged), downloads, two groups of
+/// duplicates (in one of them an extra that may not be cleaned) and a finding.
+inline constexpr std::string_view kHome = R"(
+    "home/Library/Application Support/"
+        engine.bin size=96K age=90d
+        photo.jpg size=40K age=90d
+    home/Documents/
+        thesis.pdf size=64K age=400d
+        photo.jpg size=40K age=200d
+    home/Downloads/
+        film.mov size=128K age=40d
+        disc.img size=72K age=60d
+        photo.jpg size=40K age=60d
+        setup.sh size=8K age=60d
+        new.bin size=112K age=1h
+    home/Pictures/
+        copy.jpg size=40K age=100d
+    home/Movies/
+        disc.img size=72K age=90d
+    home/Music/
+)";
+
+/// A dashboard over that home, which scans when told to.
+class InsightScreenTest : public DashboardTests::DashboardTest {
+protected:
+    explicit InsightScreenTest(std::string_view layoutOfHome = kHome)
+        : DashboardTest(layoutOfHome)
+    {
+        insightConfiguration = CleanerCore::InsightConfiguration({
+            .minimumLargeFileBytes = 48 << 10,
+            .minimumDuplicateFileBytes = 16 << 10,
+            .minimumReviewFileAge = 86'400,
+            .maximumVisitedItemsPerRoot = 1000,
+            .maximumResultCount = 100,
+            .maximumRecentReviewSkippedItems = 10,
+            .maximumDuplicateHashFiles = 100,
+            .maximumDuplicateFullHashBytesPerFile = 1 << 20,
+            .maximumDuplicateHashBytes = 16 << 20,
+        });
+        restart();
+    }
+
+    void scan()
+    {
+        dashboard->scanInsights();
+        settle();
+    }
+    [[nodiscard]] MacInsightsViewModel& session() { return dashboard->insights(); }
+};
+
+} // namespace InsightScreenTests

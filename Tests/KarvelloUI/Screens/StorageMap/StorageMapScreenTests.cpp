@@ -1,0 +1,163 @@
+#include "KarvelloUI/Screens/StorageMap/StorageMapScreenModel.h"
+
+#include "Tests/KarvelloUI/Screens/Insights/InsightScreenWindow.h"
+
+#include <gmock/gmock.h>
+
+// Written by the build, and named so that the linker keeps the module's types.
+void qml_register_types_Karvello_Screens_StorageMap(); // NOLINT(readability-identifier-naming)
+
+namespace InsightScreenTests {
+
+namespace {
+
+using testing::ElementsAre;
+
+class StorageMapScreenTest : public InsightScreenWindow {
+protected:
+    explicit StorageMapScreenTest(std::string_view layoutOfHome = kHome)
+        : InsightScreenWindow(layoutOfHome)
+    {
+        [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_StorageMap;
+    }
+
+    [[nodiscard]] static std::vector<StorageMapArea> read(const QVariantList& list)
+    {
+        std::vector<StorageMapArea> areas;
+        for (const auto& entry : list) {
+            areas.push_back(entry.value<StorageMapArea>());
+        }
+        return areas;
+    }
+    [[nodiscard]] static std::vector<std::string> names(const QVariantList& list)
+    {
+        std::vector<std::string> found;
+        for (const auto& area : read(list)) {
+            found.push_back(area.name.toStdString());
+        }
+        return found;
+    }
+};
+
+} // namespace
+
+TEST_F(StorageMapScreenTest, HasACellForEachFolderWithASizeAndARowForEach)
+{
+    StorageMapScreenModel screen(*dashboard);
+    EXPECT_EQ(screen.content(), InsightScreenModel::Idle);
+    scan();
+    EXPECT_THAT(names(screen.areas()),
+        ElementsAre("Downloads", "Application Support", "Documents", "Movies", "Pictures", "Music"));
+    EXPECT_THAT(
+        names(screen.cells()), ElementsAre("Downloads", "Application Support", "Documents", "Movies", "Pictures"));
+    EXPECT_EQ(screen.count(), 6);
+    const auto areas = read(screen.areas());
+    EXPECT_EQ(areas[1].path.toStdString(), "~/Library/Application Support");
+    EXPECT_EQ(areas[0].shareText.toStdString(), "100% of the largest area");
+    EXPECT_EQ(areas[0].countText.toStdString(), "5 items");
+    double covered = 0;
+    for (const auto& cell : read(screen.cells())) {
+        covered += cell.width * cell.height;
+    }
+    EXPECT_NEAR(covered, 1, 1e-9);
+    EXPECT_TRUE(screen.tableSummary().endsWith(QStringLiteral("· 6 areas")));
+}
+
+TEST_F(StorageMapScreenTest, HasTheColoursOfTheSchemeOnShow)
+{
+    StorageMapScreenModel screen(*dashboard);
+    scan();
+    const auto& light = KarvelloDesign::lightPalette.review;
+    EXPECT_EQ(read(screen.cells())[0].tint, QColor(light.red, light.green, light.blue));
+    screen.setDark(true);
+    const auto& dark = KarvelloDesign::darkPalette.review;
+    EXPECT_EQ(read(screen.cells())[0].tint, QColor(dark.red, dark.green, dark.blue));
+    EXPECT_EQ(screen.legend().size(), 4);
+    EXPECT_EQ(screen.legend()[0].value<StorageMapLegendEntry>().text.toStdString(), "75%+");
+}
+
+TEST_F(StorageMapScreenTest, MarksWhatWasOnlyCountedInPart)
+{
+    auto limited = insightConfiguration;
+    limited.maximumVisitedItemsPerRoot = 2;
+    insightConfiguration = limited;
+    restart();
+    StorageMapScreenModel screen(*dashboard);
+    scan();
+    const auto areas = read(screen.areas());
+    const auto downloaded = std::ranges::find(areas, QStringLiteral("Downloads"), &StorageMapArea::name);
+    ASSERT_NE(downloaded, areas.end());
+    EXPECT_EQ(downloaded->partialText.toStdString(), "partial");
+    EXPECT_TRUE(screen.noticeText().contains(QStringLiteral("partially scanned")));
+    const auto music = std::ranges::find(areas, QStringLiteral("Music"), &StorageMapArea::name);
+    EXPECT_TRUE(music->partialText.isEmpty());
+}
+
+TEST_F(StorageMapScreenTest, KeepsTheSelectedFolderInTheNextReport)
+{
+    StorageMapScreenModel screen(*dashboard);
+    scan();
+    screen.select(2);
+    EXPECT_EQ(screen.selectedId(), 2);
+    tree.remove("home/Downloads/film.mov");
+    tree.remove("home/Downloads/new.bin");
+    scan();
+    ASSERT_GE(screen.selectedId(), 0);
+    EXPECT_EQ(read(screen.areas())[static_cast<std::size_t>(screen.selectedId())].name.toStdString(), "Documents");
+    screen.select(99);
+    EXPECT_EQ(screen.selectedId(), -1);
+}
+
+TEST_F(StorageMapScreenTest, IsOneSelectionForMapAndTable)
+{
+    auto& screen = show<StorageMapScreenModel>("Karvello.Screens.StorageMap", "StorageMapScreen");
+    scan();
+    m_window->grabWindow();
+    focus("table");
+    key(Qt::Key_Down);
+    EXPECT_EQ(screen.selectedId(), 1);
+    EXPECT_EQ(find("map")->property("selectedIndex").toInt(), 1);
+    focus("map");
+    key(Qt::Key_Home);
+    EXPECT_EQ(screen.selectedId(), 0);
+    EXPECT_EQ(find("table")->property("currentIndex").toInt(), 0);
+    key(Qt::Key_Right);
+    EXPECT_EQ(screen.selectedId(), 1) << "the nearest cell at the right";
+    EXPECT_EQ(find("table")->property("currentIndex").toInt(), 1);
+    key(Qt::Key_Return);
+    EXPECT_THAT(fileViewer.selected, ElementsAre(tree.path("home/Library/Application Support")));
+}
+
+TEST_F(StorageMapScreenTest, MarksInTheTableWhatThePointerIsOverOnTheMap)
+{
+    auto& screen = show<StorageMapScreenModel>("Karvello.Screens.StorageMap", "StorageMapScreen");
+    scan();
+    m_window->grabWindow();
+    QMetaObject::invokeMethod(find("map"), "hovered", Q_ARG(QVariant, 2));
+    bool isMarked = false;
+    for (const auto* const row : find("table")->findChildren<QQuickItem*>()) {
+        isMarked = isMarked || (row->property("isMarked").toBool() && row->property("index").toInt() == 2);
+    }
+    EXPECT_TRUE(isMarked);
+}
+
+TEST_F(StorageMapScreenTest, TellsAssistantsNameSizeCountAndShare)
+{
+    auto& screen = show<StorageMapScreenModel>("Karvello.Screens.StorageMap", "StorageMapScreen");
+    scan();
+    m_window->grabWindow();
+    focus("table");
+    key(Qt::Key_End);
+    EXPECT_EQ(nameOf(m_window->activeFocusItem()), "Music, Zero KB, 0 items, 0% of the largest area, ~/Music");
+}
+
+TEST_F(StorageMapScreenTest, HasRoomForAllTexts)
+{
+    auto& screen = show<StorageMapScreenModel>("Karvello.Screens.StorageMap", "StorageMapScreen");
+    lookAtAllFaces("map-idle");
+    scan();
+    screen.select(1);
+    lookAtAllFaces("map-results");
+}
+
+} // namespace InsightScreenTests

@@ -7,6 +7,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/listformatter.h>
 #include <unicode/locid.h>
+#include <unicode/reldatefmt.h>
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 #include <vector>
@@ -81,10 +82,41 @@ std::string mediumMoment(Date date, std::string_view locale, std::string_view ti
 
 std::string shortTime(Date date, std::string_view locale, std::string_view timeZone)
 {
-    return formatted(
-        std::unique_ptr<icu::DateFormat>(
-            icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale))),
+    return formatted(std::unique_ptr<icu::DateFormat>(
+                         icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale))),
         date, timeZone);
+}
+
+std::string shortDay(Date date, std::string_view locale, std::string_view timeZone)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    return formatted(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createInstanceForSkeleton(
+                         icu::UnicodeString("MMMd"), localeOf(locale), status)),
+        date, timeZone);
+}
+
+std::optional<std::string> timeAgo(double seconds, std::string_view locale)
+{
+    constexpr double kMinute = 60;
+    constexpr double kHour = 60 * kMinute;
+    constexpr double kDay = 24 * kHour;
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::RelativeDateTimeFormatter formatter(localeOf(locale), status);
+    icu::UnicodeString said;
+    if (!(seconds >= kMinute)) {
+        formatter.format(UDAT_DIRECTION_PLAIN, UDAT_ABSOLUTE_NOW, said, status);
+    } else if (seconds < kHour) {
+        formatter.format(std::floor(seconds / kMinute), UDAT_DIRECTION_LAST, UDAT_RELATIVE_MINUTES, said, status);
+    } else if (seconds < kDay) {
+        formatter.format(std::floor(seconds / kHour), UDAT_DIRECTION_LAST, UDAT_RELATIVE_HOURS, said, status);
+    } else {
+        formatter.format(std::floor(seconds / kDay), UDAT_DIRECTION_LAST, UDAT_RELATIVE_DAYS, said, status);
+    }
+    if (U_FAILURE(status)) {
+        return std::nullopt;
+    }
+    std::string text;
+    return said.toUTF8String(text);
 }
 
 } // namespace Platform::LocalizedText

@@ -21,4 +21,11 @@ namespace Platform::LocalizedText {
 /// 270,000 years count as that limit, and what is no number as the reference date.
 [[nodiscard]] std::string shortTime(Date date, std::string_view locale, std::string_view timeZone = {});
 
+/// The day without its year: "Nov 14", "14. Nov.". Time zone and limits as above.
+[[nodiscard]] std::string shortDay(Date date, std::string_view locale, std::string_view timeZone = {});
+
+/// "11 minutes ago", in the largest unit of minutes, hours and days that is reached; "now" for less than a
+/// minute, for a time to come and for what is no number. Nothing if the form is not known.
+[[nodiscard]] std::optional<std::string> timeAgo(double seconds, std::string_view locale);
+
 } // namespace Platform::LocalizedText

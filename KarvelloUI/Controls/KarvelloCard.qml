@@ -58,6 +58,7 @@ Rectangle {
             }
             RowLayout {
                 id: head
+                Layout.fillWidth: false
                 Layout.alignment: Qt.AlignTop
                 spacing: KarvelloDesign.spacing8
             }

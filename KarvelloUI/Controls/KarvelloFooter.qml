@@ -29,13 +29,17 @@ Rectangle {
     property bool isBusy: false
     // What the menu button is called that takes "Select All".
     property string moreName: selectAllText
-    property int sideMargin: KarvelloDesign.spacing32
+    // As wide as that of the page.
+    property int sideMargin: width < 1000 ? KarvelloDesign.spacing24 : KarvelloDesign.spacing32
 
-    readonly property real boxWidth: showsCheckBox ? box.implicitWidth - box.padding + KarvelloDesign.spacing4 : 0
+    readonly property real boxWidth: showsCheckBox ? 2 * Math.round(8 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12 : 0
     readonly property real room: width - 2 * sideMargin - boxWidth - KarvelloDesign.spacing24
     readonly property real buttonsWidth: (clearText === "" ? 0 : clear.implicitWidth + buttons.spacing) + primary.implicitWidth
     readonly property real selectAllWidth: selectAllText === "" ? 0 : selectAll.implicitWidth + buttons.spacing
-    readonly property bool isFolded: selectAllText !== "" && heading.implicitWidth + buttonsWidth + selectAllWidth > room
+    // Some of the sentence has to be readable as well.
+    readonly property real textWidth: Math.max(heading.implicitWidth,
+        Math.min(sentence.implicitWidth, Math.round(360 * KarvelloDesign.textFactor)))
+    readonly property bool isFolded: selectAllText !== "" && textWidth + buttonsWidth + selectAllWidth > room
     readonly property bool hasRoomForPills: KarvelloDesign.textFactor < 1.25
         && heading.implicitWidth + pillRow.implicitWidth + KarvelloDesign.spacing8 + buttonsWidth + selectAllWidth <= room
 
@@ -90,22 +94,28 @@ Rectangle {
                         color: KarvelloDesign.ink
                         Accessible.role: Accessible.Heading
                     }
-                    Row {
-                        id: pillRow
-                        visible: control.hasRoomForPills
-                        spacing: KarvelloDesign.spacing8
-                        Repeater {
-                            model: control.pills
-                            KarvelloPill {
-                                required property var modelData
-                                text: modelData.text
-                                kind: modelData.kind
+                    Item {
+                        implicitWidth: control.hasRoomForPills ? pillRow.implicitWidth : 0
+                        implicitHeight: control.hasRoomForPills ? pillRow.implicitHeight : 0
+
+                        Row {
+                            id: pillRow
+                            visible: control.hasRoomForPills
+                            spacing: KarvelloDesign.spacing8
+                            Repeater {
+                                model: control.pills
+                                KarvelloPill {
+                                    required property var modelData
+                                    text: modelData.text
+                                    kind: modelData.kind
+                                }
                             }
                         }
                     }
                     Item { Layout.fillWidth: true }
                 }
                 KarvelloText {
+                    id: sentence
                     Layout.fillWidth: true
                     visible: text !== ""
                     text: control.text
@@ -116,6 +126,7 @@ Rectangle {
         }
         RowLayout {
             id: buttons
+            Layout.fillWidth: false
             spacing: KarvelloDesign.spacing12
 
             KarvelloButton {
@@ -126,27 +137,34 @@ Rectangle {
                 enabled: control.canClear && !control.isBusy
                 onClicked: control.clearRequested()
             }
-            KarvelloButton {
-                id: selectAll
-                visible: text !== "" && !control.isFolded
-                text: control.selectAllText
-                enabled: control.canSelectAll && !control.isBusy
-                onClicked: control.selectAllRequested()
-            }
-            KarvelloButton {
-                id: more
-                visible: control.isFolded
-                iconName: "more"
-                accessibleName: control.moreName
-                enabled: control.canSelectAll && !control.isBusy
-                onClicked: menu.openBelow(more)
+            // One place for both: a layout misses what appears in it while its own width is being decided.
+            Item {
+                visible: control.selectAllText !== ""
+                implicitWidth: control.isFolded ? more.implicitWidth : selectAll.implicitWidth
+                implicitHeight: selectAll.implicitHeight
 
-                KarvelloMenu {
-                    id: menu
+                KarvelloButton {
+                    id: selectAll
+                    visible: !control.isFolded
+                    text: control.selectAllText
+                    enabled: control.canSelectAll && !control.isBusy
+                    onClicked: control.selectAllRequested()
+                }
+                KarvelloButton {
+                    id: more
+                    visible: control.isFolded
+                    iconName: "more"
                     accessibleName: control.moreName
-                    KarvelloMenuItem {
-                        text: control.selectAllText
-                        onTriggered: control.selectAllRequested()
+                    enabled: control.canSelectAll && !control.isBusy
+                    onClicked: menu.openBelow(more)
+
+                    KarvelloMenu {
+                        id: menu
+                        accessibleName: control.moreName
+                        KarvelloMenuItem {
+                            text: control.selectAllText
+                            onTriggered: control.selectAllRequested()
+                        }
                     }
                 }
             }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 
 // The tool tip of a control, also of one that is disabled: the pointer is watched from beside it, where the place is enabled
 // still. Without a text there is none. It has no size, so that the layouts of its neighbours pass over it.
@@ -8,6 +9,8 @@ Item {
 
     required property Item target
     property string text
+    // An enabled control knows by itself, and has to get the pointer first.
+    readonly property bool isOver: target.enabled ? (target as T.Control)?.hovered ?? false : pointer.hovered
 
     parent: target.parent
     visible: target.visible && text !== ""
@@ -21,9 +24,12 @@ Item {
         width: control.target.width
         height: control.target.height
 
-        HoverHandler { id: pointer }
+        HoverHandler {
+            id: pointer
+            enabled: !control.target.enabled
+        }
         Loader {
-            readonly property bool isShown: pointer.hovered && control.text !== ""
+            readonly property bool isShown: control.isOver && control.text !== ""
             anchors.fill: parent
             onIsShownChanged: isShown ? setSource("KarvelloToolTip.qml", { text: control.text, visible: true }) : setSource("")
         }

@@ -22,7 +22,7 @@ T.AbstractButton {
     hoverEnabled: canToggle
     focusPolicy: canToggle ? Qt.StrongFocus : Qt.NoFocus
 
-    Accessible.role: canToggle ? Accessible.Button : Accessible.Heading
+    Accessible.role: isCollapsible ? Accessible.Button : Accessible.Heading
     Accessible.name: text
     Accessible.checkable: canToggle
     Accessible.checked: canToggle && isOpen

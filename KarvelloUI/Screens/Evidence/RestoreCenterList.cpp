@@ -59,6 +59,10 @@ QVariant RestoreCenterList::data(const QModelIndex& index, int role) const
         return row.isSelected;
     case hasTrashLocationRole:
         return row.item.destinationURL.has_value();
+    case trashLocationRole:
+        return shown(trashLocation(row, words));
+    case isOpenRole:
+        return row.isOpen;
     case accessibleNameRole:
         return QStringList{shownText(candidate.displayName), shown(subtitle(row, words)), shownPath(candidate.url),
             shown(status(row, words))}
@@ -72,7 +76,8 @@ QHash<int, QByteArray> RestoreCenterList::roleNames() const
 {
     return {{keyRole, "key"}, {nameRole, "name"}, {pathRole, "path"}, {subtitleRole, "subtitle"}, {sizeRole, "size"},
         {statusRole, "status"}, {isSelectableRole, "isSelectable"}, {isSelectedRole, "isSelected"},
-        {hasTrashLocationRole, "hasTrashLocation"}, {accessibleNameRole, "accessibleName"}};
+        {hasTrashLocationRole, "hasTrashLocation"}, {trashLocationRole, "trashLocation"}, {isOpenRole, "isOpen"},
+        {accessibleNameRole, "spokenName"}};
 }
 
 RestoreCenterList::Outcome RestoreCenterList::show(const CleanerCore::CleanupRestoreCenterSnapshot& snapshot)
@@ -163,6 +168,15 @@ void RestoreCenterList::setSelected(const IDs& ids)
     }
 }
 
+void RestoreCenterList::setOpen(int key, bool isOpen)
+{
+    if (const auto* const found = row(key)) {
+        const auto place = found - m_rows.data();
+        m_rows[static_cast<std::size_t>(place)].isOpen = isOpen;
+        announce(static_cast<int>(place), static_cast<int>(place), {isOpenRole});
+    }
+}
+
 void RestoreCenterList::showOtherWords()
 {
     if (!m_rows.empty()) {
@@ -195,6 +209,13 @@ RestoreCenterList::IDs RestoreCenterList::selectableIDs() const
 QString RestoreCenterList::shownPath(const Platform::FileURL& url) const
 {
     return shownText(Platform::HomePathAbbreviation(m_dashboard.services().homeDirectory).abbreviate(url.path()));
+}
+
+std::string RestoreCenterList::trashLocation(const Row& row, const DashboardWords& words) const
+{
+    return row.item.destinationURL
+        ? words.restoreCenterTrashLocationLabel() + " " + shownPath(*row.item.destinationURL).toStdString()
+        : words.restoreCenterTrashLocationUnavailable();
 }
 
 std::string RestoreCenterList::subtitle(const Row& row, const DashboardWords& words) const

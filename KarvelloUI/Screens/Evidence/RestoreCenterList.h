@@ -31,6 +31,9 @@ public:
         isSelectableRole,
         isSelectedRole,
         hasTrashLocationRole,
+        /// In full, or that it is not known.
+        trashLocationRole,
+        isOpenRole,
         accessibleNameRole,
     };
     using IDs = std::set<std::string, std::less<>>;
@@ -40,6 +43,7 @@ public:
         CleanerCore::CleanedItem item;
         bool isSelectable = false;
         bool isSelected = false;
+        bool isOpen = false;
     };
 
     /// What became of the rows.
@@ -56,6 +60,7 @@ public:
     Outcome show(const CleanerCore::CleanupRestoreCenterSnapshot& snapshot);
     /// Only rows that may be selected are.
     void setSelected(const IDs& ids);
+    void setOpen(int key, bool isOpen);
     void showOtherWords();
 
     [[nodiscard]] const std::vector<Row>& rows() const { return m_rows; }
@@ -71,6 +76,7 @@ private:
     void replace(const std::vector<CleanerCore::CleanedItem>& items);
     void announce(int first, int last, const QList<int>& roles = {});
     [[nodiscard]] QString shownPath(const Platform::FileURL& url) const;
+    [[nodiscard]] std::string trashLocation(const Row& row, const DashboardWords& words) const;
     [[nodiscard]] std::string subtitle(const Row& row, const DashboardWords& words) const;
     [[nodiscard]] std::string status(const Row& row, const DashboardWords& words) const;
 

@@ -75,6 +75,7 @@ public:
     Q_INVOKABLE void clearSelection();
     /// Selects all unless all are.
     Q_INVOKABLE void toggleAll();
+    Q_INVOKABLE void setOpen(int key, bool isOpen) { m_rows.setOpen(key, isOpen); }
     Q_INVOKABLE void restore();
     Q_INVOKABLE void revealOriginal(int key);
     Q_INVOKABLE void revealTrashLocation(int key);

@@ -73,6 +73,13 @@ std::optional<std::string> list(std::span<const std::string> items, std::string_
     return joined.toUTF8String(text);
 }
 
+std::string mediumMoment(Date date, std::string_view locale, std::string_view timeZone)
+{
+    return formatted(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateTimeInstance(
+                         icu::DateFormat::kMedium, icu::DateFormat::kShort, localeOf(locale))),
+        date, timeZone);
+}
+
 std::string shortTime(Date date, std::string_view locale, std::string_view timeZone)
 {
     return formatted(std::unique_ptr<icu::DateFormat>(

@@ -2,7 +2,7 @@
 
 #include "KarvelloUI/Advisors/SmartCleanupCoach.h"
 #include "KarvelloUI/Advisors/StorageTrendTimeline.h"
-#include "KarvelloUI/Screens/Home/RawText.h"
+#include "KarvelloUI/Dashboard/RawText.h"
 #include "Platform/Base/LocalizedText.h"
 
 #include <algorithm>

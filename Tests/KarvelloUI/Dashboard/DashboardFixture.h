@@ -32,6 +32,12 @@ protected:
     /// With `files` as its way to the disk.
     void restart(const Platform::FileManager& files)
     {
+        restartWithoutSettling(files);
+        settle();
+    }
+    /// Its background work is still to be done.
+    void restartWithoutSettling(const Platform::FileManager& files)
+    {
         dashboard.reset();
         const SessionServices session{.fileManager = files,
             .trash = trash,
@@ -81,7 +87,6 @@ protected:
                 session, defaults, [this] { return preferences->language(); }, std::move(providers)),
             *preferences);
         dashboard->setObjectName(QStringLiteral("dashboard"));
-        settle();
     }
 
     /// A finished cleanup scan, on its screen.

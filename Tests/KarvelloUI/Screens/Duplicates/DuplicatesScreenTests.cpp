@@ -4,9 +4,6 @@
 
 #include <gmock/gmock.h>
 
-// Written by the build, and named so that the linker keeps the module's types.
-void qml_register_types_Karvello_Screens_Duplicates(); // NOLINT(readability-identifier-naming)
-
 namespace InsightScreenTests {
 
 namespace {
@@ -21,7 +18,6 @@ protected:
     explicit DuplicatesScreenTest(std::string_view layoutOfHome = kHome)
         : InsightScreenWindow(layoutOfHome)
     {
-        [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_Duplicates;
     }
 
     [[nodiscard]] static QVariant value(DuplicatesScreenModel& screen, int row, int role)

@@ -15,12 +15,6 @@
 #include <memory>
 #include <stdexcept>
 
-// Written by the build. Naming them keeps the linker from leaving the modules' types out.
-// NOLINTBEGIN(readability-identifier-naming)
-void qml_register_types_Karvello_Screens_Exports();
-void qml_register_types_Karvello_Screens_Insights();
-// NOLINTEND(readability-identifier-naming)
-
 namespace InsightScreenTests {
 
 /// A screen in a window of the least size beside the sidebar. Any warning of QML fails the test. With the name of a folder
@@ -30,8 +24,6 @@ protected:
     explicit InsightScreenWindow(std::string_view layoutOfHome = kHome)
         : InsightScreenTest(layoutOfHome)
     {
-        [[maybe_unused]] static const volatile auto exports = &qml_register_types_Karvello_Screens_Exports;
-        [[maybe_unused]] static const volatile auto insights = &qml_register_types_Karvello_Screens_Insights;
         m_engine.setOutputWarningsToStandardError(false);
         QObject::connect(&m_engine, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
             for (const QQmlError& warning : warnings) {

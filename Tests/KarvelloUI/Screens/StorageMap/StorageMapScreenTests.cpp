@@ -4,9 +4,6 @@
 
 #include <gmock/gmock.h>
 
-// Written by the build, and named so that the linker keeps the module's types.
-void qml_register_types_Karvello_Screens_StorageMap(); // NOLINT(readability-identifier-naming)
-
 namespace InsightScreenTests {
 
 namespace {
@@ -18,7 +15,6 @@ protected:
     explicit StorageMapScreenTest(std::string_view layoutOfHome = kHome)
         : InsightScreenWindow(layoutOfHome)
     {
-        [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_StorageMap;
     }
 
     [[nodiscard]] static std::vector<StorageMapArea> read(const QVariantList& list)

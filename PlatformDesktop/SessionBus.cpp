@@ -1,5 +1,6 @@
 #include "PlatformDesktop/SessionBus.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QVariant>
 #include <QtDBus/QDBusArgument>
 #include <QtDBus/QDBusError>
@@ -29,6 +30,20 @@ QDBusMessage callOfActions(const SessionBus::Owner& application, const std::stri
 {
     return QDBusMessage::createMethodCall(application.connection, SessionBus::objectPathOf(identifier),
         QStringLiteral("org.gtk.Actions"), QLatin1String(method));
+}
+
+/// What libdbus takes for the name of a program: it ends the process for any other, and Qt lets some pass.
+bool canBeCalled(const QString& name)
+{
+    static const QRegularExpression names(
+        QStringLiteral("\\A(?::[\\w-]+(?:\\.[\\w-]+)+|[A-Za-z_-][\\w-]*(?:\\.[A-Za-z_-][\\w-]*)+)\\z"));
+    constexpr int kLongestName = 255;
+    return name.size() <= kLongestName && names.match(name).hasMatch();
+}
+
+QDBusError noSuchName()
+{
+    return {QDBusError::InvalidArgs, QStringLiteral("No program can have this name.")};
 }
 
 } // namespace
@@ -78,6 +93,9 @@ bool SessionBus::isLate(const QDBusMessage& reply)
 
 QDBusMessage SessionBus::call(QDBusMessage message, std::chrono::milliseconds patience, AbsentService absent) const
 {
+    if (!canBeCalled(message.service())) {
+        return QDBusMessage::createError(noSuchName());
+    }
     message.setAutoStartService(absent == AbsentService::isStarted);
     return m_connection.call(message, QDBus::Block, static_cast<int>(patience.count()));
 }
@@ -85,6 +103,9 @@ QDBusMessage SessionBus::call(QDBusMessage message, std::chrono::milliseconds pa
 QDBusPendingCall SessionBus::callLater(
     QDBusMessage message, std::chrono::milliseconds patience, AbsentService absent) const
 {
+    if (!canBeCalled(message.service())) {
+        return QDBusPendingCall::fromError(noSuchName());
+    }
     message.setAutoStartService(absent == AbsentService::isStarted);
     return m_connection.asyncCall(message, static_cast<int>(patience.count()));
 }

@@ -14,7 +14,8 @@
 namespace PlatformDesktop {
 
 /// A connection of its own to the bus on which the programs of this session talk. It starts no service unless that is
-/// asked for: who does not run is not there. Calls wait for an answer, and not for long. May be used from any thread.
+/// asked for: who does not run is not there. Calls wait for an answer, and not for long; one to a name that no program can
+/// have is answered with an error. May be used from any thread.
 class SessionBus {
 public:
     /// What a call to a service that does not run does.

@@ -172,4 +172,19 @@ TEST_F(DesktopBusTest, ANameIsFoundWithItsOwner)
     EXPECT_EQ(found->bus, m_bus->waitUntilOpen());
 }
 
+TEST_F(DesktopBusTest, ANameThatNoProgramCanHaveIsAnError)
+{
+    QObject context;
+    for (const auto& name : {std::string(), std::string("nodot"), std::string("no name.a"), std::string(".a.b"),
+             std::string("a..b"), std::string("a.b."), std::string("a.7b"), std::string("a.b\n"),
+             std::string("a.\xC3\xA9"), std::string(":1"), std::string(":"), "a." + std::string(300, 'b')}) {
+        const auto message = QDBusMessage::createMethodCall(
+            QString::fromStdString(name), QStringLiteral("/a"), QStringLiteral("org.example"), QStringLiteral("Ask"));
+        const auto later = answerOf<QDBusMessage>(
+            [&](const auto& take) { m_bus->call(&context, message, 5s, SessionBus::AbsentService::isStarted, take); });
+        EXPECT_EQ(later.value_or(QDBusMessage()).type(), QDBusMessage::ErrorMessage) << name;
+        EXPECT_EQ(m_bus->waitUntilOpen()->call(message, 5s).type(), QDBusMessage::ErrorMessage) << name;
+    }
+}
+
 } // namespace

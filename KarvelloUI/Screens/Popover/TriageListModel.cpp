@@ -1,0 +1,42 @@
+#include "KarvelloUI/Screens/Popover/TriageListModel.h"
+
+#include "KarvelloUI/Screens/Popover/PopoverIcons.h"
+
+namespace KarvelloUI {
+
+QVariant TriageListModel::data(const QModelIndex& index, int role) const
+{
+    const TriageListRow* const found = rowAt(index);
+    if (found == nullptr) {
+        return {};
+    }
+    const auto& row = found->row;
+    switch (role) {
+    case iconNameRole:
+        return popoverIcon(row.symbol);
+    case Qt::DisplayRole:
+    case detailRole:
+        return QString::fromStdString(row.detail);
+    case buttonTitleRole:
+        return QString::fromStdString(row.buttonTitle);
+    case destinationRole:
+        return QString::fromStdString(std::string(Platform::rawValue(row.destination)));
+    case isCriticalRole:
+        return row.severity == KarvelloMenuBarReminder::Severity::critical;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> TriageListModel::roleNames() const
+{
+    return {
+        {iconNameRole, "iconName"},
+        {detailRole, "detail"},
+        {buttonTitleRole, "buttonTitle"},
+        {destinationRole, "destination"},
+        {isCriticalRole, "isCritical"},
+    };
+}
+
+} // namespace KarvelloUI

@@ -35,6 +35,20 @@ UDate milliseconds(Date date)
     return std::clamp(seconds * 1000, -kLimit, kLimit);
 }
 
+std::string formatted(const std::unique_ptr<icu::DateFormat>& format, Date date, std::string_view timeZone)
+{
+    if (!format) {
+        return {};
+    }
+    if (!timeZone.empty()) {
+        format->adoptTimeZone(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(pieceOf(timeZone))));
+    }
+    icu::UnicodeString formatted;
+    format->format(milliseconds(date), formatted);
+    std::string text;
+    return formatted.toUTF8String(text);
+}
+
 } // namespace
 
 std::optional<std::string> list(std::span<const std::string> items, std::string_view locale)
@@ -58,20 +72,19 @@ std::optional<std::string> list(std::span<const std::string> items, std::string_
     return joined.toUTF8String(text);
 }
 
+std::string mediumMoment(Date date, std::string_view locale, std::string_view timeZone)
+{
+    return formatted(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateTimeInstance(
+                         icu::DateFormat::kMedium, icu::DateFormat::kShort, localeOf(locale))),
+        date, timeZone);
+}
+
 std::string shortTime(Date date, std::string_view locale, std::string_view timeZone)
 {
-    const std::unique_ptr<icu::DateFormat> format(
-        icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale)));
-    if (!format) {
-        return {};
-    }
-    if (!timeZone.empty()) {
-        format->adoptTimeZone(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(pieceOf(timeZone))));
-    }
-    icu::UnicodeString time;
-    format->format(milliseconds(date), time);
-    std::string text;
-    return time.toUTF8String(text);
+    return formatted(
+        std::unique_ptr<icu::DateFormat>(
+            icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale))),
+        date, timeZone);
 }
 
 } // namespace Platform::LocalizedText

@@ -14,6 +14,9 @@ namespace Platform::LocalizedText {
 /// "a", "a and b", "a, b, and c". Nothing if the form is not known.
 [[nodiscard]] std::optional<std::string> list(std::span<const std::string> items, std::string_view locale);
 
+/// The day with its year and the time: "Nov 21, 2025, 3:04 PM", "21.11.2025, 15:04". Time zone and limits as below.
+[[nodiscard]] std::string mediumMoment(Date date, std::string_view locale, std::string_view timeZone = {});
+
 /// The time of day alone: "3:04 PM", "15:04". In the system's time zone unless one is named ("Asia/Seoul"). Dates beyond
 /// 270,000 years count as that limit, and what is no number as the reference date.
 [[nodiscard]] std::string shortTime(Date date, std::string_view locale, std::string_view timeZone = {});

@@ -8,6 +8,24 @@
 
 namespace PlatformDesktop::DetachedProgram {
 
+namespace {
+
+/// Empty for a program that is not there.
+QString find(const std::string& program, const std::vector<std::string>& folders)
+{
+    QStringList places;
+    for (const auto& folder : folders) {
+        places.append(QString::fromStdString(folder));
+    }
+    // Without places the library would look into those of this process.
+    const bool isSearched = !program.empty() && !program.contains('/') && !places.isEmpty();
+    return isSearched || program.starts_with('/')
+        ? QStandardPaths::findExecutable(QString::fromStdString(program), places)
+        : QString();
+}
+
+} // namespace
+
 std::vector<std::string> foldersOf(const std::string& searchPath)
 {
     std::vector<std::string> folders;
@@ -21,19 +39,14 @@ std::vector<std::string> foldersOf(const std::string& searchPath)
     return folders;
 }
 
+bool isInstalled(const std::string& program, const std::vector<std::string>& folders)
+{
+    return !find(program, folders).isEmpty();
+}
+
 bool start(const std::vector<std::string>& words, const std::vector<std::string>& folders)
 {
-    QStringList places;
-    for (const auto& folder : folders) {
-        places.append(QString::fromStdString(folder));
-    }
-    // Without places the library would look into those of this process.
-    const bool isSearched = !words.empty() && !words.front().empty() && !words.front().contains('/');
-    const bool isPlace = !words.empty() && words.front().starts_with('/');
-    if (!isPlace && (!isSearched || places.isEmpty())) {
-        return false;
-    }
-    const auto program = QStandardPaths::findExecutable(QString::fromStdString(words.front()), places);
+    const auto program = words.empty() ? QString() : find(words.front(), folders);
     if (program.isEmpty()) {
         return false;
     }

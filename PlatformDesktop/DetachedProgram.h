@@ -8,6 +8,9 @@ namespace PlatformDesktop::DetachedProgram {
 /// The folders of a search path such as PATH, the absolute ones.
 [[nodiscard]] std::vector<std::string> foldersOf(const std::string& searchPath);
 
+/// Whether `start` would find the program.
+[[nodiscard]] bool isInstalled(const std::string& program, const std::vector<std::string>& folders);
+
 /// Starts a program that goes on by itself, without a shell: the first word is an absolute path or the name of a file in
 /// one of the folders, the others are its arguments. It gets nothing to read, and what it prints is lost. False: it
 /// could not be started.

@@ -21,6 +21,9 @@ namespace {
 constexpr auto kSystemMonitors = std::to_array<const char*>({"org.gnome.SystemMonitor", "gnome-system-monitor",
     "org.kde.plasma-systemmonitor", "org.kde.ksysguard", "mate-system-monitor", "xfce4-taskmanager", "lxtask"});
 
+constexpr const char* kGnomeSettings = "gnome-control-center";
+constexpr const char* kPlasmaSettings = "systemsettings";
+
 } // namespace
 
 /// One way through the applications that could be meant.
@@ -119,16 +122,22 @@ void LinuxDesktopTools::openPrivacySettings(Answer answer)
         &m_context, [this, answer = std::move(answer)] { answer(startSettings()); }, Qt::QueuedConnection);
 }
 
+bool LinuxDesktopTools::hasPrivacySettings() const
+{
+    return std::ranges::any_of(std::array{kGnomeSettings, kPlasmaSettings},
+        [this](const char* program) { return DetachedProgram::isInstalled(program, m_settings.programFolders); });
+}
+
 bool LinuxDesktopTools::startSettings() const
 {
     const auto start = [this](const std::vector<std::string>& words) {
         return DetachedProgram::start(words, m_settings.programFolders);
     };
-    const auto startGnome = [&] { return start({"gnome-control-center", "privacy"}); };
+    const auto startGnome = [&] { return start({kGnomeSettings, "privacy"}); };
     const auto startPlasma = [&] {
         // A module that is not installed is an error message instead of settings.
         const bool hasModule = DesktopEntries(m_settings.applicationFolders, {}).find("kcm_recentFiles") != nullptr;
-        return hasModule ? start({"systemsettings", "kcm_recentFiles"}) : start({"systemsettings"});
+        return hasModule ? start({kPlasmaSettings, "kcm_recentFiles"}) : start({kPlasmaSettings});
     };
     return m_settings.isPlasma ? startPlasma() || startGnome() : startGnome() || startPlasma();
 }

@@ -34,6 +34,7 @@ public:
 
     void openSystemMonitor(Answer answer) override;
     void openPrivacySettings(Answer answer) override;
+    [[nodiscard]] bool hasPrivacySettings() const override;
     void copyText(const std::string& text) override;
 
 private:

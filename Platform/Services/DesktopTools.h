@@ -19,6 +19,8 @@ public:
 
     virtual void openSystemMonitor(Answer answer) = 0;
     virtual void openPrivacySettings(Answer answer) = 0;
+    /// Whether this desktop has such settings. May look for programs on the disk.
+    [[nodiscard]] virtual bool hasPrivacySettings() const = 0;
     /// Puts a text on the clipboard.
     virtual void copyText(const std::string& text) = 0;
 };

@@ -161,8 +161,19 @@ TEST_F(LinuxDesktopToolsTest, OneThatDoesNotAnswerIsNotOpenedTwice)
 TEST_F(LinuxDesktopToolsTest, WithoutSettingsNoneAreOpened)
 {
     EXPECT_FALSE(openPrivacySettings());
+    EXPECT_FALSE(tools()->hasPrivacySettings());
     m_isPlasma = true;
     EXPECT_FALSE(openPrivacySettings());
+}
+
+TEST_F(LinuxDesktopToolsTest, SettingsOfEitherDesktopAreSettings)
+{
+    for (const char* const name : {"gnome-control-center", "systemsettings"}) {
+        addProgram(program(name));
+        EXPECT_TRUE(tools()->hasPrivacySettings()) << name;
+        std::filesystem::remove(program(name));
+        EXPECT_FALSE(tools()->hasPrivacySettings()) << name;
+    }
 }
 
 TEST_F(LinuxDesktopToolsTest, ThePrivacyPanelIsOpened)

@@ -71,9 +71,11 @@ public:
         ++privacySettingsRequests;
         answer(hasTools);
     }
+    [[nodiscard]] bool hasPrivacySettings() const override { return isPrivacyOffered; }
     void copyText(const std::string& text) override { copied.push_back(text); }
 
     bool hasTools = true;
+    bool isPrivacyOffered = true;
     int systemMonitorRequests = 0;
     int privacySettingsRequests = 0;
     std::vector<std::string> copied;

@@ -1,0 +1,153 @@
+#include "KarvelloUI/Screens/Settings/AccessGuidanceModel.h"
+
+#include "KarvelloUI/Advisors/StoragePermissionAdvisor.h"
+#include "KarvelloUI/Sessions/ShownText.h"
+#include "Platform/Base/HomePathAbbreviation.h"
+
+#include <QPointer>
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+namespace KarvelloUI {
+
+namespace {
+
+/// The desktop has no permission for the whole disk to grant: this step speaks of what there is.
+std::string titleOf(const StoragePermissionWizardStep& step, const DashboardWords& words)
+{
+    return step.role == StoragePermissionWizardStepRole::grantSystemAccess
+        ? words.say("Check who may read the folders")
+        : words.permissionWizardStepTitle(step.role);
+}
+
+std::string textOf(const StoragePermissionWizardStep& step, const DashboardWords& words)
+{
+    return step.role == StoragePermissionWizardStepRole::grantSystemAccess
+        ? words.say("Look up in the file manager who owns the skipped folders and whether you may read them. An app in "
+                    "a sandbox also needs permission for the folder in the system settings.")
+        : words.permissionWizardStepBody(step.role, step.issueKind);
+}
+
+} // namespace
+
+AccessGuidanceModel::AccessGuidanceModel(MacCleanerDashboardModel& dashboard, QObject* parent)
+    : QObject(parent)
+    , m_dashboard(dashboard)
+{
+    connect(&dashboard.cleaner(), &CleanerViewModel::reportChanged, this, &AccessGuidanceModel::forgetSteps);
+    connect(&dashboard.insights(), &MacInsightsViewModel::reportChanged, this, &AccessGuidanceModel::forgetSteps);
+    connect(
+        &dashboard.customFolders(), &CustomScanFolderStore::foldersChanged, this, &AccessGuidanceModel::forgetSteps);
+    connect(&dashboard, &MacCleanerDashboardModel::selectedSectionChanged, this, &AccessGuidanceModel::announceIfShown);
+    connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &AccessGuidanceModel::changed);
+}
+
+QString AccessGuidanceModel::title() const
+{
+    return shown(m_dashboard.words().permissionWizardTitle());
+}
+
+QString AccessGuidanceModel::text() const
+{
+    const auto words = m_dashboard.words();
+    return shown(guide().empty()
+            ? words.settingsAccessDiagnosticsBody(0, hasCustomFolders())
+            : words.say("Review skipped paths, update the needed permission or folder bookmark yourself, then scan "
+                        "again. Karvello cannot grant access automatically."));
+}
+
+QVariantList AccessGuidanceModel::steps() const
+{
+    const auto words = m_dashboard.words();
+    const Platform::HomePathAbbreviation home(m_dashboard.services().homeDirectory);
+    const auto indexed = indexedWizardSteps(guide());
+    QVariantList steps;
+    for (const auto& [index, step] : indexed) {
+        QStringList samples;
+        for (const auto& path : step.samplePaths) {
+            samples.append(shownText(home.abbreviate(path)));
+        }
+        steps.append(QVariant::fromValue(AccessGuidanceStep{
+            .number = static_cast<int>(index),
+            .title = shown(titleOf(step, words)),
+            .text = shown(textOf(step, words)),
+            .diagnosis =
+                step.issueKind ? shown(words.permissionDiagnosticTitle(*step.issueKind, step.count)) : QString(),
+            .samplesTitle = shown(words.permissionDiagnosticSamplePathsTitle(samples.size())),
+            .samples = samples,
+            .label = shown(words.permissionWizardStepLabel(index, static_cast<std::int64_t>(indexed.size()))),
+        }));
+    }
+    return steps;
+}
+
+QString AccessGuidanceModel::copyText() const
+{
+    return shown(m_dashboard.words().permissionDiagnosticSamplePathsCopyButton());
+}
+
+bool AccessGuidanceModel::hasPrivacySettings() const
+{
+    return m_dashboard.services().tools.hasPrivacySettings();
+}
+
+QString AccessGuidanceModel::privacySettingsText() const
+{
+    return shown(m_dashboard.words().text("개인정보 보호 설정 열기", "Open Privacy Settings"));
+}
+
+void AccessGuidanceModel::copySamples(int number)
+{
+    const auto& steps = guide();
+    if (number < 1 || static_cast<std::size_t>(number) > steps.size()) {
+        return;
+    }
+    // The clipboard holds text, which the names of files need not be.
+    auto paths = steps[static_cast<std::size_t>(number) - 1].samplePaths;
+    std::ranges::transform(paths, paths.begin(), Platform::Text::escapingInvalidUTF8);
+    if (!paths.empty()) {
+        m_dashboard.services().tools.copyText(m_dashboard.words().permissionDiagnosticSampleCopyPayload(paths));
+    }
+}
+
+void AccessGuidanceModel::openPrivacySettings()
+{
+    m_dashboard.services().tools.openPrivacySettings([dashboard = QPointer(&m_dashboard)](bool isOpened) {
+        if (dashboard && !isOpened) {
+            const auto words = dashboard->words();
+            dashboard->showNotice({.title = shown(words.say("Privacy settings not found")),
+                .message = shown(words.say("The privacy settings of this desktop could not be opened."))});
+        }
+    });
+}
+
+void AccessGuidanceModel::forgetSteps()
+{
+    m_isGuideKnown = false;
+    announceIfShown();
+}
+
+void AccessGuidanceModel::announceIfShown()
+{
+    if (m_dashboard.selectedSection() == MacDashboardSection::settings) {
+        Q_EMIT changed();
+    }
+}
+
+const std::vector<StoragePermissionWizardStep>& AccessGuidanceModel::guide() const
+{
+    if (!m_isGuideKnown) {
+        auto items =
+            StoragePermissionAdvisor::permissionRelatedSkippedItems(m_dashboard.cleaner().report().skippedItems);
+        const auto ofInsights =
+            StoragePermissionAdvisor::permissionRelatedSkippedItems(m_dashboard.insights().report().skippedItems);
+        items.insert(items.end(), ofInsights.begin(), ofInsights.end());
+        m_guide =
+            StoragePermissionAdvisor::wizardSteps(StoragePermissionAdvisor::diagnoses(items), hasCustomFolders());
+        m_isGuideKnown = true;
+    }
+    return m_guide;
+}
+
+} // namespace KarvelloUI

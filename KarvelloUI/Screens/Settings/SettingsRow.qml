@@ -1,0 +1,7 @@
+import QtQuick
+import QtQuick.Layouts
+import Karvello.Design
+
+KarvelloFormRow {
+    Layout.fillWidth: true
+}

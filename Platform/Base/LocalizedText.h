@@ -18,4 +18,8 @@ namespace Platform::LocalizedText {
 /// 270,000 years count as that limit, and what is no number as the reference date.
 [[nodiscard]] std::string shortTime(Date date, std::string_view locale, std::string_view timeZone = {});
 
+/// "3 days, 4 hours", "4 hours, 5 minutes", "5 minutes": the two largest units that there are, nothing rounded up. What is
+/// negative or no number counts as 0, and more than a million days as that.
+[[nodiscard]] std::string duration(double seconds, std::string_view locale);
+
 } // namespace Platform::LocalizedText

@@ -46,7 +46,8 @@ void QtFileDialogs::open(QFileDialog* dialog, Platform::DirectoryHint hint, Answ
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (m_open) {
         delete dialog;
-        QMetaObject::invokeMethod(QCoreApplication::instance(), [answer = std::move(answer)] { answer(std::nullopt); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [answer = std::move(answer)] { answer(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
     m_open = dialog;

@@ -7,6 +7,9 @@
 #include <unicode/datefmt.h>
 #include <unicode/listformatter.h>
 #include <unicode/locid.h>
+#include <unicode/measfmt.h>
+#include <unicode/measunit.h>
+#include <unicode/measure.h>
 #include <unicode/reldatefmt.h>
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
@@ -117,6 +120,36 @@ std::optional<std::string> timeAgo(double seconds, std::string_view locale)
     }
     std::string text;
     return said.toUTF8String(text);
+}
+
+std::string duration(double seconds, std::string_view locale)
+{
+    constexpr std::int64_t kMinutesPerHour = 60;
+    constexpr std::int64_t kMinutesPerDay = 24 * kMinutesPerHour;
+    constexpr double kLimit = 1e6 * kMinutesPerDay;
+    const auto minutes = static_cast<std::int64_t>(std::isnan(seconds) ? 0 : std::clamp(seconds / 60, 0.0, kLimit));
+    const auto amount = [](std::int64_t number, icu::MeasureUnit (*unit)()) {
+        UErrorCode status = U_ZERO_ERROR;
+        return icu::Measure(icu::Formattable(number), new icu::MeasureUnit(unit()), status);
+    };
+    std::vector<icu::Measure> parts;
+    if (const std::int64_t days = minutes / kMinutesPerDay; days > 0) {
+        parts.push_back(amount(days, icu::MeasureUnit::getDay));
+    }
+    if (const std::int64_t hours = minutes % kMinutesPerDay / kMinutesPerHour; hours > 0) {
+        parts.push_back(amount(hours, icu::MeasureUnit::getHour));
+    }
+    const bool hasDays = minutes >= kMinutesPerDay;
+    if (const std::int64_t rest = minutes % kMinutesPerHour; (rest > 0 && !hasDays) || parts.empty()) {
+        parts.push_back(amount(rest, icu::MeasureUnit::getMinute));
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::MeasureFormat format(localeOf(locale), UMEASFMT_WIDTH_WIDE, status);
+    icu::UnicodeString formatted;
+    icu::FieldPosition ignored(icu::FieldPosition::DONT_CARE);
+    format.formatMeasures(parts.data(), static_cast<std::int32_t>(parts.size()), formatted, ignored, status);
+    std::string text;
+    return formatted.toUTF8String(text);
 }
 
 } // namespace Platform::LocalizedText

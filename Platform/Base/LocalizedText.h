@@ -27,5 +27,8 @@ namespace Platform::LocalizedText {
 /// "11 minutes ago", in the largest unit of minutes, hours and days that is reached; "now" for less than a
 /// minute, for a time to come and for what is no number. Nothing if the form is not known.
 [[nodiscard]] std::optional<std::string> timeAgo(double seconds, std::string_view locale);
+/// "3 days, 4 hours", "4 hours, 5 minutes", "5 minutes": the two largest units that there are, nothing rounded up. What is
+/// negative or no number counts as 0, and more than a million days as that.
+[[nodiscard]] std::string duration(double seconds, std::string_view locale);
 
 } // namespace Platform::LocalizedText

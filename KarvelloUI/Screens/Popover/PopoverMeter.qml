@@ -21,7 +21,7 @@ ColumnLayout {
     Accessible.description: detail
 
     RowLayout {
-        spacing: KarvelloDesign.spacing4
+        spacing: KarvelloDesign.spacing8
 
         KarvelloIcon {
             name: control.metric.iconName

@@ -8,17 +8,15 @@
 namespace KarvelloUI {
 
 /// How much a figure of the machine asks for a look. The words beside it say the same.
-class PopoverLevel {
-    Q_GADGET
-    QML_NAMED_ELEMENT(PopoverLevel)
-    QML_UNCREATABLE("only its values are used")
+namespace PopoverLevel {
+Q_NAMESPACE
+QML_ELEMENT
 
-public:
-    // QML reads only enumerators with a capital letter.
-    // NOLINTNEXTLINE(readability-identifier-naming)
-    enum Value : std::uint8_t { Calm, Warning, Critical };
-    Q_ENUM(Value)
-};
+// QML reads only enumerators with a capital letter.
+// NOLINTNEXTLINE(readability-identifier-naming)
+enum Value : std::uint8_t { Calm, Warning, Critical };
+Q_ENUM_NS(Value)
+} // namespace PopoverLevel
 
 /// A figure with its bar.
 struct PopoverMetric {

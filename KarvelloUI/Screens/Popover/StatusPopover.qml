@@ -147,14 +147,18 @@ FocusScope {
             height: 1
             color: KarvelloDesign.line
         }
-        RowLayout {
+        // Long words stand one below the other.
+        GridLayout {
             id: footRow
             x: control.padding
             y: KarvelloDesign.spacing12
             width: parent.width - 2 * control.padding
-            spacing: KarvelloDesign.spacing12
+            columns: dashboard.implicitWidth + quit.implicitWidth + columnSpacing > width ? 1 : 2
+            columnSpacing: KarvelloDesign.spacing12
+            rowSpacing: KarvelloDesign.spacing4
 
             KarvelloButton {
+                id: dashboard
                 objectName: "openDashboard"
                 Layout.fillWidth: true
                 kind: KarvelloButton.Tonal
@@ -163,7 +167,9 @@ FocusScope {
                 onClicked: control.popover.openDashboard()
             }
             KarvelloButton {
+                id: quit
                 objectName: "quit"
+                Layout.alignment: Qt.AlignHCenter
                 kind: KarvelloButton.Quiet
                 iconName: "quit"
                 text: control.popover.quitTitle

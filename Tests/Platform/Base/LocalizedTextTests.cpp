@@ -8,6 +8,7 @@
 namespace {
 
 using Platform::Date;
+using Platform::LocalizedText::duration;
 using Platform::LocalizedText::list;
 using Platform::LocalizedText::mediumMoment;
 using Platform::LocalizedText::shortTime;
@@ -67,6 +68,24 @@ TEST(LocalizedText, ADateOutOfReachHasATimeToo)
     EXPECT_EQ(shortTime({std::numeric_limits<double>::quiet_NaN()}, "de", "UTC"), "00:00");
     EXPECT_EQ(shortTime({std::numeric_limits<double>::infinity()}, "de", "UTC").size(), 5);
     EXPECT_EQ(shortTime({-1e300}, "de", "UTC").size(), 5);
+}
+
+TEST(LocalizedText, ADurationHasItsTwoLargestUnits)
+{
+    EXPECT_EQ(duration(3 * 86400 + 4 * 3600 + 59 * 60 + 59, "en"), "3 days, 4 hours");
+    EXPECT_EQ(duration(86400 + 59 * 60, "en"), "1 day");
+    EXPECT_EQ(duration(4 * 3600 + 5 * 60, "en"), "4 hours, 5 minutes");
+    EXPECT_EQ(duration(61, "en"), "1 minute");
+    EXPECT_EQ(duration(59, "en"), "0 minutes");
+    EXPECT_EQ(duration(3 * 86400 + 4 * 3600, "de"), "3 Tage, 4 Stunden");
+    EXPECT_EQ(duration(3 * 86400 + 4 * 3600, "ko"), "3일 4시간");
+}
+
+TEST(LocalizedText, ADurationThatIsNoneIsNothing)
+{
+    EXPECT_EQ(duration(-5, "en"), "0 minutes");
+    EXPECT_EQ(duration(std::numeric_limits<double>::quiet_NaN(), "en"), "0 minutes");
+    EXPECT_EQ(duration(std::numeric_limits<double>::infinity(), "en"), "1,000,000 days");
 }
 
 } // namespace

@@ -10,10 +10,7 @@ using testing::StartsWith;
 
 class EvidenceScreen : public EvidenceTest {
 protected:
-    void look(int width = 1240, int height = 820)
-    {
-        show("Evidence", "EvidenceScreen", evidence.get(), width, height);
-    }
+    void look(int width = 1240, int height = 820) { show("Evidence", "EvidenceScreen", evidence.get(), width, height); }
     QQuickItem* rowOf(const char* list, int row)
     {
         QQuickItem* item = nullptr;

@@ -41,6 +41,8 @@ protected:
         item->forceActiveFocus();
         QTest::qWait(50);
     }
+    /// The window goes before what it shows.
+    ~StatusPopover() override { m_window.reset(); }
     [[nodiscard]] QObject* focused() const { return m_window->activeFocusItem(); }
     void photograph(const char* name)
     {
@@ -57,8 +59,8 @@ protected:
 
 KarvelloMenuBarStatusSnapshot fullDisk(KarvelloMenuBarStatusSnapshot machine)
 {
-    machine.diskTotalBytes = 476'000'000'000;
-    machine.diskFreeBytes = 43'100'000'000;
+    machine.diskTotalBytes = std::int64_t{476} << 30;
+    machine.diskFreeBytes = std::int64_t{43} << 30;
     return machine;
 }
 
@@ -110,7 +112,7 @@ TEST_F(StatusPopover, SpeaksEachFigureWithItsName)
     EXPECT_EQ(nameOf(find("cpu")), "CPU, 25%");
     EXPECT_EQ(nameOf(find("thermal")), "Thermal, Nominal");
     EXPECT_EQ(nameOf(find("calm")), "No alerts need review now");
-    EXPECT_EQ(spoken(find("storage"))->text(QAccessible::Description).toStdString(), "500 bytes / 1 KB used");
+    EXPECT_EQ(spoken(find("storage"))->text(QAccessible::Description).toStdString(), "500 bytes / 1000 bytes used");
 }
 
 TEST_F(StatusPopover, KeepsTheKeyboardOnARowThroughAPoll)

@@ -1,0 +1,41 @@
+import QtQuick
+import QtQuick.Layouts
+import Karvello.Design
+
+// A name and its value below a rule.
+ColumnLayout {
+    id: control
+
+    required property var fact
+
+    Layout.fillWidth: true
+    spacing: KarvelloDesign.spacing8
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: KarvelloDesign.spoken([fact.name, fact.value])
+
+    Rectangle {
+        Layout.fillWidth: true
+        implicitHeight: 1
+        color: KarvelloDesign.lineSoft
+    }
+    RowLayout {
+        spacing: KarvelloDesign.spacing12
+
+        KarvelloText {
+            Layout.fillWidth: true
+            text: control.fact.name
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        KarvelloText {
+            Layout.fillWidth: true
+            text: control.fact.value
+            emphasis: KarvelloText.Strong
+            color: KarvelloDesign.ink
+            horizontalAlignment: Text.AlignRight
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+}

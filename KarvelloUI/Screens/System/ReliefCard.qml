@@ -1,0 +1,236 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Karvello.Design
+import Karvello.Screens.System
+
+// The running applications, which of them the user has selected, and the way to ask these to quit.
+Rectangle {
+    id: control
+
+    required property ReliefScreenModel screen
+
+    implicitHeight: column.implicitHeight
+    radius: KarvelloDesign.cardRadius
+    color: KarvelloDesign.elevated1
+    border.color: KarvelloDesign.line
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: screen.reliefTitle
+
+    ColumnLayout {
+        id: column
+        anchors.fill: parent
+        spacing: 0
+
+        RowLayout {
+            Layout.margins: KarvelloDesign.spacing20
+            Layout.topMargin: KarvelloDesign.spacing16
+            Layout.bottomMargin: KarvelloDesign.spacing16
+            spacing: KarvelloDesign.spacing16
+
+            ColumnLayout {
+                spacing: 2
+
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: control.screen.reliefTitle
+                    textStyle: KarvelloDesign.heading
+                    color: KarvelloDesign.ink
+                    Accessible.role: Accessible.Heading
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: control.screen.reliefBody
+                    textStyle: KarvelloDesign.small
+                    color: KarvelloDesign.ink3
+                    wrapMode: Text.Wrap
+                }
+            }
+            KarvelloButton {
+                objectName: "refreshApps"
+                size: KarvelloButton.Small
+                iconName: "refresh"
+                text: control.screen.refreshAppsTitle
+                isBusy: control.screen.isRefreshing
+                enabled: !control.screen.isRefreshing
+                onClicked: control.screen.refreshApps()
+            }
+        }
+        Rectangle {
+            Layout.fillWidth: true
+            implicitHeight: 1
+            color: KarvelloDesign.line
+        }
+        KarvelloBanner {
+            objectName: "limit"
+            Layout.fillWidth: true
+            Layout.margins: KarvelloDesign.spacing16
+            visible: text !== ""
+            text: control.screen.limit
+            actionText: control.screen.monitorTitle
+            onActionRequested: control.screen.openMonitor()
+        }
+        ListView {
+            id: list
+            objectName: "candidates"
+
+            // Arrows and Tab show where they are; a press of the mouse does not.
+            property bool isByKeyboard: true
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.leftMargin: 1
+            Layout.rightMargin: 1
+            Layout.minimumHeight: Math.round(156 * KarvelloDesign.textFactor)
+            model: control.screen.candidates
+            reuseItems: true
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            activeFocusOnTab: count > 0
+            highlightFollowsCurrentItem: true
+            highlightMoveDuration: 0
+            T.ScrollBar.vertical: KarvelloScrollBar {}
+
+            function moveTo(row: int) {
+                isByKeyboard = true
+                currentIndex = Math.max(0, Math.min(count - 1, row))
+            }
+
+            Accessible.role: Accessible.List
+            Accessible.name: control.screen.reliefTitle
+
+            onActiveFocusChanged: {
+                if (activeFocus && currentIndex < 0)
+                    currentIndex = 0
+            }
+            Keys.onPressed: event => {
+                const page = Math.max(1, Math.floor(height / Math.max(1, currentItem ? currentItem.height : 1)) - 1)
+                const targets = {
+                    [Qt.Key_Up]: currentIndex - 1,
+                    [Qt.Key_Down]: currentIndex + 1,
+                    [Qt.Key_PageUp]: currentIndex - page,
+                    [Qt.Key_PageDown]: currentIndex + page,
+                    [Qt.Key_Home]: 0,
+                    [Qt.Key_End]: count - 1
+                }
+                event.accepted = event.key in targets
+                if (event.accepted)
+                    moveTo(targets[event.key])
+            }
+
+            delegate: ReliefRow {
+                width: ListView.view.width
+                focus: ListView.isCurrentItem
+                showsFocus: list.isByKeyboard
+                canToggle: !control.screen.isRequestingQuit
+                onPressed: {
+                    list.isByKeyboard = false
+                    list.currentIndex = index
+                }
+                onToggleRequested: control.screen.toggle(index)
+            }
+
+            KarvelloText {
+                objectName: "empty"
+                anchors.centerIn: parent
+                width: Math.min(440, parent.width - 2 * KarvelloDesign.spacing20)
+                visible: text !== ""
+                text: control.screen.emptyTitle
+                color: KarvelloDesign.ink3
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+            }
+        }
+        RowLayout {
+            objectName: "results"
+            Layout.margins: KarvelloDesign.spacing16
+            Layout.leftMargin: KarvelloDesign.spacing20
+            visible: control.screen.results.length > 0
+            spacing: KarvelloDesign.spacing12
+
+            Accessible.role: control.screen.areAllSent ? Accessible.Note : Accessible.AlertMessage
+            Accessible.name: control.screen.results.join(" ")
+
+            KarvelloIcon {
+                Layout.alignment: Qt.AlignTop
+                name: control.screen.areAllSent ? "done" : "warning"
+                tint: control.screen.areAllSent ? KarvelloDesign.accent : KarvelloDesign.caution
+                size: 18
+            }
+            ColumnLayout {
+                spacing: KarvelloDesign.spacing4
+
+                Repeater {
+                    model: control.screen.results
+
+                    KarvelloText {
+                        required property string modelData
+                        Layout.fillWidth: true
+                        text: modelData
+                        wrapMode: Text.Wrap
+                    }
+                }
+            }
+            KarvelloButton {
+                objectName: "dismiss"
+                Layout.alignment: Qt.AlignTop
+                kind: KarvelloButton.Quiet
+                size: KarvelloButton.Small
+                iconName: "close"
+                accessibleName: control.screen.closeTitle
+                onClicked: control.screen.dismissResults()
+            }
+        }
+        Item {
+            Layout.fillWidth: true
+            implicitHeight: Math.max(60, footer.implicitHeight + 2 * KarvelloDesign.spacing12)
+
+            Rectangle {
+                x: 1
+                width: parent.width - 2
+                height: parent.height - 1
+                radius: KarvelloDesign.cardRadius - 1
+                color: KarvelloDesign.elevated2
+            }
+            Rectangle {
+                x: 1
+                width: parent.width - 2
+                height: parent.height / 2
+                color: KarvelloDesign.elevated2
+            }
+            Rectangle {
+                width: parent.width
+                height: 1
+                color: KarvelloDesign.line
+            }
+            RowLayout {
+                id: footer
+                x: KarvelloDesign.spacing20
+                width: parent.width - 2 * x
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: KarvelloDesign.spacing16
+
+                KarvelloText {
+                    objectName: "sentence"
+                    Layout.fillWidth: true
+                    text: control.screen.footerText
+                    textStyle: KarvelloDesign.small
+                    color: KarvelloDesign.ink3
+                    wrapMode: Text.Wrap
+                }
+                KarvelloButton {
+                    objectName: "requestQuit"
+                    kind: KarvelloButton.Primary
+                    iconName: "quit"
+                    text: control.screen.quitTitle
+                    isBusy: control.screen.isRequestingQuit
+                    enabled: control.screen.canRequestQuit
+                    disabledReason: control.screen.quitDisabledReason
+                    onClicked: control.screen.requestQuit()
+                }
+            }
+        }
+    }
+}

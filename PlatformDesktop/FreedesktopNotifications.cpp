@@ -27,7 +27,7 @@ FreedesktopNotifications::Settings FreedesktopNotifications::Settings::current(c
     return {
         .hasSessionBus = SessionBus::isOffered(environment),
         .applicationName = "Karvello",
-        .desktopEntry = "karvello",
+        .desktopEntry = "io.github.karvello.Karvello",
     };
 }
 

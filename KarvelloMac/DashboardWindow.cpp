@@ -29,8 +29,8 @@ DashboardWindow::DashboardWindow(QQmlEngine& engine, KarvelloUI::MacCleanerDashb
         component.createWithInitialProperties({{QStringLiteral("screens"), QVariant::fromValue(&m_screens)}});
     m_window.reset(qobject_cast<QQuickWindow*>(object));
     if (!m_window) {
-        delete object;
         qCritical("%s", qUtf8Printable(component.errorString()));
+        delete object;
         return;
     }
     m_window->setTitle(QStringLiteral("Karvello"));

@@ -45,8 +45,8 @@ TEST(HomeMetrics, ASnapshotThatWasNeverTakenHasNoFigures)
 
 TEST(HomeMetrics, AMachineWithoutSensorsHasEverythingElse)
 {
-    const auto shown = metrics({.physicalMemoryBytes = 16'000'000'000,
-                                   .usedMemoryBytes = 8'000'000'000,
+    const auto shown = metrics({.physicalMemoryBytes = 16ULL << 30,
+                                   .usedMemoryBytes = 8ULL << 30,
                                    .memoryPressure = "Unknown",
                                    .normalizedCPULoad = 0.25,
                                    .thermalState = "Unknown"},

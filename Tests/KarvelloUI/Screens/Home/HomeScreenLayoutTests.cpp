@@ -20,6 +20,7 @@ protected:
     void fill()
     {
         addProjects();
+        addLargeFiles();
         scanEverything();
         home->reviewLoop()->chooseCadence(QStringLiteral("weekly"));
         home->reviewLoop()->markReviewed();

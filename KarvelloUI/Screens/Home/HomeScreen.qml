@@ -23,11 +23,6 @@ KarvelloPage {
         isBusy: control.screen.isScanning
         disabledReason: control.screen.texts.startScanReason
         onClicked: control.screen.startScan()
-
-        KarvelloHint {
-            target: parent as Item
-            text: control.screen.texts.startScanReason
-        }
     }
 
     Shortcut {
@@ -57,12 +52,14 @@ KarvelloPage {
     }
     CoachPanel {
         Layout.fillWidth: true
+        Layout.fillHeight: false
         title: control.screen.texts.coachTitle
         subtitle: control.screen.texts.coachSubtitle
         cards: control.screen.coach
         onOpenRequested: section => control.screen.openSection(section)
     }
     GridLayout {
+        Layout.fillHeight: false
         columns: control.hasTwoColumns ? 2 : 1
         columnSpacing: KarvelloDesign.spacing16
         rowSpacing: KarvelloDesign.spacing16
@@ -103,4 +100,6 @@ KarvelloPage {
             }
         }
     }
+    // What is left of a tall window.
+    Item { Layout.fillHeight: true }
 }

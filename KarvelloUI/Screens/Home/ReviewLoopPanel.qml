@@ -50,7 +50,10 @@ KarvelloCard {
     }
     // The names stand above their controls where both have no room side by side.
     GridLayout {
-        columns: cadence.naturalWidth > control.roomBesideName || profile.implicitWidth > control.roomBesideName ? 1 : 2
+        id: names
+        readonly property bool isBeside:
+            cadence.naturalWidth <= control.roomBesideName && profile.implicitWidth <= control.roomBesideName
+        columns: isBeside ? 2 : 1
         columnSpacing: KarvelloDesign.spacing12
         rowSpacing: KarvelloDesign.spacing8
 
@@ -64,6 +67,7 @@ KarvelloCard {
             id: cadence
             readonly property real naturalWidth: Math.min(segmentsWidth, maximumWidth)
             objectName: "cadence"
+            Layout.alignment: names.isBeside ? Qt.AlignRight : Qt.AlignLeft
             choices: control.panel.cadences
             currentValue: control.panel.cadence
             accessibleName: control.panel.cadenceTitle
@@ -79,6 +83,7 @@ KarvelloCard {
         KarvelloDropDown {
             id: profile
             objectName: "profile"
+            Layout.alignment: names.isBeside ? Qt.AlignRight : Qt.AlignLeft
             Layout.maximumWidth: control.width - 2 * control.padding
             model: control.panel.profiles
             currentIndex: control.panel.profiles.findIndex(choice => choice.value === control.panel.profile)

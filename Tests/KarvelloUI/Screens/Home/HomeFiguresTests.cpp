@@ -57,7 +57,7 @@ TEST(HomeMetrics, AMachineWithoutSensorsHasEverythingElse)
     EXPECT_EQ(shown.at(1).text, QString());
     EXPECT_EQ(shown.at(2).figure, QStringLiteral("—"));
     EXPECT_EQ(shown.at(2).text, QStringLiteral("No reading"));
-    EXPECT_EQ(shown.at(0).emptyText, QStringLiteral("Needs at least two samples"));
+    EXPECT_EQ(shown.at(0).emptyText, QStringLiteral("1 sample"));
 }
 
 TEST(HomeMetrics, ALoadThatIsNoNumberIsNotShownAsOne)

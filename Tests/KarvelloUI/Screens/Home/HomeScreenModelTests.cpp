@@ -167,7 +167,7 @@ TEST_F(HomeScreenModelTest, EachStepLeadsToItsSection)
 TEST_F(HomeScreenModelTest, RecommendsAScanBeforeThereIsOneAndTheLargestFindsAfterIt)
 {
     ASSERT_EQ(home->coach()->count(), 1);
-    EXPECT_EQ(card(0).title, QStringLiteral("Scan to unlock recommendations"));
+    EXPECT_EQ(card(0).figure, QStringLiteral("Scan to unlock recommendations"));
     EXPECT_EQ(card(0).pillText, QStringLiteral("Review first"));
     addLargeFiles();
     scanEverything();
@@ -301,6 +301,8 @@ TEST_F(HomeScreenModelTest, LeavesNoTextInEnglishInAnyLanguage)
 {
     addProjects();
     scanEverything();
+    home->reviewLoop()->chooseCadence(QStringLiteral("weekly"));
+    home->reviewLoop()->markReviewed();
     const auto all = [this] {
         std::vector<std::string> texts;
         const auto add = [&texts](const QString& text) { texts.push_back(text.toStdString()); };
@@ -315,6 +317,7 @@ TEST_F(HomeScreenModelTest, LeavesNoTextInEnglishInAnyLanguage)
         }
         for (int index = 0; index < home->coach()->count(); ++index) {
             add(card(index).body);
+            add(card(index).actionTitle);
         }
         for (int index = 0; index < home->timeline()->count(); ++index) {
             add(point(index).text);
@@ -323,6 +326,7 @@ TEST_F(HomeScreenModelTest, LeavesNoTextInEnglishInAnyLanguage)
         add(metric(2).text);
         add(home->reviewLoop()->title());
         add(home->reviewLoop()->statusText());
+        add(home->reviewLoop()->lastReviewText());
         add(home->reviewLoop()->guardrail());
         add(home->projects()->subtitle());
         add(home->projects()->note());

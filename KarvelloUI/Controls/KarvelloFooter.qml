@@ -49,7 +49,7 @@ Rectangle {
     signal primaryRequested()
 
     implicitWidth: 720
-    implicitHeight: Math.max(72, Math.ceil(row.implicitHeight) + 2 * KarvelloDesign.spacing12)
+    implicitHeight: Math.max(72, Math.ceil(Math.max(row.implicitHeight, buttons.implicitHeight)) + 2 * KarvelloDesign.spacing12)
     color: KarvelloDesign.elevated1
 
     Accessible.role: Accessible.ToolBar
@@ -63,121 +63,113 @@ Rectangle {
     RowLayout {
         id: row
         x: control.sideMargin
-        width: parent.width - 2 * control.sideMargin
+        width: buttons.x - x - KarvelloDesign.spacing24
         anchors.verticalCenter: parent.verticalCenter
-        spacing: KarvelloDesign.spacing24
+        spacing: KarvelloDesign.spacing4
 
-        RowLayout {
-            spacing: KarvelloDesign.spacing4
+        KarvelloCheckBox {
+            id: box
+            Layout.leftMargin: -padding
+            visible: control.showsCheckBox
+            enabled: control.canToggleAll && !control.isBusy
+            checkState: control.checkState
+            isAsking: true
+            accessibleName: control.checkBoxName
+            onClicked: control.toggleAllRequested()
+        }
+        ColumnLayout {
+            spacing: 0
 
-            KarvelloCheckBox {
-                id: box
-                Layout.leftMargin: -padding
-                visible: control.showsCheckBox
-                enabled: control.canToggleAll && !control.isBusy
-                checkState: control.checkState
-                isAsking: true
-                accessibleName: control.checkBoxName
-                onClicked: control.toggleAllRequested()
-            }
-            ColumnLayout {
-                spacing: 0
+            RowLayout {
+                spacing: KarvelloDesign.spacing8
+                KarvelloText {
+                    id: heading
+                    Layout.fillWidth: true
+                    Layout.maximumWidth: Math.ceil(implicitWidth)
+                    text: control.title
+                    textStyle: KarvelloDesign.heading
+                    color: KarvelloDesign.ink
+                    Accessible.role: Accessible.Heading
+                }
+                Item {
+                    implicitWidth: control.hasRoomForPills ? pillRow.implicitWidth : 0
+                    implicitHeight: control.hasRoomForPills ? pillRow.implicitHeight : 0
 
-                RowLayout {
-                    spacing: KarvelloDesign.spacing8
-                    KarvelloText {
-                        id: heading
-                        Layout.fillWidth: true
-                        Layout.maximumWidth: Math.ceil(implicitWidth)
-                        text: control.title
-                        textStyle: KarvelloDesign.heading
-                        color: KarvelloDesign.ink
-                        Accessible.role: Accessible.Heading
-                    }
-                    Item {
-                        implicitWidth: control.hasRoomForPills ? pillRow.implicitWidth : 0
-                        implicitHeight: control.hasRoomForPills ? pillRow.implicitHeight : 0
-
-                        Row {
-                            id: pillRow
-                            visible: control.hasRoomForPills
-                            spacing: KarvelloDesign.spacing8
-                            Repeater {
-                                model: control.pills
-                                KarvelloPill {
-                                    required property var modelData
-                                    text: modelData.text
-                                    kind: modelData.kind
-                                }
+                    Row {
+                        id: pillRow
+                        visible: control.hasRoomForPills
+                        spacing: KarvelloDesign.spacing8
+                        Repeater {
+                            model: control.pills
+                            KarvelloPill {
+                                required property var modelData
+                                text: modelData.text
+                                kind: modelData.kind
                             }
                         }
                     }
-                    Item { Layout.fillWidth: true }
                 }
-                KarvelloText {
-                    id: sentence
-                    Layout.fillWidth: true
-                    visible: text !== ""
-                    text: control.text
-                    textStyle: KarvelloDesign.small
-                    color: KarvelloDesign.ink3
+                Item { Layout.fillWidth: true }
+            }
+            KarvelloText {
+                id: sentence
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: control.text
+                textStyle: KarvelloDesign.small
+                color: KarvelloDesign.ink3
+            }
+        }
+    }
+    // No layout: one that is about to be resized misses what appears in it.
+    Row {
+        id: buttons
+        anchors.right: parent.right
+        anchors.rightMargin: control.sideMargin
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: KarvelloDesign.spacing12
+
+        KarvelloButton {
+            id: clear
+            visible: text !== ""
+            kind: KarvelloButton.Quiet
+            text: control.clearText
+            enabled: control.canClear && !control.isBusy
+            onClicked: control.clearRequested()
+        }
+        KarvelloButton {
+            id: selectAll
+            visible: text !== "" && !control.isFolded
+            text: control.selectAllText
+            enabled: control.canSelectAll && !control.isBusy
+            onClicked: control.selectAllRequested()
+        }
+        KarvelloButton {
+            id: more
+            visible: control.isFolded
+            iconName: "more"
+            accessibleName: control.moreName
+            enabled: control.canSelectAll && !control.isBusy
+            onClicked: menu.openBelow(more)
+
+            KarvelloMenu {
+                id: menu
+                accessibleName: control.moreName
+                KarvelloMenuItem {
+                    text: control.selectAllText
+                    onTriggered: control.selectAllRequested()
                 }
             }
         }
-        RowLayout {
-            id: buttons
-            Layout.fillWidth: false
-            spacing: KarvelloDesign.spacing12
-
-            KarvelloButton {
-                id: clear
-                visible: text !== ""
-                kind: KarvelloButton.Quiet
-                text: control.clearText
-                enabled: control.canClear && !control.isBusy
-                onClicked: control.clearRequested()
-            }
-            // One place for both: a layout misses what appears in it while its own width is being decided.
-            Item {
-                visible: control.selectAllText !== ""
-                implicitWidth: control.isFolded ? more.implicitWidth : selectAll.implicitWidth
-                implicitHeight: selectAll.implicitHeight
-
-                KarvelloButton {
-                    id: selectAll
-                    visible: !control.isFolded
-                    text: control.selectAllText
-                    enabled: control.canSelectAll && !control.isBusy
-                    onClicked: control.selectAllRequested()
-                }
-                KarvelloButton {
-                    id: more
-                    visible: control.isFolded
-                    iconName: "more"
-                    accessibleName: control.moreName
-                    enabled: control.canSelectAll && !control.isBusy
-                    onClicked: menu.openBelow(more)
-
-                    KarvelloMenu {
-                        id: menu
-                        accessibleName: control.moreName
-                        KarvelloMenuItem {
-                            text: control.selectAllText
-                            onTriggered: control.selectAllRequested()
-                        }
-                    }
-                }
-            }
-            KarvelloButton {
-                id: primary
-                kind: KarvelloButton.Primary
-                text: control.primaryText
-                iconName: control.primaryIconName
-                enabled: control.canAct && !control.isBusy
-                disabledReason: control.primaryDisabledReason
-                isBusy: control.isBusy
-                onClicked: control.primaryRequested()
-            }
+        KarvelloButton {
+            id: primary
+            kind: KarvelloButton.Primary
+            text: control.primaryText
+            iconName: control.primaryIconName
+            enabled: control.canAct && !control.isBusy
+            disabledReason: control.primaryDisabledReason
+            isBusy: control.isBusy
+            onClicked: control.primaryRequested()
         }
     }
 }

@@ -20,7 +20,7 @@ T.AbstractButton {
     horizontalPadding: KarvelloDesign.spacing8
     verticalPadding: KarvelloDesign.spacing4
     hoverEnabled: canToggle
-    focusPolicy: canToggle ? Qt.StrongFocus : Qt.NoFocus
+    focusPolicy: canToggle || activeFocus ? Qt.StrongFocus : Qt.NoFocus
 
     Accessible.role: isCollapsible ? Accessible.Button : Accessible.Heading
     Accessible.name: text

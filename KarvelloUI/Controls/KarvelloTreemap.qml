@@ -17,6 +17,7 @@ FocusScope {
     readonly property int selectedIndex: indexOf(selectedId)
     // The cell that has, or gets, the focus.
     property int currentIndex: selectedIndex >= 0 ? selectedIndex : 0
+    property var toldId
 
     // Undefined when the pointer has left.
     signal hovered(var id)
@@ -54,6 +55,14 @@ FocusScope {
             }
         }
         return best
+    }
+
+    // A cell is entered before the last one is left, which is no news then.
+    function tell(isOver: bool, id: var) {
+        if (isOver || toldId === id) {
+            toldId = isOver ? id : undefined
+            hovered(toldId)
+        }
     }
 
     function moveTo(index: int) {
@@ -118,7 +127,7 @@ FocusScope {
                 control.selected(cell.modelData.id)
             }
             onDoubleClicked: control.activated(cell.modelData.id)
-            onHoveredChanged: control.hovered(cell.hovered ? cell.modelData.id : undefined)
+            onHoveredChanged: control.tell(cell.hovered, cell.modelData.id)
             Accessible.onPressAction: control.activated(cell.modelData.id)
         }
     }

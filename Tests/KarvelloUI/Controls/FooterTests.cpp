@@ -58,13 +58,13 @@ TEST_F(KarvelloFooter, FoldsSelectAllIntoAMenuWhereThereIsNoRoomAndKeepsThePrima
     ASSERT_TRUE(QTest::qWaitFor([this] { return shown("Select All") == nullptr; }));
     const auto* const primary = shown("Move Selected to Trash");
     EXPECT_GE(primary->width(), primary->implicitWidth());
-    EXPECT_TRUE(QTest::qWaitFor([this, primary] {
-        return primary->mapToItem(m_footer, {primary->width(), 0}).x() == 560 - 24;
-    }));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this, primary] { return primary->mapToItem(m_footer, {primary->width(), 0}).x() == 560 - 24; }));
     auto* const more = shown("");
     ASSERT_NE(more, nullptr);
     EXPECT_TRUE(QTest::qWaitFor([&] {
-        return more->mapToItem(m_footer, {0, 0}).x() >= shown("Clear")->mapToItem(m_footer, {shown("Clear")->width(), 0}).x();
+        return more->mapToItem(m_footer, {0, 0}).x()
+            >= shown("Clear")->mapToItem(m_footer, {shown("Clear")->width(), 0}).x();
     }));
     more->forceActiveFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);

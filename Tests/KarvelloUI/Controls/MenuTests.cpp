@@ -11,7 +11,7 @@ protected:
              " KarvelloMenu { id: menu; objectName: 'menu'; accessibleName: 'Actions';"
              " KarvelloMenuItem { objectName: 'first'; text: 'Show in Files'; iconName: 'folder' }"
              " KarvelloMenuItem { objectName: 'second'; text: 'Restore'; enabled: false; disabledReason: 'Gone' }"
-             " KarvelloMenuItem { objectName: 'third'; text: 'Hide' } } }");
+             " KarvelloMenuItem { objectName: 'third'; text: 'Hide this item until it is shown again' } } }");
         m_menu = find<QObject>("menu");
         find("opener")->forceActiveFocus(Qt::TabFocusReason);
         key(Qt::Key_Return);

@@ -33,7 +33,8 @@ TEST_F(KarvelloEmptyState, AsksForItsActionsAndSaysWhatIsMissing)
 TEST_F(KarvelloTimelineRow, SaysAllOfItselfAndLeadsToItsSection)
 {
     show("KarvelloTimelineRow { objectName: 'row'; width: 400; title: 'Estimate'; figure: '11 GB'; date: '14 Nov';"
-         " text: 'A sentence.'; detail: '42 candidates'; actionText: 'Cleanup Review'; kind: KarvelloTimelineRow.Estimate }");
+         " text: 'A sentence.'; detail: '42 candidates'; actionText: 'Cleanup Review'; kind: "
+         "KarvelloTimelineRow.Estimate }");
     auto* const row = find("row");
     QSignalSpy asked(row, SIGNAL(actionRequested()));
     EXPECT_EQ(nameOf(row), "Estimate, 11 GB, 14 Nov, A sentence., 42 candidates");
@@ -46,7 +47,8 @@ TEST_F(KarvelloTimelineRow, SaysAllOfItselfAndLeadsToItsSection)
 TEST_F(KarvelloMetricTile, SaysItsFigureAndDropsItsNoteFirst)
 {
     show("KarvelloMetricTile { objectName: 'tile'; width: 300; iconName: 'cpu'; name: 'Thermal State'; note: 'TREND';"
-         " figure: '18%'; unit: 'of 16'; text: 'Sampled every second'; samples: [0.1, 0.2]; accessibleValue: 'rising' }");
+         " figure: '18%'; unit: 'of 16'; text: 'Sampled every second'; samples: [0.1, 0.2]; accessibleValue: 'rising' "
+         "}");
     auto* const tile = find("tile");
     EXPECT_EQ(nameOf(tile), "Thermal State, 18%, of 16, Sampled every second");
     EXPECT_EQ(spoken(tile)->text(QAccessible::Description), QStringLiteral("rising"));
@@ -164,7 +166,8 @@ TEST_F(KarvelloFormRow, PutsItsControlBelowWhereBothDoNotFit)
 
 TEST_F(KarvelloKeeperRow, CannotSelectTheKeeperAndSaysWhyItIsOne)
 {
-    show("KarvelloKeeperRow { objectName: 'row'; width: 640; isKeeper: true; name: 'a.iso'; path: '~/a.iso'; size: '1 GB';"
+    show("KarvelloKeeperRow { objectName: 'row'; width: 640; isKeeper: true; name: 'a.iso'; path: '~/a.iso'; size: '1 "
+         "GB';"
          " kindText: 'Keeper'; reasons: ['preferred folder', 'older copy']; isChecked: true }");
     auto* const row = find("row");
     const QSignalSpy toggled(row, SIGNAL(toggleRequested()));
@@ -182,7 +185,8 @@ TEST_F(KarvelloKeeperRow, CannotSelectTheKeeperAndSaysWhyItIsOne)
 
 TEST_F(KarvelloKeeperRow, AsksToToggleAnExtraOnceHoweverItIsPressed)
 {
-    show("KarvelloKeeperRow { objectName: 'row'; width: 640; name: 'a.iso'; kindText: 'Extra copy'; menuName: 'Actions' }");
+    show("KarvelloKeeperRow { objectName: 'row'; width: 640; name: 'a.iso'; kindText: 'Extra copy'; menuName: "
+         "'Actions' }");
     auto* const row = find("row");
     const QSignalSpy toggled(row, SIGNAL(toggleRequested()));
     const QSignalSpy menus(row, SIGNAL(menuRequested(QPointF)));

@@ -6,10 +6,10 @@ using KarvelloDropDown = Controls;
 
 namespace {
 
-constexpr const char* kDropDown =
-    "KarvelloDropDown { objectName: 'down'; accessibleName: 'Category';"
-    " model: [{ value: 'a', text: 'All categories' }, { value: 'u', text: 'User Caches' }, { value: 't', text: 'Tools' }] }"
-    "KarvelloButton { objectName: 'after'; text: 'after' }";
+constexpr const char* kDropDown = "KarvelloDropDown { objectName: 'down'; accessibleName: 'Category';"
+                                  " model: [{ value: 'a', text: 'All categories' }, { value: 'u', text: 'User Caches' "
+                                  "}, { value: 't', text: 'Tools' }] }"
+                                  "KarvelloButton { objectName: 'after'; text: 'after' }";
 
 bool isOpen(const QObject* dropDown)
 {
@@ -77,7 +77,8 @@ namespace {
 
 constexpr const char* kPicker =
     "KarvelloPicker { objectName: 'picker'; accessibleName: 'Grouping'; currentValue: 'list';"
-    " choices: [{ value: 'list', text: 'List' }, { value: 'category', text: 'Category' }, { value: 'safety', text: 'Safety' }] }";
+    " choices: [{ value: 'list', text: 'List' }, { value: 'category', text: 'Category' }, { value: 'safety', text: "
+    "'Safety' }] }";
 
 } // namespace
 

@@ -7,13 +7,16 @@ class KarvelloTreemap : public Controls {
 protected:
     void showMap(const std::string& properties = "")
     {
-        show(("KarvelloTreemap { objectName: 'map'; width: 600; height: 400; accessibleName: 'Storage Map'; cells: ["
-              "{ id: 'a', name: 'Videos', sizeText: '9 GB', countText: '4 items', shareText: '50%', partialText: 'partial',"
-              "  tint: '#ff0000', x: 0, y: 0, width: 0.5, height: 0.5 },"
-              "{ id: 'b', name: '<b>Projects</b>', sizeText: '5 GB', tint: '#00ff00', x: 0.5, y: 0, width: 0.45, height: 0.5 },"
-              "{ id: 'c', name: 'Music', sizeText: '4 GB', tint: '#0000ff', x: 0, y: 0.5, width: 0.95, height: 0.5 },"
-              "{ id: 'd', name: 'Desktop', sizeText: '1 GB', tint: '#0000ff', x: 0.95, y: 0, width: 0.05, height: 1 }]; "
-            + properties + " } KarvelloButton { objectName: 'after'; text: 'after' }")
+        show(
+            ("KarvelloTreemap { objectName: 'map'; width: 600; height: 400; accessibleName: 'Storage Map'; cells: ["
+             "{ id: 'a', name: 'Videos', sizeText: '9 GB', countText: '4 items', shareText: '50%', partialText: "
+             "'partial',"
+             "  tint: '#ff0000', x: 0, y: 0, width: 0.5, height: 0.5 },"
+             "{ id: 'b', name: '<b>Projects</b>', sizeText: '5 GB', tint: '#00ff00', x: 0.5, y: 0, width: 0.45, "
+             "height: 0.5 },"
+             "{ id: 'c', name: 'Music', sizeText: '4 GB', tint: '#0000ff', x: 0, y: 0.5, width: 0.95, height: 0.5 },"
+             "{ id: 'd', name: 'Desktop', sizeText: '1 GB', tint: '#0000ff', x: 0.95, y: 0, width: 0.05, height: 1 }]; "
+                + properties + " } KarvelloButton { objectName: 'after'; text: 'after' }")
                 .c_str());
         m_map = find("map");
         m_selected = std::make_unique<QSignalSpy>(m_map, SIGNAL(selected(QVariant)));
@@ -132,9 +135,10 @@ TEST_F(KarvelloTreemap, CanBeEmptyAndFilledLater)
     key(Qt::Key_Right);
     key(Qt::Key_Return);
     map->setProperty("cells",
-        QVariantList{QVariantMap{{QStringLiteral("id"), QStringLiteral("x")}, {QStringLiteral("name"), QStringLiteral("X")},
-            {QStringLiteral("sizeText"), QStringLiteral("1 B")}, {QStringLiteral("tint"), QStringLiteral("#123456")},
-            {QStringLiteral("x"), 0}, {QStringLiteral("y"), 0}, {QStringLiteral("width"), 1}, {QStringLiteral("height"), 1}}});
+        QVariantList{QVariantMap{{QStringLiteral("id"), QStringLiteral("x")},
+            {QStringLiteral("name"), QStringLiteral("X")}, {QStringLiteral("sizeText"), QStringLiteral("1 B")},
+            {QStringLiteral("tint"), QStringLiteral("#123456")}, {QStringLiteral("x"), 0}, {QStringLiteral("y"), 0},
+            {QStringLiteral("width"), 1}, {QStringLiteral("height"), 1}}});
     EXPECT_EQ(spoken(map)->childCount(), 1);
     EXPECT_EQ(spoken(map)->child(0)->text(QAccessible::Name), QStringLiteral("X, 1 B"));
 }

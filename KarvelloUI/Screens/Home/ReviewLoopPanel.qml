@@ -65,8 +65,10 @@ KarvelloCard {
         }
         KarvelloPicker {
             id: cadence
-            readonly property real naturalWidth: Math.min(segmentsWidth, maximumWidth)
+            // By its texts: the grid is not to wait for what the segments make of them.
+            readonly property real naturalWidth: isSegmented ? segmentsWidth : implicitWidth
             objectName: "cadence"
+            Layout.preferredWidth: naturalWidth
             Layout.alignment: names.isBeside ? Qt.AlignRight : Qt.AlignLeft
             choices: control.panel.cadences
             currentValue: control.panel.cadence

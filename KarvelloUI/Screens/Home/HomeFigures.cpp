@@ -120,11 +120,14 @@ std::vector<HomeCoachCard> coach(const StorageReviewFigures& figures, const Disk
 {
     std::vector<HomeCoachCard> cards;
     for (const auto& recommendation : SmartCleanupCoach::recommendations(figures, disk, access, words.language)) {
+        // It has no figure to begin with.
+        const bool isPrimer = recommendation.kind == StorageRecommendationKind::scanPrimer;
         cards.push_back({
-            .figure = shown(recommendation.detail),
-            .title = shown(recommendation.title),
+            .figure = shown(isPrimer ? recommendation.title : recommendation.detail),
+            .title = shown(isPrimer ? recommendation.detail : recommendation.title),
             .body = shown(recommendation.body),
-            .actionTitle = shown(recommendation.actionTitle),
+            .actionTitle = shown(words.say(
+                "Open {}", words.macDashboardSectionTitle(recommendation.action.destination))),
             .iconName = iconOf(recommendation.kind),
             .section = rawText(recommendation.action.destination),
             .pillText = cards.empty() ? shown(words.trustReviewPill()) : QString(),

@@ -29,8 +29,7 @@ HomeMetric metric(
         .figure = QString::fromUtf8(kNoFigure),
         .text = shown(words.say("No reading")),
         .samples = QList<double>(samples.begin(), samples.end()),
-        .emptyText = shown(samples.empty() ? words.systemTrendSubtitle(0)
-                                           : words.text("샘플이 두 개 이상 필요", "Needs at least two samples")),
+        .emptyText = shown(words.systemTrendSubtitle(std::ssize(samples))),
         .trend = shown(words.metricTrendAccessibilityValue(samples)),
     };
 }

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // Live Dashboard: how the disk and the machine are, and where to go on. Nothing here selects or moves a file.
 KarvelloPage {
@@ -22,11 +23,6 @@ KarvelloPage {
         isBusy: control.screen.isScanning
         disabledReason: control.screen.texts.startScanReason
         onClicked: control.screen.startScan()
-
-        KarvelloHint {
-            target: parent as Item
-            text: control.screen.texts.startScanReason
-        }
     }
 
     Shortcut {
@@ -56,12 +52,14 @@ KarvelloPage {
     }
     CoachPanel {
         Layout.fillWidth: true
+        Layout.fillHeight: false
         title: control.screen.texts.coachTitle
         subtitle: control.screen.texts.coachSubtitle
         cards: control.screen.coach
         onOpenRequested: section => control.screen.openSection(section)
     }
     GridLayout {
+        Layout.fillHeight: false
         columns: control.hasTwoColumns ? 2 : 1
         columnSpacing: KarvelloDesign.spacing16
         rowSpacing: KarvelloDesign.spacing16
@@ -102,4 +100,6 @@ KarvelloPage {
             }
         }
     }
+    // What is left of a tall window.
+    Item { Layout.fillHeight: true }
 }

@@ -29,6 +29,15 @@ std::string cadenceName(CleanupReviewCadence cadence, const DashboardWords& word
     return {};
 }
 
+/// The catalogue's tables do not know the days to come.
+std::string statusOf(const CleanupReviewCadenceStatus& status, const DashboardWords& words)
+{
+    const std::int64_t days = status.daysUntilNextReview.value_or(0);
+    return status.kind == CleanupReviewCadenceStatusKind::upcoming
+        ? words.count(days, "Next review in {} day.", "Next review in {} days.")
+        : words.cleanupReviewCadenceStatus(status.kind, days);
+}
+
 } // namespace
 
 ReviewLoopModel::ReviewLoopModel(MacCleanerDashboardModel& dashboard, QObject* parent)
@@ -70,7 +79,7 @@ ReviewLoopModel::State ReviewLoopModel::made() const
     State state{
         .title = shown(words.text("정기 안전 검토", "Recurring Safety Review")),
         .subtitle = shown(words.text("알림만 표시 · 자동 삭제 안 함", "Reminders only · never auto-delete")),
-        .statusText = shown(words.cleanupReviewCadenceStatus(m_status.kind, m_status.daysUntilNextReview.value_or(0))),
+        .statusText = shown(statusOf(m_status, words)),
         .isDue = m_status.kind == CleanupReviewCadenceStatusKind::due,
         .lastReviewText = lastReview
             ? shown(words.say("Last reviewed: {}", Platform::LocalizedText::shortDay(*lastReview, words.locale())))

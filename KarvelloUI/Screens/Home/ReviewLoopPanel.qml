@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // How often to be reminded of a review, of what, and when the last one was.
 KarvelloCard {
@@ -49,7 +50,10 @@ KarvelloCard {
     }
     // The names stand above their controls where both have no room side by side.
     GridLayout {
-        columns: cadence.naturalWidth > control.roomBesideName || profile.implicitWidth > control.roomBesideName ? 1 : 2
+        id: names
+        readonly property bool isBeside:
+            cadence.naturalWidth <= control.roomBesideName && profile.implicitWidth <= control.roomBesideName
+        columns: isBeside ? 2 : 1
         columnSpacing: KarvelloDesign.spacing12
         rowSpacing: KarvelloDesign.spacing8
 
@@ -61,8 +65,11 @@ KarvelloCard {
         }
         KarvelloPicker {
             id: cadence
-            readonly property real naturalWidth: Math.min(segmentsWidth, maximumWidth)
+            // By its texts: the grid is not to wait for what the segments make of them.
+            readonly property real naturalWidth: isSegmented ? segmentsWidth : implicitWidth
             objectName: "cadence"
+            Layout.preferredWidth: naturalWidth
+            Layout.alignment: names.isBeside ? Qt.AlignRight : Qt.AlignLeft
             choices: control.panel.cadences
             currentValue: control.panel.cadence
             accessibleName: control.panel.cadenceTitle
@@ -78,6 +85,7 @@ KarvelloCard {
         KarvelloDropDown {
             id: profile
             objectName: "profile"
+            Layout.alignment: names.isBeside ? Qt.AlignRight : Qt.AlignLeft
             Layout.maximumWidth: control.width - 2 * control.padding
             model: control.panel.profiles
             currentIndex: control.panel.profiles.findIndex(choice => choice.value === control.panel.profile)

@@ -170,4 +170,14 @@ TEST_F(KarvelloCard, GrowsWithItsContentAndTextEvenAtTwoHundredPercent)
     EXPECT_TRUE(fits());
 }
 
+TEST_F(KarvelloCard, GivesItsContentTheHeightOfItsNeighboursIfItWants)
+{
+    show("KarvelloCard { objectName: 'card'; width: 300; height: 300; fillsHeight: true;"
+         " Item { Layout.fillHeight: true } KarvelloText { objectName: 'text'; text: 'Open' } }");
+    const auto* const text = find("text");
+    EXPECT_EQ(text->mapToItem(find("card"), {0, text->height()}).y(), 280);
+    find("card")->setProperty("fillsHeight", false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return text->mapToItem(find("card"), {0, text->height()}).y() < 100; }));
+}
+
 } // namespace KarvelloUI

@@ -11,7 +11,9 @@ using Platform::Date;
 using Platform::LocalizedText::duration;
 using Platform::LocalizedText::list;
 using Platform::LocalizedText::mediumMoment;
+using Platform::LocalizedText::shortDay;
 using Platform::LocalizedText::shortTime;
+using Platform::LocalizedText::timeAgo;
 
 constexpr auto kAfternoon = Date::fromUnixTime(1'763'737'440); // 2025-11-21T15:04:00Z
 
@@ -61,6 +63,35 @@ TEST(LocalizedText, AMomentHasItsDayYearAndTime)
     EXPECT_EQ(mediumMoment(kAfternoon, "de", "UTC"), "21.11.2025, 15:04");
     EXPECT_EQ(mediumMoment(kAfternoon, "ja", "Asia/Seoul"), "2025/11/22 0:04");
     EXPECT_TRUE(mediumMoment(kAfternoon, "en", "UTC").starts_with("Nov 21, 2025, 3:04"));
+}
+
+TEST(LocalizedText, ADayIsThatOfTheTimeZone)
+{
+    EXPECT_EQ(shortDay(kAfternoon, "en", "UTC"), "Nov 21");
+    EXPECT_EQ(shortDay(kAfternoon, "en", "Asia/Seoul"), "Nov 22");
+    EXPECT_EQ(shortDay(kAfternoon, "de", "UTC"), "21. Nov.");
+    EXPECT_EQ(shortDay(kAfternoon, "ja", "UTC"), "11月21日");
+    EXPECT_FALSE(shortDay({std::numeric_limits<double>::quiet_NaN()}, "en").empty());
+}
+
+TEST(LocalizedText, WhatHasPassedIsToldInItsLargestUnit)
+{
+    EXPECT_EQ(timeAgo(59.9, "en"), "now");
+    EXPECT_EQ(timeAgo(60, "en"), "1 minute ago");
+    EXPECT_EQ(timeAgo(11 * 60 + 59, "en"), "11 minutes ago");
+    EXPECT_EQ(timeAgo(3600, "en"), "1 hour ago");
+    EXPECT_EQ(timeAgo(86399, "en"), "23 hours ago");
+    EXPECT_EQ(timeAgo(86400, "en"), "1 day ago");
+    EXPECT_EQ(timeAgo(40 * 86400.0, "en"), "40 days ago");
+    EXPECT_EQ(timeAgo(11 * 60, "de"), "vor 11 Minuten");
+    EXPECT_EQ(timeAgo(11 * 60, "ko"), "11분 전");
+}
+
+TEST(LocalizedText, ATimeToComeIsNow)
+{
+    EXPECT_EQ(timeAgo(-3600, "en"), "now");
+    EXPECT_EQ(timeAgo(std::numeric_limits<double>::quiet_NaN(), "en"), "now");
+    EXPECT_TRUE(timeAgo(std::numeric_limits<double>::infinity(), "en").has_value());
 }
 
 TEST(LocalizedText, ADateOutOfReachHasATimeToo)

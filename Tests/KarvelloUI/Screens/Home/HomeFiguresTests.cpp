@@ -45,8 +45,8 @@ TEST(HomeMetrics, ASnapshotThatWasNeverTakenHasNoFigures)
 
 TEST(HomeMetrics, AMachineWithoutSensorsHasEverythingElse)
 {
-    const auto shown = metrics({.physicalMemoryBytes = 16'000'000'000,
-                                   .usedMemoryBytes = 8'000'000'000,
+    const auto shown = metrics({.physicalMemoryBytes = 16ULL << 30,
+                                   .usedMemoryBytes = 8ULL << 30,
                                    .memoryPressure = "Unknown",
                                    .normalizedCPULoad = 0.25,
                                    .thermalState = "Unknown"},
@@ -57,7 +57,7 @@ TEST(HomeMetrics, AMachineWithoutSensorsHasEverythingElse)
     EXPECT_EQ(shown.at(1).text, QString());
     EXPECT_EQ(shown.at(2).figure, QStringLiteral("—"));
     EXPECT_EQ(shown.at(2).text, QStringLiteral("No reading"));
-    EXPECT_EQ(shown.at(0).emptyText, QStringLiteral("Needs at least two samples"));
+    EXPECT_EQ(shown.at(0).emptyText, QStringLiteral("1 sample"));
 }
 
 TEST(HomeMetrics, ALoadThatIsNoNumberIsNotShownAsOne)

@@ -3,9 +3,13 @@
 #include "KarvelloUI/Screens/Home/HomeScreenModel.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace HomeTests {
 
@@ -17,20 +21,33 @@ protected:
     HomeTest()
         : DashboardTest("home/.cache/pip/wheel size=64K age=90d\n"
                         "home/.cache/thumbnails/large/t.png size=16K age=90d\n"
-                        "home/Videos/film.mkv size=40G sparse age=90d\n"
-                        "home/Downloads/image.iso size=3G sparse age=90d\n"
+                        "home/Downloads/report.pdf size=2M age=90d\n"
                         "home/Projects/atlas/node_modules/lib.js size=300K age=143d\n"
                         "home/Projects/atlas/src.js size=1K age=1d\n")
     {
         systemSnapshot = {.capturedAt = now,
-            .physicalMemoryBytes = 16'000'000'000,
-            .usedMemoryBytes = 9'120'000'000,
+            .physicalMemoryBytes = 16ULL << 30,
+            .usedMemoryBytes = 9ULL << 30,
             .memoryPressure = "Normal",
             .normalizedCPULoad = 0.18,
             .processorCount = 8,
             .activeProcessorCount = 8,
             .thermalState = "Nominal"};
         remake();
+    }
+
+    /// Files large enough to be recommended: blocks that nobody has written to.
+    void addLargeFiles()
+    {
+        tree.add("home/Videos/film.mkv size=1K age=90d\nhome/Downloads/image.iso size=1K age=90d");
+        for (const auto* const name : {"home/Videos/film.mkv", "home/Downloads/image.iso"}) {
+            const auto path = tree.path(name);
+            const auto modified = std::filesystem::last_write_time(path);
+            const int file = ::open(path.c_str(), O_WRONLY | O_CLOEXEC);
+            ASSERT_EQ(::posix_fallocate(file, 0, 300 << 20), 0);
+            ASSERT_EQ(::close(file), 0);
+            std::filesystem::last_write_time(path, modified);
+        }
     }
 
     /// The dashboard is started again, and the model over it.

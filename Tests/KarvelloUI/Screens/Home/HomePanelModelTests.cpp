@@ -42,10 +42,12 @@ TEST_F(ReviewLoopModelTest, BecomesDueWhileSomebodyLooks)
 {
     loop().chooseCadence(QStringLiteral("weekly"));
     loop().markReviewed();
+    now = now.addingSeconds(1);
+    sample();
     EXPECT_EQ(loop().statusText(), QStringLiteral("Next review in 7 days."));
     EXPECT_THAT(loop().lastReviewText().toStdString(), HasSubstr("Last reviewed: "));
     EXPECT_FALSE(loop().isDue());
-    now = now.addingSeconds(6 * 86400.0 + 1);
+    now = now.addingSeconds(6 * 86400.0);
     sample();
     EXPECT_EQ(loop().statusText(), QStringLiteral("Next review in 1 day."));
     now = now.addingSeconds(86400);

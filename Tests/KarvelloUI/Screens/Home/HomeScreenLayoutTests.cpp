@@ -20,9 +20,11 @@ protected:
     void fill()
     {
         addProjects();
+        addLargeFiles();
         scanEverything();
         home->reviewLoop()->chooseCadence(QStringLiteral("weekly"));
         home->reviewLoop()->markReviewed();
+        now = now.addingSeconds(1);
         for (int index = 0; index < 24; ++index) {
             systemSnapshot.normalizedCPULoad = 0.2 + 0.15 * ((index * 7) % 5) / 5;
             systemSnapshot.capturedAt = now.addingSeconds(index);

@@ -61,15 +61,16 @@ TEST_F(HomeScreen, TellsAnAssistantItsFigures)
     scanEverything();
     show();
     EXPECT_EQ(nameOf(find("page")), "Live Dashboard");
-    EXPECT_THAT(namesOf(QAccessible::Indicator), Contains(StartsWith("Free space, 40%, 200 GB free")));
+    EXPECT_THAT(namesOf(QAccessible::Indicator), Contains(StartsWith("Free space, 40%, 186 GB free")));
     EXPECT_THAT(namesOf(QAccessible::Indicator), Contains(StartsWith("CPU, 18%")));
     EXPECT_THAT(namesOf(QAccessible::Button), Contains("03 Review, 2 candidates"));
-    EXPECT_THAT(namesOf(QAccessible::ListItem), Contains(StartsWith("Current free space, 200 GB")));
+    EXPECT_THAT(namesOf(QAccessible::ListItem), Contains(StartsWith("Current free space, 186 GB")));
 }
 
 TEST_F(HomeScreen, EveryButtonHasANameAndIsLargeEnough)
 {
     addProjects();
+    addLargeFiles();
     scanEverything();
     show(1240, 2600);
     int count = 0;
@@ -133,7 +134,7 @@ TEST_F(HomeScreen, SaysWhyNoScanCanStart)
     remake();
     show();
     const auto* const told = spoken(find("startScan"));
-    EXPECT_TRUE(told->state().disabled);
+    EXPECT_FALSE(find("startScan")->isEnabled());
     EXPECT_EQ(told->text(QAccessible::Description).toStdString(), "Grant home folder access before starting a scan.");
     EXPECT_THAT(find("summary")->property("text").toString().toStdString(), HasSubstr("Grant home access"));
 }

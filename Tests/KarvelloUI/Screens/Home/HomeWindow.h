@@ -67,11 +67,12 @@ protected:
 
     QQuickItem* find(const char* name)
     {
-        auto* const found = m_window->findChild<QQuickItem*>(QString::fromLatin1(name));
-        if (found == nullptr) {
-            throw std::runtime_error(name);
+        for (QQuickItem* const item : shownItems()) {
+            if (item->objectName() == QLatin1String(name)) {
+                return item;
+            }
         }
-        return found;
+        throw std::runtime_error(name);
     }
 
     /// All that can be seen, children behind their parents.

@@ -55,6 +55,7 @@ Rectangle {
             }
             RowLayout {
                 id: head
+                Layout.fillWidth: false
                 Layout.alignment: Qt.AlignTop
                 spacing: KarvelloDesign.spacing8
             }

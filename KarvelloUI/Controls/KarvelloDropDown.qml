@@ -10,6 +10,7 @@ T.ComboBox {
 
     property string accessibleName
     property string disabledReason
+    property bool isReturnDown: false
     readonly property bool hasObjects: Array.isArray(model) && model.length > 0 && typeof model[0] === "object"
     readonly property real widestText: {
         let widest = 0
@@ -35,9 +36,17 @@ T.ComboBox {
         if (control.enabled)
             control.popup.open()
     }
+    // On its release, since the release is what closes it.
     Keys.onReturnPressed: event => {
-        if (!event.isAutoRepeat && !control.popup.visible)
-            control.popup.open()
+        control.isReturnDown = !control.popup.visible
+        event.accepted = true
+    }
+    Keys.onReleased: event => {
+        event.accepted = control.isReturnDown && event.key === Qt.Key_Return && !event.isAutoRepeat
+        if (!event.accepted)
+            return
+        control.isReturnDown = false
+        control.popup.open()
     }
 
     FontMetrics {

@@ -29,13 +29,17 @@ Rectangle {
     property bool isBusy: false
     // What the menu button is called that takes "Select All".
     property string moreName: selectAllText
-    property int sideMargin: KarvelloDesign.spacing32
+    // As wide as that of the page.
+    property int sideMargin: width < 1000 ? KarvelloDesign.spacing24 : KarvelloDesign.spacing32
 
-    readonly property real boxWidth: showsCheckBox ? box.implicitWidth - box.padding + KarvelloDesign.spacing4 : 0
+    readonly property real boxWidth: showsCheckBox ? 2 * Math.round(8 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12 : 0
     readonly property real room: width - 2 * sideMargin - boxWidth - KarvelloDesign.spacing24
     readonly property real buttonsWidth: (clearText === "" ? 0 : clear.implicitWidth + buttons.spacing) + primary.implicitWidth
     readonly property real selectAllWidth: selectAllText === "" ? 0 : selectAll.implicitWidth + buttons.spacing
-    readonly property bool isFolded: selectAllText !== "" && heading.implicitWidth + buttonsWidth + selectAllWidth > room
+    // Some of the sentence has to be readable as well.
+    readonly property real textWidth: Math.max(heading.implicitWidth,
+        Math.min(sentence.implicitWidth, Math.round(360 * KarvelloDesign.textFactor)))
+    readonly property bool isFolded: selectAllText !== "" && textWidth + buttonsWidth + selectAllWidth > room
     readonly property bool hasRoomForPills: KarvelloDesign.textFactor < 1.25
         && heading.implicitWidth + pillRow.implicitWidth + KarvelloDesign.spacing8 + buttonsWidth + selectAllWidth <= room
 
@@ -45,7 +49,7 @@ Rectangle {
     signal primaryRequested()
 
     implicitWidth: 720
-    implicitHeight: Math.max(72, Math.ceil(row.implicitHeight) + 2 * KarvelloDesign.spacing12)
+    implicitHeight: Math.max(72, Math.ceil(Math.max(row.implicitHeight, buttons.implicitHeight)) + 2 * KarvelloDesign.spacing12)
     color: KarvelloDesign.elevated1
 
     Accessible.role: Accessible.ToolBar
@@ -59,37 +63,38 @@ Rectangle {
     RowLayout {
         id: row
         x: control.sideMargin
-        width: parent.width - 2 * control.sideMargin
+        width: buttons.x - x - KarvelloDesign.spacing24
         anchors.verticalCenter: parent.verticalCenter
-        spacing: KarvelloDesign.spacing24
+        spacing: KarvelloDesign.spacing4
 
-        RowLayout {
-            spacing: KarvelloDesign.spacing4
+        KarvelloCheckBox {
+            id: box
+            Layout.leftMargin: -padding
+            visible: control.showsCheckBox
+            enabled: control.canToggleAll && !control.isBusy
+            checkState: control.checkState
+            isAsking: true
+            accessibleName: control.checkBoxName
+            onClicked: control.toggleAllRequested()
+        }
+        ColumnLayout {
+            spacing: 0
 
-            KarvelloCheckBox {
-                id: box
-                Layout.leftMargin: -padding
-                visible: control.showsCheckBox
-                enabled: control.canToggleAll && !control.isBusy
-                checkState: control.checkState
-                isAsking: true
-                accessibleName: control.checkBoxName
-                onClicked: control.toggleAllRequested()
-            }
-            ColumnLayout {
-                spacing: 0
+            RowLayout {
+                spacing: KarvelloDesign.spacing8
+                KarvelloText {
+                    id: heading
+                    Layout.fillWidth: true
+                    Layout.maximumWidth: Math.ceil(implicitWidth)
+                    text: control.title
+                    textStyle: KarvelloDesign.heading
+                    color: KarvelloDesign.ink
+                    Accessible.role: Accessible.Heading
+                }
+                Item {
+                    implicitWidth: control.hasRoomForPills ? pillRow.implicitWidth : 0
+                    implicitHeight: control.hasRoomForPills ? pillRow.implicitHeight : 0
 
-                RowLayout {
-                    spacing: KarvelloDesign.spacing8
-                    KarvelloText {
-                        id: heading
-                        Layout.fillWidth: true
-                        Layout.maximumWidth: Math.ceil(implicitWidth)
-                        text: control.title
-                        textStyle: KarvelloDesign.heading
-                        color: KarvelloDesign.ink
-                        Accessible.role: Accessible.Heading
-                    }
                     Row {
                         id: pillRow
                         visible: control.hasRoomForPills
@@ -103,63 +108,68 @@ Rectangle {
                             }
                         }
                     }
-                    Item { Layout.fillWidth: true }
                 }
-                KarvelloText {
-                    Layout.fillWidth: true
-                    visible: text !== ""
-                    text: control.text
-                    textStyle: KarvelloDesign.small
-                    color: KarvelloDesign.ink3
+                Item { Layout.fillWidth: true }
+            }
+            KarvelloText {
+                id: sentence
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: control.text
+                textStyle: KarvelloDesign.small
+                color: KarvelloDesign.ink3
+            }
+        }
+    }
+    // No layout: one that is about to be resized misses what appears in it.
+    Row {
+        id: buttons
+        anchors.right: parent.right
+        anchors.rightMargin: control.sideMargin
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: KarvelloDesign.spacing12
+
+        KarvelloButton {
+            id: clear
+            visible: text !== ""
+            kind: KarvelloButton.Quiet
+            text: control.clearText
+            enabled: control.canClear && !control.isBusy
+            onClicked: control.clearRequested()
+        }
+        KarvelloButton {
+            id: selectAll
+            visible: text !== "" && !control.isFolded
+            text: control.selectAllText
+            enabled: control.canSelectAll && !control.isBusy
+            onClicked: control.selectAllRequested()
+        }
+        KarvelloButton {
+            id: more
+            visible: control.isFolded
+            iconName: "more"
+            accessibleName: control.moreName
+            enabled: control.canSelectAll && !control.isBusy
+            onClicked: menu.openBelow(more)
+
+            KarvelloMenu {
+                id: menu
+                accessibleName: control.moreName
+                KarvelloMenuItem {
+                    text: control.selectAllText
+                    onTriggered: control.selectAllRequested()
                 }
             }
         }
-        RowLayout {
-            id: buttons
-            spacing: KarvelloDesign.spacing12
-
-            KarvelloButton {
-                id: clear
-                visible: text !== ""
-                kind: KarvelloButton.Quiet
-                text: control.clearText
-                enabled: control.canClear && !control.isBusy
-                onClicked: control.clearRequested()
-            }
-            KarvelloButton {
-                id: selectAll
-                visible: text !== "" && !control.isFolded
-                text: control.selectAllText
-                enabled: control.canSelectAll && !control.isBusy
-                onClicked: control.selectAllRequested()
-            }
-            KarvelloButton {
-                id: more
-                visible: control.isFolded
-                iconName: "more"
-                accessibleName: control.moreName
-                enabled: control.canSelectAll && !control.isBusy
-                onClicked: menu.openBelow(more)
-
-                KarvelloMenu {
-                    id: menu
-                    accessibleName: control.moreName
-                    KarvelloMenuItem {
-                        text: control.selectAllText
-                        onTriggered: control.selectAllRequested()
-                    }
-                }
-            }
-            KarvelloButton {
-                id: primary
-                kind: KarvelloButton.Primary
-                text: control.primaryText
-                iconName: control.primaryIconName
-                enabled: control.canAct && !control.isBusy
-                disabledReason: control.primaryDisabledReason
-                isBusy: control.isBusy
-                onClicked: control.primaryRequested()
-            }
+        KarvelloButton {
+            id: primary
+            kind: KarvelloButton.Primary
+            text: control.primaryText
+            iconName: control.primaryIconName
+            enabled: control.canAct && !control.isBusy
+            disabledReason: control.primaryDisabledReason
+            isBusy: control.isBusy
+            onClicked: control.primaryRequested()
         }
     }
 }

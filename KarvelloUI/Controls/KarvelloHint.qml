@@ -1,31 +1,29 @@
 import QtQuick
-import QtQuick.Layouts
+import QtQuick.Templates as T
 
-// The tool tip of a control, also of one that is disabled: the pointer is watched from beside it, where the place is enabled
-// still. Without a text there is none. It has no size, so that the layouts of its neighbours pass over it.
+// The tool tip of the control that it is in, also while that is disabled: then the pointer is watched from the control's
+// parent, which is enabled still. Without a text there is none.
 Item {
     id: control
 
     required property Item target
     property string text
+    readonly property bool isOver: target.enabled ? (target as T.Control)?.hovered ?? false
+        : pointer.hovered && target.contains(target.mapFromItem(target.parent, pointer.point.position))
+    readonly property bool isShown: isOver && text !== ""
 
-    parent: target.parent
-    visible: target.visible && text !== ""
-    Layout.maximumWidth: 0
-    Layout.maximumHeight: 0
+    width: target.width
+    height: target.height
     Accessible.ignored: true
+    onIsShownChanged: isShown ? tip.setSource("KarvelloToolTip.qml", { text: control.text, visible: true }) : tip.setSource("")
 
-    Item {
-        x: control.target.x - control.x
-        y: control.target.y - control.y
-        width: control.target.width
-        height: control.target.height
-
-        HoverHandler { id: pointer }
-        Loader {
-            readonly property bool isShown: pointer.hovered && control.text !== ""
-            anchors.fill: parent
-            onIsShownChanged: isShown ? setSource("KarvelloToolTip.qml", { text: control.text, visible: true }) : setSource("")
-        }
+    HoverHandler {
+        id: pointer
+        parent: control.target.parent
+        enabled: !control.target.enabled && control.text !== ""
+    }
+    Loader {
+        id: tip
+        anchors.fill: parent
     }
 }

@@ -92,6 +92,8 @@ T.CheckDelegate {
         spacing: 0
 
         RowLayout {
+            // So that the row stays where it is when it opens.
+            Layout.minimumHeight: 54 - 2 * KarvelloDesign.spacing8
             spacing: KarvelloDesign.spacing12
 
             KarvelloCheckBox {

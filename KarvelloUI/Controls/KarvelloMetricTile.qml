@@ -49,6 +49,8 @@ Rectangle {
         spacing: 0
 
         RowLayout {
+            // With or without a pill, tiles side by side have their figures at one height.
+            Layout.minimumHeight: Math.round(20 * KarvelloDesign.textFactor)
             Layout.bottomMargin: KarvelloDesign.spacing12
             spacing: KarvelloDesign.spacing8
 

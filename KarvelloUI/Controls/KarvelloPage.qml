@@ -127,6 +127,7 @@ FocusScope {
             }
             RowLayout {
                 id: actionRow
+                Layout.fillWidth: false
                 spacing: KarvelloDesign.spacing8
             }
         }

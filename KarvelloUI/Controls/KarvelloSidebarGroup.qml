@@ -20,9 +20,9 @@ T.AbstractButton {
     horizontalPadding: KarvelloDesign.spacing8
     verticalPadding: KarvelloDesign.spacing4
     hoverEnabled: canToggle
-    focusPolicy: canToggle ? Qt.StrongFocus : Qt.NoFocus
+    focusPolicy: canToggle || activeFocus ? Qt.StrongFocus : Qt.NoFocus
 
-    Accessible.role: canToggle ? Accessible.Button : Accessible.Heading
+    Accessible.role: isCollapsible ? Accessible.Button : Accessible.Heading
     Accessible.name: text
     Accessible.checkable: canToggle
     Accessible.checked: canToggle && isOpen

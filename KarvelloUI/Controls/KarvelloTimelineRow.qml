@@ -65,6 +65,7 @@ Item {
                 text: control.title
                 emphasis: KarvelloText.Strong
                 color: KarvelloDesign.ink
+                wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
             KarvelloText {

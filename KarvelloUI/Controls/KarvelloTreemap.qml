@@ -17,6 +17,7 @@ FocusScope {
     readonly property int selectedIndex: indexOf(selectedId)
     // The cell that has, or gets, the focus.
     property int currentIndex: selectedIndex >= 0 ? selectedIndex : 0
+    property var toldId
 
     // Undefined when the pointer has left.
     signal hovered(var id)
@@ -31,28 +32,37 @@ FocusScope {
         return -1
     }
 
-    // Whose middle lies in that direction, the closest first; what lies beside the way counts twice.
+    // Which begins where this one ends in that direction: the closest, and of those the one that lies least beside the way.
     function nearest(from: int, key: int): int {
         const isAcross = key === Qt.Key_Left || key === Qt.Key_Right
-        const sign = key === Qt.Key_Right || key === Qt.Key_Down ? 1 : -1
-        const middle = index => {
-            const cell = cells[index]
-            return Qt.point((cell.x + cell.width / 2) * width, (cell.y + cell.height / 2) * height)
-        }
-        const start = middle(from)
+        const isForward = key === Qt.Key_Right || key === Qt.Key_Down
+        const along = cell => isAcross ? [cell.x, cell.x + cell.width] : [cell.y, cell.y + cell.height]
+        const beside = cell => isAcross ? [cell.y, cell.y + cell.height] : [cell.x, cell.x + cell.width]
+        const start = along(cells[from])
+        const side = beside(cells[from])
         let best = -1
         let least = Infinity
         for (let index = 0; index < cells.length; ++index) {
-            const to = middle(index)
-            const ahead = sign * (isAcross ? to.x - start.x : to.y - start.y)
-            const beside = Math.abs(isAcross ? to.y - start.y : to.x - start.x)
-            const distance = ahead + 2 * beside
-            if (index !== from && ahead > 0.5 && distance < least) {
+            const way = along(cells[index])
+            const other = beside(cells[index])
+            const ahead = isForward ? way[0] - start[1] : start[0] - way[1]
+            const apart = Math.max(0, other[0] - side[1], side[0] - other[1])
+            const offset = Math.abs(other[0] + other[1] - side[0] - side[1]) / 2
+            const distance = Math.max(0, ahead) + 2 * apart + offset / 8
+            if (index !== from && ahead > -0.001 && distance < least) {
                 least = distance
                 best = index
             }
         }
         return best
+    }
+
+    // A cell is entered before the last one is left, which is no news then.
+    function tell(isOver: bool, id: var) {
+        if (isOver || toldId === id) {
+            toldId = isOver ? id : undefined
+            hovered(toldId)
+        }
     }
 
     function moveTo(index: int) {
@@ -75,7 +85,7 @@ FocusScope {
     Keys.onPressed: event => {
         const arrows = [Qt.Key_Left, Qt.Key_Right, Qt.Key_Up, Qt.Key_Down]
         event.accepted = true
-        if (arrows.includes(event.key))
+        if (control.cells.length > 0 && arrows.includes(event.key))
             control.moveTo(control.nearest(control.currentIndex, event.key))
         else if (event.key === Qt.Key_Home)
             control.moveTo(0)
@@ -107,7 +117,9 @@ FocusScope {
             cell: modelData
             isSelected: control.selectedIndex === index
             isHovered: hovered || (control.hoveredId !== undefined && control.hoveredId === modelData.id)
-            activeFocusOnTab: control.currentIndex === index
+            // What has the focus has to keep it until the next one takes it.
+            activeFocusOnTab: control.currentIndex === index || activeFocus
+            Keys.forwardTo: [control]
             focus: control.currentIndex === index
 
             onClicked: {
@@ -115,7 +127,7 @@ FocusScope {
                 control.selected(cell.modelData.id)
             }
             onDoubleClicked: control.activated(cell.modelData.id)
-            onHoveredChanged: control.hovered(cell.hovered ? cell.modelData.id : undefined)
+            onHoveredChanged: control.tell(cell.hovered, cell.modelData.id)
             Accessible.onPressAction: control.activated(cell.modelData.id)
         }
     }

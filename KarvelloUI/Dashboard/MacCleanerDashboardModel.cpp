@@ -160,26 +160,35 @@ void MacCleanerDashboardModel::consumePendingLaunchDestination()
 
 void MacCleanerDashboardModel::scanCleanup()
 {
-    if (!canStartCleanupScan()) {
+    refreshDiskSnapshot();
+    if (cleaner().isBusy()) {
         return;
     }
-    const auto grant = homeAccess().resolveBookmark(m_services.session.fileManager);
-    // The grant may have gone just now.
-    if (canStartCleanupScan()) {
-        cleaner().scanMac(scanMode(), m_services.homeDirectory, customFolders().folders(), grant,
+    if (const auto grant = grantForScan()) {
+        cleaner().scanMac(scanMode(), m_services.homeDirectory, customFolders().folders(), *grant,
             m_services.supportsDirectDistributionScans());
     }
 }
 
 void MacCleanerDashboardModel::scanInsights()
 {
-    if (!hasHomeAccess() || insights().isBusy()) {
+    refreshDiskSnapshot();
+    if (insights().isBusy()) {
         return;
     }
-    const auto grant = homeAccess().resolveBookmark(m_services.session.fileManager);
-    if (hasHomeAccess()) {
-        insights().scan(grant);
+    if (const auto grant = grantForScan()) {
+        insights().scan(*grant);
     }
+}
+
+std::optional<std::optional<ResolvedHomeAccessBookmark>> MacCleanerDashboardModel::grantForScan()
+{
+    auto grant = homeAccess().resolveBookmark(m_services.session.fileManager);
+    if (!grant && !m_services.supportsDirectDistributionScans()) {
+        clearScanResults();
+        return std::nullopt;
+    }
+    return grant;
 }
 
 void MacCleanerDashboardModel::requestHomeAccess(std::function<void(bool granted)> answered)

@@ -77,7 +77,8 @@ public:
     /// The mode that scans use.
     [[nodiscard]] CleanerCore::CleanupScanMode scanMode() const;
 
-    /// Nothing happens where no scan can start.
+    /// Nothing happens while the session is busy. Without access to the home there is nothing to scan, and the results of
+    /// both sessions go.
     Q_INVOKABLE void scanCleanup();
     Q_INVOKABLE void scanInsights();
     /// Asks for the home folder with the desktop's dialog; `granted` tells whether it is granted now.
@@ -140,6 +141,8 @@ private:
     void sanitizeScanModeForDistribution();
     void consumePendingLaunchDestination();
     void clearScanResults();
+    /// What to scan with, possibly no grant; nothing where a scan needs one that there is not.
+    [[nodiscard]] std::optional<std::optional<ResolvedHomeAccessBookmark>> grantForScan();
     void prepare(MacDashboardSection section);
     void updateSystemSnapshotPolling();
     void openParent(const Platform::FileURL& item);

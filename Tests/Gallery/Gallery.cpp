@@ -1,4 +1,4 @@
-// karvello-gallery [--page Gallery|Screens|Panels] [--scheme light|dark] [--scale standard|large|extraLarge] [--dialog]
+// karvello-gallery [--page Gallery|Screens|Panels|Lists] [--scheme light|dark] [--scale standard|large|extraLarge] [--dialog]
 // [--width N] [--height N] [--photograph FILE]: shows a page of controls, or writes a picture of it and ends.
 
 #include "KarvelloUI/Controls/DesignTokens.h"

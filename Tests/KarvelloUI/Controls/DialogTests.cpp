@@ -106,4 +106,23 @@ TEST_F(KarvelloDialog, DoesNotCloseByAClickBesideIt)
     EXPECT_EQ(m_rejected->count(), 0);
 }
 
+TEST_F(KarvelloDialog, ScrollsWhatDoesNotFitIntoTheWindowBetweenHeadAndButtons)
+{
+    show("KarvelloDialog { objectName: 'dialog'; title: 'Move?'; acceptText: 'Move'; cancelText: 'Cancel';"
+         " Rectangle { objectName: 'long'; Layout.fillWidth: true; implicitHeight: 2000 } }");
+    m_dialog = find<QObject>("dialog");
+    QMetaObject::invokeMethod(m_dialog, "open");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->property("opened").toBool(); }));
+    EXPECT_LE(m_dialog->property("height").toReal(), 480 - 32);
+    EXPECT_EQ(focused(), "Cancel");
+    const auto* const button = m_window->activeFocusItem();
+    EXPECT_LE(button->mapToScene({0, button->height()}).y(), 480);
+    const auto* const content = find("long");
+    EXPECT_EQ(content->width(), 520 - 48);
+    const qreal top = content->mapToScene({0, 0}).y();
+    key(Qt::Key_Backtab, Qt::ShiftModifier);
+    key(Qt::Key_PageDown);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return content->mapToScene({0, 0}).y() < top - 100; }));
+}
+
 } // namespace KarvelloUI

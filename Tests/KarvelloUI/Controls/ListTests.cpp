@@ -114,6 +114,30 @@ TEST_F(KarvelloListRow, GrowsWithItsTextAtTwoHundredPercent)
     EXPECT_TRUE(QTest::qWaitFor([this] { return m_row->height() >= 76; }));
 }
 
+TEST_F(KarvelloListRow, ShowsItsDetailsBelowWhileItIsOpenAndDoesNotToggleThere)
+{
+    showRow("; width: 900; details: Rectangle { objectName: 'details'; implicitHeight: 80 }");
+    EXPECT_EQ(m_row->height(), 54);
+    m_row->setProperty("isOpen", true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_row->height() == 54 + 80 + 8; }));
+    click(m_row, {400, 100});
+    EXPECT_EQ(m_toggles->count(), 0);
+    EXPECT_EQ(m_opens->count(), 0);
+    m_row->setProperty("isOpen", false);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_row->height() == 54; }));
+}
+
+TEST_F(KarvelloListRow, MovesItsReasonBelowThePathWhereItsColumnIsTooNarrow)
+{
+    showRow("; width: 900");
+    EXPECT_TRUE(m_row->property("hasReasonColumn").toBool());
+    m_row->setWidth(700);
+    EXPECT_FALSE(m_row->property("hasReasonColumn").toBool());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_row->height() > 54; })) << "a third line";
+    m_row->setWidth(900);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_row->height() == 54; }));
+}
+
 using KarvelloSectionHeader = Controls;
 
 TEST_F(KarvelloSectionHeader, AsksAndSaysWhatItStandsFor)

@@ -108,6 +108,16 @@ TEST_F(MacCleanerDashboardModelTest, ScansNothingWithoutAccess)
     EXPECT_EQ(dashboard->insights().phase(), MacInsightsViewModel::Phase::idle);
 }
 
+TEST_F(MacCleanerDashboardModelTest, ClearsBothResultsWhereNothingCanBeScannedAnyMore)
+{
+    scanForCleanup();
+    ASSERT_FALSE(dashboard->cleaner().report().candidates.empty());
+    isDirectDistribution = false;
+    dashboard->scanInsights();
+    EXPECT_TRUE(dashboard->cleaner().report().candidates.empty());
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::idle);
+}
+
 TEST_F(MacCleanerDashboardModelTest, ScansWithAGrantedHome)
 {
     isDirectDistribution = false;

@@ -31,10 +31,10 @@ protected:
             .occurredAt = now.addingSeconds(seconds),
             .mode = CleaningMode::moveToTrash,
             .requestedItemCount = 4,
-            .requestedBytes = 4'000'000,
+            .requestedBytes = 4 * 1'048'576,
             .succeededItemCount = 3,
             .failedItemCount = 1,
-            .affectedBytes = 3'000'000};
+            .affectedBytes = 3 * 1'048'576};
     }
 };
 

@@ -19,8 +19,11 @@ class EvidenceScreen : public EvidenceTest {
 protected:
     void look(int width = 1240, int height = 820)
     {
-        [[maybe_unused]] static const volatile auto kept = {&qml_register_types_Karvello_Screens_Evidence,
-            &qml_register_types_Karvello_Screens_Exports, &qml_register_types_Karvello_Screens_Home};
+        for (const auto registration : {&qml_register_types_Karvello_Screens_Evidence,
+                 &qml_register_types_Karvello_Screens_Exports, &qml_register_types_Karvello_Screens_Home}) {
+            [[maybe_unused]] static volatile auto kept = registration;
+            kept = registration;
+        }
         show("Evidence", "EvidenceScreen", evidence.get(), width, height);
     }
     QQuickItem* rowOf(const char* list, int row)

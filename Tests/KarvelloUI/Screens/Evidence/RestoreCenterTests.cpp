@@ -149,7 +149,7 @@ TEST_F(RestoreCenter, ForgetsASelectionAmongOtherRows)
 {
     clean();
     center->selectAll();
-    tree.add("home/.cache/pip/wheel size=64K age=90d");
+    tree.add("home/.cache/uv/wheel size=64K age=90d");
     clean();
     ASSERT_EQ(count(), 1);
     EXPECT_EQ(center->checkState(), Qt::Unchecked);

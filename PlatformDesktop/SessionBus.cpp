@@ -24,28 +24,11 @@ QString newConnectionName()
     return QStringLiteral("karvello-session-bus-%1").arg(++count);
 }
 
-QDBusMessage callOfTheBus(const char* method, const QString& argument)
-{
-    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"), QLatin1String(method));
-    message.setArguments({argument});
-    return message;
-}
-
-/// Where an application of this name puts its objects (Desktop Entry Specification, "D-Bus Activation").
-QString objectPathOf(const std::string& identifier)
-{
-    auto path = "/" + identifier;
-    std::ranges::replace(path, '.', '/');
-    std::ranges::replace(path, '-', '_');
-    return QString::fromStdString(path);
-}
-
 /// GIO's "D-Bus API for exporting action groups".
 QDBusMessage callOfActions(const SessionBus::Owner& application, const std::string& identifier, const char* method)
 {
-    return QDBusMessage::createMethodCall(
-        application.connection, objectPathOf(identifier), QStringLiteral("org.gtk.Actions"), QLatin1String(method));
+    return QDBusMessage::createMethodCall(application.connection, SessionBus::objectPathOf(identifier),
+        QStringLiteral("org.gtk.Actions"), QLatin1String(method));
 }
 
 } // namespace
@@ -70,20 +53,50 @@ bool SessionBus::isOffered(const Platform::Environment& environment)
     return hasUserBus || environment.value("DBUS_SESSION_BUS_ADDRESS").has_value();
 }
 
+// Desktop Entry Specification, "D-Bus Activation".
+QString SessionBus::objectPathOf(const std::string& identifier)
+{
+    auto path = "/" + identifier;
+    std::ranges::replace(path, '.', '/');
+    std::ranges::replace(path, '-', '_');
+    return QString::fromStdString(path);
+}
+
+QDBusMessage SessionBus::callOfTheBus(const char* method, const QVariantList& arguments)
+{
+    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"), QLatin1String(method));
+    message.setArguments(arguments);
+    return message;
+}
+
+bool SessionBus::isLate(const QDBusMessage& reply)
+{
+    const auto error = QDBusError(reply).type();
+    return error == QDBusError::NoReply || error == QDBusError::TimedOut || error == QDBusError::Timeout;
+}
+
 QDBusMessage SessionBus::call(QDBusMessage message, std::chrono::milliseconds patience, AbsentService absent) const
 {
     message.setAutoStartService(absent == AbsentService::isStarted);
     return m_connection.call(message, QDBus::Block, static_cast<int>(patience.count()));
 }
 
+QDBusPendingCall SessionBus::callLater(
+    QDBusMessage message, std::chrono::milliseconds patience, AbsentService absent) const
+{
+    message.setAutoStartService(absent == AbsentService::isStarted);
+    return m_connection.asyncCall(message, static_cast<int>(patience.count()));
+}
+
 std::optional<SessionBus::Owner> SessionBus::ownerOf(const std::string& name) const
 {
-    const auto owner = call(callOfTheBus("GetNameOwner", QString::fromStdString(name)), kPatienceWithTheBus);
+    const auto owner = call(callOfTheBus("GetNameOwner", {QString::fromStdString(name)}), kPatienceWithTheBus);
     if (owner.type() != QDBusMessage::ReplyMessage || owner.signature() != QLatin1String("s")) {
         return std::nullopt;
     }
     const auto connection = owner.arguments().constFirst().toString();
-    const auto process = call(callOfTheBus("GetConnectionUnixProcessID", connection), kPatienceWithTheBus);
+    const auto process = call(callOfTheBus("GetConnectionUnixProcessID", {connection}), kPatienceWithTheBus);
     if (process.type() != QDBusMessage::ReplyMessage || process.signature() != QLatin1String("u")) {
         return std::nullopt;
     }
@@ -115,12 +128,8 @@ bool SessionBus::activateQuit(const Owner& application, const std::string& ident
     auto message = callOfActions(application, identifier, "Activate");
     message.setArguments({QStringLiteral("quit"), QVariantList(), QVariantMap()});
     const auto reply = call(message, kPatienceWithAnApplication);
-    if (reply.type() == QDBusMessage::ReplyMessage) {
-        return true;
-    }
-    // It asks its user, or it has quit without another word.
-    const auto error = QDBusError(reply).type();
-    return error == QDBusError::NoReply || error == QDBusError::TimedOut || error == QDBusError::Timeout;
+    // A late one asks its user, or has quit without another word.
+    return reply.type() == QDBusMessage::ReplyMessage || isLate(reply);
 }
 
 } // namespace PlatformDesktop

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusPendingCall>
 #include <chrono>
 #include <cstdint>
 #include <optional>
@@ -34,6 +35,9 @@ public:
     /// Without one, the library would look for a bus, and start one.
     [[nodiscard]] static bool isOffered(const Platform::Environment& environment);
 
+    /// Where an application whose name on the bus is `identifier` puts its objects.
+    [[nodiscard]] static QString objectPathOf(const std::string& identifier);
+
     [[nodiscard]] bool isConnected() const { return m_connection.isConnected(); }
     [[nodiscard]] std::optional<Owner> ownerOf(const std::string& name) const;
     /// Whether the application whose name on the bus is `identifier` has an action "quit" that can be called as it is.
@@ -44,6 +48,16 @@ public:
     /// The answer, or an error if none comes in time.
     [[nodiscard]] QDBusMessage call(QDBusMessage message, std::chrono::milliseconds patience,
         AbsentService absent = AbsentService::isNotThere) const;
+    /// The same without waiting.
+    [[nodiscard]] QDBusPendingCall callLater(QDBusMessage message, std::chrono::milliseconds patience,
+        AbsentService absent = AbsentService::isNotThere) const;
+    /// For signals, and for objects of this process's own.
+    [[nodiscard]] const QDBusConnection& connection() const { return m_connection; }
+
+    /// A call of the bus itself.
+    [[nodiscard]] static QDBusMessage callOfTheBus(const char* method, const QVariantList& arguments);
+    /// Whether it stands for an answer that did not come in time: what was asked for may still happen.
+    [[nodiscard]] static bool isLate(const QDBusMessage& reply);
 
 private:
     QDBusConnection m_connection;

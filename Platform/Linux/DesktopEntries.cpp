@@ -1,5 +1,6 @@
 #include "Platform/Linux/DesktopEntries.h"
 
+#include "Platform/Linux/DesktopCommandLine.h"
 #include "Platform/Linux/KernelText.h"
 #include "Platform/Services/UserDirectories.h"
 
@@ -61,34 +62,13 @@ std::string unescaped(std::string_view value)
     return text;
 }
 
-/// Takes one argument of a command line off the front: words, some of them in double quotes.
-std::string takeArgument(std::string_view& line)
-{
-    line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-    std::string argument;
-    bool isQuoted = false;
-    for (; !line.empty(); line.remove_prefix(1)) {
-        if (line.front() == '"') {
-            isQuoted = !isQuoted;
-        } else if (isQuoted && line.front() == '\\' && line.size() > 1) {
-            line.remove_prefix(1);
-            argument += line.front();
-        } else if (!isQuoted && (line.front() == ' ' || line.front() == '\t')) {
-            break;
-        } else {
-            argument += line.front();
-        }
-    }
-    return argument;
-}
-
 std::string programOf(std::string_view commandLine)
 {
-    auto program = takeArgument(commandLine);
+    auto program = DesktopCommandLine::takeArgument(commandLine);
     const auto name = [&program] { return program.substr(program.rfind('/') + 1); };
     if (name() == "env") {
         do {
-            program = takeArgument(commandLine);
+            program = DesktopCommandLine::takeArgument(commandLine);
         } while (program.find('=') != std::string::npos);
     }
     return isInterpreter(name()) ? std::string() : name();
@@ -139,7 +119,10 @@ std::optional<DesktopEntry> DesktopEntry::parse(
         } else if (key == "Terminal") {
             entry.runsInTerminal = value == "true";
         } else if (key == "Exec") {
-            entry.program = programOf(unescaped(value));
+            entry.commandLine = unescaped(value);
+            entry.program = programOf(entry.commandLine);
+        } else if (key == "DBusActivatable") {
+            entry.isDBusActivatable = value == "true";
         } else if (key == "Name" && !nameRank) {
             entry.name = unescaped(value);
         } else if (key.starts_with("Name[") && key.ends_with(']')) {

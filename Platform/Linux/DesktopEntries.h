@@ -22,6 +22,10 @@ struct DesktopEntry {
     bool runsInTerminal = false;
     /// The last component of the program that it starts; empty where it starts none of its own.
     std::string program;
+    /// How it is started, for `DesktopCommandLine`; empty if only the session bus starts it.
+    std::string commandLine;
+    /// The session bus starts it by its identifier.
+    bool isDBusActivatable = false;
 
     /// Nothing for a text that is no desktop file, or one that counts as deleted ("Hidden").
     static std::optional<DesktopEntry> parse(

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // What to review first: up to three cards, the best first. Each leads to a section and does nothing else.
 ColumnLayout {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // The four steps from home to restore, in a row, or in two where there is no room.
 Rectangle {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // How much is free, and three figures of the machine: side by side, or one below the other where there is no room.
 Rectangle {

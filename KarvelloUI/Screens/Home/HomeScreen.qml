@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // Live Dashboard: how the disk and the machine are, and where to go on. Nothing here selects or moves a file.
 KarvelloPage {

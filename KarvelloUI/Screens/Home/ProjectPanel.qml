@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // Build and dependency folders in the user's own projects: what they are, and how long the project has been at rest.
 KarvelloCard {

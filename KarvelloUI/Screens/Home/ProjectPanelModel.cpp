@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/Home/ProjectPanelModel.h"
 
 #include "KarvelloUI/Advisors/DeveloperProjectAdvisoryAnalyzer.h"
+#include "KarvelloUI/Screens/Home/KeepModule.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 
@@ -15,6 +16,7 @@ ProjectPanelModel::ProjectPanelModel(MacCleanerDashboardModel& dashboard, QObjec
     , m_dashboard(dashboard)
     , m_refresh(dashboard, {MacDashboardSection::dashboard, MacDashboardSection::reviewEvidence}, [this] { refresh(); })
 {
+    keepHomeModule();
     const auto request = [this] { m_refresh.request(); };
     connect(&dashboard.cleaner(), &CleanerViewModel::reportChanged, this, request);
     connect(&dashboard.customFolders(), &CustomScanFolderStore::foldersChanged, this, request);

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/Home/ReviewLoopModel.h"
 
 #include "KarvelloUI/Dashboard/RawText.h"
+#include "KarvelloUI/Screens/Home/KeepModule.h"
 #include "Platform/Base/LocalizedText.h"
 
 #include <QVariantMap>
@@ -36,6 +37,7 @@ ReviewLoopModel::ReviewLoopModel(MacCleanerDashboardModel& dashboard, QObject* p
     , m_dashboard(dashboard)
     , m_refresh(dashboard, {MacDashboardSection::dashboard, MacDashboardSection::reviewEvidence}, [this] { refresh(); })
 {
+    keepHomeModule();
     const auto request = [this] { m_refresh.request(); };
     const auto& preferences = dashboard.reviewPreferences();
     connect(&preferences, &CleanupReviewPreferencesStore::cadenceChanged, this, request);

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // How often to be reminded of a review, of what, and when the last one was.
 KarvelloCard {

@@ -13,7 +13,8 @@ namespace KarvelloUI {
 /// keyboard keeps it. A delegate has `required property var entry`.
 class RowList : public QAbstractListModel {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("A model of the screen has it.")
     Q_PROPERTY(int count READ count NOTIFY countChanged FINAL)
 
 public:

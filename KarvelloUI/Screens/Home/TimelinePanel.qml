@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
+import Karvello.Screens.Home
 
 // The small story of the disk. Estimates, moves and recovered bytes stay apart: each has its own line, and there is no sum.
 KarvelloCard {

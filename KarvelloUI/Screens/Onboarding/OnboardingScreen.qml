@@ -1,0 +1,213 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Karvello.Design
+import Karvello.Screens.Onboarding
+
+// The first run. The left half speaks, the right half has the steps; the language comes first, and holds at once. Small
+// windows and large texts let each half scroll.
+FocusScope {
+    id: control
+
+    required property OnboardingScreenModel screen
+
+    readonly property int margin: width < 1200 ? KarvelloDesign.spacing32 : 72
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: screen.eyebrow
+
+    component Half: Flickable {
+        id: half
+        default property alias content: column.data
+        property int maximumWidth: 568
+        property int sideMargin: control.margin
+
+        contentWidth: width
+        contentHeight: Math.max(height, column.implicitHeight + 2 * KarvelloDesign.spacing32)
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        T.ScrollBar.vertical: KarvelloScrollBar {}
+
+        ColumnLayout {
+            id: column
+            x: half.sideMargin
+            y: Math.round((half.contentHeight - implicitHeight) / 2)
+            width: Math.min(half.maximumWidth, half.width - 2 * half.sideMargin)
+            spacing: KarvelloDesign.spacing12
+        }
+    }
+
+    Rectangle {
+        id: left
+        width: Math.round(parent.width * 0.45)
+        height: parent.height
+        color: KarvelloDesign.sidebar
+
+        RowLayout {
+            id: brand
+            x: control.margin
+            y: KarvelloDesign.spacing32
+            spacing: KarvelloDesign.spacing12
+            KarvelloMark { size: 28 }
+            KarvelloText {
+                text: "Karvello"
+                textStyle: KarvelloDesign.heading
+                color: KarvelloDesign.ink
+            }
+        }
+        Half {
+            anchors.fill: parent
+            anchors.topMargin: brand.y + brand.height
+            maximumWidth: 440
+
+            KarvelloText {
+                Layout.fillWidth: true
+                text: control.screen.eyebrow
+                emphasis: KarvelloText.Strong
+                color: KarvelloDesign.accent
+            }
+            KarvelloText {
+                Layout.fillWidth: true
+                text: control.screen.title
+                textStyle: KarvelloDesign.onboardingTitle
+                color: KarvelloDesign.ink
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.Heading
+            }
+            KarvelloText {
+                Layout.fillWidth: true
+                text: control.screen.body
+                textStyle: KarvelloDesign.onboardingBody
+                color: KarvelloDesign.ink2
+                wrapMode: Text.Wrap
+            }
+            KarvelloBanner {
+                Layout.fillWidth: true
+                visible: control.screen.errorText !== ""
+                kind: KarvelloBanner.Caution
+                text: control.screen.errorText
+            }
+            GridLayout {
+                Layout.fillWidth: true
+                Layout.topMargin: KarvelloDesign.spacing16
+                columns: begin.implicitWidth + later.implicitWidth + columnSpacing <= width ? 2 : 1
+                columnSpacing: KarvelloDesign.spacing12
+                rowSpacing: KarvelloDesign.spacing8
+
+                KarvelloButton {
+                    id: begin
+                    objectName: "begin"
+                    focus: true
+                    kind: KarvelloButton.Primary
+                    size: KarvelloButton.Large
+                    text: control.screen.primaryText
+                    iconName: "folder"
+                    enabled: control.screen.isPrimaryEnabled
+                    onClicked: control.screen.begin()
+                }
+                KarvelloButton {
+                    id: later
+                    objectName: "later"
+                    kind: KarvelloButton.Quiet
+                    size: KarvelloButton.Large
+                    text: control.screen.secondaryText
+                    onClicked: control.screen.setUpLater()
+                }
+            }
+            KarvelloText {
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: control.screen.skipCaption
+                textStyle: KarvelloDesign.small
+                color: KarvelloDesign.ink3
+                wrapMode: Text.Wrap
+            }
+        }
+        Rectangle {
+            anchors.right: parent.right
+            width: 1
+            height: parent.height
+            color: KarvelloDesign.line
+        }
+    }
+    Half {
+        anchors.left: left.right
+        anchors.right: parent.right
+        height: parent.height
+        sideMargin: Math.max(KarvelloDesign.spacing32, Math.round((width - maximumWidth) / 2))
+
+        KarvelloCard {
+            Layout.fillWidth: true
+            RowLayout {
+                Layout.fillWidth: true
+                spacing: KarvelloDesign.spacing16
+                IconTile {
+                    size: 36
+                    color: KarvelloDesign.accentSoft
+                    tint: KarvelloDesign.accent
+                    name: "globe"
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: control.screen.languageTitle
+                    emphasis: KarvelloText.Strong
+                    color: KarvelloDesign.ink
+                    wrapMode: Text.Wrap
+                }
+                KarvelloDropDown {
+                    objectName: "language"
+                    Layout.preferredWidth: Math.max(220, implicitWidth)
+                    accessibleName: control.screen.languageTitle
+                    model: control.screen.languages
+                    currentIndex: control.screen.languageIndex
+                    onActivated: index => control.screen.chooseLanguage(index)
+                }
+            }
+        }
+        Repeater {
+            model: control.screen.cards
+            KarvelloCard {
+                id: card
+                required property var modelData
+                Layout.fillWidth: true
+                RowLayout {
+                    Layout.fillWidth: true
+                    spacing: KarvelloDesign.spacing16
+                    IconTile {
+                        Layout.alignment: Qt.AlignTop
+                        size: 36
+                        color: KarvelloDesign.accentSoft
+                        tint: KarvelloDesign.accent
+                        name: card.modelData.iconName
+                    }
+                    ColumnLayout {
+                        spacing: KarvelloDesign.spacing4
+                        KarvelloText {
+                            Layout.fillWidth: true
+                            text: card.modelData.title
+                            emphasis: KarvelloText.Strong
+                            color: KarvelloDesign.ink
+                            wrapMode: Text.Wrap
+                        }
+                        KarvelloText {
+                            Layout.fillWidth: true
+                            text: card.modelData.text
+                            color: KarvelloDesign.ink2
+                            wrapMode: Text.Wrap
+                        }
+                    }
+                }
+            }
+        }
+        KarvelloText {
+            Layout.fillWidth: true
+            Layout.topMargin: KarvelloDesign.spacing8
+            text: control.screen.principles.join("  ·  ")
+            textStyle: KarvelloDesign.small
+            color: KarvelloDesign.ink3
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
+    }
+}

@@ -1,0 +1,137 @@
+#include "KarvelloUI/Screens/Onboarding/OnboardingScreenModel.h"
+
+namespace KarvelloUI {
+
+OnboardingScreenModel::OnboardingScreenModel(MacCleanerDashboardModel& dashboard, QObject* parent)
+    : QObject(parent)
+    , m_dashboard(dashboard)
+{
+    connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &OnboardingScreenModel::changed);
+    connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &OnboardingScreenModel::changed);
+    connect(&dashboard.homeAccess(), &HomeAccessBookmarkStore::lastErrorMessageChanged, this,
+        &OnboardingScreenModel::changed);
+}
+
+QString OnboardingScreenModel::eyebrow() const
+{
+    return shown(m_dashboard.words().macOnboardingEyebrow());
+}
+
+QString OnboardingScreenModel::title() const
+{
+    return shown(m_dashboard.words().macOnboardingTitle());
+}
+
+QString OnboardingScreenModel::body() const
+{
+    return shown(m_dashboard.words().macOnboardingBody());
+}
+
+QString OnboardingScreenModel::primaryText() const
+{
+    return shown(m_dashboard.words().macOnboardingPrimaryButton(m_dashboard.hasHomeAccess()));
+}
+
+bool OnboardingScreenModel::isPrimaryEnabled() const
+{
+    const MacAccessPolicy policy = m_dashboard.accessPolicy();
+    return !policy.isBusy && (!policy.hasHomeAccess() || m_dashboard.canStartCleanupScan());
+}
+
+QString OnboardingScreenModel::secondaryText() const
+{
+    return shown(m_dashboard.words().macOnboardingSecondaryButton());
+}
+
+QString OnboardingScreenModel::skipCaption() const
+{
+    return m_dashboard.hasHomeAccess() ? QString() : shown(m_dashboard.words().macOnboardingSkipCaption());
+}
+
+QString OnboardingScreenModel::errorText() const
+{
+    return shown(m_dashboard.homeAccess().lastErrorMessage().value_or(std::string()));
+}
+
+QString OnboardingScreenModel::languageTitle() const
+{
+    return shown(m_dashboard.words().macOnboardingLanguageTitle());
+}
+
+QStringList OnboardingScreenModel::languages() const
+{
+    QStringList names;
+    for (const auto language : Platform::allCases<AppLanguage>()) {
+        names.append(shown(std::string(displayName(language))));
+    }
+    return names;
+}
+
+int OnboardingScreenModel::languageIndex() const
+{
+    return static_cast<int>(m_dashboard.preferences().language());
+}
+
+QVariantList OnboardingScreenModel::cards() const
+{
+    const auto words = m_dashboard.words();
+    const bool isDirect = m_dashboard.accessPolicy().supportsDirectDistributionScans;
+    const auto card = [](const char* icon, const std::string& title, const std::string& text) {
+        return QVariant::fromValue(
+            OnboardingCard{.iconName = QString::fromLatin1(icon), .title = shown(title), .text = shown(text)});
+    };
+    return {
+        card("scan", words.macOnboardingScanFirstTitle(), words.macOnboardingScanFirstBody()),
+        card("lock",
+            isDirect ? words.say("Direct app: reads what you may read") : words.macOnboardingAccessTitle(false),
+            isDirect ? words.say("Karvello looks at your home with your own permissions. If results look empty or "
+                                 "something could not be read, check who owns the skipped folders.")
+                     : words.macOnboardingAccessBody(false)),
+        card("evidence", words.macOnboardingSafetyTitle(), words.macOnboardingSafetyBody()),
+    };
+}
+
+QStringList OnboardingScreenModel::principles() const
+{
+    const auto words = m_dashboard.words();
+    return {shown(words.trustReviewPill()), shown(words.trustTrashPill()),
+        shown(words.text("지표는 이 기기에서만 계산됩니다.", "Metrics are computed locally on this device."))};
+}
+
+void OnboardingScreenModel::chooseLanguage(int index)
+{
+    const auto languages = Platform::allCases<AppLanguage>();
+    if (index >= 0 && static_cast<std::size_t>(index) < languages.size()) {
+        m_dashboard.preferences().setLanguage(languages[static_cast<std::size_t>(index)]);
+    }
+}
+
+void OnboardingScreenModel::begin()
+{
+    if (!isPrimaryEnabled()) {
+        return;
+    }
+    if (m_dashboard.hasHomeAccess()) {
+        completeAndScan();
+        return;
+    }
+    m_dashboard.requestHomeAccess([this](bool isGranted) {
+        if (isGranted) {
+            completeAndScan();
+        }
+    });
+}
+
+void OnboardingScreenModel::completeAndScan()
+{
+    m_dashboard.preferences().setOnboardingCompleted(true);
+    m_dashboard.selectSection(MacDashboardSection::cleanup);
+    m_dashboard.scanCleanup();
+}
+
+void OnboardingScreenModel::setUpLater()
+{
+    m_dashboard.preferences().setOnboardingCompleted(true);
+}
+
+} // namespace KarvelloUI

@@ -1,0 +1,99 @@
+#include "KarvelloUI/Screens/Onboarding/OnboardingScreenModel.h"
+#include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+
+namespace DashboardTests {
+
+class OnboardingScreenModelTest : public DashboardTest {
+protected:
+    [[nodiscard]] QString cardTitle(int place) const { return screen.cards().at(place).value<OnboardingCard>().title; }
+
+    OnboardingScreenModel screen{*dashboard};
+};
+
+TEST_F(OnboardingScreenModelTest, OpensWithWhatComesFirst)
+{
+    EXPECT_EQ(screen.eyebrow(), QStringLiteral("First-run setup"));
+    EXPECT_EQ(screen.title(), QStringLiteral("Review what will be cleaned before anything moves."));
+    EXPECT_EQ(cardTitle(0), QStringLiteral("Scan first"));
+}
+
+TEST_F(OnboardingScreenModelTest, SaysWhatKindOfAccessTheBuildHas)
+{
+    const QString direct = cardTitle(1);
+    isDirectDistribution = false;
+    EXPECT_EQ(cardTitle(1), QStringLiteral("User-selected access"));
+    EXPECT_NE(direct, cardTitle(1));
+}
+
+TEST_F(OnboardingScreenModelTest, ScansAtOnceInABuildForDirectDistribution)
+{
+    screen.begin();
+    EXPECT_TRUE(preferences->isOnboardingCompleted());
+    EXPECT_FALSE(fileDialogs.isOpen());
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::scanning);
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::cleanup);
+}
+
+TEST_F(OnboardingScreenModelTest, AsksForTheHomeFirstInAnyOtherBuild)
+{
+    isDirectDistribution = false;
+    EXPECT_EQ(screen.primaryText(), QStringLiteral("Grant Access and Start Scan"));
+    screen.begin();
+    ASSERT_TRUE(fileDialogs.isOpen());
+    EXPECT_FALSE(preferences->isOnboardingCompleted());
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_TRUE(preferences->isOnboardingCompleted());
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::scanning);
+}
+
+TEST_F(OnboardingScreenModelTest, StaysWhenTheHomeWasNotGranted)
+{
+    isDirectDistribution = false;
+    screen.begin();
+    fileDialogs.answer(std::nullopt);
+    EXPECT_FALSE(preferences->isOnboardingCompleted());
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::idle);
+}
+
+TEST_F(OnboardingScreenModelTest, SaysWhyAnotherFolderIsNoHome)
+{
+    isDirectDistribution = false;
+    screen.begin();
+    fileDialogs.answer(tree.url("config/"));
+    EXPECT_FALSE(preferences->isOnboardingCompleted());
+    EXPECT_FALSE(screen.errorText().isEmpty());
+}
+
+TEST_F(OnboardingScreenModelTest, IsOverWithoutAScanWhenItIsPutOff)
+{
+    screen.setUpLater();
+    EXPECT_TRUE(preferences->isOnboardingCompleted());
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::idle);
+    restart();
+    EXPECT_TRUE(preferences->isOnboardingCompleted());
+}
+
+TEST_F(OnboardingScreenModelTest, DoesNothingWhileTheSessionIsBusy)
+{
+    dashboard->scanCleanup();
+    EXPECT_FALSE(screen.isPrimaryEnabled());
+    screen.begin();
+    EXPECT_FALSE(preferences->isOnboardingCompleted());
+    settle();
+    EXPECT_TRUE(screen.isPrimaryEnabled());
+}
+
+TEST_F(OnboardingScreenModelTest, SpeaksAnotherLanguageAtOnce)
+{
+    int changes = 0;
+    QObject::connect(&screen, &OnboardingScreenModel::changed, &screen, [&changes] { ++changes; });
+    screen.chooseLanguage(static_cast<int>(AppLanguage::german));
+    EXPECT_GT(changes, 0);
+    EXPECT_EQ(preferences->language(), AppLanguage::german);
+    EXPECT_EQ(screen.languages().at(screen.languageIndex()), QStringLiteral("Deutsch"));
+    EXPECT_NE(screen.eyebrow(), QStringLiteral("First-run setup"));
+    screen.chooseLanguage(99);
+    EXPECT_EQ(preferences->language(), AppLanguage::german);
+}
+
+} // namespace DashboardTests

@@ -1,12 +1,9 @@
 #include "KarvelloUI/Advisors/SmartCleanupCoach.h"
 
-#include "KarvelloUI/Advisors/StoragePermissionAdvisor.h"
-#include "KarvelloUI/Advisors/StorageReviewFigures.h"
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
 #include <algorithm>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -26,12 +23,6 @@ constexpr std::size_t kMostRecommendations = 3;
 int priorityOf(int base, std::int64_t points)
 {
     return base + static_cast<int>(std::clamp<std::int64_t>(points, 0, kMostPointsInABand));
-}
-
-std::int64_t blockedCount(std::span<const CleanerCore::SkippedItem> items)
-{
-    return std::ranges::count_if(
-        items, StoragePermissionAdvisor::isPermissionRelated, &CleanerCore::SkippedItem::reason);
 }
 
 /// Makes each kind of recommendation, if there is reason for it.
@@ -64,9 +55,9 @@ public:
             MacDashboardSection::duplicates);
     }
 
-    [[nodiscard]] std::optional<StorageRecommendation> permissionGuide(
-        std::int64_t blocked, const MacAccessPolicy& access) const
+    [[nodiscard]] std::optional<StorageRecommendation> permissionGuide(const MacAccessPolicy& access) const
     {
+        const std::int64_t blocked = m_figures.blockedItemCount;
         if (blocked == 0 && access.hasHomeAccess()) {
             return std::nullopt;
         }
@@ -153,13 +144,18 @@ std::vector<StorageRecommendation> SmartCleanupCoach::recommendations(const Clea
     const CleanerCore::MacStorageInsightReport& insightReport, const DiskCapacitySnapshot& diskSnapshot,
     const MacAccessPolicy& accessPolicy, AppLanguage language)
 {
-    const auto figures = StorageReviewFigures::of(cleanupReport, insightReport);
-    const std::int64_t blocked = blockedCount(cleanupReport.skippedItems) + blockedCount(insightReport.skippedItems);
+    return recommendations(
+        StorageReviewFigures::of(cleanupReport, insightReport), diskSnapshot, accessPolicy, language);
+}
+
+std::vector<StorageRecommendation> SmartCleanupCoach::recommendations(const StorageReviewFigures& figures,
+    const DiskCapacitySnapshot& diskSnapshot, const MacAccessPolicy& accessPolicy, AppLanguage language)
+{
     const Advice advice(figures, language);
 
     std::vector<StorageRecommendation> raised;
     for (auto& recommendation :
-        {advice.lowDiskReview(diskSnapshot), advice.duplicateReview(), advice.permissionGuide(blocked, accessPolicy),
+        {advice.lowDiskReview(diskSnapshot), advice.duplicateReview(), advice.permissionGuide(accessPolicy),
             advice.cleanupReview(), advice.largeFileReview(), advice.downloadsReview()}) {
         if (recommendation) {
             raised.push_back(*recommendation);

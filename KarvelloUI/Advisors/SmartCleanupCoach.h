@@ -5,6 +5,7 @@
 #include "KarvelloUI/Advisors/DiskCapacitySnapshot.h"
 #include "KarvelloUI/Advisors/MacAccessPolicy.h"
 #include "KarvelloUI/Advisors/StorageRecommendation.h"
+#include "KarvelloUI/Advisors/StorageReviewFigures.h"
 #include "KarvelloUI/Copy/AppLanguage.h"
 
 #include <vector>
@@ -19,5 +20,8 @@ namespace KarvelloUI::SmartCleanupCoach {
 [[nodiscard]] std::vector<StorageRecommendation> recommendations(const CleanerCore::ScanReport& cleanupReport,
     const CleanerCore::MacStorageInsightReport& insightReport, const DiskCapacitySnapshot& diskSnapshot,
     const MacAccessPolicy& accessPolicy, AppLanguage language);
+/// The same of figures that are known: no report is gone through.
+[[nodiscard]] std::vector<StorageRecommendation> recommendations(const StorageReviewFigures& figures,
+    const DiskCapacitySnapshot& diskSnapshot, const MacAccessPolicy& accessPolicy, AppLanguage language);
 
 } // namespace KarvelloUI::SmartCleanupCoach

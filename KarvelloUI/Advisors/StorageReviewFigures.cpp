@@ -1,5 +1,6 @@
 #include "KarvelloUI/Advisors/StorageReviewFigures.h"
 
+#include "KarvelloUI/Advisors/StoragePermissionAdvisor.h"
 #include "Platform/Base/CheckedMath.h"
 
 #include <algorithm>
@@ -18,6 +19,12 @@ std::int64_t summedBytes(std::span<const CleanerCore::FileInsight> files)
         sum = Platform::checkedAdd(sum, file.sizeBytes);
     }
     return sum;
+}
+
+std::int64_t blockedCount(std::span<const CleanerCore::SkippedItem> items)
+{
+    return std::ranges::count_if(
+        items, StoragePermissionAdvisor::isPermissionRelated, &CleanerCore::SkippedItem::reason);
 }
 
 std::optional<StorageReviewTarget> largestOf(const std::array<StorageReviewTarget, 3>& targets)
@@ -45,6 +52,7 @@ StorageReviewFigures StorageReviewFigures::of(
         .duplicateGroupCount = std::ssize(insightReport.duplicateGroups),
         .reclaimableBytes = cleanupReport.reclaimableBytes(),
         .candidateCount = std::ssize(cleanupReport.candidates),
+        .blockedItemCount = blockedCount(cleanupReport.skippedItems) + blockedCount(insightReport.skippedItems),
     };
 }
 

@@ -31,6 +31,8 @@ struct StorageReviewFigures {
     std::int64_t duplicateGroupCount = 0;
     std::int64_t reclaimableBytes = 0;
     std::int64_t candidateCount = 0;
+    /// What both scans skipped for want of a permission.
+    std::int64_t blockedItemCount = 0;
 
     static StorageReviewFigures of(
         const CleanerCore::ScanReport& cleanupReport, const CleanerCore::MacStorageInsightReport& insightReport);

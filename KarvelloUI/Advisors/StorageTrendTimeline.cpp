@@ -1,7 +1,6 @@
 #include "KarvelloUI/Advisors/StorageTrendTimeline.h"
 
 #include "KarvelloUI/Advisors/AuditReports.h"
-#include "KarvelloUI/Advisors/StorageReviewFigures.h"
 
 #include <fmt/format.h>
 
@@ -84,7 +83,12 @@ StorageTrendTimeline StorageTrendTimeline::of(const DiskCapacitySnapshot& diskSn
     const CleanerCore::ScanReport& cleanupReport, const CleanerCore::MacStorageInsightReport& insightReport,
     std::span<const CleanerCore::CleanupAuditEntry> auditEntries)
 {
-    const auto figures = StorageReviewFigures::of(cleanupReport, insightReport);
+    return of(diskSnapshot, StorageReviewFigures::of(cleanupReport, insightReport), auditEntries);
+}
+
+StorageTrendTimeline StorageTrendTimeline::of(const DiskCapacitySnapshot& diskSnapshot,
+    const StorageReviewFigures& figures, std::span<const CleanerCore::CleanupAuditEntry> auditEntries)
+{
     StorageTrendTimeline timeline;
     if (diskSnapshot.totalBytes >= 1) {
         timeline.points.push_back({.id = "current-storage",

@@ -4,6 +4,7 @@
 #include "CleanerCore/Insights/MacStorageInsightReport.h"
 #include "CleanerCore/Scan/ScanReport.h"
 #include "KarvelloUI/Advisors/DiskCapacitySnapshot.h"
+#include "KarvelloUI/Advisors/StorageReviewFigures.h"
 #include "KarvelloUI/Copy/Vocabulary/MacDashboardSection.h"
 #include "KarvelloUI/Copy/Vocabulary/StorageTrendTimelinePointKind.h"
 #include "Platform/Base/Date.h"
@@ -49,6 +50,9 @@ struct StorageTrendTimeline {
     /// order of the entries nor equal dates change the result.
     static StorageTrendTimeline of(const DiskCapacitySnapshot& diskSnapshot,
         const CleanerCore::ScanReport& cleanupReport, const CleanerCore::MacStorageInsightReport& insightReport,
+        std::span<const CleanerCore::CleanupAuditEntry> auditEntries);
+    /// The same of figures that are known: no report is gone through.
+    static StorageTrendTimeline of(const DiskCapacitySnapshot& diskSnapshot, const StorageReviewFigures& figures,
         std::span<const CleanerCore::CleanupAuditEntry> auditEntries);
 
     std::vector<Point> points;

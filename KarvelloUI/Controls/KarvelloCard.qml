@@ -13,6 +13,8 @@ Rectangle {
     // The one that is recommended among its neighbours.
     property bool isFirstChoice: false
     property int padding: KarvelloDesign.spacing20
+    // The content takes the height that neighbours give the card.
+    property bool fillsHeight: false
 
     implicitWidth: column.implicitWidth + 2 * padding
     implicitHeight: column.implicitHeight + 2 * padding
@@ -28,6 +30,7 @@ Rectangle {
         x: control.padding
         y: control.padding
         width: parent.width - 2 * control.padding
+        height: control.fillsHeight ? parent.height - 2 * control.padding : implicitHeight
         spacing: KarvelloDesign.spacing12
 
         RowLayout {
@@ -62,6 +65,7 @@ Rectangle {
         }
         ColumnLayout {
             id: body
+            Layout.fillHeight: control.fillsHeight
             spacing: KarvelloDesign.spacing12
         }
     }

@@ -11,6 +11,7 @@ T.CheckDelegate {
     required property string name
     property string path
     property string reason
+    property color reasonInk: KarvelloDesign.ink3
     // The application that has it in use, as a sentence.
     property string warning
     property string age
@@ -156,7 +157,7 @@ T.CheckDelegate {
                         visible: text !== ""
                         text: control.reason
                         textStyle: KarvelloDesign.small
-                        color: KarvelloDesign.ink3
+                        color: control.reasonInk
                         Accessible.ignored: true
                     }
                 }
@@ -177,7 +178,7 @@ T.CheckDelegate {
                     visible: text !== ""
                     text: control.reason
                     textStyle: KarvelloDesign.small
-                    color: KarvelloDesign.ink3
+                    color: control.reasonInk
                     wrapMode: Text.Wrap
                     maximumLineCount: control.warning === "" ? 2 : 1
                     Accessible.ignored: true

@@ -1,5 +1,7 @@
 #include "KarvelloUI/Dashboard/MacCleanerDashboardModel.h"
 
+#include "CleanerCore/Audit/AuditEntryRetention.h"
+#include "CleanerCore/Audit/CleanupAuditStore.h"
 #include "KarvelloUI/Stores/KarvelloDashboardLaunchRequestStore.h"
 
 #include <QMetaObject>
@@ -45,6 +47,9 @@ MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
     connect(&homeAccess(), &HomeAccessBookmarkStore::bookmarkChanged, this, &MacCleanerDashboardModel::accessChanged);
     connect(&resourceRelief(), &MacResourceReliefViewModel::candidatesChanged, this,
         &MacCleanerDashboardModel::sanitizeScanModeForDistribution);
+    connect(&cleaner(), &CleanerViewModel::auditEntriesChanged, this, &MacCleanerDashboardModel::auditEntriesChanged);
+    connect(
+        &insights(), &MacInsightsViewModel::auditEntriesChanged, this, &MacCleanerDashboardModel::auditEntriesChanged);
     connect(&m_preferences, &DashboardPreferences::scanModeChanged, this, &MacCleanerDashboardModel::clearScanResults);
     connect(&m_systemSnapshotTimer, &QTimer::timeout, this, [this] { insights().refreshSystemSnapshot(); });
     // The observer may be called on any thread.
@@ -61,6 +66,14 @@ void MacCleanerDashboardModel::start()
     consumePendingLaunchDestination();
     refreshDiskSnapshot();
     insights().refreshSystemSnapshot();
+}
+
+std::vector<CleanerCore::CleanupAuditEntry> MacCleanerDashboardModel::auditEntries() const
+{
+    auto entries = cleaner().auditEntries();
+    const auto& others = insights().auditEntries();
+    entries.insert(entries.end(), others.begin(), others.end());
+    return CleanerCore::AuditEntryRetention::limited(std::move(entries), CleanerCore::CleanupAuditStore::defaultLimit);
 }
 
 void MacCleanerDashboardModel::setWindowVisible(bool isVisible)

@@ -20,6 +20,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace KarvelloUI {
 
@@ -55,6 +56,13 @@ public:
     [[nodiscard]] HomeAccessBookmarkStore& homeAccess() const { return *m_dependencies.homeAccessBookmarkStore; }
     [[nodiscard]] CleanupIgnoreStore& ignoreStore() const { return *m_dependencies.ignoreStore; }
     [[nodiscard]] CleanupReviewPreferencesStore& reviewPreferences() { return m_reviewPreferences; }
+
+    /// The log as its two writers know it, the newest first: each shows at once what it recorded itself.
+    [[nodiscard]] std::vector<CleanerCore::CleanupAuditEntry> auditEntries() const;
+    [[nodiscard]] bool isAuditLogLoaded() const
+    {
+        return cleaner().isAuditLogLoaded() && insights().isAuditLogLoaded();
+    }
 
     /// The first appearance of the window: a stored mode that the build does not offer is given up, a waiting launch
     /// request is taken, disk and machine are looked at.
@@ -132,6 +140,7 @@ Q_SIGNALS:
     void selectedSectionChanged();
     void accessChanged();
     void diskSnapshotChanged();
+    void auditEntriesChanged();
     void confirmationChanged();
     void restoreCenterSelectionChanged();
     void alertChanged();

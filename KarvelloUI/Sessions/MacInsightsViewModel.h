@@ -77,6 +77,7 @@ public:
     [[nodiscard]] Phase phase() const { return m_phase; }
     [[nodiscard]] bool isBusy() const { return m_phase == Phase::scanning || m_phase == Phase::cleaning; }
     [[nodiscard]] const CleanerCore::MacStorageInsightReport& report() const { return m_review.report(); }
+    [[nodiscard]] const std::shared_ptr<const InsightIndex>& index() const { return m_review.index(); }
     [[nodiscard]] const std::optional<CleanerCore::CleanResult>& lastCleanResult() const { return m_lastCleanResult; }
     [[nodiscard]] const std::vector<CleanerCore::CleanupAuditEntry>& auditEntries() const { return m_audit.entries(); }
     [[nodiscard]] bool isAuditLogLoaded() const { return m_audit.isLoaded(); }

@@ -7,6 +7,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/listformatter.h>
 #include <unicode/locid.h>
+#include <unicode/reldatefmt.h>
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 #include <vector>
@@ -35,6 +36,20 @@ UDate milliseconds(Date date)
     return std::clamp(seconds * 1000, -kLimit, kLimit);
 }
 
+std::string formatted(const std::unique_ptr<icu::DateFormat>& format, Date date, std::string_view timeZone)
+{
+    if (!format) {
+        return {};
+    }
+    if (!timeZone.empty()) {
+        format->adoptTimeZone(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(pieceOf(timeZone))));
+    }
+    icu::UnicodeString formatted;
+    format->format(milliseconds(date), formatted);
+    std::string text;
+    return formatted.toUTF8String(text);
+}
+
 } // namespace
 
 std::optional<std::string> list(std::span<const std::string> items, std::string_view locale)
@@ -58,20 +73,50 @@ std::optional<std::string> list(std::span<const std::string> items, std::string_
     return joined.toUTF8String(text);
 }
 
+std::string mediumMoment(Date date, std::string_view locale, std::string_view timeZone)
+{
+    return formatted(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createDateTimeInstance(
+                         icu::DateFormat::kMedium, icu::DateFormat::kShort, localeOf(locale))),
+        date, timeZone);
+}
+
 std::string shortTime(Date date, std::string_view locale, std::string_view timeZone)
 {
-    const std::unique_ptr<icu::DateFormat> format(
-        icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale)));
-    if (!format) {
-        return {};
+    return formatted(std::unique_ptr<icu::DateFormat>(
+                         icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale))),
+        date, timeZone);
+}
+
+std::string shortDay(Date date, std::string_view locale, std::string_view timeZone)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    return formatted(std::unique_ptr<icu::DateFormat>(icu::DateFormat::createInstanceForSkeleton(
+                         icu::UnicodeString("MMMd"), localeOf(locale), status)),
+        date, timeZone);
+}
+
+std::optional<std::string> timeAgo(double seconds, std::string_view locale)
+{
+    constexpr double kMinute = 60;
+    constexpr double kHour = 60 * kMinute;
+    constexpr double kDay = 24 * kHour;
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::RelativeDateTimeFormatter formatter(localeOf(locale), status);
+    icu::UnicodeString said;
+    if (!(seconds >= kMinute)) {
+        formatter.format(UDAT_DIRECTION_PLAIN, UDAT_ABSOLUTE_NOW, said, status);
+    } else if (seconds < kHour) {
+        formatter.format(std::floor(seconds / kMinute), UDAT_DIRECTION_LAST, UDAT_RELATIVE_MINUTES, said, status);
+    } else if (seconds < kDay) {
+        formatter.format(std::floor(seconds / kHour), UDAT_DIRECTION_LAST, UDAT_RELATIVE_HOURS, said, status);
+    } else {
+        formatter.format(std::floor(seconds / kDay), UDAT_DIRECTION_LAST, UDAT_RELATIVE_DAYS, said, status);
     }
-    if (!timeZone.empty()) {
-        format->adoptTimeZone(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(pieceOf(timeZone))));
+    if (U_FAILURE(status)) {
+        return std::nullopt;
     }
-    icu::UnicodeString time;
-    format->format(milliseconds(date), time);
     std::string text;
-    return time.toUTF8String(text);
+    return said.toUTF8String(text);
 }
 
 } // namespace Platform::LocalizedText

@@ -28,9 +28,23 @@ protected:
     }
 
     /// The application is started again over the same preferences.
-    void restart()
+    void restart() { restart(fileManager); }
+    /// With `files` as its way to the disk.
+    void restart(const Platform::FileManager& files)
+    {
+        restartWithoutSettling(files);
+        settle();
+    }
+    /// Its background work is still to be done.
+    void restartWithoutSettling(const Platform::FileManager& files)
     {
         dashboard.reset();
+        const SessionServices session{.fileManager = files,
+            .trash = trash,
+            .bookmarks = bookmarks,
+            .environment = environment,
+            .executor = executor,
+            .now = services.now};
         preferences = std::make_unique<DashboardPreferences>(defaults, preferredLanguages);
         MacCleanerDashboardDependencies::Providers providers;
         providers.runningApplications = [] { return std::vector<CleanerCore::AppCacheRunningApplicationIdentity>(); };
@@ -59,7 +73,7 @@ protected:
         providers.currentHome = [this] { return tree.url("home/"); };
         dashboard = std::make_unique<MacCleanerDashboardModel>(
             DashboardServices{
-                .session = services,
+                .session = session,
                 .defaults = defaults,
                 .fileViewer = fileViewer,
                 .fileDialogs = fileDialogs,
@@ -69,10 +83,9 @@ protected:
                 .diskSnapshot = [this] { return disk; },
             },
             MacCleanerDashboardDependencies::make(
-                services, defaults, [this] { return preferences->language(); }, std::move(providers)),
+                session, defaults, [this] { return preferences->language(); }, std::move(providers)),
             *preferences);
         dashboard->setObjectName(QStringLiteral("dashboard"));
-        settle();
     }
 
     /// A finished cleanup scan, on its screen.

@@ -9,6 +9,7 @@ namespace {
 
 using Platform::Date;
 using Platform::LocalizedText::list;
+using Platform::LocalizedText::mediumMoment;
 using Platform::LocalizedText::shortTime;
 
 constexpr auto kAfternoon = Date::fromUnixTime(1'763'737'440); // 2025-11-21T15:04:00Z
@@ -52,6 +53,13 @@ TEST(LocalizedText, ATimeOfDayIsThatOfTheTimeZone)
     // Between the two, releases of the data disagree about which space it is.
     EXPECT_TRUE(english.starts_with("3:04") && english.ends_with("PM")) << english;
     EXPECT_FALSE(shortTime(kAfternoon, "en").empty());
+}
+
+TEST(LocalizedText, AMomentHasItsDayYearAndTime)
+{
+    EXPECT_EQ(mediumMoment(kAfternoon, "de", "UTC"), "21.11.2025, 15:04");
+    EXPECT_EQ(mediumMoment(kAfternoon, "ja", "Asia/Seoul"), "2025/11/22 0:04");
+    EXPECT_TRUE(mediumMoment(kAfternoon, "en", "UTC").starts_with("Nov 21, 2025, 3:04"));
 }
 
 TEST(LocalizedText, ADateOutOfReachHasATimeToo)

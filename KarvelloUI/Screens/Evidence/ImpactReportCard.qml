@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Layouts
+import Karvello.Design
+import Karvello.Screens.Evidence
+
+// Three bars on one scale: what was expected, what was done, and what came free of it.
+KarvelloCard {
+    id: control
+
+    required property ImpactReportModel report
+
+    title: report.title
+    subtitle: report.subtitle
+    Accessible.name: report.hasReport ? report.accessibleName : report.title
+
+    KarvelloText {
+        Layout.fillWidth: true
+        visible: !control.report.hasReport
+        text: control.report.emptyText
+        color: KarvelloDesign.ink3
+        wrapMode: Text.Wrap
+    }
+    Repeater {
+        model: control.report.bars
+        ColumnLayout {
+            id: bar
+            required property var entry
+
+            spacing: KarvelloDesign.spacing4
+
+            RowLayout {
+                spacing: KarvelloDesign.spacing12
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: bar.entry.label
+                    wrapMode: Text.Wrap
+                }
+                KarvelloText {
+                    text: bar.entry.value
+                    emphasis: KarvelloText.Strong
+                    color: KarvelloDesign.ink
+                }
+            }
+            KarvelloProgressBar {
+                Layout.fillWidth: true
+                value: bar.entry.fraction
+                tint: [KarvelloDesign.ink4, KarvelloDesign.caution, KarvelloDesign.safe][bar.entry.kind]
+                accessibleName: bar.entry.label + ", " + bar.entry.value
+            }
+        }
+    }
+    KarvelloText {
+        Layout.fillWidth: true
+        visible: text !== ""
+        text: control.report.summary
+        textStyle: KarvelloDesign.small
+        color: KarvelloDesign.ink3
+        wrapMode: Text.Wrap
+    }
+}

@@ -1,0 +1,93 @@
+#include "KarvelloUI/Copy/PercentText.h"
+#include "KarvelloUI/Screens/Home/HomeFigures.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <string>
+#include <string_view>
+
+namespace KarvelloUI::HomeFigures {
+
+namespace {
+
+constexpr const char* kNoFigure = "—";
+constexpr std::string_view kUnknownState = "Unknown";
+
+bool isKnown(std::string_view state)
+{
+    return !state.empty() && state != kUnknownState;
+}
+
+/// What all three have in common.
+HomeMetric metric(
+    QString iconName, const std::string& name, std::span<const double> samples, const DashboardWords& words)
+{
+    return {
+        .iconName = std::move(iconName),
+        .name = shown(name),
+        .note = shown(words.text("지금", "Now")),
+        .figure = QString::fromUtf8(kNoFigure),
+        .text = shown(words.say("No reading")),
+        .samples = QList<double>(samples.begin(), samples.end()),
+        .emptyText = shown(samples.empty() ? words.systemTrendSubtitle(0)
+                                           : words.text("샘플이 두 개 이상 필요", "Needs at least two samples")),
+        .trend = shown(words.metricTrendAccessibilityValue(samples)),
+    };
+}
+
+} // namespace
+
+HomeHero hero(const DiskCapacitySnapshot& disk, std::int64_t reclaimableBytes, const DashboardWords& words)
+{
+    HomeHero hero{
+        .title = shown(words.text("여유 공간", "Free space")),
+        .pillText = shown(words.text("실시간", "LIVE")),
+        .reclaimableText = reclaimableBytes > 0
+            ? shown(fmt::format("{} {}", words.reclaimableTitle(), words.byteSize(reclaimableBytes)))
+            : QString(),
+    };
+    if (disk.totalBytes < 1) {
+        hero.percent = QString::fromUtf8(kNoFigure);
+        hero.usedText = shown(words.say("Disk capacity unknown"));
+        return hero;
+    }
+    const auto total = static_cast<double>(disk.totalBytes);
+    hero.percent = shown(percentText(disk.freeFraction()));
+    hero.freeText = shown(words.say("{} free", words.byteSize(disk.freeBytes)));
+    hero.usedText = shown(words.say("{} / {} used", words.byteSize(disk.usedBytes()), words.byteSize(disk.totalBytes)));
+    hero.usedFraction = static_cast<double>(disk.usedBytes()) / total;
+    hero.reclaimableFraction = std::clamp(static_cast<double>(reclaimableBytes) / total, 0.0, hero.usedFraction);
+    return hero;
+}
+
+std::vector<HomeMetric> metrics(const CleanerCore::SystemResourceSnapshot& snapshot, const SystemMetricHistory& history,
+    const DashboardWords& words)
+{
+    HomeMetric processors = metric(QStringLiteral("cpu"), words.text("CPU", "CPU"), history.cpuLoad(), words);
+    if (snapshot != CleanerCore::SystemResourceSnapshot()) {
+        processors.figure = shown(percentText(snapshot.normalizedCPULoad));
+        processors.text =
+            shown(words.text("순간 변화를 볼 수 있도록 1초마다 측정", "Sampled every second for visible spikes"));
+    }
+
+    HomeMetric memory = metric(QStringLiteral("memory"), words.text("메모리", "Memory"), history.memoryUsage(), words);
+    if (snapshot.physicalMemoryBytes > 0) {
+        memory.figure = shown(percentText(
+            static_cast<double>(snapshot.usedMemoryBytes) / static_cast<double>(snapshot.physicalMemoryBytes)));
+        memory.unit = shown(fmt::format("{} / {}", words.byteSize(static_cast<std::int64_t>(snapshot.usedMemoryBytes)),
+            words.byteSize(static_cast<std::int64_t>(snapshot.physicalMemoryBytes))));
+        memory.text =
+            isKnown(snapshot.memoryPressure) ? shown(words.localizedPressure(snapshot.memoryPressure)) : QString();
+    }
+
+    HomeMetric thermal =
+        metric(QStringLiteral("thermal"), words.text("발열", "Thermal"), history.thermalPressure(), words);
+    if (isKnown(snapshot.thermalState)) {
+        thermal.figure = shown(words.localizedThermalState(snapshot.thermalState));
+        thermal.text = shown(words.text(
+            "센서 온도가 아님 · 공개된 열 압박 수준", "Not a sensor temperature · public thermal pressure level"));
+    }
+    return {processors, memory, thermal};
+}
+
+} // namespace KarvelloUI::HomeFigures

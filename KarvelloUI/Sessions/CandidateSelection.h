@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -28,6 +29,7 @@ public:
     /// Whether anything changed. An unknown id changes nothing.
     bool setSelected(std::string_view id, bool isSelected);
     bool setSelected(std::uint32_t position, bool isSelected);
+    bool setSelected(std::span<const std::uint32_t> positions, bool isSelected);
     void selectAll();
     void clear();
     /// Those, and only those, that the scan selects by default.

@@ -108,6 +108,8 @@ public:
     [[nodiscard]] const CandidateReview& review() const { return m_review; }
     [[nodiscard]] bool isSelected(const CleanerCore::CleanupCandidate& candidate) const;
     void setSelected(const CleanerCore::CleanupCandidate& candidate, bool isSelected);
+    /// Any number at once: positions in the report on show.
+    void setSelected(std::span<const std::uint32_t> positions, bool isSelected);
     Q_INVOKABLE void selectAllCandidates();
     Q_INVOKABLE void clearSelection();
 

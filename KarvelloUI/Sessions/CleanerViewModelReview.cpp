@@ -20,6 +20,14 @@ void CleanerViewModel::setSelected(const CleanupCandidate& candidate, bool isSel
     publish();
 }
 
+void CleanerViewModel::setSelected(std::span<const std::uint32_t> positions, bool isSelected)
+{
+    if (m_review.selection().setSelected(positions, isSelected)) {
+        noteChange(Change::selection);
+    }
+    publish();
+}
+
 void CleanerViewModel::selectAllCandidates()
 {
     m_review.selection().selectAll();

@@ -74,9 +74,10 @@ protected:
         m_design.setTextEnvironment(m_environment);
     }
 
+    /// Shown or not. A throw ends the test.
     QQuickItem* find(const char* name)
     {
-        auto* const found = m_window->findChild<QQuickItem*>(QString::fromLatin1(name));
+        auto* const found = findBelow(m_window->contentItem(), QString::fromLatin1(name));
         if (found == nullptr) {
             throw std::runtime_error(name);
         }
@@ -158,6 +159,18 @@ private:
         }
     };
 
+    static QQuickItem* findBelow(QQuickItem* item, const QString& name)
+    {
+        if (item->objectName() == name) {
+            return item;
+        }
+        for (QQuickItem* const child : item->childItems()) {
+            if (auto* const found = findBelow(child, name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
     static QRectF placeOf(const QQuickItem* item)
     {
         return item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));

@@ -52,8 +52,9 @@ protected:
         QObject::connect(&model, &Model::dataChanged,
             [this](const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
                 signals_.append(QStringLiteral("*%1..%2").arg(first.row()).arg(last.row()));
-                signals_.append(
-                    roles == QList<int>{Role::isSelectedRole} ? QStringLiteral("selected ") : QStringLiteral(" "));
+                signals_.append(roles == QList<int>{Role::isSelectedRole, Role::checkStateRole}
+                        ? QStringLiteral("selected ")
+                        : QStringLiteral(" "));
             });
         QObject::connect(&model, &CandidateListModel::countChanged, [this] { ++countChanges; });
     }

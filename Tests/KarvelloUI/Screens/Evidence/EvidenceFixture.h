@@ -48,8 +48,12 @@ protected:
     void clean()
     {
         scan();
-        dashboard->selectSection(MacDashboardSection::cleanup);
         dashboard->cleaner().selectAllCandidates();
+        cleanSelected();
+    }
+    void cleanSelected()
+    {
+        dashboard->selectSection(MacDashboardSection::cleanup);
         dashboard->requestCleanSelected();
         dashboard->cleanSelected();
         settle();

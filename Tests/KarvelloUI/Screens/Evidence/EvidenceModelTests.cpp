@@ -31,10 +31,10 @@ protected:
             .occurredAt = now.addingSeconds(seconds),
             .mode = CleaningMode::moveToTrash,
             .requestedItemCount = 4,
-            .requestedBytes = 4'000'000,
+            .requestedBytes = 4 * 1'048'576,
             .succeededItemCount = 3,
             .failedItemCount = 1,
-            .affectedBytes = 3'000'000};
+            .affectedBytes = 3 * 1'048'576};
     }
 };
 
@@ -114,9 +114,12 @@ TEST_F(EvidenceScreenModelTest, TellsTheReasonsOfAnEntryAndWhatTheLogDidNotKeep)
     old.failureReasons = {"The item is in use.", "/home/ada/secret cannot be moved"};
     old.cleanedItems = {
         {.candidate = CleanerCore::CleanupCandidate({.url = tree.url("home/.cache/a\n\xff"), .sizeBytes = 5})}};
-    startOverWith({old});
-    evidence->history()->setOpen(0, true);
-    const auto details = evidence->history()->rows()->index(0, 0).data(History::detailsRole).toStringList();
+    old = old.storageSafeForAuditPersistence();
+    History history(*dashboard);
+    history.show({old});
+    history.setOpen(0, true);
+    EXPECT_TRUE(history.index(0).data(History::isOpenRole).toBool());
+    const auto details = history.index(0).data(History::detailsRole).toStringList();
     ASSERT_EQ(details.size(), 4);
     EXPECT_EQ(details[0].toStdString(), "The item is in use.");
     EXPECT_EQ(details[1].toStdString(), "The history keeps no reason that names a path.");

@@ -147,11 +147,15 @@ TEST_F(RestoreCenter, ShowsTheLogAfterANewStartAndRestoresNothingOfIt)
 
 TEST_F(RestoreCenter, ForgetsASelectionAmongOtherRows)
 {
-    clean();
-    center->selectAll();
-    tree.add("home/.cache/pip/wheel size=64K age=90d");
-    clean();
+    scan();
+    dashboard->cleaner().clearSelection();
+    dashboard->cleaner().setSelected(dashboard->cleaner().report().candidates.front(), true);
+    cleanSelected();
     ASSERT_EQ(count(), 1);
+    center->selectAll();
+    dashboard->cleaner().selectAllCandidates();
+    cleanSelected();
+    ASSERT_EQ(count(), 2);
     EXPECT_EQ(center->checkState(), Qt::Unchecked);
     EXPECT_THAT(dashboard->restoreCenterSelectedIDs(), IsEmpty());
 }

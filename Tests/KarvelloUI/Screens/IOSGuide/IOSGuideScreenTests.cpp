@@ -24,7 +24,9 @@ TEST_F(IOSGuideScreen, StoresWhatIsChosenByTheKeyboard)
 {
     open();
     QQuickItem* chosen = nullptr;
-    for (auto* const segment : find("status1")->findChildren<QQuickItem*>()) {
+    std::vector<QQuickItem*> segments;
+    collectShown(find("status1"), segments);
+    for (auto* const segment : segments) {
         if (segment->inherits("QQuickRadioButton") && segment->property("isChosen").toBool()) {
             chosen = segment;
         }

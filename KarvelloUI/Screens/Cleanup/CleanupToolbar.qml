@@ -1,0 +1,122 @@
+import QtQuick
+import QtQuick.Layouts
+import Karvello.Design
+import Karvello.Screens.Cleanup
+
+// How to scan and what to show of what was found. When there is no room, the filters fold into one menu.
+RowLayout {
+    id: control
+
+    required property CleanupScreenModel screen
+    readonly property bool isFolded: KarvelloDesign.textFactor >= 1.25 || width < fullWidth
+    readonly property real fullWidth: modes.implicitWidth + 200 + categories.implicitWidth + safetyLevels.implicitWidth
+        + groupings.implicitWidth + 4 * spacing
+
+    // Escape on an empty field.
+    signal left()
+
+    function focusSearch() {
+        search.forceActiveFocus(Qt.ShortcutFocusReason)
+        search.selectAll()
+    }
+
+    spacing: KarvelloDesign.spacing8
+
+    KarvelloPicker {
+        id: modes
+        choices: control.screen.scanModes
+        currentValue: control.screen.scanMode
+        accessibleName: control.screen.texts.scanMode
+        enabled: !control.screen.isBusy
+        maximumWidth: 380
+        onPicked: value => control.screen.scanMode = value
+
+        KarvelloHint {
+            target: modes
+            text: control.screen.texts.scanModeHint
+        }
+    }
+    KarvelloTextField {
+        id: search
+        objectName: "search"
+        Layout.fillWidth: true
+        Layout.minimumWidth: 120
+        iconName: "search"
+        placeholderText: control.screen.texts.search
+        clearName: control.screen.texts.clearSearch
+        enabled: control.screen.canFilter
+        onTextChanged: control.screen.searchText = text
+        Keys.onDownPressed: control.left()
+
+        Connections {
+            target: control.screen
+            function onFiltersChanged() {
+                if (search.text !== control.screen.searchText)
+                    search.text = control.screen.searchText
+            }
+        }
+    }
+    KarvelloPicker {
+        id: categories
+        visible: !control.isFolded
+        isDropDown: true
+        choices: control.screen.categories
+        currentValue: control.screen.category
+        accessibleName: control.screen.texts.category
+        enabled: control.screen.canFilter
+        onPicked: value => control.screen.category = value
+    }
+    KarvelloPicker {
+        id: safetyLevels
+        visible: !control.isFolded
+        isDropDown: true
+        choices: control.screen.safetyLevels
+        currentValue: control.screen.safety
+        accessibleName: control.screen.texts.safety
+        enabled: control.screen.canFilter
+        onPicked: value => control.screen.safety = value
+    }
+    KarvelloPicker {
+        id: groupings
+        visible: !control.isFolded
+        choices: control.screen.groupings
+        currentValue: control.screen.grouping
+        accessibleName: control.screen.texts.grouping
+        enabled: control.screen.canFilter
+        onPicked: value => control.screen.grouping = value
+    }
+    KarvelloButton {
+        id: folded
+        visible: control.isFolded
+        text: control.screen.texts.filters
+        iconName: "chevron-down"
+        enabled: control.screen.canFilter
+        Accessible.role: Accessible.ButtonMenu
+        onClicked: menu.openBelow(folded)
+
+        KarvelloMenu {
+            id: menu
+            accessibleName: control.screen.texts.filters
+
+            ChoiceMenu {
+                title: control.screen.texts.category
+                choices: control.screen.categories
+                currentValue: control.screen.category
+                onPicked: value => control.screen.category = value
+            }
+            ChoiceMenu {
+                title: control.screen.texts.safety
+                choices: control.screen.safetyLevels
+                currentValue: control.screen.safety
+                onPicked: value => control.screen.safety = value
+            }
+            ChoiceMenu {
+                title: control.screen.texts.grouping
+                choices: control.screen.groupings
+                currentValue: control.screen.grouping
+                onPicked: value => control.screen.grouping = value
+            }
+        }
+    }
+    Keys.onEscapePressed: left()
+}

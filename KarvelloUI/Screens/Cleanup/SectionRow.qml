@@ -1,0 +1,58 @@
+import QtQuick
+import QtQuick.Templates as T
+import Karvello.Design
+import Karvello.Screens.Cleanup
+
+// The head of a section as a row of the list: the keys of a row work on it.
+T.Control {
+    id: control
+
+    required property CleanupScreenModel screen
+    // A CleanupSectionHead.
+    required property var head
+
+    implicitHeight: header.implicitHeight
+    focusPolicy: Qt.ClickFocus
+
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: KarvelloDesign.spoken([head.name, head.count, head.total, head.note, head.selection])
+    Accessible.checkable: true
+    Accessible.checked: head.checkState === Qt.Checked
+    Accessible.checkStateMixed: head.checkState === Qt.PartiallyChecked
+    Accessible.onToggleAction: screen.toggleSection(head.id)
+    Accessible.onPressAction: screen.toggleSection(head.id)
+
+    Keys.onPressed: event => {
+        event.accepted = true
+        if (event.key === Qt.Key_Space)
+            control.screen.toggleSection(control.head.id)
+        else if (event.key === Qt.Key_Right && !control.head.isOpen)
+            control.screen.setSectionOpen(control.head.id, true)
+        else if (event.key === Qt.Key_Left && control.head.isOpen)
+            control.screen.setSectionOpen(control.head.id, false)
+        else
+            event.accepted = false
+    }
+
+    contentItem: KarvelloSectionHeader {
+        id: header
+        name: control.head.name
+        count: control.head.count
+        note: control.head.note
+        total: control.head.total
+        checkState: control.head.checkState
+        isSelectable: true
+        enabled: !control.screen.isBusy
+        isOpen: control.head.isOpen
+        accessibleValue: control.head.selection
+        takesFocus: false
+        onToggleRequested: control.screen.toggleSection(control.head.id)
+        onOpenRequested: isOpen => control.screen.setSectionOpen(control.head.id, isOpen)
+
+        FocusRing {
+            isShown: control.visualFocus
+            distance: 2
+            radius: KarvelloDesign.checkBoxRadius
+        }
+    }
+}

@@ -1,0 +1,62 @@
+import QtQuick
+import QtQuick.Layouts
+import Karvello.Design
+import Karvello.Screens.Cleanup
+
+// What the scan passed over, and why.
+SidePanel {
+    id: control
+
+    required property CleanupScreenModel screen
+    property bool isClosable: true
+
+    title: screen.texts.skipped
+    count: screen.skippedCount
+    note: isClosable ? screen.skippedSummary : screen.texts.skippedNote
+    closeName: isClosable ? screen.texts.close : ""
+    model: screen.skipped
+    delegate: Item {
+        id: item
+        required property string path
+        required property string reason
+        required property bool isPermission
+
+        width: ListView.view ? ListView.view.width : 0
+        implicitHeight: Math.max(44, row.implicitHeight + 2 * KarvelloDesign.spacing8)
+        Accessible.role: Accessible.ListItem
+        Accessible.name: KarvelloDesign.spoken([path, reason])
+
+        RowLayout {
+            id: row
+            x: KarvelloDesign.spacing20
+            width: parent.width - 2 * x
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: KarvelloDesign.spacing12
+
+            KarvelloIcon { name: item.isPermission ? "warning" : "lock" }
+            KarvelloText {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                text: item.path
+                color: KarvelloDesign.ink
+                elide: Text.ElideMiddle
+                Accessible.ignored: true
+            }
+            KarvelloText {
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                text: item.reason
+                textStyle: KarvelloDesign.small
+                color: KarvelloDesign.ink3
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+        }
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: KarvelloDesign.lineSoft
+        }
+    }
+}

@@ -1,0 +1,226 @@
+#include "Tests/KarvelloUI/Screens/Cleanup/CleanupWindow.h"
+
+#include <gmock/gmock.h>
+
+namespace CleanupTests {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class CleanupScreenTest : public CleanupWindowTest {
+protected:
+    void showReview()
+    {
+        scanForCleanup();
+        screen->setGrouping(QStringLiteral("category"));
+        show();
+        key(Qt::Key_F, Qt::ControlModifier);
+        key(Qt::Key_Escape);
+    }
+};
+
+TEST_F(CleanupScreenTest, ShowsEachFaceWithoutAWarning)
+{
+    show();
+    EXPECT_TRUE(find("placeholder")->isVisible());
+    dashboard->selectSection(MacDashboardSection::cleanup);
+    screen->scan();
+    layOut();
+    EXPECT_TRUE(find("progress")->isVisible());
+    EXPECT_FALSE(find("placeholder")->isVisible());
+    settle();
+    layOut();
+    EXPECT_TRUE(find("candidateList")->isVisible());
+    screen->setSearchText(QStringLiteral("nothing of the kind"));
+    layOut();
+    EXPECT_FALSE(find("candidateList")->isVisible());
+    screen->clearFilters();
+    for (const auto language : Platform::allCases<AppLanguage>()) {
+        ASSERT_TRUE(preferences->setLanguage(language));
+        layOut();
+    }
+}
+
+TEST_F(CleanupScreenTest, MovesThroughHeadsAndRowsByTheArrows)
+{
+    showReview();
+    EXPECT_EQ(currentRow(), 0);
+    EXPECT_THAT(focused(), StartsWith("User Caches, 2 items"));
+    key(Qt::Key_Down);
+    EXPECT_EQ(currentRow(), 1);
+    EXPECT_THAT(focused(), StartsWith("Cleanup candidate "));
+    key(Qt::Key_End);
+    EXPECT_EQ(currentRow(), 4);
+    key(Qt::Key_Home);
+    EXPECT_EQ(currentRow(), 0);
+    key(Qt::Key_PageDown);
+    EXPECT_EQ(currentRow(), 4);
+    key(Qt::Key_PageUp);
+    EXPECT_EQ(currentRow(), 0);
+}
+
+TEST_F(CleanupScreenTest, TogglesARowAndASectionBySpace)
+{
+    showReview();
+    key(Qt::Key_Space);
+    EXPECT_EQ(session().selectedCount(), 1);
+    key(Qt::Key_Down);
+    key(Qt::Key_Space);
+    EXPECT_EQ(session().selectedCount(), 2);
+}
+
+TEST_F(CleanupScreenTest, OpensAndClosesByRightAndLeft)
+{
+    showReview();
+    key(Qt::Key_Left);
+    EXPECT_EQ(screen->list()->count(), 3);
+    key(Qt::Key_Right);
+    EXPECT_EQ(screen->list()->count(), 5);
+    key(Qt::Key_Down);
+    key(Qt::Key_Right);
+    EXPECT_TRUE(screen->isRowOpen(1));
+    layOut();
+    key(Qt::Key_Left);
+    EXPECT_FALSE(screen->isRowOpen(1));
+    key(Qt::Key_Left);
+    EXPECT_EQ(currentRow(), 0);
+}
+
+TEST_F(CleanupScreenTest, OpensTheMenuOfARow)
+{
+    showReview();
+    key(Qt::Key_Down);
+    const auto name = screen->list()->candidate(1)->displayName;
+    key(Qt::Key_Menu);
+    layOut();
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    layOut();
+    EXPECT_THAT(fileViewer.selected, testing::ElementsAre(HasSubstr(name)));
+    EXPECT_THAT(focused(), StartsWith("Cleanup candidate "));
+}
+
+TEST_F(CleanupScreenTest, SnoozesFromTheMenu)
+{
+    showReview();
+    key(Qt::Key_Down);
+    key(Qt::Key_F10, Qt::ShiftModifier);
+    layOut();
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    layOut();
+    EXPECT_EQ(session().ignoredItems().size(), 1U);
+    EXPECT_EQ(screen->list()->count(), 4);
+}
+
+TEST_F(CleanupScreenTest, SelectsAndClearsAllByShortcuts)
+{
+    showReview();
+    key(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(session().selectedCount(), 0);
+    key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(session().selectedCount(), 3);
+}
+
+TEST_F(CleanupScreenTest, FiltersAsOneTypesAndLeavesByEscape)
+{
+    showReview();
+    key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(m_window->activeFocusItem(), find("search"));
+    type("yarn");
+    EXPECT_EQ(screen->list()->count(), 2);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(screen->list()->count(), 5);
+    EXPECT_EQ(m_window->activeFocusItem(), find("search"));
+    key(Qt::Key_Escape);
+    EXPECT_THAT(focused(), StartsWith("User Caches"));
+}
+
+TEST_F(CleanupScreenTest, CtrlReturnOnlyAsks)
+{
+    showReview();
+    key(Qt::Key_Return, Qt::ControlModifier);
+    layOut();
+    EXPECT_TRUE(confirmation->isOpen());
+    settle();
+    EXPECT_EQ(trashedCount(), 0);
+    EXPECT_EQ(focused(), "Cancel");
+    // A stray one presses Cancel.
+    key(Qt::Key_Return);
+    layOut();
+    settle();
+    EXPECT_FALSE(confirmation->isOpen());
+    EXPECT_FALSE(dashboard->isShowingCleanConfirmation());
+    EXPECT_EQ(trashedCount(), 0);
+}
+
+TEST_F(CleanupScreenTest, EscapeAnswersTheDialogWithNo)
+{
+    showReview();
+    screen->askToClean();
+    layOut();
+    key(Qt::Key_Escape);
+    layOut();
+    EXPECT_FALSE(dashboard->isShowingCleanConfirmation());
+    EXPECT_EQ(trashedCount(), 0);
+}
+
+TEST_F(CleanupScreenTest, TheDialogsOwnButtonMoves)
+{
+    showReview();
+    screen->askToClean();
+    layOut();
+    key(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "Move Selected to Trash");
+    key(Qt::Key_Return);
+    layOut();
+    settle();
+    EXPECT_EQ(trashedCount(), 3);
+    EXPECT_FALSE(confirmation->isOpen());
+}
+
+TEST_F(CleanupScreenTest, AClosedQuestionLeavesNoDialogBehind)
+{
+    showReview();
+    screen->askToClean();
+    layOut();
+    dashboard->cancelConfirmation();
+    layOut();
+    EXPECT_FALSE(find<QObject>("dialog")->property("visible").toBool());
+}
+
+TEST_F(CleanupScreenTest, EscapeGoesToCancelWhileAScanRuns)
+{
+    dashboard->selectSection(MacDashboardSection::cleanup);
+    show();
+    screen->scan();
+    layOut();
+    key(Qt::Key_Escape);
+    EXPECT_EQ(focused(), "Cancel Operation");
+    key(Qt::Key_Return);
+    settle();
+    EXPECT_EQ(screen->face(), Face::Idle);
+}
+
+TEST_F(CleanupScreenTest, LooksUpWhatWasSkippedAndComesBack)
+{
+    showReview();
+    QMetaObject::invokeMethod(find("page"), "showPanel", Q_ARG(QString, QStringLiteral("skipped")));
+    layOut();
+    EXPECT_FALSE(find("candidateList")->isVisible());
+    key(Qt::Key_Escape);
+    layOut();
+    EXPECT_TRUE(find("candidateList")->isVisible());
+}
+
+TEST_F(CleanupScreenTest, IsOneStopForTab)
+{
+    showReview();
+    key(Qt::Key_Tab);
+    EXPECT_THAT(focused(), testing::Not(StartsWith("Cleanup candidate")));
+    key(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_THAT(focused(), StartsWith("User Caches"));
+}
+
+} // namespace CleanupTests

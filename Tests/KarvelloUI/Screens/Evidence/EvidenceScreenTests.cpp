@@ -3,13 +3,6 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
-// Written by the build. Naming them keeps the linker from leaving the modules' types out of static libraries.
-// NOLINTBEGIN(readability-identifier-naming)
-void qml_register_types_Karvello_Screens_Evidence();
-void qml_register_types_Karvello_Screens_Exports();
-void qml_register_types_Karvello_Screens_Home();
-// NOLINTEND(readability-identifier-naming)
-
 namespace EvidenceTests {
 
 using testing::HasSubstr;
@@ -19,11 +12,6 @@ class EvidenceScreen : public EvidenceTest {
 protected:
     void look(int width = 1240, int height = 820)
     {
-        for (const auto registration : {&qml_register_types_Karvello_Screens_Evidence,
-                 &qml_register_types_Karvello_Screens_Exports, &qml_register_types_Karvello_Screens_Home}) {
-            [[maybe_unused]] static volatile auto kept = registration;
-            kept = registration;
-        }
         show("Evidence", "EvidenceScreen", evidence.get(), width, height);
     }
     QQuickItem* rowOf(const char* list, int row)

@@ -4,16 +4,12 @@
 
 #include <gmock/gmock.h>
 
-// Written by the build. Naming it keeps the linker from leaving the module's types out of a static library.
-void qml_register_types_Karvello_Screens_IOSGuide(); // NOLINT(readability-identifier-naming)
-
 namespace DashboardTests {
 
 class IOSGuideScreen : public ScreenWindowTest {
 protected:
     void open(int width = 1240, int height = 820)
     {
-        [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_IOSGuide;
         dashboard->selectSection(MacDashboardSection::settings);
         guide = std::make_unique<IOSGuideScreenModel>(*dashboard);
         dashboard->openIOSGuide();

@@ -44,7 +44,8 @@ KarvelloCard {
             KarvelloProgressBar {
                 Layout.fillWidth: true
                 value: bar.entry.fraction
-                tint: [KarvelloDesign.ink4, KarvelloDesign.caution, KarvelloDesign.safe][bar.entry.kind]
+                tint: bar.entry.isPending ? KarvelloDesign.caution
+                    : bar.entry.isRecovered ? KarvelloDesign.safe : KarvelloDesign.ink4
                 accessibleName: bar.entry.label + ", " + bar.entry.value
             }
         }

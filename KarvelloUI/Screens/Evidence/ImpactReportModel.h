@@ -20,7 +20,8 @@ struct ImpactBar {
     Q_PROPERTY(QString label MEMBER label FINAL)
     Q_PROPERTY(QString value MEMBER value FINAL)
     Q_PROPERTY(double fraction MEMBER fraction FINAL)
-    Q_PROPERTY(Kind kind MEMBER kind FINAL)
+    Q_PROPERTY(bool isPending READ isPending FINAL)
+    Q_PROPERTY(bool isRecovered READ isRecovered FINAL)
 
 public:
     enum Kind : std::uint8_t {
@@ -31,13 +32,15 @@ public:
         /// Free again.
         recovered,
     };
-    Q_ENUM(Kind)
 
     QString label = {};
     QString value = {};
     /// Of what was expected, 0 to 1.
     double fraction = 0;
     Kind kind = plain;
+
+    [[nodiscard]] bool isPending() const { return kind == pending; }
+    [[nodiscard]] bool isRecovered() const { return kind == recovered; }
 
     friend bool operator==(const ImpactBar&, const ImpactBar&) = default;
 };

@@ -17,16 +17,16 @@ TEST(FileIcon, FollowsTheExtensionWhateverItsCase)
 
 TEST(FileIcon, IsThatOfAFileWhereTheNameSaysNothing)
 {
-    for (const std::string_view name : {"", "mkv", ".mkv", "film.", "film.mk", "film.mkv2", "film.avi m4v", "film. mkv ",
-             "film.\xFF", "film.mkv\n"}) {
+    for (const std::string_view name :
+        {"", "mkv", ".mkv", "film.", "film.mk", "film.mkv2", "film.avi m4v", "film. mkv ", "film.\xFF", "film.mkv\n"}) {
         EXPECT_EQ(fileIconName(name), "file") << name;
     }
 }
 
 TEST(FileIcon, NamesDrawingsThatThereAre)
 {
-    for (const std::string_view name : {"a.mkv", "a.png", "a.zip", "a.deb", "a.sh", "a.cpp", "a.url", "a.mobileconfig",
-             "a.app", "a"}) {
+    for (const std::string_view name :
+        {"a.mkv", "a.png", "a.zip", "a.deb", "a.sh", "a.cpp", "a.url", "a.mobileconfig", "a.app", "a"}) {
         const auto drawing =
             std::string(KARVELLO_SOURCE_DIR "/KarvelloUI/Controls/icons/") + std::string(fileIconName(name)) + ".svg";
         EXPECT_TRUE(std::filesystem::exists(drawing)) << drawing;

@@ -67,7 +67,6 @@ T.CheckDelegate {
     focusPolicy: Qt.StrongFocus
     onClicked: toggleIfSelectable()
 
-    Accessible.role: hasCheckBox ? Accessible.CheckBox : Accessible.ListItem
     Accessible.name: accessibleName
     Accessible.description: isSelectable ? "" : disabledReason
     Accessible.checkable: isSelectable
@@ -75,6 +74,11 @@ T.CheckDelegate {
     Accessible.onToggleAction: toggleIfSelectable()
     Accessible.onPressAction: toggleIfSelectable()
 
+    // The template sets the role of its kind when it is complete.
+    Component.onCompleted: {
+        if (!hasCheckBox)
+            Accessible.role = Accessible.ListItem
+    }
     Keys.onPressed: event => {
         event.accepted = true
         if (event.key === Qt.Key_Right && !control.isOpen)

@@ -51,6 +51,8 @@ void InsightListScreenModel::showFiles()
     }
     auto texts = textsOfRows(rows);
     m_rows.show(std::move(rows), std::move(texts));
+    // The line below the title sums up the rows.
+    Q_EMIT stateChanged();
 }
 
 void InsightListScreenModel::showSelection()

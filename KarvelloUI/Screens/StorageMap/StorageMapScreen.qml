@@ -169,7 +169,9 @@ InsightPage {
             wrapMode: Text.Wrap
         }
         KarvelloTreemapLegend {
-            Layout.fillWidth: false
+            // A Flow does not say how wide one line of it is.
+            Layout.minimumWidth: Math.round(280 * KarvelloDesign.textFactor)
+            Layout.maximumWidth: Layout.minimumWidth
             entries: page.screen.legend
             accessibleName: page.screen.legendText
         }

@@ -128,8 +128,7 @@ QString StorageMapScreenModel::revealText() const
 
 QString StorageMapScreenModel::largeFilesText() const
 {
-    const auto copy = words();
-    return shown(copy.smartCleanupOpenSectionCTA(copy.macDashboardSectionTitle(MacDashboardSection::largeFiles)));
+    return shown(words().macDashboardSectionTitle(MacDashboardSection::largeFiles));
 }
 
 void StorageMapScreenModel::setDark(bool isDark)

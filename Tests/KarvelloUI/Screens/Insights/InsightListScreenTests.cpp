@@ -55,7 +55,7 @@ TEST_F(InsightListScreenTest, IsUsedFromTheKeyboard)
 
 TEST_F(InsightListScreenTest, TellsAssistantsWhatARowIs)
 {
-    auto& screen = showScreen(largeFiles);
+    showScreen(largeFiles);
     scan();
     m_window->grabWindow();
     focus("rows");
@@ -75,7 +75,7 @@ TEST_F(InsightListScreenTest, TellsAssistantsWhatARowIs)
 
 TEST_F(InsightListScreenTest, HasNeitherBoxesNorAFooterForTheInstallerReview)
 {
-    auto& screen = showScreen(security);
+    showScreen(security);
     scan();
     m_window->grabWindow();
     focus("rows");

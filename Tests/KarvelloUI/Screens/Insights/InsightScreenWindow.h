@@ -89,20 +89,29 @@ protected:
         return QAccessible::queryAccessibleInterface(object)->text(QAccessible::Name).toStdString();
     }
 
+    /// The rows that a list has made.
+    [[nodiscard]] QList<QQuickItem*> rowsOf(const char* list)
+    {
+        return find(list)->property("contentItem").value<QQuickItem*>()->childItems();
+    }
+
     /// All texts on show that reach over the sides of the window.
     [[nodiscard]] QStringList textsOutside() const
     {
         QStringList outside;
-        for (auto* const item : m_window->contentItem()->findChildren<QQuickItem*>()) {
-            const QString text = item->property("text").toString();
-            if (!isOnShow(*item) || text.isEmpty() || !item->inherits("QQuickText")) {
-                continue;
+        int count = 0;
+        visit(*m_window->contentItem(), [&](const QQuickItem& item) {
+            const QString text = item.property("text").toString();
+            if (text.isEmpty() || !item.inherits("QQuickText")) {
+                return;
             }
-            const QRectF place = item->mapRectToScene(item->boundingRect());
+            ++count;
+            const QRectF place = item.mapRectToScene(item.boundingRect());
             if (place.left() < -0.5 || place.right() > m_window->width() + 0.5) {
                 outside.append(text);
             }
-        }
+        });
+        EXPECT_GT(count, 3);
         return outside;
     }
 
@@ -143,7 +152,16 @@ protected:
     std::unique_ptr<QQuickWindow> m_window;
 
 private:
-    static bool isOnShow(const QQuickItem& item) { return item.isVisible() && item.width() > 0; }
+    /// What is on show, the parents first.
+    static void visit(const QQuickItem& item, const std::function<void(const QQuickItem&)>& look)
+    {
+        if (item.isVisible() && item.opacity() > 0) {
+            look(item);
+            for (const auto* const child : item.childItems()) {
+                visit(*child, look);
+            }
+        }
+    }
 };
 
 } // namespace InsightScreenTests

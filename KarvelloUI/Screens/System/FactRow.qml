@@ -29,12 +29,10 @@ ColumnLayout {
             Accessible.ignored: true
         }
         KarvelloText {
-            Layout.fillWidth: true
+            Layout.maximumWidth: control.width * 0.6
             text: control.fact.value
             emphasis: KarvelloText.Strong
             color: KarvelloDesign.ink
-            horizontalAlignment: Text.AlignRight
-            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
     }

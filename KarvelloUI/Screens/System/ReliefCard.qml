@@ -163,12 +163,12 @@ Rectangle {
                 spacing: KarvelloDesign.spacing4
 
                 Repeater {
-                    model: control.screen.results
+                    model: control.screen.results.length
 
                     KarvelloText {
-                        required property string modelData
+                        required property int index
                         Layout.fillWidth: true
-                        text: modelData
+                        text: control.screen.results[index] ?? ""
                         wrapMode: Text.Wrap
                     }
                 }

@@ -25,11 +25,10 @@ ColumnLayout {
         KarvelloText {
             Layout.fillWidth: true
             text: control.fact.name
-            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
         KarvelloText {
-            Layout.maximumWidth: control.width * 0.6
+            Layout.minimumWidth: Math.ceil(implicitWidth)
             text: control.fact.value
             emphasis: KarvelloText.Strong
             color: KarvelloDesign.ink

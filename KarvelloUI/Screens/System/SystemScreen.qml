@@ -68,7 +68,7 @@ KarvelloPage {
                 Layout.bottomMargin: KarvelloDesign.spacing16
                 value: control.screen.disk.fraction
                 tint: control.screen.disk.pillKind === KarvelloDesign.CautionPill ? KarvelloDesign.caution
-                    : KarvelloDesign.heatmapMid
+                    : KarvelloDesign.lineStrong
                 Accessible.ignored: true
             }
         }

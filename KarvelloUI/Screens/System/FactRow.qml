@@ -25,16 +25,13 @@ ColumnLayout {
         KarvelloText {
             Layout.fillWidth: true
             text: control.fact.name
-            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
         KarvelloText {
-            Layout.fillWidth: true
+            Layout.minimumWidth: Math.ceil(implicitWidth)
             text: control.fact.value
             emphasis: KarvelloText.Strong
             color: KarvelloDesign.ink
-            horizontalAlignment: Text.AlignRight
-            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
     }

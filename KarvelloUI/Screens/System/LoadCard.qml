@@ -3,14 +3,22 @@ import QtQuick.Layouts
 import Karvello.Design
 
 // A large chart with its figure at the left, or above it when the texts are large.
-KarvelloCard {
+Rectangle {
     id: control
 
     required property var chart
 
+    readonly property int padding: KarvelloDesign.spacing20
     readonly property bool isStacked: KarvelloDesign.textFactor >= 1.25
-    readonly property int chartHeight: Math.max(140, height - head.height - 2 * padding - KarvelloDesign.spacing12
-        - (isStacked ? figures.height + KarvelloDesign.spacing12 : 0))
+    readonly property int leastChartHeight: Math.round(140 * KarvelloDesign.textFactor)
+
+    implicitWidth: 608
+    implicitHeight: 2 * padding + Math.ceil(head.implicitHeight) + KarvelloDesign.spacing12
+        + (isStacked ? Math.ceil(figures.implicitHeight) + KarvelloDesign.spacing12 + leastChartHeight
+                     : Math.max(leastChartHeight, Math.ceil(figures.implicitHeight)))
+    radius: KarvelloDesign.cardRadius
+    color: KarvelloDesign.elevated1
+    border.color: KarvelloDesign.line
 
     Accessible.role: Accessible.Indicator
     Accessible.name: KarvelloDesign.spoken([chart.title, chart.figure, chart.pillText, chart.firstLine, chart.secondLine])
@@ -18,6 +26,9 @@ KarvelloCard {
 
     RowLayout {
         id: head
+        x: control.padding
+        y: control.padding
+        width: parent.width - 2 * control.padding
         spacing: KarvelloDesign.spacing8
 
         KarvelloText {
@@ -43,50 +54,48 @@ KarvelloCard {
             Accessible.ignored: true
         }
     }
-    GridLayout {
-        columns: control.isStacked ? 1 : 2
-        columnSpacing: KarvelloDesign.spacing16
-        rowSpacing: KarvelloDesign.spacing12
+    Column {
+        id: figures
+        x: control.padding
+        y: control.isStacked ? head.y + head.height + KarvelloDesign.spacing12
+            : control.height - control.padding - height - Math.ceil(KarvelloDesign.label.lineHeight)
+        width: control.isStacked ? control.width - 2 * control.padding : Math.max(152, Math.round(control.width * 0.22))
 
-        ColumnLayout {
-            id: figures
-            Layout.alignment: Qt.AlignBottom
-            Layout.minimumWidth: control.isStacked ? 0 : 152
-            Layout.maximumWidth: control.isStacked ? -1 : Math.max(152, control.width * 0.3)
-            Layout.bottomMargin: control.isStacked ? 0 : Math.ceil(KarvelloDesign.label.lineHeight)
-            spacing: 0
-
-            KarvelloText {
-                text: control.chart.figure
-                textStyle: KarvelloDesign.display
-                color: KarvelloDesign.ink
-                Accessible.ignored: true
-            }
-            KarvelloText {
-                Layout.fillWidth: true
-                text: control.chart.firstLine
-                textStyle: KarvelloDesign.small
-                color: KarvelloDesign.ink3
-                wrapMode: Text.Wrap
-                Accessible.ignored: true
-            }
-            KarvelloText {
-                Layout.fillWidth: true
-                text: control.chart.secondLine
-                textStyle: KarvelloDesign.small
-                color: KarvelloDesign.ink3
-                wrapMode: Text.Wrap
-                Accessible.ignored: true
-            }
+        KarvelloText {
+            width: parent.width
+            text: control.chart.figure
+            textStyle: KarvelloDesign.display
+            color: KarvelloDesign.ink
+            Accessible.ignored: true
         }
-        KarvelloChart {
-            Layout.fillWidth: true
-            Layout.preferredHeight: control.chartHeight
-            samples: control.chart.samples
-            axisWords: control.chart.axisWords
-            startText: control.chart.startText
-            endText: control.chart.endText
-            emptyText: control.chart.emptyText
+        KarvelloText {
+            width: parent.width
+            visible: text !== ""
+            text: control.chart.firstLine
+            textStyle: KarvelloDesign.small
+            color: KarvelloDesign.ink3
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
         }
+        KarvelloText {
+            width: parent.width
+            visible: text !== ""
+            text: control.chart.secondLine
+            textStyle: KarvelloDesign.small
+            color: KarvelloDesign.ink3
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+    KarvelloChart {
+        x: control.isStacked ? control.padding : figures.x + figures.width + KarvelloDesign.spacing16
+        y: (control.isStacked ? figures.y + figures.height : head.y + head.height) + KarvelloDesign.spacing12
+        width: control.width - control.padding - x
+        height: control.height - control.padding - y
+        samples: control.chart.samples
+        axisWords: control.chart.axisWords
+        startText: control.chart.startText
+        endText: control.chart.endText
+        emptyText: control.chart.emptyText
     }
 }

@@ -163,12 +163,12 @@ Rectangle {
                 spacing: KarvelloDesign.spacing4
 
                 Repeater {
-                    model: control.screen.results
+                    model: control.screen.results.length
 
                     KarvelloText {
-                        required property string modelData
+                        required property int index
                         Layout.fillWidth: true
-                        text: modelData
+                        text: control.screen.results[index] ?? ""
                         wrapMode: Text.Wrap
                     }
                 }
@@ -220,15 +220,22 @@ Rectangle {
                     color: KarvelloDesign.ink3
                     wrapMode: Text.Wrap
                 }
-                KarvelloButton {
-                    objectName: "requestQuit"
-                    kind: KarvelloButton.Primary
-                    iconName: "quit"
-                    text: control.screen.quitTitle
-                    isBusy: control.screen.isRequestingQuit
-                    enabled: control.screen.canRequestQuit
-                    disabledReason: control.screen.quitDisabledReason
-                    onClicked: control.screen.requestQuit()
+                // The hint of a button is laid out beside it; here it would push the button from its edge.
+                Item {
+                    implicitWidth: quit.implicitWidth
+                    implicitHeight: quit.implicitHeight
+
+                    KarvelloButton {
+                        id: quit
+                        objectName: "requestQuit"
+                        kind: KarvelloButton.Primary
+                        iconName: "quit"
+                        text: control.screen.quitTitle
+                        isBusy: control.screen.isRequestingQuit
+                        enabled: control.screen.canRequestQuit
+                        disabledReason: control.screen.quitDisabledReason
+                        onClicked: control.screen.requestQuit()
+                    }
                 }
             }
         }

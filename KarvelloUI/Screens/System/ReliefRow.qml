@@ -102,7 +102,7 @@ T.CheckDelegate {
             Layout.preferredWidth: control.isLargeText ? 96 : 160
             value: control.fraction
             thickness: 6
-            tint: control.isHeavy ? KarvelloDesign.caution : KarvelloDesign.ink4
+            tint: control.isHeavy ? KarvelloDesign.caution : KarvelloDesign.lineStrong
             Accessible.ignored: true
         }
         KarvelloText {

@@ -68,7 +68,7 @@ KarvelloPage {
                 Layout.bottomMargin: KarvelloDesign.spacing16
                 value: control.screen.disk.fraction
                 tint: control.screen.disk.pillKind === KarvelloDesign.CautionPill ? KarvelloDesign.caution
-                    : KarvelloDesign.heatmapMid
+                    : KarvelloDesign.lineStrong
                 Accessible.ignored: true
             }
         }
@@ -84,12 +84,13 @@ KarvelloPage {
             Layout.preferredWidth: 1
             title: control.screen.notesTitle
 
+            // By their number, so that another language leaves the items in their places.
             Repeater {
-                model: control.screen.notes
+                model: control.screen.notes.length
 
                 RowLayout {
                     id: note
-                    required property string modelData
+                    required property int index
                     spacing: KarvelloDesign.spacing12
 
                     KarvelloIcon {
@@ -99,7 +100,7 @@ KarvelloPage {
                     }
                     KarvelloText {
                         Layout.fillWidth: true
-                        text: note.modelData
+                        text: control.screen.notes[note.index] ?? ""
                         wrapMode: Text.Wrap
                     }
                 }

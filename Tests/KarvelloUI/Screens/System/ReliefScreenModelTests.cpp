@@ -43,7 +43,7 @@ TEST_F(ReliefScreenModel, ListsWhoTakesTheMostFirst)
     startApplications();
     EXPECT_THAT(column(ReliefListModel::nameRole), testing::ElementsAre("Firefox", "Krita", "Terminal", "Karvello"));
     EXPECT_THAT(column(ReliefListModel::percentTextRole), testing::ElementsAre("21%", "12%", "2%", "1%"));
-    EXPECT_EQ(text(1, ReliefListModel::sizeTextRole), "1.9 GB");
+    EXPECT_EQ(text(1, ReliefListModel::sizeTextRole), "1.92 GB");
     open(Metric::cpu);
     EXPECT_THAT(column(ReliefListModel::nameRole), testing::ElementsAre("Krita", "Firefox", "Karvello", "Terminal"));
     EXPECT_THAT(column(ReliefListModel::percentTextRole), testing::ElementsAre("31%", "4%", "1%", "0%"));
@@ -264,7 +264,7 @@ TEST_F(ReliefScreenModel, SpeaksARowInWhole)
     open();
     startApplications();
     EXPECT_EQ(text(3, ReliefListModel::accessibleNameRole),
-        "Karvello uses 1% of total physical memory, Current app protected · test.karvello · 163.8 MB");
+        "Karvello uses 1% of total physical memory, Current app protected · test.karvello · 164 MB");
 }
 
 TEST_F(ReliefScreenModel, FollowsTheLanguageAtOnce)

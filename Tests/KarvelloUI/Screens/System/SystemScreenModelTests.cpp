@@ -46,7 +46,7 @@ TEST_F(SystemScreenModel, ShowsTheMachine)
     EXPECT_EQ(plain(screen->pulse().firstLine), "CPU 1-min Average 1.42");
     EXPECT_EQ(plain(screen->pulse().secondLine), "Active Cores 16");
     EXPECT_EQ(plain(screen->memory().figure), "57%");
-    EXPECT_EQ(plain(screen->memory().unit), "9.1 GB / 16 GB");
+    EXPECT_EQ(plain(screen->memory().unit), "9.12 GB / 16 GB");
     EXPECT_EQ(plain(screen->memory().pillText), "Normal");
     EXPECT_EQ(screen->memory().pillKind, static_cast<int>(KarvelloPillKind::safe));
     EXPECT_EQ(plain(screen->thermal().figure), "Nominal");

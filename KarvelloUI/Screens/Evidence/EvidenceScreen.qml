@@ -91,10 +91,10 @@ KarvelloPage {
                 Layout.fillWidth: true
                 panel: control.screen.reviewLoop
             }
-            ProjectPanel {
-                Layout.fillWidth: true
-                panel: control.screen.projects
-            }
         }
+    }
+    ProjectPanel {
+        Layout.fillWidth: true
+        panel: control.screen.projects
     }
 }

@@ -120,7 +120,7 @@ TEST_F(EvidenceScreenModelTest, TellsTheReasonsOfAnEntryAndWhatTheLogDidNotKeep)
     history.setOpen(0, true);
     EXPECT_TRUE(history.index(0).data(History::isOpenRole).toBool());
     const auto details = history.index(0).data(History::detailsRole).toStringList();
-    ASSERT_EQ(details.size(), 4);
+    ASSERT_EQ(details.size(), 4) << details.join(QStringLiteral(" | ")).toStdString();
     EXPECT_EQ(details[0].toStdString(), "The item is in use.");
     EXPECT_EQ(details[1].toStdString(), "The history keeps no reason that names a path.");
     EXPECT_THAT(details[2].toStdString(), AllOf(StartsWith("~/.cache/a"), HasSubstr("5 bytes")));

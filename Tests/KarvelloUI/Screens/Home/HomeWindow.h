@@ -46,9 +46,9 @@ protected:
         if (!component.isReady()) {
             throw std::runtime_error(component.errorString().toStdString());
         }
-        m_window.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
-            {{QStringLiteral("screen"), QVariant::fromValue(home.get())}, {QStringLiteral("width"), width},
-                {QStringLiteral("height"), height}})));
+        m_window.reset(qobject_cast<QQuickWindow*>(
+            component.createWithInitialProperties({{QStringLiteral("screen"), QVariant::fromValue(home.get())},
+                {QStringLiteral("width"), width}, {QStringLiteral("height"), height}})));
         m_window->requestActivate();
         if (!QTest::qWaitForWindowActive(m_window.get())) {
             throw std::runtime_error("the window never became active");

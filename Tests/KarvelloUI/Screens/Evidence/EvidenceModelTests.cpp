@@ -113,14 +113,15 @@ TEST_F(EvidenceScreenModelTest, TellsTheReasonsOfAnEntryAndWhatTheLogDidNotKeep)
     old.succeededItemCount = 30;
     old.failureReasons = {"The item is in use.", "/home/ada/secret cannot be moved"};
     old.cleanedItems = {
-        {.candidate = CleanerCore::CleanupCandidate({.url = tree.url("home/.cache/a\n\xff"), .sizeBytes = 5})}};
+        {.candidate = CleanerCore::CleanupCandidate({.url = tree.url("home/.cache/a\n\xff"), .sizeBytes = 5}),
+            .destinationURL = tree.url("Trash/a")}};
     old = old.storageSafeForAuditPersistence();
     History history(*dashboard);
     history.show({old});
     history.setOpen(0, true);
     EXPECT_TRUE(history.index(0).data(History::isOpenRole).toBool());
     const auto details = history.index(0).data(History::detailsRole).toStringList();
-    ASSERT_EQ(details.size(), 4) << details.join(QStringLiteral(" | ")).toStdString();
+    ASSERT_EQ(details.size(), 4);
     EXPECT_EQ(details[0].toStdString(), "The item is in use.");
     EXPECT_EQ(details[1].toStdString(), "The history keeps no reason that names a path.");
     EXPECT_THAT(details[2].toStdString(), AllOf(StartsWith("~/.cache/a"), HasSubstr("5 bytes")));

@@ -97,4 +97,6 @@ KarvelloPage {
         Layout.fillWidth: true
         panel: control.screen.projects
     }
+    // On a tall window the cards stay together at the top.
+    Item { Layout.fillHeight: true }
 }

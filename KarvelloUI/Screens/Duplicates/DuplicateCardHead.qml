@@ -68,6 +68,7 @@ T.CheckDelegate {
                 text: head.stateText
                 textStyle: KarvelloDesign.small
                 color: KarvelloDesign.ink3
+                wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
             KarvelloText {

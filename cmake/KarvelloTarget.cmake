@@ -98,6 +98,10 @@ function(karvello_qml_module name)
   set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
   # The registration that the build writes includes headers by their bare names.
   target_include_directories(${name} PRIVATE "${MODULE_FOLDER}")
+  # Nobody calls it, so the linker would leave the module's types out of a static library.
+  string(REPLACE "." "_" registration "qml_register_types_${MODULE_URI}")
+  string(LENGTH "${registration}" length)
+  target_link_options(${name} INTERFACE "LINKER:--undefined=_Z${length}${registration}v")
 endfunction()
 
 # The texts that a layer has of its own, in the folder `Texts` beside it: in all languages they become a header with the

@@ -81,9 +81,8 @@ std::string mediumMoment(Date date, std::string_view locale, std::string_view ti
 
 std::string shortTime(Date date, std::string_view locale, std::string_view timeZone)
 {
-    return formatted(
-        std::unique_ptr<icu::DateFormat>(
-            icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale))),
+    return formatted(std::unique_ptr<icu::DateFormat>(
+                         icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, localeOf(locale))),
         date, timeZone);
 }
 

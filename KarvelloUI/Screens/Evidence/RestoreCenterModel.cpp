@@ -30,8 +30,8 @@ RestoreCenterModel::RestoreCenterModel(MacCleanerDashboardModel& dashboard, QObj
         m_rows.showOtherWords();
         m_refresh.request();
     });
-    connect(&dashboard, &MacCleanerDashboardModel::restoreCenterSelectionChanged, this,
-        &RestoreCenterModel::showSelection);
+    connect(
+        &dashboard, &MacCleanerDashboardModel::restoreCenterSelectionChanged, this, &RestoreCenterModel::showSelection);
     refresh();
 }
 
@@ -47,8 +47,8 @@ void RestoreCenterModel::refresh()
         m_dashboard.setRestoreCenterSelectedIDs({});
     } else if (outcome == RestoreCenterList::Outcome::fewer) {
         RestoreCenterList::IDs remaining;
-        std::ranges::set_intersection(m_dashboard.restoreCenterSelectedIDs(), m_rows.selectableIDs(),
-            std::inserter(remaining, remaining.end()));
+        std::ranges::set_intersection(
+            m_dashboard.restoreCenterSelectedIDs(), m_rows.selectableIDs(), std::inserter(remaining, remaining.end()));
         m_dashboard.setRestoreCenterSelectedIDs(std::move(remaining));
     }
     Q_EMIT changed();
@@ -78,9 +78,9 @@ QString RestoreCenterModel::summary() const
 
 QString RestoreCenterModel::eligibleText() const
 {
-    return offersRestore() ? shown(m_dashboard.words().count(
-                                 m_rows.selectableCount(), "{} eligible item", "{} eligible items"))
-                           : QString();
+    return offersRestore()
+        ? shown(m_dashboard.words().count(m_rows.selectableCount(), "{} eligible item", "{} eligible items"))
+        : QString();
 }
 
 QString RestoreCenterModel::ledgerNote() const
@@ -95,8 +95,8 @@ QString RestoreCenterModel::ledgerNote() const
 
 QString RestoreCenterModel::trashNote() const
 {
-    return shown(m_dashboard.words().text(
-        "휴지통을 비운 뒤에는 Karvello가 해당 항목을 복원할 수 없습니다. 먼저 원래 경로와 휴지통 위치를 다시 확인하세요.",
+    return shown(m_dashboard.words().text("휴지통을 비운 뒤에는 Karvello가 해당 항목을 복원할 수 없습니다. 먼저 원래 "
+                                          "경로와 휴지통 위치를 다시 확인하세요.",
         "After Trash is emptied, Karvello cannot restore those items. Recheck original paths and Trash locations "
         "first."));
 }
@@ -133,16 +133,16 @@ bool RestoreCenterModel::canSelect() const
 
 QString RestoreCenterModel::selectionHint() const
 {
-    return offersRestore() ? shown(m_dashboard.words().restoreCenterSelectionHint(
-                                 m_rows.selectedCount(), m_rows.selectableCount()))
-                           : QString();
+    return offersRestore()
+        ? shown(m_dashboard.words().restoreCenterSelectionHint(m_rows.selectedCount(), m_rows.selectableCount()))
+        : QString();
 }
 
 Qt::CheckState RestoreCenterModel::checkState() const
 {
-    return m_rows.selectedCount() == 0                        ? Qt::Unchecked
+    return m_rows.selectedCount() == 0                       ? Qt::Unchecked
         : m_rows.selectedCount() == m_rows.selectableCount() ? Qt::Checked
-                                                              : Qt::PartiallyChecked;
+                                                             : Qt::PartiallyChecked;
 }
 
 QString RestoreCenterModel::checkName() const

@@ -16,9 +16,8 @@ namespace {
 /// The desktop has no permission for the whole disk to grant: this step speaks of what there is.
 std::string titleOf(const StoragePermissionWizardStep& step, const DashboardWords& words)
 {
-    return step.role == StoragePermissionWizardStepRole::grantSystemAccess
-        ? words.say("Check who may read the folders")
-        : words.permissionWizardStepTitle(step.role);
+    return step.role == StoragePermissionWizardStepRole::grantSystemAccess ? words.say("Check who may read the folders")
+                                                                           : words.permissionWizardStepTitle(step.role);
 }
 
 std::string textOf(const StoragePermissionWizardStep& step, const DashboardWords& words)
@@ -144,8 +143,7 @@ const std::vector<StoragePermissionWizardStep>& AccessGuidanceModel::guide() con
         const auto ofInsights =
             StoragePermissionAdvisor::permissionRelatedSkippedItems(m_dashboard.insights().report().skippedItems);
         items.insert(items.end(), ofInsights.begin(), ofInsights.end());
-        m_guide =
-            StoragePermissionAdvisor::wizardSteps(StoragePermissionAdvisor::diagnoses(items), hasCustomFolders());
+        m_guide = StoragePermissionAdvisor::wizardSteps(StoragePermissionAdvisor::diagnoses(items), hasCustomFolders());
         m_isGuideKnown = true;
     }
     return m_guide;

@@ -18,13 +18,11 @@ SettingsFoldersModel::SettingsFoldersModel(MacCleanerDashboardModel& dashboard, 
     : QObject(parent)
     , m_dashboard(dashboard)
 {
-    connect(
-        &dashboard.customFolders(), &CustomScanFolderStore::foldersChanged, this, &SettingsFoldersModel::refresh);
+    connect(&dashboard.customFolders(), &CustomScanFolderStore::foldersChanged, this, &SettingsFoldersModel::refresh);
     connect(
         &dashboard.customFolders(), &PreferenceStore::lastErrorMessageChanged, this, &SettingsFoldersModel::changed);
     connect(&dashboard.cleaner(), &CleanerViewModel::reportChanged, this, &SettingsFoldersModel::refresh);
-    connect(
-        &dashboard.preferences(), &DashboardPreferences::languageChanged, this, &SettingsFoldersModel::refresh);
+    connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &SettingsFoldersModel::refresh);
     refresh();
 }
 
@@ -134,8 +132,8 @@ void SettingsFoldersModel::refresh()
             .id = folder.id,
             .rawPath = folder.fallbackPath,
             .path = shownText(home.abbreviate(folder.fallbackPath)),
-            .added = shown(
-                words.say("Added {}", Platform::LocalizedText::mediumMoment(folder.createdAt, words.locale()))),
+            .added =
+                shown(words.say("Added {}", Platform::LocalizedText::mediumMoment(folder.createdAt, words.locale()))),
             .problem = problemOf(folder),
         });
     }

@@ -16,8 +16,7 @@ SettingsIgnoreModel::SettingsIgnoreModel(MacCleanerDashboardModel& dashboard, QO
 {
     connect(&dashboard.ignoreStore(), &CleanupIgnoreStore::itemsChanged, this, &SettingsIgnoreModel::refresh);
     connect(&dashboard.ignoreStore(), &PreferenceStore::lastErrorMessageChanged, this, &SettingsIgnoreModel::changed);
-    connect(
-        &dashboard.preferences(), &DashboardPreferences::languageChanged, this, &SettingsIgnoreModel::refresh);
+    connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &SettingsIgnoreModel::refresh);
     // A rule may have come to its end meanwhile.
     connect(&dashboard, &MacCleanerDashboardModel::selectedSectionChanged, this, &SettingsIgnoreModel::refresh);
     refresh();

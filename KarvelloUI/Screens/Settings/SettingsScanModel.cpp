@@ -102,8 +102,7 @@ QString SettingsScanModel::errorText() const
 void SettingsScanModel::chooseMode(const QString& value)
 {
     const auto picked = pickedChoice<CleanerCore::CleanupScanMode>(value);
-    const auto available =
-        CleanerCore::availableModes(m_dashboard.services().supportsDirectDistributionScans());
+    const auto available = CleanerCore::availableModes(m_dashboard.services().supportsDirectDistributionScans());
     if (picked && isModeEnabled() && std::ranges::find(available, *picked) != available.end()) {
         noticeUnlessStored(m_dashboard, m_dashboard.preferences().setScanMode(*picked));
     }

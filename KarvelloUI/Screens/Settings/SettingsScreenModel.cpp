@@ -33,8 +33,7 @@ QVariantList SettingsScreenModel::shortcuts() const
 {
     const auto words = m_dashboard.words();
     const auto shortcut = [&words](DashboardWords::Own<> keys, DashboardWords::Own<> text) {
-        return QVariant::fromValue(
-            SettingsShortcut{.keys = shown(words.say(keys)), .text = shown(words.say(text))});
+        return QVariant::fromValue(SettingsShortcut{.keys = shown(words.say(keys)), .text = shown(words.say(text))});
     };
     return {
         shortcut("Ctrl+1 … 9", "Open one of the first nine sections"),
@@ -78,8 +77,9 @@ QString SettingsScreenModel::iosGuideTitle() const
 
 QString SettingsScreenModel::iosGuideText() const
 {
-    return shown(m_dashboard.words().text("iOS 샌드박스 때문에 다른 앱의 캐시나 시스템 데이터를 직접 삭제할 수 없습니다. "
-                                          "대신 Apple이 지원하는 경로를 따르세요.",
+    return shown(m_dashboard.words().text(
+        "iOS 샌드박스 때문에 다른 앱의 캐시나 시스템 데이터를 직접 삭제할 수 없습니다. "
+        "대신 Apple이 지원하는 경로를 따르세요.",
         "iOS sandboxing prevents direct deletion of other apps' caches or System Data. Follow Apple's supported paths "
         "instead."));
 }

@@ -25,8 +25,7 @@ protected:
 TEST_F(IOSGuideScreenModelTest, ShowsSevenStepsInTheirOrder)
 {
     IOSGuideScreenModel guide(*dashboard);
-    const QAbstractItemModelTester tester(
-        guide.steps(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QAbstractItemModelTester tester(guide.steps(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     ASSERT_EQ(guide.steps()->rowCount(), 7);
     EXPECT_EQ(text(guide, 0, Role::titleRole), "iPhone Storage recommendations");
     EXPECT_EQ(text(guide, 0, Role::numberRole), "1");

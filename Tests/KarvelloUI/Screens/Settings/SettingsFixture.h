@@ -47,8 +47,8 @@ protected:
     void ignore(std::string_view path, CleanupIgnoreDuration duration = CleanupIgnoreDuration::untilShownAgain,
         std::int64_t sizeBytes = 1)
     {
-        ASSERT_TRUE(dashboard->ignoreStore().ignore(
-            made({.path = tree.path(path), .sizeBytes = sizeBytes}), duration, now));
+        ASSERT_TRUE(
+            dashboard->ignoreStore().ignore(made({.path = tree.path(path), .sizeBytes = sizeBytes}), duration, now));
     }
     void addFolder(std::string_view path)
     {

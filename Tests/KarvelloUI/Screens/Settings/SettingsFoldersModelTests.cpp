@@ -119,8 +119,7 @@ TEST_F(SettingsFoldersModelTest, SaysWhatToDoAboutAFolderThatTheScanSkipped)
     std::filesystem::create_directory(tree.path("home/Projects"));
     dashboard->scanCleanup();
     settle();
-    EXPECT_EQ(
-        text(0, Role::problemRole), "Re-add the custom folder to refresh an expired or invalid bookmark.");
+    EXPECT_EQ(text(0, Role::problemRole), "Re-add the custom folder to refresh an expired or invalid bookmark.");
     addFolder("home/Projects/");
     dashboard->scanCleanup();
     settle();

@@ -21,8 +21,8 @@ TEST_F(SettingsIgnoreModelTest, SaysWhatIsHiddenAndForHowLong)
     const QAbstractItemModelTester tester(group().items(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(group().count(), 0);
     EXPECT_EQ(group().emptyText(), QStringLiteral("No ignored cleanup candidates."));
-    ignore("home/.cache/a", CleanupIgnoreDuration::untilShownAgain, 2'000);
-    now = now + 1;
+    ignore("home/.cache/a", CleanupIgnoreDuration::untilShownAgain, 2'048);
+    now = now.addingSeconds(1);
     ignore("home/.cache/b", CleanupIgnoreDuration::oneDay);
     ASSERT_EQ(group().count(), 2);
     EXPECT_EQ(text(0, Role::pathRole), "~/.cache/b");
@@ -36,7 +36,7 @@ TEST_F(SettingsIgnoreModelTest, ShowsOnlyRulesThatHold)
 {
     ignore("home/.cache/a", CleanupIgnoreDuration::oneDay);
     ignore("home/.cache/b");
-    now = now + 86'400;
+    now = now.addingSeconds(86'400);
     dashboard->selectSection(MacDashboardSection::cleanup);
     dashboard->selectSection(MacDashboardSection::settings);
     ASSERT_EQ(group().count(), 1);
@@ -47,7 +47,7 @@ TEST_F(SettingsIgnoreModelTest, ShowsACandidateAgainAndLeavesTheOtherRowsWhereTh
 {
     for (const char* const path : {"home/a", "home/b", "home/c"}) {
         ignore(path);
-        now = now + 1;
+        now = now.addingSeconds(1);
     }
     const QSignalSpy resets(group().items(), &QAbstractItemModel::modelReset);
     const QSignalSpy removals(group().items(), &QAbstractItemModel::rowsRemoved);
@@ -100,7 +100,8 @@ TEST_F(SettingsIgnoreModelTest, ShowsWhatAnotherProcessHasStored)
     ignore("home/a");
     Platform::FileUserDefaults other(fileManager, stored.fileURL());
     CleanupIgnoreStore elsewhere(other, [] { return AppLanguage::english; });
-    ASSERT_TRUE(elsewhere.ignore(made({.path = tree.path("home/b")}), CleanupIgnoreDuration::oneWeek, now + 5));
+    ASSERT_TRUE(
+        elsewhere.ignore(made({.path = tree.path("home/b")}), CleanupIgnoreDuration::oneWeek, now.addingSeconds(5)));
     stored.refresh();
     settle();
     ASSERT_EQ(group().count(), 2);
@@ -111,7 +112,7 @@ TEST_F(SettingsIgnoreModelTest, SpeaksAnotherLanguageAtOnce)
 {
     ignore("home/a");
     ASSERT_TRUE(preferences->setLanguage(AppLanguage::german));
-    EXPECT_EQ(group().showAgainText(), QStringLiteral("Wieder anzeigen"));
+    EXPECT_EQ(group().showAgainText(), QStringLiteral("Einblenden"));
     EXPECT_NE(text(0, Role::durationRole), "Locally hidden from cleanup review until you show it again.");
 }
 

@@ -71,8 +71,7 @@ protected:
             const auto left = item->mapToItem(m_item, {0, 0}).x();
             EXPECT_GE(left, 0) << item->property("text").toString().toStdString();
             EXPECT_LE(left + item->width(), m_item->width()) << item->property("text").toString().toStdString();
-            EXPECT_FALSE(item->property("truncated").toBool()
-                && item->property("elide").toInt() != Qt::ElideMiddle)
+            EXPECT_FALSE(item->property("truncated").toBool() && item->property("elide").toInt() != Qt::ElideMiddle)
                 << item->property("text").toString().toStdString();
         }
     }
@@ -85,9 +84,9 @@ TEST_F(SettingsScreen, ShowsEachGroupWithItsName)
 {
     fill();
     open();
-    for (const char* const name : {"language", "appearance", "textSize", "scanMode", "grantAccess", "clearIgnoreList",
-             "ignoreList", "addFolder", "folders", "guidanceStep", "copyPaths", "privacySettings", "shortcut",
-             "iosGuide", "version"}) {
+    for (const char* const name :
+        {"language", "appearance", "textSize", "scanMode", "grantAccess", "clearIgnoreList", "ignoreList", "addFolder",
+            "folders", "guidanceStep", "copyPaths", "privacySettings", "shortcut", "iosGuide", "version"}) {
         EXPECT_TRUE(find(name)->isVisible()) << name;
     }
     EXPECT_EQ(nameOf(find("ignoreList")), "Ignore List, 2 hidden items");
@@ -119,9 +118,8 @@ TEST_F(SettingsScreen, IsReachedByTabWithOneRowOfEachList)
     }
     EXPECT_THAT(names,
         testing::ElementsAre("Language, English", "System", "Standard", testing::_, "Grant Home Folder Access",
-            "Clear Ignore List", "Show Again, ~/.cache/bazel", "iOS Guide", "Add Folder",
-            "Show in File Manager, ~/f1", "Remove Folder, ~/f1", "Open Privacy Settings", "Copy paths",
-            "Language, English", "System", "Standard"));
+            "Clear Ignore List", "Show Again, ~/.cache/bazel", "iOS Guide", "Add Folder", "Show in File Manager, ~/f1",
+            "Remove Folder, ~/f1", "Open Privacy Settings", "Copy paths", "Language, English", "System", "Standard"));
 }
 
 TEST_F(SettingsScreen, MovesInAListByArrowsAndKeepsThePlaceWhenARowGoes)
@@ -149,7 +147,6 @@ TEST_F(SettingsScreen, ShowsWhatIsStoredAfterAChoiceThatWasNot)
     key(Qt::Key_Tab);
     key(Qt::Key_Right);
     EXPECT_EQ(m_settings.defaults.failureCount(), 2U);
-    EXPECT_EQ(nameOf(find("language")->findChild<QQuickItem*>()), nameOf(find("language")->findChild<QQuickItem*>()));
     EXPECT_EQ(find("language")->property("currentIndex").toInt(), 1);
     EXPECT_EQ(find("appearance")->property("currentIndex").toInt(), 0);
     m_settings.defaults.failNoSave();

@@ -49,7 +49,9 @@ KarvelloCard {
     // The names stand beside their controls, or above them where there is no room for both.
     Item {
         id: choices
-        readonly property real room: width - KarvelloDesign.spacing12
+        // That of the card: known before the layouts inside of it have settled.
+        readonly property real place: control.width - 2 * control.padding
+        readonly property real room: place - KarvelloDesign.spacing12
             - Math.max(cadenceName.implicitWidth, profileName.implicitWidth)
         readonly property bool isBeside: cadence.implicitWidth <= room && profile.implicitWidth <= room
         readonly property real profileTop: cadence.y + cadence.height + KarvelloDesign.spacing8
@@ -60,36 +62,36 @@ KarvelloCard {
         KarvelloText {
             id: cadenceName
             y: choices.isBeside ? Math.round((cadence.height - height) / 2) : 0
-            width: Math.min(implicitWidth, choices.width)
+            width: Math.min(implicitWidth, choices.place)
             text: control.panel.cadenceTitle
             Accessible.ignored: true
         }
         KarvelloPicker {
             id: cadence
             objectName: "cadence"
-            x: choices.isBeside ? choices.width - width : 0
+            x: choices.isBeside ? choices.place - width : 0
             y: choices.isBeside ? 0 : cadenceName.height + KarvelloDesign.spacing4
-            width: Math.min(implicitWidth, choices.width)
+            width: Math.min(implicitWidth, choices.place)
             height: implicitHeight
             choices: control.panel.cadences
             currentValue: control.panel.cadence
             accessibleName: control.panel.cadenceTitle
-            maximumWidth: choices.width
+            maximumWidth: choices.place
             onPicked: value => control.panel.chooseCadence(value)
         }
         KarvelloText {
             id: profileName
             y: choices.profileTop + (choices.isBeside ? Math.round((profile.height - height) / 2) : 0)
-            width: Math.min(implicitWidth, choices.width)
+            width: Math.min(implicitWidth, choices.place)
             text: control.panel.profileTitle
             Accessible.ignored: true
         }
         KarvelloDropDown {
             id: profile
             objectName: "profile"
-            x: choices.isBeside ? choices.width - width : 0
+            x: choices.isBeside ? choices.place - width : 0
             y: choices.profileTop + (choices.isBeside ? 0 : profileName.height + KarvelloDesign.spacing4)
-            width: Math.min(implicitWidth, choices.width)
+            width: Math.min(implicitWidth, choices.place)
             model: control.panel.profiles
             currentIndex: control.panel.profileIndex
             accessibleName: control.panel.profileTitle

@@ -52,7 +52,7 @@ KarvelloPage {
         id: toolbar
         Layout.fillWidth: true
         screen: control.screen
-        onLeft: {
+        onLeaveRequested: {
             if (control.hasList && control.panel === "")
                 candidates.takeFocus()
         }

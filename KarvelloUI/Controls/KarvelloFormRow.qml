@@ -13,7 +13,7 @@ Item {
     property bool isLast: false
     property int padding: KarvelloDesign.spacing20
     // The most that its control can take, for one that can do with less.
-    readonly property real slotMaximumWidth: width - 2 * padding
+    readonly property real slotMaximumWidth: Math.max(0, width - 2 * padding)
     readonly property real leastTextWidth: Math.max(label.implicitWidth,
         Math.min(line.implicitWidth, Math.round(150 * KarvelloDesign.textFactor)))
     readonly property bool isWrapped:

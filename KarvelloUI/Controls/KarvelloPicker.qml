@@ -27,7 +27,7 @@ FocusScope {
             picked(choices[index].value)
     }
 
-    implicitWidth: isSegmented ? segments.implicitWidth : Math.min(dropDown.implicitWidth, maximumWidth)
+    implicitWidth: isSegmented ? segments.implicitWidth : Math.max(88, Math.min(dropDown.implicitWidth, maximumWidth))
     implicitHeight: isSegmented ? segments.implicitHeight : dropDown.implicitHeight
 
     FontMetrics {

@@ -5,10 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-// Written by the build. Naming them keeps the linker from leaving the types of the modules out of a static library.
-void qml_register_types_Karvello_Screens_Cleanup(); // NOLINT(readability-identifier-naming)
-void qml_register_types_Karvello_Screens_Exports(); // NOLINT(readability-identifier-naming)
-
 namespace KarvelloUI {
 
 using CleanerCore::CleanupCategory;
@@ -25,8 +21,6 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
     , m_exportMenu(dashboard, ExportMenuModel::Source::cleanupScan)
 {
     // Who has a model can import its screen.
-    [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_Cleanup;
-    [[maybe_unused]] static const volatile auto keptExports = &qml_register_types_Karvello_Screens_Exports;
     const auto on = [this](auto signal, auto slot) { connect(&session(), signal, this, slot); };
     on(&CleanerViewModel::phaseChanged, &CleanupScreenModel::takeUpPhase);
     on(&CleanerViewModel::reportChanged, &CleanupScreenModel::takeUpReport);

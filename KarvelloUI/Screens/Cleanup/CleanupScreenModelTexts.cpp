@@ -55,7 +55,7 @@ QVariantMap CleanupScreenModel::texts() const
         {"grouping", copy.candidateListGroupingTitle()},
         {"filters", copy.say("Filter and group")},
         {"list", copy.cleanupCandidatesTitle()},
-        {"showInFileManager", copy.openInFinder()},
+        {"showInFileManager", copy.say("Show in File Manager")},
         {"snooze", copy.ignoreCleanupCandidate()},
         {"showDetails", copy.text("자세히 보기", "Show details")},
         {"hideDetails", copy.say("Hide details")},

@@ -2,9 +2,6 @@
 
 #include "KarvelloUI/Copy/PercentText.h"
 
-// Written by the build. Naming it keeps the linker from leaving the module's types out of a static library.
-void qml_register_types_Karvello_Screens_Evidence(); // NOLINT(readability-identifier-naming)
-
 namespace KarvelloUI {
 
 using Phase = CleanerViewModel::Phase;
@@ -20,7 +17,6 @@ EvidenceScreenModel::EvidenceScreenModel(MacCleanerDashboardModel& dashboard, QO
     , m_reviewLoop(dashboard)
     , m_projects(dashboard)
 {
-    [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_Evidence;
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {
         Q_EMIT wordsChanged();
         Q_EMIT workChanged();

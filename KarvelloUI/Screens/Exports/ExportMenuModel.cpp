@@ -2,9 +2,6 @@
 
 #include <array>
 
-// Written by the build. Naming it keeps the linker from leaving the module's types out of a static library.
-void qml_register_types_Karvello_Screens_Exports(); // NOLINT(readability-identifier-naming)
-
 namespace KarvelloUI {
 
 namespace {
@@ -40,7 +37,6 @@ ExportMenuModel::ExportMenuModel(MacCleanerDashboardModel& dashboard, Source sou
     , m_source(source)
     , m_exports(dashboard)
 {
-    [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_Exports;
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &ExportMenuModel::wordsChanged);
     connect(&m_exports, &ScanExports::writingChanged, this, &ExportMenuModel::writingChanged);
     switch (source) {

@@ -7,9 +7,6 @@
 #include <utility>
 #include <vector>
 
-// Written by the build. Naming it keeps the linker from leaving the module's types out of a static library.
-void qml_register_types_Karvello_Screens_IOSGuide(); // NOLINT(readability-identifier-naming)
-
 namespace KarvelloUI {
 
 namespace {
@@ -24,7 +21,6 @@ IOSGuideScreenModel::IOSGuideScreenModel(MacCleanerDashboardModel& dashboard, QO
     , m_store(dashboard.services().defaults)
     , m_steps(this)
 {
-    [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_IOSGuide;
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {
         refresh();
         Q_EMIT wordsChanged();

@@ -105,7 +105,7 @@ QString InsightReviewScreenModel::cleanDisabledReason() const
 
 QString InsightReviewScreenModel::revealText() const
 {
-    return shown(words().openInFinder());
+    return shown(words().say("Show in File Manager"));
 }
 
 QString InsightReviewScreenModel::whyText() const

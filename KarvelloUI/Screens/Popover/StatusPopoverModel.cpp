@@ -7,9 +7,6 @@
 #include <cmath>
 #include <utility>
 
-// Written by the build. Naming it keeps the linker from leaving the module's types out of a static library.
-void qml_register_types_Karvello_Screens_Popover(); // NOLINT(readability-identifier-naming)
-
 namespace KarvelloUI {
 
 using Kind = KarvelloMenuBarReminder::Kind;
@@ -47,7 +44,6 @@ StatusPopoverModel::StatusPopoverModel(
     , m_status(&status)
     , m_preferences(preferences)
 {
-    [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_Popover;
     connect(&status, &KarvelloMenuBarStatusModel::snapshotChanged, this, &StatusPopoverModel::refresh);
     connect(&status, &KarvelloMenuBarStatusModel::activeRemindersChanged, this, &StatusPopoverModel::refresh);
     connect(&preferences, &DashboardPreferences::languageChanged, this, &StatusPopoverModel::refresh);

@@ -123,7 +123,7 @@ QString StorageMapScreenModel::tableSummary() const
 
 QString StorageMapScreenModel::revealText() const
 {
-    return shown(words().openInFinder());
+    return shown(words().say("Show in File Manager"));
 }
 
 QString StorageMapScreenModel::largeFilesText() const

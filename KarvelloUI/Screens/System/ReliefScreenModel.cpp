@@ -1,6 +1,5 @@
 #include "KarvelloUI/Screens/System/ReliefScreenModel.h"
 
-#include "KarvelloUI/Screens/System/KeepModule.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 
 #include <algorithm>
@@ -19,7 +18,6 @@ ReliefScreenModel::ReliefScreenModel(MacCleanerDashboardModel& dashboard, Resour
     , m_candidates(metric)
     , m_isLoaded(!dashboard.resourceRelief().candidates().empty())
 {
-    keepSystemScreenModule();
     connect(&dashboard.insights(), &MacInsightsViewModel::systemMetricsChanged, this, &ReliefScreenModel::takeSample);
     connect(&relief(), &MacResourceReliefViewModel::candidatesChanged, this, [this] {
         m_isLoaded = true;

@@ -1,7 +1,6 @@
 #include "KarvelloUI/Screens/System/SystemScreenModel.h"
 
 #include "KarvelloUI/Copy/PercentText.h"
-#include "KarvelloUI/Screens/System/KeepModule.h"
 #include "KarvelloUI/Screens/System/SystemFigures.h"
 #include "Platform/Base/LocalizedText.h"
 
@@ -33,7 +32,6 @@ SystemScreenModel::SystemScreenModel(MacCleanerDashboardModel& dashboard, QObjec
     : QObject(parent)
     , m_dashboard(dashboard)
 {
-    keepSystemScreenModule();
     connect(&dashboard.insights(), &MacInsightsViewModel::systemMetricsChanged, this, &SystemScreenModel::takeSample);
     connect(&dashboard, &MacCleanerDashboardModel::diskSnapshotChanged, this, &SystemScreenModel::takeDisk);
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {

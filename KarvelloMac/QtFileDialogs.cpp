@@ -1,7 +1,6 @@
 #include "KarvelloMac/QtFileDialogs.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QMetaObject>
 #include <utility>
 
@@ -27,7 +26,7 @@ void QtFileDialogs::chooseFolder(FolderRequest request, Answer answer)
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
     dialog->setLabelText(QFileDialog::Accept, toQString(request.prompt));
-    dialog->setDirectory(QFile::decodeName(request.directory.path().c_str()));
+    dialog->setDirectory(QString::fromLocal8Bit(request.directory.path()));
     open(dialog, Platform::DirectoryHint::isFolder, std::move(answer));
 }
 
@@ -36,7 +35,7 @@ void QtFileDialogs::chooseDestination(SaveRequest request, Answer answer)
     auto* const dialog = new QFileDialog(nullptr, toQString(request.message));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setDirectory(QFile::decodeName(request.directory.path().c_str()));
+    dialog->setDirectory(QString::fromLocal8Bit(request.directory.path()));
     dialog->selectFile(toQString(request.suggestedName));
     open(dialog, Platform::DirectoryHint::isFile, std::move(answer));
 }
@@ -56,7 +55,7 @@ void QtFileDialogs::open(QFileDialog* dialog, Platform::DirectoryHint hint, Answ
             const QStringList picked = dialog->selectedFiles();
             m_open.clear();
             if (result == QFileDialog::Accepted && !picked.isEmpty()) {
-                answer(Platform::FileURL(QFile::encodeName(picked.constFirst()).toStdString(), hint));
+                answer(Platform::FileURL(picked.constFirst().toLocal8Bit().toStdString(), hint));
             } else {
                 answer(std::nullopt);
             }

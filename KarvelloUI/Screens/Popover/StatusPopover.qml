@@ -177,4 +177,11 @@ FocusScope {
             }
         }
     }
+
+    // The window has no frame of its own.
+    Rectangle {
+        anchors.fill: parent
+        color: "transparent"
+        border.color: KarvelloDesign.lineStrong
+    }
 }

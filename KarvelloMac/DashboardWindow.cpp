@@ -25,6 +25,11 @@ DashboardWindow::DashboardWindow(QQmlEngine& engine, KarvelloUI::MacCleanerDashb
     : m_screens(dashboard)
 {
     QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qt/qml/Karvello/Shell/DashboardWindow.qml")));
+    // Qt 6.4 crashes over the initial properties of one that could not be loaded.
+    if (!component.isReady()) {
+        qCritical("%s", qUtf8Printable(component.errorString()));
+        return;
+    }
     auto* const object =
         component.createWithInitialProperties({{QStringLiteral("screens"), QVariant::fromValue(&m_screens)}});
     m_window.reset(qobject_cast<QQuickWindow*>(object));

@@ -73,9 +73,9 @@ function(karvello_qt_layer name)
 endfunction()
 
 # The screens of a layer as a QML module: every .qml file of its folder, and the drawings below `icons`. Files of the build's
-# own making are compiled without our warnings.
+# own making are compiled without our warnings. `DEPENDS` names the modules whose types its own types have.
 function(karvello_qml_module name)
-  cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "URI;FOLDER" "")
+  cmake_parse_arguments(PARSE_ARGV 1 MODULE "" "URI;FOLDER" "DEPENDS")
   file(GLOB screens RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" CONFIGURE_DEPENDS "${MODULE_FOLDER}/*.qml")
   file(GLOB drawings RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" CONFIGURE_DEPENDS "${MODULE_FOLDER}/icons/*.svg")
   foreach(file IN LISTS screens drawings)
@@ -90,7 +90,7 @@ function(karvello_qml_module name)
     IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
     RESOURCE_PREFIX /qt/qml
     NO_PLUGIN
-    DEPENDENCIES QtQuick
+    DEPENDENCIES QtQuick ${MODULE_DEPENDS}
     QML_FILES ${screens}
     RESOURCES ${drawings})
   get_target_property(sources ${name} SOURCES)

@@ -74,11 +74,6 @@ T.CheckDelegate {
     Accessible.onToggleAction: toggleIfSelectable()
     Accessible.onPressAction: toggleIfSelectable()
 
-    // The template sets the role of its kind when it is complete.
-    Component.onCompleted: {
-        if (!hasCheckBox)
-            Accessible.role = Accessible.ListItem
-    }
     Keys.onPressed: event => {
         event.accepted = true
         if (event.key === Qt.Key_Right && !control.isOpen)

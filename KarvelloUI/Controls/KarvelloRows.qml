@@ -12,9 +12,11 @@ ListView {
     property real maximumHeight: Infinity
 
     function moveTo(row: int) {
-        currentIndex = Math.max(0, Math.min(row, count - 1))
-        positionViewAtIndex(currentIndex, ListView.Contain)
-        currentItem?.forceActiveFocus(Qt.TabFocusReason)
+        const reached = Math.max(0, Math.min(row, count - 1))
+        positionViewAtIndex(reached, ListView.Contain)
+        // What has the focus may not stop being a stop of Tab before it has given it away.
+        itemAtIndex(reached)?.forceActiveFocus(Qt.TabFocusReason)
+        currentIndex = reached
     }
 
     implicitHeight: Math.min(Math.ceil(contentHeight), maximumHeight)

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Karvello.Design
@@ -9,7 +10,8 @@ FocusScope {
     id: control
 
     required property CleanupScreenModel screen
-    readonly property CleanupListModel rows: screen.list
+    // A CleanupListModel.
+    readonly property var rows: screen.list
 
     function focusRow(row: int) {
         if (row < 0 || row >= list.count)

@@ -60,8 +60,8 @@ FocusScope {
         menuName: control.screen.texts.more
         details: Component {
             CandidateDetails {
-                screen: control.screen
-                row: control.index
+                screen: control.screen // qmllint disable unqualified
+                row: control.index // qmllint disable unqualified
             }
         }
         onToggleRequested: control.screen.toggle(control.index)

@@ -25,10 +25,8 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
     , m_exportMenu(dashboard, ExportMenuModel::Source::cleanupScan)
 {
     // Who has a model can import its screen.
-    for (const auto registration :
-        {&qml_register_types_Karvello_Screens_Cleanup, &qml_register_types_Karvello_Screens_Exports}) {
-        [[maybe_unused]] static const volatile auto kept = registration;
-    }
+    [[maybe_unused]] static const volatile auto kept = &qml_register_types_Karvello_Screens_Cleanup;
+    [[maybe_unused]] static const volatile auto keptExports = &qml_register_types_Karvello_Screens_Exports;
     const auto on = [this](auto signal, auto slot) { connect(&session(), signal, this, slot); };
     on(&CleanerViewModel::phaseChanged, &CleanupScreenModel::takeUpPhase);
     on(&CleanerViewModel::reportChanged, &CleanupScreenModel::takeUpReport);

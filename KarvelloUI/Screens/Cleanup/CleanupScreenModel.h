@@ -29,9 +29,9 @@ class CleanupScreenModel final : public QObject {
     Q_PROPERTY(bool isMoving READ isMoving NOTIFY faceChanged FINAL)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY faceChanged FINAL)
     /// What does not change but with the language, by name.
-    Q_PROPERTY(QVariantMap texts READ texts NOTIFY textsChanged FINAL)
+    Q_PROPERTY(QVariant texts READ texts NOTIFY textsChanged FINAL)
     /// Title, text and so on of the face without a list.
-    Q_PROPERTY(QVariantMap placeholder READ placeholder NOTIFY faceChanged FINAL)
+    Q_PROPERTY(QVariant placeholder READ placeholder NOTIFY faceChanged FINAL)
 
     Q_PROPERTY(QString scanText READ scanText NOTIFY faceChanged FINAL)
     Q_PROPERTY(bool canScan READ canScan NOTIFY faceChanged FINAL)

@@ -11,7 +11,7 @@ T.Control {
     // A CleanupSectionHead.
     required property var head
 
-    implicitHeight: header.implicitHeight
+    implicitHeight: implicitContentHeight
     focusPolicy: Qt.ClickFocus
 
     Accessible.role: Accessible.CheckBox
@@ -35,7 +35,6 @@ T.Control {
     }
 
     contentItem: KarvelloSectionHeader {
-        id: header
         name: control.head.name
         count: control.head.count
         note: control.head.note

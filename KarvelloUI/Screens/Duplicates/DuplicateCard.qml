@@ -28,8 +28,10 @@ FocusScope {
     signal pressed()
     signal menuRequested(Item row, int file, point at)
 
-    function row(number: int): Item {
-        return number === 0 ? head : copies.itemAt(number - 1)
+    function row(number: int): T.Control {
+        if (number === 0)
+            return head
+        return copies.itemAt(number - 1) as T.Control
     }
 
     // Whether there is such a row.
@@ -37,7 +39,7 @@ FocusScope {
         if (number < 0 || number >= rowCount)
             return false
         currentRow = number
-        const reached = row(number) as T.Control
+        const reached = row(number)
         reached.forceActiveFocus(Qt.TabFocusReason)
         // It may have got the focus with its number already.
         reached.focusReason = Qt.TabFocusReason
@@ -73,7 +75,7 @@ FocusScope {
             stateText: card.stateText
             bytesText: card.bytesText
             actionText: card.isAllSelected ? card.screen.clearGroupText : card.screen.selectExtrasText
-            checkState: card.checkState
+            groupState: card.checkState
             isLocked: card.isLocked
             disabledReason: card.screen.notSelectableText
             onPressed: {

@@ -4,18 +4,17 @@ import QtQuick.Templates as T
 import Karvello.Design
 
 // The band on top of a card: the whole group as one check box, what of it is selected, and what its extras hold.
-T.AbstractButton {
+T.CheckDelegate {
     id: head
 
     property string title
     property string stateText
     property string bytesText
     property string actionText
-    property int checkState: Qt.Unchecked
+    property int groupState: Qt.Unchecked
     property bool isLocked: false
     property string disabledReason
-    readonly property bool isWide: texts.implicitWidth + bytes.implicitWidth + action.implicitWidth
-        + box.implicitWidth + 3 * KarvelloDesign.spacing12 <= availableWidth
+    readonly property bool isLargeText: KarvelloDesign.textFactor >= 1.25
 
     function toggleIfPossible() {
         if (head.enabled && !head.isLocked)
@@ -28,14 +27,15 @@ T.AbstractButton {
     horizontalPadding: KarvelloDesign.spacing16
     verticalPadding: KarvelloDesign.spacing8
     hoverEnabled: true
+    // Its kind is what makes it a check box for assistants; the state is the owner's.
+    checkable: false
     onClicked: toggleIfPossible()
 
-    Accessible.role: Accessible.CheckBox
     Accessible.name: KarvelloDesign.spoken([title, stateText, bytesText])
     Accessible.description: isLocked ? disabledReason : ""
     Accessible.checkable: !isLocked
-    Accessible.checked: checkState === Qt.Checked
-    Accessible.checkStateMixed: checkState === Qt.PartiallyChecked
+    Accessible.checked: groupState === Qt.Checked
+    Accessible.checkStateMixed: groupState === Qt.PartiallyChecked
     Accessible.onToggleAction: toggleIfPossible()
     Accessible.onPressAction: toggleIfPossible()
 
@@ -43,19 +43,17 @@ T.AbstractButton {
         spacing: KarvelloDesign.spacing12
 
         KarvelloCheckBox {
-            id: box
             Layout.leftMargin: -padding
             Layout.rightMargin: -padding
             isLocked: head.isLocked
             disabledReason: head.disabledReason
-            checkState: head.checkState
+            checkState: head.groupState
             focusPolicy: Qt.NoFocus
             isAsking: true
             onClicked: head.toggleIfPossible()
             Accessible.ignored: true
         }
         ColumnLayout {
-            id: texts
             spacing: 0
 
             KarvelloText {
@@ -70,11 +68,12 @@ T.AbstractButton {
                 text: head.stateText
                 textStyle: KarvelloDesign.small
                 color: KarvelloDesign.ink3
+                wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
             KarvelloText {
                 Layout.fillWidth: true
-                visible: !head.isWide
+                visible: head.isLargeText
                 text: head.bytesText
                 textStyle: KarvelloDesign.small
                 color: KarvelloDesign.ink3
@@ -83,15 +82,17 @@ T.AbstractButton {
             }
         }
         KarvelloText {
-            id: bytes
-            visible: head.isWide
+            Layout.fillWidth: true
+            Layout.maximumWidth: Math.ceil(implicitWidth)
+            visible: !head.isLargeText
             text: head.bytesText
             textStyle: KarvelloDesign.small
             color: KarvelloDesign.ink3
+            wrapMode: Text.Wrap
+            horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }
         KarvelloButton {
-            id: action
             visible: !head.isLocked
             size: KarvelloButton.Small
             // Space on the head does the same.

@@ -8,7 +8,8 @@
 namespace KarvelloUI {
 
 /// Groups of duplicates, a card for each. All clicks go to the session, which never lets a keeper be selected.
-class DuplicatesScreenModel final : public InsightReviewScreenModel {
+// The base is named in full for the tool that writes down the types.
+class DuplicatesScreenModel final : public KarvelloUI::InsightReviewScreenModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A screen has it.")

@@ -35,7 +35,7 @@ ListCard {
         objectName: "historyRows"
         Layout.fillWidth: true
         visible: count > 0
-        maximumHeight: 420 * KarvelloDesign.textFactor
+        maximumHeight: 560 * KarvelloDesign.textFactor
         accessibleName: control.history.title
         model: control.history.rows
 

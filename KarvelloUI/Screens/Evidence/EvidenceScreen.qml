@@ -91,10 +91,12 @@ KarvelloPage {
                 Layout.fillWidth: true
                 panel: control.screen.reviewLoop
             }
-            ProjectPanel {
-                Layout.fillWidth: true
-                panel: control.screen.projects
-            }
         }
     }
+    ProjectPanel {
+        Layout.fillWidth: true
+        panel: control.screen.projects
+    }
+    // On a tall window the cards stay together at the top.
+    Item { Layout.fillHeight: true }
 }

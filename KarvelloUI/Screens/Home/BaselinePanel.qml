@@ -6,7 +6,7 @@ import Karvello.Design
 KarvelloCard {
     id: control
 
-    property list<string> lines
+    property var lines: []
 
     Repeater {
         model: control.lines

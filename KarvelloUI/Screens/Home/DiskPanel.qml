@@ -38,6 +38,7 @@ Item {
                 Accessible.ignored: true
             }
             KarvelloPill {
+                visible: text !== ""
                 kind: KarvelloDesign.AccentPill
                 text: control.hero.pillText
                 Accessible.ignored: true

@@ -126,8 +126,8 @@ std::vector<HomeCoachCard> coach(const StorageReviewFigures& figures, const Disk
             .figure = shown(isPrimer ? recommendation.title : recommendation.detail),
             .title = shown(isPrimer ? recommendation.detail : recommendation.title),
             .body = shown(recommendation.body),
-            .actionTitle = shown(words.say(
-                "Open {}", words.macDashboardSectionTitle(recommendation.action.destination))),
+            .actionTitle =
+                shown(words.say("Open {}", words.macDashboardSectionTitle(recommendation.action.destination))),
             .iconName = iconOf(recommendation.kind),
             .section = rawText(recommendation.action.destination),
             .pillText = cards.empty() ? shown(words.trustReviewPill()) : QString(),

@@ -40,7 +40,6 @@ HomeHero hero(const DiskCapacitySnapshot& disk, std::int64_t reclaimableBytes, c
 {
     HomeHero hero{
         .title = shown(words.text("여유 공간", "Free space")),
-        .pillText = shown(words.text("실시간", "LIVE")),
         .reclaimableText = reclaimableBytes > 0
             ? shown(fmt::format("{} {}", words.reclaimableTitle(), words.byteSize(reclaimableBytes)))
             : QString(),
@@ -51,6 +50,7 @@ HomeHero hero(const DiskCapacitySnapshot& disk, std::int64_t reclaimableBytes, c
         return hero;
     }
     const auto total = static_cast<double>(disk.totalBytes);
+    hero.pillText = shown(words.text("실시간", "LIVE"));
     hero.percent = shown(percentText(disk.freeFraction()));
     hero.freeText = shown(words.say("{} free", words.byteSize(disk.freeBytes)));
     hero.usedText = shown(words.say("{} / {} used", words.byteSize(disk.usedBytes()), words.byteSize(disk.totalBytes)));

@@ -23,6 +23,7 @@ struct HomeHero {
 
 public:
     QString title = {};
+    /// Empty without a reading.
     QString pillText = {};
     /// Of free space.
     QString percent = {};

@@ -89,7 +89,7 @@ ReviewLoopModel::State ReviewLoopModel::made() const
         .cadence = rawText(preferences.cadence()),
         .profileTitle = shown(words.text("정리 프로필", "Cleanup Profiles")),
         .profiles = {},
-        .profile = rawText(profile.id),
+        .profileIndex = 0,
         .profileSummary = shown(words.cleanupReviewProfileSummary(
             profile.scanMode, profile.categories, std::ssize(m_dashboard.cleaner().ignoredItems()))),
         .guardrail = shown(words.cleanupReviewProfileGuardrail(profile.scanMode)),
@@ -101,6 +101,9 @@ ReviewLoopModel::State ReviewLoopModel::made() const
         state.cadences.append(choice(cadence, cadenceName(cadence, words)));
     }
     for (const auto& offered : CleanupReviewProfile::builtIn()) {
+        if (offered.id == profile.id) {
+            state.profileIndex = static_cast<int>(state.profiles.size());
+        }
         state.profiles.append(choice(offered.id, words.cleanupReviewProfileName(offered.id)));
     }
     return state;

@@ -29,7 +29,8 @@ class ReviewLoopModel final : public QObject {
     Q_PROPERTY(QString cadence READ cadence NOTIFY changed FINAL)
     Q_PROPERTY(QString profileTitle READ profileTitle NOTIFY changed FINAL)
     Q_PROPERTY(QVariantList profiles READ profiles NOTIFY changed FINAL)
-    Q_PROPERTY(QString profile READ profile NOTIFY changed FINAL)
+    /// A place in `profiles`.
+    Q_PROPERTY(int profileIndex READ profileIndex NOTIFY changed FINAL)
     Q_PROPERTY(QString profileSummary READ profileSummary NOTIFY changed FINAL)
     Q_PROPERTY(QString guardrail READ guardrail NOTIFY changed FINAL)
     Q_PROPERTY(QString markReviewedTitle READ markReviewedTitle NOTIFY changed FINAL)
@@ -51,7 +52,7 @@ public:
     [[nodiscard]] QString cadence() const { return m_state.cadence; }
     [[nodiscard]] QString profileTitle() const { return m_state.profileTitle; }
     [[nodiscard]] QVariantList profiles() const { return m_state.profiles; }
-    [[nodiscard]] QString profile() const { return m_state.profile; }
+    [[nodiscard]] int profileIndex() const { return m_state.profileIndex; }
     [[nodiscard]] QString profileSummary() const { return m_state.profileSummary; }
     [[nodiscard]] QString guardrail() const { return m_state.guardrail; }
     [[nodiscard]] QString markReviewedTitle() const { return m_state.markReviewedTitle; }
@@ -79,7 +80,7 @@ private:
         QString cadence;
         QString profileTitle;
         QVariantList profiles;
-        QString profile;
+        int profileIndex = 0;
         QString profileSummary;
         QString guardrail;
         QString markReviewedTitle;

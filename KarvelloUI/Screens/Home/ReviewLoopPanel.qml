@@ -8,8 +8,6 @@ KarvelloCard {
     id: control
 
     required property ReviewLoopModel panel
-    readonly property real roomBesideName: width - 2 * padding - KarvelloDesign.spacing12
-        - Math.max(cadenceName.implicitWidth, profileName.implicitWidth)
 
     title: panel.title
     subtitle: panel.subtitle
@@ -48,53 +46,57 @@ KarvelloCard {
         implicitHeight: 1
         color: KarvelloDesign.lineSoft
     }
-    // The names stand above their controls where both have no room side by side.
-    GridLayout {
-        id: names
-        readonly property bool isBeside:
-            cadence.naturalWidth <= control.roomBesideName && profile.implicitWidth <= control.roomBesideName
-        columns: isBeside ? 2 : 1
-        columnSpacing: KarvelloDesign.spacing12
-        rowSpacing: KarvelloDesign.spacing8
+    // The names stand beside their controls, or above them where there is no room for both.
+    Item {
+        id: choices
+        readonly property real room: width - KarvelloDesign.spacing12
+            - Math.max(cadenceName.implicitWidth, profileName.implicitWidth)
+        readonly property bool isBeside: cadence.implicitWidth <= room && profile.implicitWidth <= room
+        readonly property real profileTop: cadence.y + cadence.height + KarvelloDesign.spacing8
+
+        Layout.fillWidth: true
+        implicitHeight: profile.y + profile.height
 
         KarvelloText {
             id: cadenceName
-            Layout.fillWidth: true
+            y: choices.isBeside ? Math.round((cadence.height - height) / 2) : 0
+            width: Math.min(implicitWidth, choices.width)
             text: control.panel.cadenceTitle
             Accessible.ignored: true
         }
         KarvelloPicker {
             id: cadence
-            // By its texts: the grid is not to wait for what the segments make of them.
-            readonly property real naturalWidth: isSegmented ? segmentsWidth : implicitWidth
             objectName: "cadence"
-            Layout.preferredWidth: naturalWidth
-            Layout.alignment: names.isBeside ? Qt.AlignRight : Qt.AlignLeft
+            x: choices.isBeside ? choices.width - width : 0
+            y: choices.isBeside ? 0 : cadenceName.height + KarvelloDesign.spacing4
+            width: Math.min(implicitWidth, choices.width)
+            height: implicitHeight
             choices: control.panel.cadences
             currentValue: control.panel.cadence
             accessibleName: control.panel.cadenceTitle
-            maximumWidth: control.width - 2 * control.padding
+            maximumWidth: choices.width
             onPicked: value => control.panel.chooseCadence(value)
         }
         KarvelloText {
             id: profileName
-            Layout.fillWidth: true
+            y: choices.profileTop + (choices.isBeside ? Math.round((profile.height - height) / 2) : 0)
+            width: Math.min(implicitWidth, choices.width)
             text: control.panel.profileTitle
             Accessible.ignored: true
         }
         KarvelloDropDown {
             id: profile
             objectName: "profile"
-            Layout.alignment: names.isBeside ? Qt.AlignRight : Qt.AlignLeft
-            Layout.maximumWidth: control.width - 2 * control.padding
+            x: choices.isBeside ? choices.width - width : 0
+            y: choices.profileTop + (choices.isBeside ? 0 : profileName.height + KarvelloDesign.spacing4)
+            width: Math.min(implicitWidth, choices.width)
             model: control.panel.profiles
-            currentIndex: control.panel.profiles.findIndex(choice => choice.value === control.panel.profile)
+            currentIndex: control.panel.profileIndex
             accessibleName: control.panel.profileTitle
             onActivated: index => {
                 control.panel.chooseProfile(control.panel.profiles[index].value)
                 // It shows what is stored, whatever was pressed.
-                currentIndex = Qt.binding(
-                    () => control.panel.profiles.findIndex(choice => choice.value === control.panel.profile))
+                currentIndex = Qt.binding(() => control.panel.profileIndex)
             }
         }
     }

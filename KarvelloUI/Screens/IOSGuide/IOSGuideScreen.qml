@@ -95,4 +95,6 @@ KarvelloPage {
             }
         }
     }
+    // On a tall window the cards stay together at the top.
+    Item { Layout.fillHeight: true }
 }

@@ -8,7 +8,8 @@
 namespace KarvelloUI {
 
 /// The list of large files, of downloads, or of what the installer review found. The last one is only to look at.
-class InsightListScreenModel final : public InsightReviewScreenModel {
+// The base is named in full for the tool that writes down the types.
+class InsightListScreenModel final : public KarvelloUI::InsightReviewScreenModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A screen has it.")

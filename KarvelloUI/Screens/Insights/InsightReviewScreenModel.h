@@ -6,7 +6,8 @@ namespace KarvelloUI {
 
 /// A screen on which files are selected for the Trash: adds what its footer says and does. The move itself only starts
 /// behind the dashboard's confirmation.
-class InsightReviewScreenModel : public InsightScreenModel {
+// The base is named in full for the tool that writes down the types: it looks for exactly this name.
+class InsightReviewScreenModel : public KarvelloUI::InsightScreenModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A screen has it.")

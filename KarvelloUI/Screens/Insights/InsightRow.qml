@@ -35,6 +35,8 @@ KarvelloListRow {
     onToggleRequested: screen.toggle(key)
     onOpenRequested: isOpen => screen.setOpen(key, isOpen)
 
+    // A loader makes it, which Qt 6.4 does not do for a component that is bound to its ids.
+    // qmllint disable unqualified
     details: Component {
         ColumnLayout {
             spacing: KarvelloDesign.spacing4
@@ -75,4 +77,5 @@ KarvelloListRow {
             }
         }
     }
+    // qmllint enable unqualified
 }

@@ -104,7 +104,8 @@ void AccessGuidanceModel::copySamples(int number)
     }
     // The clipboard holds text, which the names of files need not be.
     auto paths = steps[static_cast<std::size_t>(number) - 1].samplePaths;
-    std::ranges::transform(paths, paths.begin(), Platform::Text::escapingInvalidUTF8);
+    std::ranges::transform(
+        paths, paths.begin(), [](const std::string& path) { return Platform::Text::escapingInvalidUTF8(path); });
     if (!paths.empty()) {
         m_dashboard.services().tools.copyText(m_dashboard.words().permissionDiagnosticSampleCopyPayload(paths));
     }

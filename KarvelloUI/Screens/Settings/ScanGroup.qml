@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Karvello.Design
 import Karvello.Screens.Settings
 

@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Karvello.Design
 
 // One folder in the table beside the map: the map in words.
-T.AbstractButton {
+T.ItemDelegate {
     id: row
 
     required property var modelData
@@ -22,7 +22,6 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
-    Accessible.role: Accessible.ListItem
     Accessible.name: spokenName
     Accessible.selectable: true
     Accessible.selected: isSelected

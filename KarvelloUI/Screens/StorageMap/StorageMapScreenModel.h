@@ -13,7 +13,8 @@
 namespace KarvelloUI {
 
 /// The size map: the same folders as cells and as rows of a table, with one selection for both.
-class StorageMapScreenModel final : public InsightScreenModel {
+// The base is named in full for the tool that writes down the types.
+class StorageMapScreenModel final : public KarvelloUI::InsightScreenModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A screen has it.")

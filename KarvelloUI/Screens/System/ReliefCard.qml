@@ -151,7 +151,7 @@ Rectangle {
             spacing: KarvelloDesign.spacing12
 
             Accessible.role: control.screen.areAllSent ? Accessible.Note : Accessible.AlertMessage
-            Accessible.name: control.screen.results.join(" ")
+            Accessible.name: KarvelloDesign.spoken(control.screen.results)
 
             KarvelloIcon {
                 Layout.alignment: Qt.AlignTop

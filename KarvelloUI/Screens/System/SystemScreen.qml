@@ -39,7 +39,7 @@ KarvelloPage {
         Layout.fillWidth: true
         Layout.fillHeight: true
         Layout.minimumHeight: 240
-        Layout.maximumHeight: control.isLargeText ? Number.POSITIVE_INFINITY : 360
+        Layout.maximumHeight: control.isLargeText ? -1 : 360
         chart: control.screen.pulse
     }
     GridLayout {

@@ -44,6 +44,7 @@ protected:
         m_window.reset(qobject_cast<QQuickWindow*>(
             component.createWithInitialProperties({{QStringLiteral("screen"), QVariant::fromValue(screen)},
                 {QStringLiteral("width"), width}, {QStringLiteral("height"), height}})));
+        m_design.setReducedMotion(true);
         m_window->requestActivate();
         if (!QTest::qWaitForWindowActive(m_window.get())) {
             throw std::runtime_error("the window never became active");

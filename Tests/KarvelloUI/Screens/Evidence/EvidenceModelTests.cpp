@@ -113,7 +113,8 @@ TEST_F(EvidenceScreenModelTest, TellsTheReasonsOfAnEntryAndWhatTheLogDidNotKeep)
     old.succeededItemCount = 30;
     old.failureReasons = {"The item is in use.", "/home/ada/secret cannot be moved"};
     old.cleanedItems = {
-        {.candidate = CleanerCore::CleanupCandidate({.url = tree.url("home/.cache/a\n\xff"), .sizeBytes = 5})}};
+        {.candidate = CleanerCore::CleanupCandidate({.url = tree.url("home/.cache/a\n\xff"), .sizeBytes = 5}),
+            .destinationURL = tree.url("Trash/a")}};
     old = old.storageSafeForAuditPersistence();
     History history(*dashboard);
     history.show({old});

@@ -5,7 +5,6 @@
 
 namespace EvidenceTests {
 
-using testing::HasSubstr;
 using testing::StartsWith;
 
 class EvidenceScreen : public EvidenceTest {
@@ -44,12 +43,15 @@ protected:
                 days % 5 == 0);
         }
         reopen();
-        tree.add("home/.cache/pip/wheel size=640K age=90d\nhome/.cache/uv/b size=2M age=90d\n"
-                 "home/.cache/yarn/c size=3M age=90d\nhome/.cache/electron/d size=4M age=90d\n"
-                 "home/.npm/_cacache/e size=5M age=90d");
+        now = now.addingSeconds(3600);
+        tree.add("home/.cache/pip/http size=640K age=90d\nhome/.cache/go-build/b size=318M sparse age=90d\n"
+                 "home/.cache/thumbnails/normal/u.png size=386M sparse age=90d\n"
+                 "home/.npm/_cacache/e size=5M age=90d\nhome/.npm/_cacache/f size=6M age=90d\n"
+                 "home/.cache/pip/wheel size=64K age=90d");
         clean();
         std::filesystem::create_directories(
             dashboard->cleaner().lastCleanResult()->cleanedItems[0].candidate.url.path());
+        now = now.addingSeconds(60);
         restore(0);
         center->toggle(keyOf(0));
         center->toggle(keyOf(1));
@@ -123,7 +125,7 @@ TEST_F(EvidenceScreen, SaysItsRowsToAnAssistant)
     const auto* const entryRow = spoken(rowOf("historyRows", 0));
     EXPECT_THAT(entryRow->text(QAccessible::Name).toStdString(), StartsWith("Clean, Cleanup dashboard, "));
     EXPECT_EQ(nameOf(find("exportHistory")), "Export Cleanup History");
-    EXPECT_THAT(nameOf(find("restoreAll")), HasSubstr("0"));
+    EXPECT_EQ(nameOf(find("restoreAll")), "Select All, No items selected");
 }
 
 TEST_F(EvidenceScreen, ExportsTheHistoryByTheKeyboard)
@@ -148,7 +150,7 @@ TEST_F(EvidenceScreen, KeepsALongHistoryInAListThatScrolls)
     look();
     auto* const rows = find("historyRows");
     EXPECT_GT(rows->property("count").toInt(), 35);
-    EXPECT_LT(rows->height(), 450);
+    EXPECT_LE(rows->height(), 560);
     EXPECT_EQ(rowOf("historyRows", 35), nullptr);
 }
 

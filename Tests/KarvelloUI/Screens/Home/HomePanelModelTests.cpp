@@ -20,7 +20,7 @@ TEST_F(ReviewLoopModelTest, OffersEachCadenceAndProfileInItsOrder)
     ASSERT_EQ(loop().profiles().size(), 3);
     EXPECT_EQ(loop().profiles().at(0).toMap().value(QStringLiteral("text")), QStringLiteral("Balanced review"));
     EXPECT_EQ(loop().cadence(), QStringLiteral("off"));
-    EXPECT_EQ(loop().profile(), QStringLiteral("balanced"));
+    EXPECT_EQ(loop().profileIndex(), 0);
     EXPECT_EQ(loop().statusText(), QStringLiteral("Review cadence is off."));
 }
 
@@ -29,6 +29,7 @@ TEST_F(ReviewLoopModelTest, StoresWhatIsChosen)
     loop().chooseCadence(QStringLiteral("weekly"));
     loop().chooseProfile(QStringLiteral("developerCaches"));
     EXPECT_EQ(loop().cadence(), QStringLiteral("weekly"));
+    EXPECT_EQ(loop().profileIndex(), 2);
     EXPECT_EQ(loop().statusText(), QStringLiteral("Complete one review to calculate the next reminder."));
     EXPECT_EQ(loop().guardrail(), QStringLiteral("Aggressive review still does not auto-select items."));
     EXPECT_THAT(loop().profileSummary().toStdString(), HasSubstr("Aggressive scan"));

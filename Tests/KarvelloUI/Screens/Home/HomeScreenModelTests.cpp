@@ -229,6 +229,7 @@ TEST_F(HomeScreenModelTest, SaysThatTheDiskIsUnknown)
     remake();
     EXPECT_EQ(home->hero().percent, QStringLiteral("—"));
     EXPECT_EQ(home->hero().freeText, QString());
+    EXPECT_EQ(home->hero().pillText, QString());
     EXPECT_EQ(home->hero().usedText, QStringLiteral("Disk capacity unknown"));
     EXPECT_EQ(home->hero().usedFraction, 0);
     EXPECT_EQ(home->timeline()->count(), 0);

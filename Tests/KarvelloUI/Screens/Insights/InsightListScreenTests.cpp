@@ -80,7 +80,10 @@ TEST_F(InsightListScreenTest, HasNeitherBoxesNorAFooterForTheInstallerReview)
     m_window->grabWindow();
     focus("rows");
     EXPECT_FALSE(focused("hasCheckBox").toBool());
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(m_window->activeFocusItem())->role(), QAccessible::ListItem);
+    const auto* const row = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    EXPECT_FALSE(row->state().checkable);
+    EXPECT_EQ(row->text(QAccessible::Name).toStdString(),
+        "setup.sh, Review only, Shell script, 8 KB, 2 months, ~/Downloads/setup.sh");
     EXPECT_FALSE(find("footer")->isVisible());
     key(Qt::Key_Space);
     EXPECT_EQ(session().selectedCount(), 0);

@@ -150,6 +150,9 @@ TEST_F(StorageMapScreenTest, TellsAssistantsNameSizeCountAndShare)
     m_window->grabWindow();
     focus("table");
     key(Qt::Key_End);
+    const auto* const row = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    EXPECT_EQ(row->role(), QAccessible::ListItem);
+    EXPECT_TRUE(row->state().selected);
     EXPECT_EQ(nameOf(m_window->activeFocusItem()), "Music, 0 bytes, 0 items, 0% of the largest area, ~/Music");
 }
 

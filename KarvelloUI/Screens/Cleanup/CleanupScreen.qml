@@ -9,10 +9,10 @@ KarvelloPage {
     id: control
 
     required property CleanupScreenModel screen
-    readonly property int face: screen.face
-    readonly property bool hasList: face === CleanupScreenModel.List
-    readonly property bool hasReport: hasList || face === CleanupScreenModel.Empty
-    readonly property bool isWorking: face === CleanupScreenModel.Scanning || screen.isMoving
+    readonly property string face: screen.face
+    readonly property bool hasList: face === "list"
+    readonly property bool hasReport: hasList || face === "empty"
+    readonly property bool isWorking: face === "scanning" || screen.isMoving
     // Which list is looked up in the place of the candidates.
     property string panel: ""
 
@@ -34,7 +34,7 @@ KarvelloPage {
     actions: [
         KarvelloButton {
             objectName: "scan"
-            visible: control.face !== CleanupScreenModel.Scanning && control.face !== CleanupScreenModel.Denied
+            visible: control.face !== "scanning" && control.face !== "denied"
             kind: control.hasReport ? KarvelloButton.Outline : KarvelloButton.Tonal
             iconName: control.hasReport ? "refresh" : "scan"
             text: control.screen.scanText
@@ -52,7 +52,7 @@ KarvelloPage {
         id: toolbar
         Layout.fillWidth: true
         screen: control.screen
-        onLeft: {
+        onLeaveRequested: {
             if (control.hasList && control.panel === "")
                 candidates.takeFocus()
         }
@@ -131,12 +131,12 @@ KarvelloPage {
     }
     ScanFlow {
         Layout.fillWidth: true
-        visible: control.face === CleanupScreenModel.Scanning
+        visible: control.face === "scanning"
         screen: control.screen
     }
     KarvelloBanner {
         Layout.fillWidth: true
-        visible: control.face === CleanupScreenModel.Scanning
+        visible: control.face === "scanning"
         text: control.screen.texts.scanHint
     }
     // Nothing to list: why, and what to do about it.
@@ -144,7 +144,7 @@ KarvelloPage {
         Layout.fillWidth: true
         Layout.fillHeight: true
         Layout.minimumHeight: placeholder.implicitHeight
-        visible: !control.hasList && control.face !== CleanupScreenModel.Scanning && control.panel === ""
+        visible: !control.hasList && control.face !== "scanning" && control.panel === ""
         radius: KarvelloDesign.cardRadius
         color: KarvelloDesign.elevated1
         border.color: KarvelloDesign.line
@@ -154,13 +154,13 @@ KarvelloPage {
             objectName: "placeholder"
             readonly property var words: control.screen.placeholder
             anchors.fill: parent
-            isGoodNews: control.face === CleanupScreenModel.Empty
+            isGoodNews: control.face === "empty"
             iconName: words.icon
             title: words.title
             text: words.text
             actionText: words.action
             actionIconName: words.actionIcon
-            actionEnabled: control.face === CleanupScreenModel.Denied || control.screen.canScan
+            actionEnabled: control.face === "denied" || control.screen.canScan
             secondaryText: words.secondary ?? ""
             onActionRequested: control.screen.followPlaceholder()
             onSecondaryRequested: control.screen.openSettings()
@@ -197,7 +197,7 @@ KarvelloPage {
         Layout.fillWidth: true
         Layout.fillHeight: control.panel === "skipped"
         Layout.preferredHeight: implicitHeight
-        visible: control.panel === "skipped" || control.face === CleanupScreenModel.Empty && control.panel === "" && listCount > 0
+        visible: control.panel === "skipped" || control.face === "empty" && control.panel === "" && listCount > 0
         isClosable: control.panel === "skipped"
         screen: control.screen
         onCloseRequested: control.showPanel("")

@@ -71,6 +71,23 @@ CleanupScreenModel::Face CleanupScreenModel::face() const
     return session().report().candidates.empty() ? Face::Empty : Face::List;
 }
 
+QString CleanupScreenModel::faceName() const
+{
+    switch (face()) {
+    case Face::Idle:
+        return QStringLiteral("idle");
+    case Face::Denied:
+        return QStringLiteral("denied");
+    case Face::Scanning:
+        return QStringLiteral("scanning");
+    case Face::Empty:
+        return QStringLiteral("empty");
+    case Face::List:
+        return QStringLiteral("list");
+    }
+    return {};
+}
+
 bool CleanupScreenModel::isMoving() const
 {
     return session().phase() == Phase::cleaning || session().phase() == Phase::restoring;

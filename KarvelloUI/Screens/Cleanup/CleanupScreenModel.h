@@ -24,7 +24,8 @@ class CleanupScreenModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The dashboard has it.")
-    Q_PROPERTY(Face face READ face NOTIFY faceChanged FINAL)
+    /// "idle", "denied", "scanning", "empty" or "list".
+    Q_PROPERTY(QString face READ faceName NOTIFY faceChanged FINAL)
     /// A clean or a restore runs over the list.
     Q_PROPERTY(bool isMoving READ isMoving NOTIFY faceChanged FINAL)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY faceChanged FINAL)
@@ -80,15 +81,14 @@ class CleanupScreenModel final : public QObject {
     Q_PROPERTY(bool canSelectAll READ canSelectAll NOTIFY selectionChanged FINAL)
 
 public:
-    // QML reads only enumerators with a capital letter.
     // NOLINTNEXTLINE(readability-identifier-naming)
     enum class Face : std::uint8_t { Idle, Denied, Scanning, Empty, List };
-    Q_ENUM(Face)
 
     /// `dashboard` outlives the model.
     explicit CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObject* parent = nullptr);
 
     [[nodiscard]] Face face() const;
+    [[nodiscard]] QString faceName() const;
     [[nodiscard]] bool isMoving() const;
     [[nodiscard]] bool isBusy() const { return session().isBusy(); }
     [[nodiscard]] QVariantMap texts() const;

@@ -13,7 +13,7 @@ RowLayout {
         + groupings.implicitWidth + 4 * spacing
 
     // Escape on an empty field.
-    signal left()
+    signal leaveRequested()
 
     function focusSearch() {
         search.forceActiveFocus(Qt.ShortcutFocusReason)
@@ -46,7 +46,7 @@ RowLayout {
         clearName: control.screen.texts.clearSearch
         enabled: control.screen.canFilter
         onTextChanged: control.screen.searchText = text
-        Keys.onDownPressed: control.left()
+        Keys.onDownPressed: control.leaveRequested()
 
         Connections {
             target: control.screen
@@ -118,5 +118,5 @@ RowLayout {
             }
         }
     }
-    Keys.onEscapePressed: left()
+    Keys.onEscapePressed: leaveRequested()
 }

@@ -45,13 +45,8 @@ class Application:
                                           stderr=subprocess.STDOUT)
         self.shown = Assistant(session, self.process.pid)
 
-    def __enter__(self):
-        return self
-
-    def __exit__(self, kind, *_):
+    def end(self):
         sessions.end(self.process)
-        if kind:
-            print(f"what {self._log.name} has:\n{self.said()}", flush=True)
 
     def said(self):
         """What it wrote on its standard streams."""

@@ -10,9 +10,8 @@ import unittest
 import session as sessions
 from application import Application, Installation
 from home import Home
-from session import wait_until
 
-SCAN_FIRST = "Start Scan"
+SCAN = "Start Scan"
 MOVE = "Move Selected to Trash"
 QUESTION = "Move selected items to Trash?"
 
@@ -46,15 +45,20 @@ class ApplicationTest(unittest.TestCase):
         return application
 
     def _leave(self, application):
-        failed = any(error for _, error in getattr(self._outcome, "errors", ())) or \
-            bool(getattr(getattr(self._outcome, "result", None), "failures", None))
-        application.__exit__(failed or None)
+        application.end()
+        if not self._outcome.success:
+            print(f"{application.process.args} said:\n{application.said()}", flush=True)
 
     def scan(self, application):
         """From the dashboard to the findings."""
         application.open("Cleanup Review")
-        application.press_button(SCAN_FIRST)
+        application.press_button(SCAN)
         return application.shown.wait_for(lambda name: "Example" in name, "check box")
+
+    def agree(self, application):
+        """Presses the button of the question, which has the same words as the one that asks."""
+        dialog = application.shown.wait_for(QUESTION, "dialog")
+        next(part for part in dialog.all_showing() if part.role == "push button" and part.name == MOVE).act()
 
     def log(self):
         file = self.home.folder / ".local/share/Karvello/cleanup-audit-log.json"

@@ -4,7 +4,7 @@ import os
 import signal
 
 from application import Installation
-from case import MOVE, QUESTION, ApplicationTest
+from case import MOVE, SCAN, ApplicationTest
 from session import wait_until
 
 
@@ -46,8 +46,7 @@ class Faults(ApplicationTest):
         application.shown.wait_for("Nothing to restore")
         self.scan(application)
         application.press_button(MOVE)
-        dialog = application.shown.wait_for(QUESTION, "dialog")
-        next(part for part in dialog.all_showing() if part.role == "push button" and part.name == MOVE).act()
+        self.agree(application)
         wait_until(lambda: log.read_bytes() != damaged and len(self.log()) == 1, "an entry in a new log")
         kept = [file for file in log.parent.iterdir() if file != log and file.read_bytes() == damaged]
         self.assertEqual(len(kept), 1)
@@ -59,13 +58,13 @@ class Faults(ApplicationTest):
             self.home.add(place, size=0)
         application = self.start()
         application.wait_for_window()
-        application.press_button("Start Scan")
+        application.press_button(SCAN)
         application.shown.wait_for(lambda name: "Example" in name, "check box")
 
     def test_a_scan_that_is_told_to_end_ends(self):
         self.home.add_many("Library/Caches/com.example.Big", 20_000)
         application = self.start_after_first_run("--open", "cleanupReview")
-        application.press_button("Start Scan")
+        application.press_button(SCAN)
         application.process.send_signal(signal.SIGTERM)
         self.assertEqual(application.wait_for_end(), 0)
         self.assertEqual(self.log(), [])
@@ -76,10 +75,9 @@ class Faults(ApplicationTest):
         for name in names:
             self.home.add(f"Library/Logs/{name}/session.log", size=100)
         application = self.start_after_first_run("--open", "cleanupReview")
-        application.press_button("Start Scan")
+        application.press_button(SCAN)
         application.press_button(MOVE)
-        dialog = application.shown.wait_for(QUESTION, "dialog")
-        next(part for part in dialog.all_showing() if part.role == "push button" and part.name == MOVE).act()
+        self.agree(application)
         wait_until(self.home.trashed, "something in the Trash")
         application.process.send_signal(signal.SIGTERM)
         self.assertEqual(application.wait_for_end(), 0)

@@ -1,9 +1,8 @@
 """From the first look to the Trash and back."""
 
 import os
-import unittest
 
-from case import MOVE, QUESTION, ApplicationTest
+from case import MOVE, QUESTION, SCAN, ApplicationTest
 from session import wait_until
 
 PLAYER = "Library/Caches/com.example.Player/stream.bin"
@@ -39,11 +38,6 @@ class Review(ApplicationTest):
         # The dialog's own button that says no has the focus.
         application.shown.wait_for("Cancel", "push button", ["focused"])
 
-    def agree(self, application):
-        """Presses the dialog's button, which has the same words as the footer's."""
-        dialog = application.shown.wait_for(QUESTION, "dialog")
-        next(part for part in dialog.all_showing() if part.role == "push button" and part.name == MOVE).act()
-
     def assert_nothing_moved(self):
         self.assertEqual(self.home.files(), self.before)
         self.assertEqual(self.home.trashed(), [])
@@ -53,7 +47,7 @@ class Review(ApplicationTest):
         application = self.start()
         application.wait_for_window()
         # The first run asks once, and begins.
-        application.press_button(SCAN_FIRST_RUN)
+        application.press_button(SCAN)
         for name in FOUND:
             application.shown.wait_for(is_named(name), "check box")
         self.select_only(application, *FOUND)
@@ -102,6 +96,3 @@ class Review(ApplicationTest):
         application.press("Return")
         application.shown.wait_without(QUESTION, "dialog")
         self.assert_nothing_moved()
-
-
-SCAN_FIRST_RUN = "Start Scan"

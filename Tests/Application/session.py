@@ -67,14 +67,15 @@ class Session:
             "QT_QUICK_BACKEND": "software", "QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
         self.environment["DISPLAY"] = self._start_display()
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus("session")
-        # Assistants have a bus of their own, whose keeper would have to be ended by its children's numbers.
-        self.environment["AT_SPI_BUS_ADDRESS"] = self._start_bus("accessibility")
-        self.run("/usr/libexec/at-spi2-registryd")
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
+        # It starts the bus of the assistants, and tells of it on the session bus and on the display.
+        self.run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately", "--a11y=1", "--screen-reader=1")
         self.run("openbox", "--sm-disable", "--config-file", self._window_manager_settings())
-        self.session_bus = self.connect("DBUS_SESSION_BUS_ADDRESS")
-        self.accessibility_bus = self.connect("AT_SPI_BUS_ADDRESS")
-        wait_until(lambda: owner_of(self.accessibility_bus, "org.a11y.atspi.Registry"), "the registry of assistants")
+        self.session_bus = connected(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+        wait_until(lambda: owner_of(self.session_bus, "org.a11y.Bus"), "the bus of the assistants")
+        self.accessibility_bus = connected(self.session_bus.call_sync(
+            "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 30_000,
+            None).unpack()[0])
         wait_until(lambda: self.output("xdotool", "get_num_desktops").strip() == "1", "a window manager")
 
     def run(self, *command, **variables):
@@ -98,11 +99,6 @@ class Session:
         place = [int(shape[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")]
         return Picture.of_screen(self.folder / "Xvfb_screen0").part(*place)
 
-    def connect(self, variable):
-        flags = Gio.DBusConnectionFlags
-        return Gio.DBusConnection.new_for_address_sync(
-            self.environment[variable], flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
-
     def close(self):
         for process in reversed(self._processes):
             end(process)
@@ -120,10 +116,10 @@ class Session:
         assert number, "no display could be started"
         return f":{number}"
 
-    def _start_bus(self, name):
-        configuration = self.folder / f"{name}.conf"
+    def _start_bus(self):
+        configuration = self.folder / "session.conf"
         configuration.write_text(
-            f"<busconfig><type>{name}</type><listen>unix:path={self.folder}/{name}.socket</listen>"
+            f"<busconfig><type>session</type><listen>unix:path={self.folder}/session.socket</listen>"
             "<policy context='default'><allow send_destination='*' eavesdrop='true'/><allow eavesdrop='true'/>"
             "<allow own='*'/></policy></busconfig>")
         process = start(["dbus-daemon", "--nofork", "--nopidfile", "--print-address=1", f"--config-file={configuration}"],
@@ -138,6 +134,12 @@ class Session:
                         "<desktops><number>1</number></desktops>"
                         "<keyboard><keybind key='A-F4'><action name='Close'/></keybind></keyboard></openbox_config>")
         return file
+
+
+def connected(address):
+    flags = Gio.DBusConnectionFlags
+    return Gio.DBusConnection.new_for_address_sync(
+        address, flags.AUTHENTICATION_CLIENT | flags.MESSAGE_BUS_CONNECTION, None, None)
 
 
 def owner_of(bus, name):

@@ -11,7 +11,7 @@ import session as sessions
 from application import Application, Installation
 from home import Home
 
-SCAN = "Start Scan"
+SCAN = "Start New Scan"
 MOVE = "Move Selected to Trash"
 QUESTION = "Move selected items to Trash?"
 
@@ -39,6 +39,7 @@ class ApplicationTest(unittest.TestCase):
 
     def start_after_first_run(self, *arguments, preferences=None, **options):
         self.home.set_preferences(**{"karvello.macOnboardingCompleted.v1": True, "karvello.language": "en",
+                                     "karvello.macAdvancedExpanded": True,
                                      **(preferences or {})})
         application = self.start(*arguments, **options)
         application.wait_for_window()

@@ -58,7 +58,7 @@ class Faults(ApplicationTest):
             self.home.add(place, size=0)
         application = self.start()
         application.wait_for_window()
-        application.press_button(SCAN)
+        application.press_button("Start Scan")
         application.shown.wait_for(lambda name: "Example" in name, "check box")
 
     def test_a_scan_that_is_told_to_end_ends(self):

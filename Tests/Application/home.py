@@ -27,7 +27,9 @@ class Home:
         file.parent.mkdir(parents=True, exist_ok=True)
         with open(file, "wb") as stream:
             if content is None:
-                stream.truncate(size)
+                # A file that takes up no room is nothing to clean.
+                if size:
+                    os.posix_fallocate(stream.fileno(), 0, size)
             else:
                 stream.write(content)
         then = time.time() - days * _DAY

@@ -2,7 +2,7 @@
 
 import os
 
-from case import MOVE, QUESTION, SCAN, ApplicationTest
+from case import MOVE, QUESTION, ApplicationTest
 from session import wait_until
 
 PLAYER = "Library/Caches/com.example.Player/stream.bin"
@@ -33,7 +33,10 @@ class Review(ApplicationTest):
         self.select(application, *names)
 
     def ask(self, application):
-        application.press_button(MOVE)
+        button = application.shown.wait_for(MOVE, "push button", ["enabled"])
+        button.focus()
+        application.shown.wait_for(MOVE, "push button", ["focused"])
+        button.act()
         application.shown.wait_for(QUESTION, "dialog")
         # The dialog's own button that says no has the focus.
         application.shown.wait_for("Cancel", "push button", ["focused"])
@@ -47,7 +50,7 @@ class Review(ApplicationTest):
         application = self.start()
         application.wait_for_window()
         # The first run asks once, and begins.
-        application.press_button(SCAN)
+        application.press_button("Start Scan")
         for name in FOUND:
             application.shown.wait_for(is_named(name), "check box")
         self.select_only(application, *FOUND)

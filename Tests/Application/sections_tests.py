@@ -22,7 +22,7 @@ class Sections(ApplicationTest):
                 self.assert_is_on_show(application, section)
 
     def test_the_arrows_lead_through_all_and_back(self):
-        application = self.start_after_first_run(preferences={"karvello.macAdvancedExpanded": True})
+        application = self.start_after_first_run()
         application.press("ctrl+1")
         self.assert_is_on_show(application, SECTIONS[0])
         for section in SECTIONS[1:]:

@@ -114,16 +114,25 @@ class Session:
         self._log.close()
 
     def _start_display(self):
+        """Two that begin at once can take the same number, and one of them then is not to be reached: so it is tried."""
+        for _ in range(10):
+            process, display = self._started_display()
+            if subprocess.run(["xdotool", "getmouselocation"], env={**self.environment, "DISPLAY": display},
+                              stdout=self._log, stderr=self._log, timeout=LIMIT).returncode == 0 \
+                    and process.poll() is None:
+                self._processes.append(process)
+                return display
+            end(process)
+        raise AssertionError("no display could be started")
+
+    def _started_display(self):
         reading, writing = os.pipe()
         process = start(["Xvfb", "-displayfd", writing, "-screen", "0", "1400x1000x24", "-nolisten", "tcp",
                          "-fbdir", self.folder],
                         self.environment, stdout=self._log, stderr=self._log, pass_fds=[writing])
-        self._processes.append(process)
         os.close(writing)
         with open(reading) as pipe:
-            number = pipe.readline().strip()
-        assert number, "no display could be started"
-        return f":{number}"
+            return process, f":{pipe.readline().strip()}"
 
     def _start_bus(self):
         configuration = self.folder / "session.conf"

@@ -19,7 +19,7 @@ class Settings(ApplicationTest):
         wait_until(lambda: self.home.preferences()["karvello.language"] == "de", "the language is stored")
         for english in ("Settings", "Live Dashboard", "Cleanup Review"):
             self.assertIsNone(application.shown.find(english), english)
-        application.open("Arbeitsspeicheranalyse")
+        application.open("RAM-Analyse")
 
     def test_another_appearance_changes_the_colours_at_once(self):
         def brightness():

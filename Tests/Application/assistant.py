@@ -122,7 +122,7 @@ class Assistant:
                 continue
         return None
 
-    def wait_for(self, name, role=None, states=(), limit=12):
+    def wait_for(self, name, role=None, states=(), limit=None):
         return wait_until(lambda: self.find(name, role, states),
                           lambda: f"{role or 'something'} named {name} {states}, on show is\n{self.told()}", limit)
 

@@ -96,6 +96,7 @@ class Review(ApplicationTest):
         self.select_only(application, *FOUND)
         application.press("ctrl+Return")
         application.shown.wait_for(QUESTION, "dialog")
+        application.shown.wait_for("Cancel", "push button", ["focused"])
         application.press("Return")
         application.shown.wait_without(QUESTION, "dialog")
         self.assert_nothing_moved()

@@ -8,6 +8,10 @@ import Karvello.Design
 T.CheckDelegate {
     id: control
 
+    // A row that waits to be used again is only culled by its view: assistants would still read it and press it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     required property string name
     property string path
     property string reason

@@ -129,11 +129,12 @@ Rectangle {
             spacing: KarvelloDesign.spacing20
 
             Repeater {
-                model: control.figures
+                // By their number: new cells at each step of the work would leave the layout with ones that are gone.
+                model: control.figures.length
                 RowLayout {
                     id: cell
-                    required property var modelData
                     required property int index
+                    readonly property var modelData: control.figures[index] ?? ({ value: "", label: "" })
                     Layout.fillWidth: true
                     Layout.preferredWidth: 1
                     spacing: KarvelloDesign.spacing20

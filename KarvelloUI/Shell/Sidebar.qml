@@ -33,7 +33,7 @@ Rectangle {
         id: group
 
         property string title
-        property alias sections: repeater.model
+        property var sections: []
         property alias items: repeater
 
         Layout.fillWidth: true
@@ -43,8 +43,12 @@ Rectangle {
 
         Repeater {
             id: repeater
+            // By their number: the counts change with each step of a clean, and new items each time would take away the focus
+            // and leave the layout with ones that are gone.
+            model: group.sections.length
             delegate: KarvelloSidebarItem {
-                required property var modelData
+                required property int index
+                readonly property var modelData: group.sections[index]
 
                 Layout.fillWidth: true
                 objectName: modelData.section

@@ -20,6 +20,8 @@ SidePanel {
     model: screen.ignored
     delegate: Item {
         id: item
+        ListView.onPooled: visible = false
+        ListView.onReused: visible = true
         required property int index
         required property string name
         required property string path

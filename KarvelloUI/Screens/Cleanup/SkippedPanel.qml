@@ -17,6 +17,8 @@ SidePanel {
     model: screen.skipped
     delegate: Item {
         id: item
+        ListView.onPooled: visible = false
+        ListView.onReused: visible = true
         required property string path
         required property string reason
         required property bool isPermission

@@ -47,7 +47,12 @@ FocusScope {
     }
 
     implicitHeight: column.implicitHeight + 2
-    ListView.onPooled: currentRow = 0
+    // Its view only culls it: assistants would still read it and press it.
+    ListView.onPooled: {
+        currentRow = 0
+        visible = false
+    }
+    ListView.onReused: visible = true
 
     Accessible.role: Accessible.Grouping
     Accessible.name: title

@@ -7,6 +7,10 @@ import Karvello.Design
 T.ItemDelegate {
     id: control
 
+    // A row that waits to be used again is only culled by its view: assistants would still read it and press it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     required property string title
     required property string date
     required property string summary

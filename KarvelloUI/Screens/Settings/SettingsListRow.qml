@@ -6,6 +6,10 @@ import Karvello.Design
 FocusScope {
     id: control
 
+    // A row that waits to be used again is only culled by its view: assistants would still read it and press it.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     default property alias buttons: buttonRow.data
     property string path
     property string note

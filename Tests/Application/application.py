@@ -1,0 +1,94 @@
+"""The program as it is installed, in a session and a home of a test."""
+
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import time
+
+import session as sessions
+from assistant import Assistant
+from session import wait_until
+
+PROGRAM = pathlib.Path(os.environ["KARVELLO_PROGRAM"])
+
+
+class Installation:
+    """A copy of the program beside what it is told of its own distribution."""
+
+    def __init__(self, folder, sandboxed=False):
+        self.program = pathlib.Path(folder) / "bin/karvello"
+        self.program.parent.mkdir(parents=True)
+        try:
+            os.link(PROGRAM, self.program)
+        except OSError:
+            shutil.copy2(PROGRAM, self.program)
+        facts = pathlib.Path(folder) / "share/karvello/distribution.json"
+        facts.parent.mkdir(parents=True)
+        facts.write_text(json.dumps({"KarvelloDistributionChannel": "AppStore" if sandboxed else "DeveloperID",
+                                     "com.apple.security.app-sandbox": sandboxed}))
+
+
+class Application:
+    """A process, and what is on show of it."""
+
+    def __init__(self, session, installation, home, *arguments, without=(), **variables):
+        environment = {**session.environment, **home.environment, **variables}
+        for name in without:
+            del environment[name]
+        self.session = session
+        self._log = home.folder.with_name(f"{home.folder.name}-{time.monotonic_ns()}.log")
+        self.started = time.monotonic()
+        with open(self._log, "wb") as log:
+            self.process = sessions.start([installation.program, *arguments], environment, stdout=log,
+                                          stderr=subprocess.STDOUT)
+        self.shown = Assistant(session, self.process.pid)
+
+    def end(self):
+        sessions.end(self.process)
+
+    def said(self):
+        """What it wrote on its standard streams."""
+        return self._log.read_text(errors="replace")
+
+    def is_running(self):
+        return self.process.poll() is None
+
+    def wait_for_end(self, limit=sessions.LIMIT):
+        """Its exit code."""
+        wait_until(lambda: not self.is_running(), "the program ends", limit)
+        return self.process.returncode
+
+    def window(self):
+        """The number of the dashboard's window, if it is on the screen."""
+        found = self.session.output("xdotool", "search", "--onlyvisible", "--all", "--pid", self.process.pid, "--name",
+                                    "^Karvello$").split()
+        return found[0] if found else None
+
+    def wait_for_window(self):
+        def window():
+            if not self.is_running():
+                raise AssertionError(f"the program has ended with {self.process.returncode}")
+            return self.window()
+        return wait_until(window, "a window")
+
+    def is_in_front(self):
+        return self.session.output("xdotool", "getactivewindow").strip() == self.window()
+
+    def press(self, *keys):
+        """Keys for its window, once it has the focus."""
+        wait_until(self.is_in_front, "the window is in front")
+        self.session.press(*keys)
+
+    def close_window(self):
+        """As the user does it by the window manager."""
+        self.press("alt+F4")
+
+    def open(self, section):
+        """Chooses a section of the sidebar, and waits for its title."""
+        self.shown.wait_for(lambda name: name == section or name.startswith(section + ","), "list item").act()
+        self.shown.wait_for(section, "heading")
+
+    def press_button(self, name, states=("enabled",)):
+        self.shown.wait_for(name, "push button", states).act()

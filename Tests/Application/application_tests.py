@@ -1,0 +1,14 @@
+"""application_tests.py SUITE: the program as people meet it, in a session of its own; checked by ctest."""
+
+import sys
+import unittest
+
+from faults_tests import Faults
+from figures_tests import Figures
+from lifetime_tests import Lifetime
+from review_tests import Review
+from sections_tests import Sections
+from settings_tests import Settings
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

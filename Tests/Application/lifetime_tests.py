@@ -1,0 +1,90 @@
+"""Starting, starting again, going into the tray, and ending."""
+
+import session as sessions
+from case import ApplicationTest
+from gi.repository import Gio, GLib
+from session import wait_until
+
+
+class Lifetime(ApplicationTest):
+    def wait_for_item(self, host):
+        """The item's owner on the bus."""
+        owner = host.stdout.readline().strip()
+        self.assertTrue(owner, "no item in the tray")
+        return owner
+
+    def activate(self, owner):
+        self.session.session_bus.call_sync(owner, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate",
+                                           GLib.Variant("(ii)", (1200, 20)), None, Gio.DBusCallFlags.NONE, 30_000, None)
+
+    def test_a_second_start_brings_the_first_forward_and_ends(self):
+        first = self.start_after_first_run()
+        window = first.window()
+        self.session.output("xdotool", "windowminimize", window)
+        wait_until(lambda: not first.is_in_front(), "the window is minimised")
+        second = self.start()
+        self.assertEqual(second.wait_for_end(), 0)
+        wait_until(first.is_in_front, "the first window in front")
+        self.assertEqual(first.window(), window)
+        self.assertTrue(first.is_running())
+
+    def test_a_second_start_leads_the_first_to_a_section(self):
+        first = self.start_after_first_run()
+        for name, section in (("memoryReview", "Memory Analysis"), ("systemReview", "System Pulse"),
+                              ("cleanupReview", "Cleanup Review")):
+            with self.subTest(name):
+                self.assertEqual(self.start("--open", name).wait_for_end(), 0)
+                first.shown.wait_for(section, "heading")
+                first.shown.wait_for(section, "list item", ["selected"])
+
+    def test_a_first_start_opens_where_it_was_asked_to(self):
+        application = self.start_after_first_run("--open", "memoryReview")
+        application.shown.wait_for("Memory Analysis", "heading")
+
+    def test_without_a_tray_closing_the_window_ends_the_program(self):
+        application = self.start_after_first_run()
+        application.close_window()
+        self.assertEqual(application.wait_for_end(), 0)
+
+    def test_with_a_tray_it_stays_and_shows_the_same_when_it_is_opened_again(self):
+        self.home.add_clutter()
+        host = self.start_tray()
+        application = self.start_after_first_run()
+        self.wait_for_item(host)
+        self.scan(application)
+        application.close_window()
+        wait_until(lambda: application.window() is None, "the window is closed")
+        self.assertTrue(application.is_running())
+        self.assertEqual(self.start().wait_for_end(), 0)
+        application.wait_for_window()
+        application.open("Cleanup Review")
+        application.shown.wait_for(lambda name: "Example" in name, "check box")
+
+    def test_the_popover_leads_to_the_dashboard_and_out(self):
+        host = self.start_tray()
+        application = self.start_after_first_run()
+        owner = self.wait_for_item(host)
+        application.close_window()
+        wait_until(lambda: application.window() is None, "the window is closed")
+
+        self.activate(owner)
+        application.shown.wait_for("Quick Triage", "heading")
+        application.press_button("Open Dashboard")
+        application.shown.wait_without("Quick Triage")
+        application.shown.wait_for("Live Dashboard", "heading")
+
+        self.activate(owner)
+        application.shown.wait_for("Quick Triage", "heading")
+        application.press_button("Quit Karvello")
+        self.assertEqual(application.wait_for_end(), 0)
+
+    def test_a_click_on_an_item_of_an_older_tray_opens_the_popover(self):
+        tray = self.session.run("trayer", "--edge", "top", "--align", "right", "--width", "100", "--widthtype", "pixel",
+                                "--height", "24", "--SetDockType", "true")
+        self.addCleanup(sessions.end, tray)
+        wait_until(lambda: self.session.output("xdotool", "search", "--onlyvisible", "--class", "trayer").split(), "a tray")
+        application = self.start_after_first_run()
+        item = wait_until(lambda: self.session.output("xdotool", "search", "--all", "--pid", application.process.pid,
+                                                      "--name", "QSystemTrayIconSys|karvello").split(), "an item in the tray")
+        self.session.output("xdotool", "mousemove", "--window", item[-1], "8", "8", "click", "1")
+        application.shown.wait_for("Quick Triage", "heading")

@@ -95,7 +95,7 @@ int main(int argc, char** argv)
     report("scroll by 40 pixels", frames(*window, 300, [&](int number) { scrollTo(number * 40.0); }));
     report("scroll by a page", frames(*window, 200, [&](int number) { scrollTo(12'000 + number * 500.0); }));
     report("jump anywhere", frames(*window, 100, [&](int number) {
-        scrollTo((number * 7919LL % 100) / 100.0 * list->property("contentHeight").toDouble());
+        scrollTo(static_cast<double>(number * 7919LL % 100) / 100 * list->property("contentHeight").toDouble());
     }));
     scrollTo(0);
     report("toggle a row", frames(*window, 100, [&](int number) { screen.toggle(number % 8); }));

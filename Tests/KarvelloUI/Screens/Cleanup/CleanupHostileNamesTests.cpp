@@ -4,7 +4,6 @@
 
 namespace CleanupTests {
 
-using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 
 class CleanupHostileNamesTest : public CleanupTest {

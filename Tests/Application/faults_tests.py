@@ -93,5 +93,4 @@ class Faults(ApplicationTest):
         self.assertEqual(moved | left, names)
         self.assertEqual(moved & left, set())
         self.assertEqual({name.removesuffix(".trashinfo") for name in os.listdir(self.home.trash / "info")}, moved)
-        self.assertEqual([len(entry["succeeded"]) if "succeeded" in entry else entry["succeededCount"]
-                          for entry in self.log()], [len(moved)])
+        self.assertEqual([entry["succeededItemCount"] for entry in self.log()], [len(moved)])

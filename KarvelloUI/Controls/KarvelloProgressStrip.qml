@@ -21,6 +21,9 @@ Rectangle {
     property bool isCancelling: false
     // List of { value, label }.
     property var figures: []
+    // Cells stay: a layout that is hidden while its cells go keeps looking at them, and the program crashes in it (Qt 6.4).
+    property int cellCount: 0
+    onFiguresChanged: cellCount = Math.max(cellCount, figures.length)
     readonly property bool isKnown: progress >= 0
     readonly property int tenth: isKnown ? Math.floor(Math.min(1, progress) * 10 + 0.000001) : -1
     property string spokenProgress
@@ -129,12 +132,12 @@ Rectangle {
             spacing: KarvelloDesign.spacing20
 
             Repeater {
-                // By their number: new cells at each step of the work would leave the layout with ones that are gone.
-                model: control.figures.length
+                model: control.cellCount
                 RowLayout {
                     id: cell
                     required property int index
                     readonly property var modelData: control.figures[index] ?? ({ value: "", label: "" })
+                    visible: index < control.figures.length
                     Layout.fillWidth: true
                     Layout.preferredWidth: 1
                     spacing: KarvelloDesign.spacing20

@@ -143,7 +143,9 @@ class Session:
         file = self.folder / "openbox.xml"
         file.write_text("<openbox_config xmlns='http://openbox.org/3.4/rc'><focus><focusNew>yes</focusNew></focus>"
                         "<desktops><number>1</number></desktops>"
-                        "<keyboard><keybind key='A-F4'><action name='Close'/></keybind></keyboard></openbox_config>")
+                        "<keyboard><keybind key='A-F4'><action name='Close'/></keybind></keyboard>"
+                        # xdotool tells the place of a window wrongly by its frame.
+                        "<applications><application class='*'><decor>no</decor></application></applications></openbox_config>")
         return file
 
 

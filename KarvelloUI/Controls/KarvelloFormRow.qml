@@ -16,50 +16,50 @@ Item {
     readonly property real slotMaximumWidth: Math.max(0, width - 2 * padding)
     readonly property real leastTextWidth: Math.max(label.implicitWidth,
         Math.min(line.implicitWidth, Math.round(150 * KarvelloDesign.textFactor)))
-    readonly property bool isWrapped:
-        leastTextWidth + KarvelloDesign.spacing16 + slot.implicitWidth > width - 2 * padding
+    readonly property bool isWrapped: leastTextWidth + KarvelloDesign.spacing16 + slot.implicitWidth > slotMaximumWidth
+    readonly property real contentHeight: isWrapped ? texts.height + KarvelloDesign.spacing8 + slot.height
+        : Math.max(texts.height, slot.height)
+    readonly property real contentTop: Math.round((height - contentHeight) / 2)
 
     implicitWidth: 440
-    implicitHeight: Math.max(60, Math.ceil(grid.implicitHeight) + 2 * KarvelloDesign.spacing12)
+    implicitHeight: Math.max(60, Math.ceil(contentHeight) + 2 * KarvelloDesign.spacing12)
 
     Accessible.role: Accessible.Grouping
     Accessible.name: name
     Accessible.description: text
 
-    GridLayout {
-        id: grid
+    // Placed by hand: layouts within layouts give up before texts that wrap have found their heights.
+    Column {
+        id: texts
         x: control.padding
-        width: parent.width - 2 * control.padding
-        anchors.verticalCenter: parent.verticalCenter
-        columns: control.isWrapped ? 1 : 2
-        columnSpacing: KarvelloDesign.spacing16
-        rowSpacing: KarvelloDesign.spacing8
+        y: control.isWrapped ? control.contentTop : Math.round((control.height - height) / 2)
+        width: control.isWrapped ? control.slotMaximumWidth
+            : Math.max(0, control.slotMaximumWidth - KarvelloDesign.spacing16 - slot.width)
 
-        ColumnLayout {
-            spacing: 0
-            KarvelloText {
-                id: label
-                Layout.fillWidth: true
-                text: control.name
-                emphasis: KarvelloText.Medium
-                color: KarvelloDesign.ink
-            }
-            KarvelloText {
-                id: line
-                Layout.fillWidth: true
-                visible: text !== ""
-                text: control.text
-                textStyle: KarvelloDesign.small
-                color: KarvelloDesign.ink3
-                wrapMode: Text.Wrap
-            }
+        KarvelloText {
+            id: label
+            width: parent.width
+            text: control.name
+            emphasis: KarvelloText.Medium
+            color: KarvelloDesign.ink
         }
-        RowLayout {
-            id: slot
-            Layout.fillWidth: false
-            Layout.maximumWidth: grid.width
-            spacing: KarvelloDesign.spacing8
+        KarvelloText {
+            id: line
+            width: parent.width
+            visible: text !== ""
+            text: control.text
+            textStyle: KarvelloDesign.small
+            color: KarvelloDesign.ink3
+            wrapMode: Text.Wrap
         }
+    }
+    RowLayout {
+        id: slot
+        x: control.isWrapped ? control.padding : control.width - control.padding - width
+        y: control.isWrapped ? control.contentTop + texts.height + KarvelloDesign.spacing8
+            : Math.round((control.height - height) / 2)
+        width: Math.min(implicitWidth, control.slotMaximumWidth)
+        spacing: KarvelloDesign.spacing8
     }
     Rectangle {
         anchors.bottom: parent.bottom

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Karvello.Design
 
 // A heading with something at its right, and below it a sheet of rows.
-ColumnLayout {
+Column {
     id: control
 
     default property alias rows: rows.data
@@ -16,7 +16,8 @@ ColumnLayout {
     Accessible.name: title
 
     RowLayout {
-        Layout.minimumHeight: Math.round(28 * KarvelloDesign.textFactor)
+        width: parent.width
+        height: Math.max(Math.round(28 * KarvelloDesign.textFactor), implicitHeight)
         spacing: KarvelloDesign.spacing12
 
         KarvelloText {
@@ -34,8 +35,8 @@ ColumnLayout {
         }
     }
     Rectangle {
-        Layout.fillWidth: true
-        implicitHeight: Math.ceil(rows.implicitHeight) + 2
+        width: parent.width
+        height: Math.ceil(rows.implicitHeight) + 2
         radius: KarvelloDesign.cardRadius
         color: KarvelloDesign.elevated1
         border.color: KarvelloDesign.line

@@ -12,45 +12,54 @@ KarvelloPage {
     title: screen.title
     subtitle: screen.subtitle
 
-    GridLayout {
+    // Placed by hand: layouts within layouts give up before texts that wrap have found their heights.
+    Item {
+        id: page
+
+        readonly property int columns: KarvelloDesign.textFactor >= 1.25 || control.contentWidth < 800 ? 1 : 2
+        readonly property real columnWidth: columns === 1 ? width : Math.floor((width - KarvelloDesign.spacing24) / 2)
+
         objectName: "columns"
         Layout.fillWidth: true
-        columns: KarvelloDesign.textFactor >= 1.25 || control.contentWidth < 800 ? 1 : 2
-        columnSpacing: KarvelloDesign.spacing24
-        rowSpacing: KarvelloDesign.spacing24
+        implicitHeight: columns === 1 ? left.height + KarvelloDesign.spacing24 + right.height
+            : Math.max(left.height, right.height)
 
         SettingsColumn {
+            id: left
             AppearanceGroup {
-                Layout.fillWidth: true
+                width: parent.width
                 group: control.screen.appearance
             }
             ScanGroup {
-                Layout.fillWidth: true
+                width: parent.width
                 group: control.screen.scan
                 closeName: control.screen.closeText
             }
             IgnoreGroup {
-                Layout.fillWidth: true
+                width: parent.width
                 group: control.screen.ignoreList
                 closeName: control.screen.closeText
             }
             AboutGroup {
-                Layout.fillWidth: true
+                width: parent.width
                 screen: control.screen
             }
         }
         SettingsColumn {
+            id: right
+            x: page.columns === 1 ? 0 : page.columnWidth + KarvelloDesign.spacing24
+            y: page.columns === 1 ? left.height + KarvelloDesign.spacing24 : 0
             FoldersGroup {
-                Layout.fillWidth: true
+                width: parent.width
                 group: control.screen.customFolders
                 closeName: control.screen.closeText
             }
             AccessGuidanceGroup {
-                Layout.fillWidth: true
+                width: parent.width
                 group: control.screen.accessGuidance
             }
             ShortcutsGroup {
-                Layout.fillWidth: true
+                width: parent.width
                 title: control.screen.shortcutsTitle
                 shortcuts: control.screen.shortcuts
             }
@@ -58,11 +67,8 @@ KarvelloPage {
     }
     Item { Layout.fillHeight: true }
 
-    component SettingsColumn: ColumnLayout {
-        Layout.alignment: Qt.AlignTop
-        Layout.fillWidth: true
-        // Both are as wide, whatever they hold.
-        Layout.preferredWidth: 1
+    component SettingsColumn: Column {
+        width: page.columnWidth
         spacing: KarvelloDesign.spacing24
     }
 }

@@ -54,11 +54,28 @@ protected:
     template <typename T = QQuickItem>
     T* find(const char* name)
     {
-        auto* const found = m_window->findChild<T*>(QString::fromLatin1(name));
+        auto* found = m_window->findChild<T*>(QString::fromLatin1(name));
+        if (found == nullptr) {
+            // What a repeater has made belongs to its place alone.
+            found = qobject_cast<T*>(itemBelow(m_window->contentItem(), QString::fromLatin1(name)));
+        }
         if (found == nullptr) {
             throw std::runtime_error(name);
         }
         return found;
+    }
+
+    static QQuickItem* itemBelow(QQuickItem* item, const QString& name)
+    {
+        if (item->objectName() == name) {
+            return item;
+        }
+        for (QQuickItem* const child : item->childItems()) {
+            if (QQuickItem* const found = itemBelow(child, name)) {
+                return found;
+            }
+        }
+        return nullptr;
     }
 
     static QAccessibleInterface* spoken(QObject* object) { return QAccessible::queryAccessibleInterface(object); }

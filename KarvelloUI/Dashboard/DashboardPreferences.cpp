@@ -56,9 +56,14 @@ bool DashboardPreferences::setScanMode(CleanerCore::CleanupScanMode mode)
     return save(scanModeDefaultsKey, std::string(Platform::rawValue(mode)));
 }
 
-bool DashboardPreferences::setOnboardingCompleted(bool isCompleted)
+bool DashboardPreferences::completeOnboarding()
 {
-    return save(onboardingCompletedDefaultsKey, isCompleted);
+    m_isOnboardingOver = true;
+    const bool isStored = save(onboardingCompletedDefaultsKey, true);
+    if (!isStored) {
+        refresh();
+    }
+    return isStored;
 }
 
 bool DashboardPreferences::setAdvancedExpanded(bool isExpanded)
@@ -83,7 +88,8 @@ DashboardPreferences::Values DashboardPreferences::read() const
         .appearanceMode = storedChoice(m_defaults, kAppearanceModeKey, usual.appearanceMode),
         .textScale = storedChoice(m_defaults, KarvelloTextScaleKey::storageKey, usual.textScale),
         .scanMode = storedChoice(m_defaults, scanModeDefaultsKey, usual.scanMode),
-        .isOnboardingCompleted = m_defaults.boolean(onboardingCompletedDefaultsKey).value_or(false),
+        .isOnboardingCompleted =
+            m_isOnboardingOver || m_defaults.boolean(onboardingCompletedDefaultsKey).value_or(false),
         .isAdvancedExpanded = m_defaults.boolean(advancedExpandedDefaultsKey).value_or(false),
     };
 }

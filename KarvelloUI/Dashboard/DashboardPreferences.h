@@ -47,7 +47,8 @@ public:
     bool setAppearanceMode(KarvelloAppearanceMode mode);
     bool setTextScale(KarvelloTextScale scale);
     bool setScanMode(CleanerCore::CleanupScanMode mode);
-    bool setOnboardingCompleted(bool isCompleted);
+    /// The first run is over, for as long as this object at least: it would hold up a user whose home takes no files.
+    bool completeOnboarding();
     bool setAdvancedExpanded(bool isExpanded);
 
 Q_SIGNALS:
@@ -74,6 +75,7 @@ private:
 
     Platform::UserDefaults& m_defaults;
     std::vector<std::string> m_preferredLanguages;
+    bool m_isOnboardingOver = false;
     Values m_values;
     Platform::UserDefaults::Observation m_observation;
 };

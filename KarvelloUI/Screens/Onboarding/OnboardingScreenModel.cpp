@@ -124,14 +124,14 @@ void OnboardingScreenModel::begin()
 
 void OnboardingScreenModel::completeAndScan()
 {
-    m_dashboard.preferences().setOnboardingCompleted(true);
+    m_dashboard.preferences().completeOnboarding();
     m_dashboard.selectSection(MacDashboardSection::cleanup);
     m_dashboard.scanCleanup();
 }
 
 void OnboardingScreenModel::setUpLater()
 {
-    m_dashboard.preferences().setOnboardingCompleted(true);
+    m_dashboard.preferences().completeOnboarding();
 }
 
 } // namespace KarvelloUI

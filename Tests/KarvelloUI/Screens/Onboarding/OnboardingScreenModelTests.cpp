@@ -73,6 +73,14 @@ TEST_F(OnboardingScreenModelTest, IsOverWithoutAScanWhenItIsPutOff)
     EXPECT_TRUE(preferences->isOnboardingCompleted());
 }
 
+TEST_F(OnboardingScreenModelTest, EndsEvenInAHomeThatTakesNoFiles)
+{
+    defaults.failAllSaves();
+    screen.setUpLater();
+    EXPECT_TRUE(preferences->isOnboardingCompleted());
+    EXPECT_FALSE(stored.boolean("karvello.macOnboardingCompleted.v1"));
+}
+
 TEST_F(OnboardingScreenModelTest, DoesNothingWhileTheSessionIsBusy)
 {
     dashboard->scanCleanup();

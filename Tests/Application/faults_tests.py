@@ -79,6 +79,7 @@ class Faults(ApplicationTest):
             self.home.add(f"Library/Logs/{name}/session.log", size=100)
         application = self.start_after_first_run("--open", "cleanupReview")
         application.press_button(SCAN)
+        application.shown.wait_for(lambda name: "candidate log" in name, "check box")
         application.press_button(MOVE)
         self.agree(application)
         wait_until(self.home.trashed, "something in the Trash")

@@ -19,6 +19,7 @@ class Lifetime(ApplicationTest):
     def test_a_second_start_brings_the_first_forward_and_ends(self):
         first = self.start_after_first_run()
         window = first.window()
+        wait_until(first.is_in_front, "the first window in front at its start")
         self.session.output("xdotool", "windowminimize", window)
         wait_until(lambda: not first.is_in_front(), "the window is minimised")
         second = self.start()

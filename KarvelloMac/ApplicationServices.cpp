@@ -74,7 +74,8 @@ KarvelloUI::DashboardServices ApplicationServices::dashboard()
     };
 }
 
-KarvelloUI::MacCleanerDashboardDependencies ApplicationServices::makeDependencies(KarvelloUI::LanguageProvider language)
+KarvelloUI::MacCleanerDashboardDependencies ApplicationServices::makeDependencies(
+    const KarvelloUI::LanguageProvider& language)
 {
     KarvelloUI::MacCleanerDashboardDependencies::Providers providers;
     providers.runningApplications = [this] {

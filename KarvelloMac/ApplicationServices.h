@@ -35,7 +35,8 @@ public:
     ApplicationServices& operator=(const ApplicationServices&) = delete;
 
     [[nodiscard]] KarvelloUI::DashboardServices dashboard();
-    [[nodiscard]] KarvelloUI::MacCleanerDashboardDependencies makeDependencies(KarvelloUI::LanguageProvider language);
+    [[nodiscard]] KarvelloUI::MacCleanerDashboardDependencies makeDependencies(
+        const KarvelloUI::LanguageProvider& language);
     /// What notifies through the desktop, or nothing where there is no session to notify in.
     [[nodiscard]] std::unique_ptr<KarvelloUI::KarvelloMenuBarReminderScheduling> makeReminderScheduler();
     /// The user's languages, the most wanted first.

@@ -115,11 +115,13 @@ class Session:
         self._log.close()
 
     def _start_display(self):
-        """The number comes from our process number: servers that look for a free one can take the same at the same time."""
+        """The number comes from our process number: servers that look for a free one can take the same at the same time.
+
+        Without -noreset the display begins anew when its last client goes, and takes along who just comes."""
         reading, writing = os.pipe()
         number = 100 + os.getpid() % 50_000
         self._processes.append(start(
-            ["Xvfb", f":{number}", "-displayfd", writing, "-screen", "0", "1400x1000x24", "-nolisten", "tcp", "-fbdir",
+            ["Xvfb", f":{number}", "-displayfd", writing, "-screen", "0", "1400x1000x24", "-nolisten", "tcp", "-noreset", "-fbdir",
              self.folder],
             self.environment, stdout=self._log, stderr=self._log, pass_fds=[writing]))
         os.close(writing)

@@ -1,3 +1,5 @@
+// The button is named for the moment at which the dialog opens; by then its contents are there.
+// qmllint disable deferred-property-id
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T

@@ -33,7 +33,7 @@ class DashboardScreens final : public QObject {
     Q_PROPERTY(bool isOnboardingShown READ isOnboardingShown NOTIFY onboardingShownChanged FINAL)
     Q_PROPERTY(KarvelloUI::SidebarModel* sidebar READ sidebar CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::WindowMessagesModel* messages READ messages CONSTANT FINAL)
-    Q_PROPERTY(KarvelloUI::ConfirmationModel* confirmation READ confirmation CONSTANT FINAL)
+    Q_PROPERTY(QObject* confirmation READ confirmation CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::OnboardingScreenModel* onboarding READ onboarding CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::HomeScreenModel* home READ home CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::CleanupScreenModel* cleanup READ cleanup CONSTANT FINAL)
@@ -57,7 +57,7 @@ public:
     [[nodiscard]] bool isOnboardingShown() const { return !m_dashboard.preferences().isOnboardingCompleted(); }
     [[nodiscard]] SidebarModel* sidebar() { return &m_sidebar; }
     [[nodiscard]] WindowMessagesModel* messages() { return &m_messages; }
-    [[nodiscard]] ConfirmationModel* confirmation() { return &m_confirmation; }
+    [[nodiscard]] QObject* confirmation() { return &m_confirmation; }
     [[nodiscard]] OnboardingScreenModel* onboarding() { return &m_onboarding; }
     [[nodiscard]] HomeScreenModel* home() { return &m_home; }
     [[nodiscard]] CleanupScreenModel* cleanup() { return &m_cleanup; }

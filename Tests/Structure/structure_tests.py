@@ -101,8 +101,9 @@ class Qt(StructureTest):
 
 class Headers(StructureTest):
     compiler = os.environ.get("KARVELLO_CXX_COMPILER", "c++")
-    # Qt insists on code that may stand anywhere.
-    flags = ["-fPIC"] + [f"-isystem{folder}" for folder in os.environ.get("KARVELLO_INCLUDES", "").split(":") if folder]
+    # Qt insists on code that may stand anywhere. The system's own folder, named once more, would come too early.
+    flags = ["-fPIC", "-DQT_GUI_LIB"] + [f"-isystem{folder}" for folder in os.environ.get("KARVELLO_INCLUDES", "").split(":")
+                         if folder not in ("", "/usr/include")]
 
     def test_compile_alone(self):
         self.assert_none(headers.offences(ROOT, headers.to_compile(self.files), self.compiler, self.flags))

@@ -7,6 +7,7 @@
 
 #include <QLocale>
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
@@ -248,7 +249,7 @@ qreal CleanupScreenModel::progress() const
 
 QString CleanupScreenModel::progressText() const
 {
-    return progress() < 0 ? QString() : QStringLiteral("%1%").arg(static_cast<int>(progress() * 100 + 0.5));
+    return progress() < 0 ? QString() : QStringLiteral("%1%").arg(std::lround(progress() * 100));
 }
 
 QVariantList CleanupScreenModel::figures() const

@@ -1,3 +1,5 @@
+// Parts of this file know the ids around them. The pragma that would say so breaks loaders and inline parts in Qt 6.4.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Layouts
 import Karvello.Design

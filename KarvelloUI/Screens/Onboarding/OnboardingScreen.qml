@@ -1,3 +1,5 @@
+// Parts of this file know the ids around them. The pragma that would say so breaks loaders and inline parts in Qt 6.4.
+// qmllint disable unqualified
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
@@ -203,7 +205,7 @@ FocusScope {
         KarvelloText {
             Layout.fillWidth: true
             Layout.topMargin: KarvelloDesign.spacing8
-            text: control.screen.principles.join("  ·  ")
+            text: control.screen.principles
             textStyle: KarvelloDesign.small
             color: KarvelloDesign.ink3
             horizontalAlignment: Text.AlignHCenter

@@ -91,11 +91,11 @@ QVariantList OnboardingScreenModel::cards() const
     };
 }
 
-QStringList OnboardingScreenModel::principles() const
+QString OnboardingScreenModel::principles() const
 {
     const auto words = m_dashboard.words();
-    return {shown(words.trustReviewPill()), shown(words.trustTrashPill()),
-        shown(words.text("지표는 이 기기에서만 계산됩니다.", "Metrics are computed locally on this device."))};
+    return shown(DashboardWords::joinedParts({words.trustReviewPill(), words.trustTrashPill(),
+        words.text("지표는 이 기기에서만 계산됩니다.", "Metrics are computed locally on this device.")}));
 }
 
 void OnboardingScreenModel::chooseLanguage(int index)

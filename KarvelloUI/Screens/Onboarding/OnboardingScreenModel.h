@@ -44,8 +44,8 @@ class OnboardingScreenModel final : public QObject {
     Q_PROPERTY(int languageIndex READ languageIndex NOTIFY changed FINAL)
     /// A list of `OnboardingCard`: scan first, access, safety.
     Q_PROPERTY(QVariantList cards READ cards NOTIFY changed FINAL)
-    /// What it stands for, in a few words each.
-    Q_PROPERTY(QStringList principles READ principles NOTIFY changed FINAL)
+    /// What it stands for, in a few words.
+    Q_PROPERTY(QString principles READ principles NOTIFY changed FINAL)
 
 public:
     /// `dashboard` outlives the model.
@@ -63,7 +63,7 @@ public:
     [[nodiscard]] QStringList languages() const;
     [[nodiscard]] int languageIndex() const;
     [[nodiscard]] QVariantList cards() const;
-    [[nodiscard]] QStringList principles() const;
+    [[nodiscard]] QString principles() const;
 
     /// Holds at once.
     Q_INVOKABLE void chooseLanguage(int index);

@@ -56,8 +56,9 @@ def end(process):
 class Session:
     """What is in `environment` is all that a program needs to take part."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, display=(1400, 1000)):
         self.folder = pathlib.Path(folder)
+        self._display_size = display
         self._processes = []
         self._log = open(self.folder / "session.log", "wb")
         try:
@@ -120,8 +121,9 @@ class Session:
         Without -noreset the display begins anew when its last client goes, and takes along who just comes."""
         reading, writing = os.pipe()
         number = 100 + os.getpid() % 50_000
+        width, height = self._display_size
         self._processes.append(start(
-            ["Xvfb", f":{number}", "-displayfd", writing, "-screen", "0", "1400x1000x24", "-nolisten", "tcp", "-noreset", "-fbdir",
+            ["Xvfb", f":{number}", "-displayfd", writing, "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset", "-fbdir",
              self.folder],
             self.environment, stdout=self._log, stderr=self._log, pass_fds=[writing]))
         os.close(writing)
@@ -144,6 +146,7 @@ class Session:
         """One key of its own, which closes windows; and a window that opens gets the focus."""
         file = self.folder / "openbox.xml"
         file.write_text("<openbox_config xmlns='http://openbox.org/3.4/rc'><focus><focusNew>yes</focusNew></focus>"
+                        "<theme><keepBorder>no</keepBorder></theme>"
                         "<desktops><number>1</number></desktops>"
                         "<keyboard><keybind key='A-F4'><action name='Close'/></keybind></keyboard>"
                         # xdotool tells the place of a window wrongly by its frame.

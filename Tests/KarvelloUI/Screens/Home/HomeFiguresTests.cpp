@@ -50,14 +50,17 @@ TEST(HomeMetrics, AMachineWithoutSensorsHasEverythingElse)
                                    .memoryPressure = "Unknown",
                                    .normalizedCPULoad = 0.25,
                                    .thermalState = "Unknown"},
-        historyOf({0.1}), kEnglish);
+        historyOf({0.1, 0.1}), kEnglish);
     EXPECT_EQ(shown.at(0).figure, QStringLiteral("25%"));
     EXPECT_EQ(shown.at(1).figure, QStringLiteral("50%"));
     EXPECT_EQ(shown.at(1).unit, QStringLiteral("8 GB / 16 GB"));
     EXPECT_EQ(shown.at(1).text, QString());
     EXPECT_EQ(shown.at(2).figure, QStringLiteral("—"));
     EXPECT_EQ(shown.at(2).text, QStringLiteral("No reading"));
-    EXPECT_EQ(shown.at(0).emptyText, QStringLiteral("1 sample"));
+    EXPECT_EQ(shown.at(0).samples.size(), 2);
+    // No curve of what nobody measured.
+    EXPECT_EQ(shown.at(2).samples.size(), 0);
+    EXPECT_EQ(shown.at(2).emptyText, QStringLiteral("No samples"));
 }
 
 TEST(HomeMetrics, ALoadThatIsNoNumberIsNotShownAsOne)

@@ -66,6 +66,8 @@ Rectangle {
         ColumnLayout {
             id: body
             Layout.fillHeight: control.fillsHeight
+            // Without anything in it, the head is all.
+            Layout.topMargin: implicitHeight > 0 || control.title === "" ? 0 : -KarvelloDesign.spacing12
             spacing: KarvelloDesign.spacing12
         }
     }

@@ -31,6 +31,8 @@ T.Dialog {
     focus: true
     closePolicy: T.Popup.CloseOnEscape
     onClosed: {
+        // Else it would have the focus at the next opening before it is given, and not show it.
+        cancelButton.focus = false
         if (opener)
             opener.forceActiveFocus(openerReason)
         opener = null

@@ -109,7 +109,7 @@ FocusScope {
 
             ColumnLayout {
                 Layout.fillWidth: true
-                spacing: 0
+                spacing: 2
 
                 KarvelloText {
                     Layout.fillWidth: true

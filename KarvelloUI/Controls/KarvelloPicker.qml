@@ -18,6 +18,7 @@ FocusScope {
     readonly property real segmentsWidth: texts.reduce(
         (sum, text) => sum + Math.ceil(metrics.advanceWidth(text)) + 2 * KarvelloDesign.spacing12 + 1,
         KarvelloDesign.textFactor > 0 ? 4 : 0)
+    readonly property real dropDownWidth: Math.max(88, Math.min(dropDown.implicitWidth, maximumWidth))
     readonly property bool isSegmented: !isDropDown && choices.length <= 4 && segmentsWidth <= maximumWidth
 
     signal picked(var value)
@@ -27,7 +28,7 @@ FocusScope {
             picked(choices[index].value)
     }
 
-    implicitWidth: isSegmented ? segments.implicitWidth : Math.max(88, Math.min(dropDown.implicitWidth, maximumWidth))
+    implicitWidth: isSegmented ? segments.implicitWidth : dropDownWidth
     implicitHeight: isSegmented ? segments.implicitHeight : dropDown.implicitHeight
 
     FontMetrics {

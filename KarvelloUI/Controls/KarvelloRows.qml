@@ -29,7 +29,10 @@ ListView {
     interactive: contentHeight > height
     // Rows ahead are ready before they are seen.
     cacheBuffer: 400
-    T.ScrollBar.vertical: KarvelloScrollBar {}
+    T.ScrollBar.vertical: KarvelloScrollBar {
+        // Rows that become lower leave the old share in it.
+        policy: list.interactive ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
+    }
 
     Accessible.role: Accessible.List
     Accessible.name: accessibleName

@@ -32,6 +32,8 @@ T.Dialog {
     }
     onOpened: okButton.forceActiveFocus(Qt.TabFocusReason)
     onClosed: {
+        // Else it would have the focus at the next opening before it is given, and not show it.
+        okButton.focus = false
         messages.dismissAlert()
         if (opener)
             opener.forceActiveFocus(Qt.PopupFocusReason)

@@ -85,9 +85,12 @@ Window {
                 spacing: 0
 
                 ColumnLayout {
+                    // As far from the edges as the page below.
+                    readonly property int sideMargin: parent.width < 1000 ? KarvelloDesign.spacing24 : KarvelloDesign.spacing32
                     Layout.fillWidth: true
-                    Layout.margins: KarvelloDesign.spacing16
-                    Layout.bottomMargin: 0
+                    Layout.topMargin: KarvelloDesign.spacing16
+                    Layout.leftMargin: sideMargin
+                    Layout.rightMargin: sideMargin
                     visible: access.visible || notice.visible
                     spacing: KarvelloDesign.spacing8
 

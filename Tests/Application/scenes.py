@@ -184,7 +184,8 @@ class Studio:
             self._session.output("xdotool", "windowmove", window, 0, 0, "windowsize", "--sync", window, width, height)
             yield self._application
         except BaseException:
-            print(self._application.said(), self._application.shown.told(), flush=True)
+            print("The program", "runs" if self._application.is_running() else f"ended with {self._application.process.returncode}",
+                  "and said:", self._application.said(), "On show is:", self._application.shown.told(), sep="\n", flush=True)
             raise
         finally:
             self._application.end()
@@ -272,9 +273,11 @@ class Studio:
             self._take(name)
             if suffix == "" and section in SCROLLED and self._wants(name + "-end"):
                 width, height = (self._options.factor * length for length in self._options.size)
-                self._session.output("xdotool", "mousemove", width - 10, height // 2, "click", "--repeat", 40, 5)
-                self._leave()
-                self._take(name + "-end")
+                for end, wheel in ((name + "-end", 5), (None, 4)):
+                    self._session.output("xdotool", "mousemove", width - 10, height // 2, "click", "--repeat", 40, wheel)
+                    self._leave()
+                    if end:
+                        self._take(end)
 
     def _take(self, name, window=None):
         """Once it does not change any more. Figures that change by the second do not keep the picture for ever."""

@@ -12,6 +12,7 @@ FocusScope {
     required property CleanupScreenModel screen
     // A CleanupListModel.
     readonly property var rows: screen.list
+    readonly property alias contentHeight: list.contentHeight
 
     function focusRow(row: int) {
         if (row < 0 || row >= list.count)

@@ -60,6 +60,8 @@ KarvelloPage {
     RowLayout {
         Layout.fillWidth: true
         Layout.topMargin: -KarvelloDesign.spacing8
+        // The last button's words, not its edge, end with the list below.
+        Layout.rightMargin: skippedButton.visible || ignoredButton.visible ? -skippedButton.horizontalPadding : 0
         visible: control.hasReport
         spacing: KarvelloDesign.spacing12
 
@@ -84,6 +86,7 @@ KarvelloPage {
             color: KarvelloDesign.ink3
         }
         KarvelloButton {
+            id: skippedButton
             objectName: "skipped"
             visible: text !== ""
             kind: KarvelloButton.Quiet
@@ -93,6 +96,7 @@ KarvelloPage {
             onClicked: control.showPanel(control.panel === "skipped" ? "" : "skipped")
         }
         KarvelloButton {
+            id: ignoredButton
             objectName: "ignored"
             visible: text !== ""
             kind: KarvelloButton.Quiet
@@ -169,6 +173,9 @@ KarvelloPage {
     Rectangle {
         Layout.fillWidth: true
         Layout.fillHeight: true
+        // A short list leaves no empty sheet below it.
+        Layout.maximumHeight: control.screen.isEverythingFiltered ? Infinity
+            : Math.max(320, Math.ceil(candidates.contentHeight) + 2)
         visible: control.hasList && control.panel === ""
         radius: KarvelloDesign.cardRadius
         color: KarvelloDesign.elevated1
@@ -191,6 +198,11 @@ KarvelloPage {
             actionText: control.screen.texts.clearFilters
             onActionRequested: control.screen.clearFilters()
         }
+    }
+    Item {
+        Layout.fillHeight: true
+        Layout.topMargin: -KarvelloDesign.spacing16
+        visible: control.hasList && control.panel === ""
     }
     SkippedPanel {
         id: skippedPanel

@@ -3,14 +3,20 @@ import QtQuick.Layouts
 import Karvello.Design
 import Karvello.Screens.Cleanup
 
-// How to scan and what to show of what was found. When there is no room, the filters fold into one menu.
+// How to scan and what to show of what was found. Where room is short, the groupings become a drop-down; where there is none,
+// all filters fold into one menu.
 RowLayout {
     id: control
 
     required property CleanupScreenModel screen
-    readonly property bool isFolded: KarvelloDesign.textFactor >= 1.25 || width < fullWidth
-    readonly property real fullWidth: modes.implicitWidth + 200 + categories.implicitWidth + safetyLevels.implicitWidth
-        + groupings.implicitWidth + 4 * spacing
+    readonly property real widthForGroupings: width - modes.implicitWidth - leastSearchWidth - categories.implicitWidth
+        - safetyLevels.implicitWidth - 4 * spacing
+    readonly property bool hasSegments: groupings.segmentsWidth <= widthForGroupings
+    readonly property bool isFolded: KarvelloDesign.textFactor >= 1.25
+        || !hasSegments && groupings.dropDownWidth > widthForGroupings
+    readonly property int leastSearchWidth: 144
+    // A long choice is shown in full by the list that drops down.
+    readonly property int mostFilterWidth: 152
 
     // Escape on an empty field.
     signal leaveRequested()
@@ -40,7 +46,7 @@ RowLayout {
         id: search
         objectName: "search"
         Layout.fillWidth: true
-        Layout.minimumWidth: 120
+        Layout.minimumWidth: control.leastSearchWidth
         iconName: "search"
         placeholderText: control.screen.texts.search
         clearName: control.screen.texts.clearSearch
@@ -60,6 +66,7 @@ RowLayout {
         id: categories
         visible: !control.isFolded
         isDropDown: true
+        maximumWidth: control.mostFilterWidth
         choices: control.screen.categories
         currentValue: control.screen.category
         accessibleName: control.screen.texts.category
@@ -70,6 +77,7 @@ RowLayout {
         id: safetyLevels
         visible: !control.isFolded
         isDropDown: true
+        maximumWidth: control.mostFilterWidth
         choices: control.screen.safetyLevels
         currentValue: control.screen.safety
         accessibleName: control.screen.texts.safety
@@ -79,6 +87,8 @@ RowLayout {
     KarvelloPicker {
         id: groupings
         visible: !control.isFolded
+        isDropDown: !control.hasSegments
+        maximumWidth: isDropDown ? control.mostFilterWidth : Infinity
         choices: control.screen.groupings
         currentValue: control.screen.grouping
         accessibleName: control.screen.texts.grouping

@@ -10,14 +10,16 @@ KarvelloCard {
 
     required property CleanupScreenModel screen
 
+    readonly property var steps: [screen.texts.flowAccess, screen.texts.flowScan, screen.texts.flowReview]
+
     title: screen.texts.flow
 
     Repeater {
-        model: [control.screen.texts.flowAccess, control.screen.texts.flowScan, control.screen.texts.flowReview]
+        // By their number: rows that are made anew in another language leave the layout with ones that are gone.
+        model: control.steps.length
 
         RowLayout {
             id: step
-            required property string modelData
             required property int index
             spacing: KarvelloDesign.spacing12
 
@@ -42,7 +44,7 @@ KarvelloCard {
             }
             KarvelloText {
                 Layout.fillWidth: true
-                text: step.modelData
+                text: control.steps[step.index]
                 emphasis: step.index === 1 ? KarvelloText.Medium : KarvelloText.Plain
                 color: step.index === 1 ? KarvelloDesign.ink : step.index === 0 ? KarvelloDesign.ink2 : KarvelloDesign.ink3
                 wrapMode: Text.Wrap

@@ -26,7 +26,8 @@ Rectangle {
         list.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 
-    implicitHeight: head.implicitHeight + 2 * KarvelloDesign.spacing12 + 160
+    implicitHeight: head.implicitHeight + 2 * KarvelloDesign.spacing12 + 3
+        + (list.count === 0 ? 160 : Math.min(Math.ceil(list.contentHeight), 160))
     radius: KarvelloDesign.cardRadius
     color: KarvelloDesign.elevated1
     border.color: KarvelloDesign.line

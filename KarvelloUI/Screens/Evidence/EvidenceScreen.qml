@@ -87,6 +87,8 @@ KarvelloPage {
             LastResultCard {
                 objectName: "lastClean"
                 Layout.fillWidth: true
+                // What it moved, the report above tells already.
+                visible: result.failedTitle !== ""
                 result: control.screen.lastClean
             }
             ReviewLoopPanel {

@@ -9,6 +9,8 @@ Rectangle {
     default property alias content: body.data
     property alias headItems: head.data
     property alias footItems: foot.data
+    // At the right below the foot's items.
+    property alias footActions: footActionRow.data
     property string title
     property string subtitle
     property string note
@@ -80,7 +82,7 @@ Rectangle {
         Rectangle {
             Layout.fillWidth: true
             visible: control.hasFoot
-            implicitHeight: Math.ceil(foot.implicitHeight) + 2 * KarvelloDesign.spacing12
+            implicitHeight: Math.ceil(footColumn.implicitHeight) + 2 * KarvelloDesign.spacing12
             radius: KarvelloDesign.cardRadius - 1
             color: KarvelloDesign.elevated2
 
@@ -89,12 +91,23 @@ Rectangle {
                 height: parent.radius
                 color: parent.color
             }
-            RowLayout {
-                id: foot
+            ColumnLayout {
+                id: footColumn
                 x: KarvelloDesign.spacing16
                 y: KarvelloDesign.spacing12
                 width: parent.width - 2 * x
-                spacing: KarvelloDesign.spacing12
+                spacing: KarvelloDesign.spacing8
+
+                RowLayout {
+                    id: foot
+                    spacing: KarvelloDesign.spacing12
+                }
+                RowLayout {
+                    id: footActionRow
+                    Layout.alignment: Qt.AlignRight
+                    Layout.fillWidth: false
+                    spacing: KarvelloDesign.spacing8
+                }
             }
         }
     }

@@ -20,11 +20,12 @@ ListCard {
         text: control.center.eligibleText
     }
     hasFoot: center.offersRestore
+    // The hint is a long one: the button has its own line.
     footItems: [
         KarvelloCheckBox {
             objectName: "restoreAll"
-            Layout.leftMargin: -padding
-            Layout.rightMargin: -padding
+            Layout.alignment: Qt.AlignTop
+            Layout.margins: -padding
             accessibleName: control.center.checkName
             enabled: control.center.canSelect
             isAsking: true
@@ -38,10 +39,12 @@ ListCard {
             textStyle: KarvelloDesign.small
             color: KarvelloDesign.ink3
             wrapMode: Text.Wrap
-        },
+        }
+    ]
+    footActions: [
         KarvelloButton {
             objectName: "restore"
-            Layout.maximumWidth: control.width * 0.55
+            Layout.maximumWidth: control.width - 2 * KarvelloDesign.spacing20
             kind: KarvelloButton.Tonal
             iconName: "restore"
             text: control.center.restoreTitle
@@ -57,17 +60,6 @@ ListCard {
         iconName: "restore"
         title: control.center.emptyTitle
         text: control.center.emptyText
-    }
-    KarvelloText {
-        Layout.fillWidth: true
-        Layout.margins: KarvelloDesign.spacing20
-        Layout.topMargin: KarvelloDesign.spacing12
-        Layout.bottomMargin: KarvelloDesign.spacing12
-        visible: !control.center.isEmpty
-        text: control.center.body + " " + control.center.trashNote
-        textStyle: KarvelloDesign.small
-        color: KarvelloDesign.ink3
-        wrapMode: Text.Wrap
     }
     KarvelloRows {
         objectName: "restoreRows"
@@ -134,6 +126,17 @@ ListCard {
                 }
             }
         }
+    }
+    KarvelloText {
+        Layout.fillWidth: true
+        Layout.margins: KarvelloDesign.spacing20
+        Layout.topMargin: KarvelloDesign.spacing12
+        Layout.bottomMargin: KarvelloDesign.spacing12
+        visible: !control.center.isEmpty
+        text: control.center.body + " " + control.center.trashNote
+        textStyle: KarvelloDesign.small
+        color: KarvelloDesign.ink3
+        wrapMode: Text.Wrap
     }
     KarvelloMenu {
         id: menu

@@ -9,10 +9,11 @@ KarvelloCard {
     property var lines: []
 
     Repeater {
-        model: control.lines
+        // By their number: rows that are made anew in another language leave the layout with ones that are gone.
+        model: control.lines.length
         RowLayout {
             id: line
-            required property string modelData
+            required property int index
 
             spacing: KarvelloDesign.spacing12
 
@@ -23,7 +24,7 @@ KarvelloCard {
             }
             KarvelloText {
                 Layout.fillWidth: true
-                text: line.modelData
+                text: control.lines[line.index] ?? ""
                 wrapMode: Text.Wrap
             }
         }

@@ -59,14 +59,21 @@ KarvelloCard {
             Accessible.ignored: true
         }
     }
-    Item { Layout.fillHeight: true }
-    KarvelloButton {
-        objectName: "coachAction"
-        Layout.maximumWidth: control.width - 2 * control.padding
-        kind: KarvelloButton.Link
-        size: KarvelloButton.Small
-        leftPadding: 0
-        text: control.entry.actionTitle
-        onClicked: control.actionRequested()
+    // Cards side by side have their links at one height.
+    Item {
+        Layout.fillHeight: true
+        implicitHeight: action.implicitHeight
+
+        KarvelloButton {
+            id: action
+            objectName: "coachAction"
+            anchors.bottom: parent.bottom
+            width: Math.min(implicitWidth, control.width - 2 * control.padding)
+            kind: KarvelloButton.Link
+            size: KarvelloButton.Small
+            leftPadding: 0
+            text: control.entry.actionTitle
+            onClicked: control.actionRequested()
+        }
     }
 }

@@ -79,8 +79,10 @@ std::vector<HomeMetric> metrics(const CleanerCore::SystemResourceSnapshot& snaps
             isKnown(snapshot.memoryPressure) ? shown(words.localizedPressure(snapshot.memoryPressure)) : QString();
     }
 
-    HomeMetric thermal =
-        metric(QStringLiteral("thermal"), words.text("발열", "Thermal"), history.thermalPressure(), words);
+    // The history keeps a value for machines that tell none; a curve of it would look like a reading.
+    const bool isTold = snapshot == CleanerCore::SystemResourceSnapshot() || isKnown(snapshot.thermalState);
+    HomeMetric thermal = metric(QStringLiteral("thermal"), words.text("발열", "Thermal"),
+        isTold ? std::span<const double>(history.thermalPressure()) : std::span<const double>(), words);
     if (isKnown(snapshot.thermalState)) {
         thermal.figure = shown(words.localizedThermalState(snapshot.thermalState));
         thermal.text = shown(words.text(

@@ -145,6 +145,7 @@ KarvelloCard {
             objectName: "openReview"
             kind: KarvelloButton.Link
             size: KarvelloButton.Small
+            leftPadding: 0
             text: control.panel.openReviewTitle
             width: Math.min(implicitWidth, parent.width)
             onClicked: control.panel.openReview()

@@ -104,7 +104,7 @@ FocusScope {
                     kind: KarvelloButton.Primary
                     size: KarvelloButton.Large
                     text: control.screen.primaryText
-                    iconName: "folder"
+                    iconName: control.screen.primaryIconName
                     enabled: control.screen.isPrimaryEnabled
                     onClicked: control.screen.begin()
                 }
@@ -168,10 +168,12 @@ FocusScope {
             }
         }
         Repeater {
-            model: control.screen.cards
+            // By their number: cards that are made anew in another language leave the layout with ones that are gone.
+            model: control.screen.cards.length
             KarvelloCard {
                 id: card
-                required property var modelData
+                required property int index
+                readonly property var modelData: control.screen.cards[index]
                 Layout.fillWidth: true
                 RowLayout {
                     Layout.fillWidth: true

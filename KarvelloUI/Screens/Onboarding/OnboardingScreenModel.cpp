@@ -32,6 +32,11 @@ QString OnboardingScreenModel::primaryText() const
     return shown(m_dashboard.words().macOnboardingPrimaryButton(m_dashboard.hasHomeAccess()));
 }
 
+QString OnboardingScreenModel::primaryIconName() const
+{
+    return m_dashboard.hasHomeAccess() ? QStringLiteral("scan") : QStringLiteral("folder");
+}
+
 bool OnboardingScreenModel::isPrimaryEnabled() const
 {
     const MacAccessPolicy policy = m_dashboard.accessPolicy();

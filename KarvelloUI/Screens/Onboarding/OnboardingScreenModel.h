@@ -33,6 +33,7 @@ class OnboardingScreenModel final : public QObject {
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
     Q_PROPERTY(QString body READ body NOTIFY changed FINAL)
     Q_PROPERTY(QString primaryText READ primaryText NOTIFY changed FINAL)
+    Q_PROPERTY(QString primaryIconName READ primaryIconName NOTIFY changed FINAL)
     Q_PROPERTY(bool isPrimaryEnabled READ isPrimaryEnabled NOTIFY changed FINAL)
     Q_PROPERTY(QString secondaryText READ secondaryText NOTIFY changed FINAL)
     Q_PROPERTY(QString skipCaption READ skipCaption NOTIFY changed FINAL)
@@ -55,6 +56,7 @@ public:
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString body() const;
     [[nodiscard]] QString primaryText() const;
+    [[nodiscard]] QString primaryIconName() const;
     [[nodiscard]] bool isPrimaryEnabled() const;
     [[nodiscard]] QString secondaryText() const;
     [[nodiscard]] QString skipCaption() const;

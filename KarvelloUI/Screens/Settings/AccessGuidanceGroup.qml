@@ -32,18 +32,18 @@ SettingsGroup {
 
         Repeater {
             id: steps
-            model: control.group.steps
+            // By their number: steps that are made anew in another language leave the layout with ones that are gone.
+            model: control.group.steps.length
 
             GuidanceStep {
                 required property int index
-                required property var modelData
 
                 objectName: "guidanceStep"
                 Layout.fillWidth: true
-                step: modelData
+                step: control.group.steps[index]
                 isLast: index === steps.count - 1
                 copyText: control.group.copyText
-                onCopyRequested: control.group.copySamples(modelData.number)
+                onCopyRequested: control.group.copySamples(step.number)
             }
         }
     }

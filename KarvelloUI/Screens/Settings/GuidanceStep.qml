@@ -104,11 +104,11 @@ Item {
                     }
                 }
                 Repeater {
-                    model: control.step.samples
+                    model: control.step.samples.length
                     KarvelloText {
-                        required property string modelData
+                        required property int index
                         Layout.fillWidth: true
-                        text: modelData
+                        text: control.step.samples[index] ?? ""
                         textStyle: KarvelloDesign.small
                         color: KarvelloDesign.ink2
                         elide: Text.ElideMiddle

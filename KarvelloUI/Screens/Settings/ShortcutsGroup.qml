@@ -16,11 +16,13 @@ SettingsGroup {
         spacing: KarvelloDesign.spacing8
 
         Repeater {
-            model: control.shortcuts
+            // By their number: rows that are made anew in another language leave the layout with ones that are gone.
+            model: control.shortcuts.length
 
             RowLayout {
                 id: shortcut
-                required property var modelData
+                required property int index
+                readonly property var modelData: control.shortcuts[index]
 
                 objectName: "shortcut"
                 spacing: KarvelloDesign.spacing12

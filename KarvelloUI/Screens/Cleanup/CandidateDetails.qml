@@ -31,7 +31,7 @@ ColumnLayout {
                 spacing: 0
                 Accessible.role: Accessible.StaticText
                 Accessible.name: KarvelloDesign.spoken([modelData.title, modelData.text])
-    
+
                 KarvelloText {
                     Layout.fillWidth: true
                     text: fact.modelData.title

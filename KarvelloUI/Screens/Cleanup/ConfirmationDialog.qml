@@ -63,13 +63,13 @@ KarvelloDialog {
                     required property var modelData
                     width: lines.width
                     spacing: 0
-    
+
                     RowLayout {
                         Layout.minimumHeight: 35
                         spacing: KarvelloDesign.spacing12
                         Accessible.role: Accessible.StaticText
                         Accessible.name: KarvelloDesign.spoken([line.modelData.name, line.modelData.count, line.modelData.size])
-    
+
                         KarvelloText {
                             Layout.fillWidth: true
                             text: line.modelData.name

@@ -16,32 +16,40 @@ ColumnLayout {
 
     spacing: KarvelloDesign.spacing8
 
-    Repeater {
-        model: control.facts
-        ColumnLayout {
-            id: fact
-            required property var modelData
-            spacing: 0
-            Accessible.role: Accessible.StaticText
-            Accessible.name: KarvelloDesign.spoken([modelData.title, modelData.text])
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: list
+        Layout.fillWidth: true
+        spacing: KarvelloDesign.spacing8
 
-            KarvelloText {
-                Layout.fillWidth: true
-                text: fact.modelData.title
-                textStyle: KarvelloDesign.label
-                wrapMode: Text.Wrap
-                color: KarvelloDesign.ink4
-                Accessible.ignored: true
-            }
-            KarvelloText {
-                Layout.fillWidth: true
-                Layout.maximumWidth: 820
-                text: fact.modelData.text
-                textStyle: KarvelloDesign.small
-                color: KarvelloDesign.ink2
-                // A path has no blanks to break at.
-                wrapMode: Text.WrapAtWordBoundaryOrAnywhere
-                Accessible.ignored: true
+        Repeater {
+            model: control.facts
+            ColumnLayout {
+                id: fact
+                required property var modelData
+                width: list.width
+                spacing: 0
+                Accessible.role: Accessible.StaticText
+                Accessible.name: KarvelloDesign.spoken([modelData.title, modelData.text])
+
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: fact.modelData.title
+                    textStyle: KarvelloDesign.label
+                    wrapMode: Text.Wrap
+                    color: KarvelloDesign.ink4
+                    Accessible.ignored: true
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    Layout.maximumWidth: 820
+                    text: fact.modelData.text
+                    textStyle: KarvelloDesign.small
+                    color: KarvelloDesign.ink2
+                    // A path has no blanks to break at.
+                    wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+                    Accessible.ignored: true
+                }
             }
         }
     }

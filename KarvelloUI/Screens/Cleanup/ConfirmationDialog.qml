@@ -35,12 +35,16 @@ KarvelloDialog {
             color: KarvelloDesign.ink
             Accessible.role: Accessible.Heading
         }
-        Repeater {
-            model: control.confirmation.pills
-            KarvelloPill {
-                required property var modelData
-                text: modelData.text
-                kind: modelData.kind
+        // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+        Row {
+            spacing: KarvelloDesign.spacing8
+            Repeater {
+                model: control.confirmation.pills
+                KarvelloPill {
+                    required property var modelData
+                    text: modelData.text
+                    kind: modelData.kind
+                }
             }
         }
     }
@@ -49,42 +53,48 @@ KarvelloDialog {
         spacing: 0
 
         Rule {}
-        Repeater {
-            model: control.confirmation.lines
-            ColumnLayout {
-                id: line
-                required property var modelData
-                spacing: 0
+        Column {
+            id: lines
+            Layout.fillWidth: true
 
-                RowLayout {
-                    Layout.minimumHeight: 35
-                    spacing: KarvelloDesign.spacing12
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: KarvelloDesign.spoken([line.modelData.name, line.modelData.count, line.modelData.size])
+            Repeater {
+                model: control.confirmation.lines
+                ColumnLayout {
+                    id: line
+                    required property var modelData
+                    width: lines.width
+                    spacing: 0
 
-                    KarvelloText {
-                        Layout.fillWidth: true
-                        text: line.modelData.name
-                        emphasis: KarvelloText.Medium
-                        color: KarvelloDesign.ink
-                        Accessible.ignored: true
+                    RowLayout {
+                        Layout.minimumHeight: 35
+                        spacing: KarvelloDesign.spacing12
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: KarvelloDesign.spoken([line.modelData.name, line.modelData.count, line.modelData.size])
+
+                        KarvelloText {
+                            Layout.fillWidth: true
+                            text: line.modelData.name
+                            emphasis: KarvelloText.Medium
+                            color: KarvelloDesign.ink
+                            Accessible.ignored: true
+                        }
+                        KarvelloText {
+                            text: line.modelData.count
+                            textStyle: KarvelloDesign.small
+                            color: KarvelloDesign.ink3
+                            Accessible.ignored: true
+                        }
+                        KarvelloText {
+                            Layout.preferredWidth: Math.max(Math.round(72 * KarvelloDesign.textFactor), Math.ceil(implicitWidth))
+                            text: line.modelData.size
+                            emphasis: KarvelloText.Strong
+                            color: KarvelloDesign.ink
+                            horizontalAlignment: Text.AlignRight
+                            Accessible.ignored: true
+                        }
                     }
-                    KarvelloText {
-                        text: line.modelData.count
-                        textStyle: KarvelloDesign.small
-                        color: KarvelloDesign.ink3
-                        Accessible.ignored: true
-                    }
-                    KarvelloText {
-                        Layout.preferredWidth: Math.max(Math.round(72 * KarvelloDesign.textFactor), Math.ceil(implicitWidth))
-                        text: line.modelData.size
-                        emphasis: KarvelloText.Strong
-                        color: KarvelloDesign.ink
-                        horizontalAlignment: Text.AlignRight
-                        Accessible.ignored: true
-                    }
+                    Rule {}
                 }
-                Rule {}
             }
         }
         KarvelloText {

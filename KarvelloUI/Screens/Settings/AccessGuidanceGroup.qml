@@ -23,12 +23,14 @@ SettingsGroup {
         objectName: "guidanceText"
         text: control.group.text
     }
-    ColumnLayout {
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: list
+        Layout.fillWidth: true
         Layout.leftMargin: KarvelloDesign.spacing20
         Layout.rightMargin: KarvelloDesign.spacing20
         Layout.bottomMargin: KarvelloDesign.spacing8
         visible: control.group.steps.length > 0
-        spacing: 0
 
         Repeater {
             id: steps
@@ -39,7 +41,7 @@ SettingsGroup {
                 required property var modelData
 
                 objectName: "guidanceStep"
-                Layout.fillWidth: true
+                width: list.width
                 step: modelData
                 isLast: index === steps.count - 1
                 copyText: control.group.copyText

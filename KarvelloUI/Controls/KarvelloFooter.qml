@@ -36,9 +36,9 @@ Rectangle {
     readonly property real room: width - 2 * sideMargin - boxWidth - KarvelloDesign.spacing24
     readonly property real buttonsWidth: (clearText === "" ? 0 : clear.implicitWidth + buttons.spacing) + primary.implicitWidth
     readonly property real selectAllWidth: selectAllText === "" ? 0 : selectAll.implicitWidth + buttons.spacing
-    // Some of the sentence has to be readable as well.
+    // The sentence has to be readable as well, in two lines.
     readonly property real textWidth: Math.max(heading.implicitWidth,
-        Math.min(sentence.implicitWidth, Math.round(360 * KarvelloDesign.textFactor)))
+        Math.min(sentence.implicitWidth, Math.round(240 * KarvelloDesign.textFactor)))
     readonly property bool isFolded: selectAllText !== "" && textWidth + buttonsWidth + selectAllWidth > room
     readonly property bool hasRoomForPills: KarvelloDesign.textFactor < 1.25
         && heading.implicitWidth + pillRow.implicitWidth + KarvelloDesign.spacing8 + buttonsWidth + selectAllWidth <= room
@@ -118,6 +118,8 @@ Rectangle {
                 text: control.text
                 textStyle: KarvelloDesign.small
                 color: KarvelloDesign.ink3
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
             }
         }
     }

@@ -3,7 +3,7 @@ import QtQuick
 import Karvello.Design
 
 // What the colours of a treemap stand for: a list of { tint, text }.
-Flow {
+Row {
     id: control
 
     property var entries: []

@@ -3,23 +3,56 @@
 #include "CleanerCore/Insights/MacStorageInsightScanner.h"
 #include "KarvelloUI/Sessions/ScanRootAccess.h"
 
+#include <chrono>
 #include <utility>
 
 namespace KarvelloUI {
 
-InsightScanOperationResult performInsightScan(
-    const SessionServices& services, const InsightScanRequest& request, const std::stop_token& stop)
+namespace {
+
+using Progress = CleanerCore::InsightScanProgress;
+
+/// A scan tells of every few files; nobody can read more than some reports a second. Each folder is told of.
+class FewerReports {
+public:
+    explicit FewerReports(const std::function<void(const Progress&)>& report)
+        : m_report(report)
+    {
+    }
+
+    void operator()(const Progress& progress)
+    {
+        const auto now = std::chrono::steady_clock::now();
+        if (!m_last || progress.root != m_lastRoot || now - *m_last >= kLeastDistance) {
+            m_last = now;
+            m_lastRoot = progress.root;
+            m_report(progress);
+        }
+    }
+
+private:
+    static constexpr std::chrono::milliseconds kLeastDistance{100};
+
+    const std::function<void(const Progress&)>& m_report;
+    std::optional<std::chrono::steady_clock::time_point> m_last;
+    Platform::FileURL m_lastRoot;
+};
+
+} // namespace
+
+InsightScanOperationResult performInsightScan(const SessionServices& services, const InsightScanRequest& request,
+    const std::function<void(const Progress&)>& report, const std::stop_token& stop)
 {
     using Scanner = CleanerCore::MacStorageInsightScanner;
     const ScanRootAccess access(services, {}, request.homeAccessBookmark);
     const Scanner scanner(request.homeDirectory, services.fileManager, request.configuration,
         {.environment = services.environment, .currentSnapshot = request.systemSnapshotProvider});
-    auto report = scanner.scan(services.now(), {}, stop);
+    auto found = scanner.scan(services.now(), FewerReports(report), stop);
     auto scanned = ActiveScan::of(
         Scanner::allowedCleanupLocations(request.homeDirectory, services.fileManager, services.environment),
         services.fileManager, request.homeDirectory);
     scanned.homeAccessBookmark = request.homeAccessBookmark;
-    InsightScanOperationResult result{.report = std::move(report), .scanned = std::move(scanned)};
+    InsightScanOperationResult result{.report = std::move(found), .scanned = std::move(scanned)};
     if (!access.skippedItems().empty()) {
         result.homeAccessSkippedItem = access.skippedItems().front();
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CleanerCore/Insights/InsightConfiguration.h"
+#include "CleanerCore/Insights/InsightScanOptions.h"
 #include "CleanerCore/Insights/MacStorageInsightReport.h"
 #include "CleanerCore/Insights/SystemResourceSnapshot.h"
 #include "CleanerCore/Scan/SkippedItem.h"
@@ -33,7 +34,8 @@ struct InsightScanOperationResult {
 };
 
 /// One insight scan on the calling thread. After a stop the report holds what was found until then.
-[[nodiscard]] InsightScanOperationResult performInsightScan(
-    const SessionServices& services, const InsightScanRequest& request, const std::stop_token& stop);
+[[nodiscard]] InsightScanOperationResult performInsightScan(const SessionServices& services,
+    const InsightScanRequest& request, const std::function<void(const CleanerCore::InsightScanProgress&)>& report,
+    const std::stop_token& stop);
 
 } // namespace KarvelloUI

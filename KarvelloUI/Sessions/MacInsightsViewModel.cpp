@@ -8,6 +8,7 @@
 
 namespace KarvelloUI {
 
+using CleanerCore::InsightScanProgress;
 using CleanerCore::MacStorageInsightReport;
 using CleanerCore::SystemResourceSnapshot;
 
@@ -51,15 +52,20 @@ void MacInsightsViewModel::scan(const std::optional<ResolvedHomeAccessBookmark>&
         .homeAccessBookmark = homeAccessBookmark,
         .configuration = m_scannerConfiguration,
         .systemSnapshotProvider = m_systemSnapshotProvider};
-    m_job.start(
+    m_job.start<InsightScanProgress>(
         [services = m_services, request = std::move(request), selectedIDs = selectedIDs()](
-            const std::stop_token& stop) mutable {
-            auto result = performInsightScan(services, request, stop);
+            const std::stop_token& stop, const JobProgress<InsightScanProgress>& progress) mutable {
+            auto result = performInsightScan(services, request, progress, stop);
             auto index =
                 std::make_shared<const InsightIndex>(std::move(result.report), result.scanned, services.fileManager);
             return PreparedScan{.review = InsightReview(std::move(index), std::move(selectedIDs)),
                 .scanned = std::move(result.scanned),
                 .homeAccessSkippedItem = std::move(result.homeAccessSkippedItem)};
+        },
+        [this](InsightScanProgress progress) {
+            m_scanProgress = std::move(progress);
+            noteChange(Change::progress);
+            publish();
         },
         [this](JobOutcome<PreparedScan> outcome) { applyScan(std::move(outcome)); });
     publish();
@@ -163,6 +169,8 @@ void MacInsightsViewModel::setPhase(Phase phase)
         m_phase = phase;
         noteChange(Change::phase);
     }
+    m_scanProgress = {};
+    noteChange(Change::progress);
 }
 
 void MacInsightsViewModel::setErrorMessage(std::optional<std::string> message)
@@ -188,7 +196,7 @@ void MacInsightsViewModel::announceDuplicateReviewGroups()
 void MacInsightsViewModel::publish()
 {
     using Announcement = void (MacInsightsViewModel::*)();
-    static constexpr std::array<std::pair<Change, Announcement>, 8> announcementOf{{
+    static constexpr std::array<std::pair<Change, Announcement>, 9> announcementOf{{
         {Change::report, &MacInsightsViewModel::reportChanged},
         {Change::duplicateReviewGroups, &MacInsightsViewModel::announceDuplicateReviewGroups},
         {Change::selection, &MacInsightsViewModel::selectionChanged},
@@ -196,6 +204,7 @@ void MacInsightsViewModel::publish()
         {Change::results, &MacInsightsViewModel::resultsChanged},
         {Change::auditEntries, &MacInsightsViewModel::auditEntriesChanged},
         {Change::errorMessage, &MacInsightsViewModel::errorMessageChanged},
+        {Change::progress, &MacInsightsViewModel::progressChanged},
         {Change::phase, &MacInsightsViewModel::phaseChanged},
     }};
     announceChanges(*this, std::exchange(m_changes, {}), announcementOf);

@@ -85,6 +85,8 @@ public:
     [[nodiscard]] const std::optional<std::string>& errorMessage() const { return m_errorMessage; }
     [[nodiscard]] QString errorText() const;
     [[nodiscard]] const ActiveScan& activeScan() const { return m_active; }
+    /// Of the scan that runs; empty while none does.
+    [[nodiscard]] const CleanerCore::InsightScanProgress& scanProgress() const { return m_scanProgress; }
 
     /// A grant's home takes the place of the session's.
     void scan(const std::optional<ResolvedHomeAccessBookmark>& homeAccessBookmark);
@@ -141,6 +143,7 @@ public:
 
 Q_SIGNALS:
     void phaseChanged();
+    void progressChanged();
     void reportChanged();
     void selectionChanged();
     void resultsChanged();
@@ -161,6 +164,7 @@ private:
         errorMessage = 32,
         systemMetrics = 64,
         duplicateReviewGroups = 128,
+        progress = 256,
     };
     Q_DECLARE_FLAGS(Changes, Change)
 
@@ -198,6 +202,7 @@ private:
     std::vector<std::size_t> m_changedDuplicateGroups;
     std::optional<CleanerCore::CleanResult> m_lastCleanResult;
     std::optional<std::string> m_errorMessage;
+    CleanerCore::InsightScanProgress m_scanProgress;
     ActiveScan m_active;
     SystemMetricHistory m_systemMetricHistory;
     CleanerCore::SystemResourceSnapshot m_currentSystemSnapshot;

@@ -16,7 +16,7 @@ ColumnLayout {
 
     spacing: KarvelloDesign.spacing8
 
-    // No layout around what is made anew in another language: it would be left with what is gone.
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
     Column {
         id: list
         Layout.fillWidth: true

@@ -35,7 +35,7 @@ KarvelloDialog {
             color: KarvelloDesign.ink
             Accessible.role: Accessible.Heading
         }
-        // No layout around what each question makes anew: it would be left with what is gone.
+        // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
         Row {
             spacing: KarvelloDesign.spacing8
             Repeater {
@@ -56,6 +56,7 @@ KarvelloDialog {
         Column {
             id: lines
             Layout.fillWidth: true
+
             Repeater {
                 model: control.confirmation.lines
                 ColumnLayout {

@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Karvello.Design
 import Karvello.Screens.Duplicates
@@ -63,17 +62,17 @@ FocusScope {
         color: KarvelloDesign.elevated1
         border.color: KarvelloDesign.line
     }
-    ColumnLayout {
+    // No layout: one that is hidden while its rows go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
         id: column
         x: 1
         y: 1
         width: parent.width - 2
-        spacing: 0
 
         DuplicateCardHead {
             id: head
             objectName: "head"
-            Layout.fillWidth: true
+            width: column.width
             focus: card.currentRow === 0
             focusPolicy: activeFocus || (card.isCurrent && card.currentRow === 0) ? Qt.StrongFocus : Qt.ClickFocus
             title: card.title
@@ -90,8 +89,8 @@ FocusScope {
             onToggleRequested: card.screen.toggleGroup(card.index, card.groupID)
         }
         Rectangle {
-            Layout.fillWidth: true
-            implicitHeight: 1
+            width: column.width
+            height: 1
             color: KarvelloDesign.lineSoft
         }
         Repeater {
@@ -104,7 +103,7 @@ FocusScope {
                 required property var modelData
                 required property int index
 
-                Layout.fillWidth: true
+                width: column.width
                 focus: card.currentRow === index + 1
                 focusPolicy: activeFocus || (card.isCurrent && card.currentRow === index + 1) ? Qt.StrongFocus : Qt.ClickFocus
                 name: modelData.name

@@ -50,6 +50,10 @@ InsightPage {
         objectName: "groups"
         Layout.fillWidth: true
         Layout.fillHeight: true
+        // Cards go on below the footer, and the scroll bar stands beside them.
+        Layout.rightMargin: -page.sideMargin
+        Layout.bottomMargin: -KarvelloDesign.spacing24
+        bottomMargin: KarvelloDesign.spacing24
         implicitHeight: 200
         model: page.screen.groups
         clip: true
@@ -93,7 +97,7 @@ InsightPage {
         }
 
         delegate: DuplicateCard {
-            width: ListView.view.width
+            width: ListView.view.width - page.sideMargin
             screen: page.screen
             isCurrent: ListView.isCurrentItem
             onPressed: list.currentIndex = index

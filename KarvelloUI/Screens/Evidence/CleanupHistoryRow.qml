@@ -101,13 +101,15 @@ T.ItemDelegate {
             Layout.leftMargin: 2 * Math.round(16 * KarvelloDesign.textFactor) + KarvelloDesign.spacing12
             active: control.isOpen
             visible: active
-            sourceComponent: ColumnLayout {
+            // No layout: one that is hidden while its items go keeps looking at them, and the program crashes (Qt 6.4).
+            sourceComponent: Column {
+                id: list
                 spacing: 2
                 Repeater {
                     model: control.details
                     KarvelloText {
                         required property string modelData
-                        Layout.fillWidth: true
+                        width: list.width
                         text: modelData
                         textStyle: KarvelloDesign.small
                         wrapMode: Text.WrapAtWordBoundaryOrAnywhere

@@ -20,33 +20,41 @@ KarvelloCard {
         color: KarvelloDesign.ink3
         wrapMode: Text.Wrap
     }
-    Repeater {
-        model: control.report.bars
-        ColumnLayout {
-            id: bar
-            required property var entry
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: list
+        Layout.fillWidth: true
+        spacing: KarvelloDesign.spacing12
 
-            spacing: KarvelloDesign.spacing4
+        Repeater {
+            model: control.report.bars
+            ColumnLayout {
+                id: bar
+                required property var entry
 
-            RowLayout {
-                spacing: KarvelloDesign.spacing12
-                KarvelloText {
+                width: list.width
+                spacing: KarvelloDesign.spacing4
+
+                RowLayout {
+                    spacing: KarvelloDesign.spacing12
+                    KarvelloText {
+                        Layout.fillWidth: true
+                        text: bar.entry.label
+                        wrapMode: Text.Wrap
+                    }
+                    KarvelloText {
+                        text: bar.entry.value
+                        emphasis: KarvelloText.Strong
+                        color: KarvelloDesign.ink
+                    }
+                }
+                KarvelloProgressBar {
                     Layout.fillWidth: true
-                    text: bar.entry.label
-                    wrapMode: Text.Wrap
+                    value: bar.entry.fraction
+                    tint: bar.entry.isPending ? KarvelloDesign.caution
+                        : bar.entry.isRecovered ? KarvelloDesign.safe : KarvelloDesign.ink4
+                    accessibleName: bar.entry.label + ", " + bar.entry.value
                 }
-                KarvelloText {
-                    text: bar.entry.value
-                    emphasis: KarvelloText.Strong
-                    color: KarvelloDesign.ink
-                }
-            }
-            KarvelloProgressBar {
-                Layout.fillWidth: true
-                value: bar.entry.fraction
-                tint: bar.entry.isPending ? KarvelloDesign.caution
-                    : bar.entry.isRecovered ? KarvelloDesign.safe : KarvelloDesign.ink4
-                accessibleName: bar.entry.label + ", " + bar.entry.value
             }
         }
     }

@@ -8,24 +8,31 @@ KarvelloCard {
 
     property var lines: []
 
-    Repeater {
-        // By their number: rows that are made anew in another language leave the layout with ones that are gone.
-        model: control.lines.length
-        RowLayout {
-            id: line
-            required property int index
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: list
+        Layout.fillWidth: true
+        spacing: KarvelloDesign.spacing12
 
-            spacing: KarvelloDesign.spacing12
+        Repeater {
+            model: control.lines
+            RowLayout {
+                id: line
+                required property string modelData
 
-            KarvelloIcon {
-                Layout.alignment: Qt.AlignTop
-                name: "done"
-                tint: KarvelloDesign.accent
-            }
-            KarvelloText {
-                Layout.fillWidth: true
-                text: control.lines[line.index] ?? ""
-                wrapMode: Text.Wrap
+                width: list.width
+                spacing: KarvelloDesign.spacing12
+
+                KarvelloIcon {
+                    Layout.alignment: Qt.AlignTop
+                    name: "done"
+                    tint: KarvelloDesign.accent
+                }
+                KarvelloText {
+                    Layout.fillWidth: true
+                    text: line.modelData
+                    wrapMode: Text.Wrap
+                }
             }
         }
     }

@@ -38,23 +38,33 @@ ColumnLayout {
             wrapMode: Text.Wrap
         }
     }
-    GridLayout {
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Flow {
         id: grid
-        columns: Math.max(1, Math.min(3, control.fittingColumns, control.cards.count))
-        columnSpacing: KarvelloDesign.spacing16
-        rowSpacing: KarvelloDesign.spacing16
+        readonly property int columns: Math.max(1, Math.min(3, control.fittingColumns, control.cards.count))
+        readonly property real cardWidth: Math.floor((width - (columns - 1) * spacing) / columns)
+        readonly property real cardHeight: {
+            let highest = 0
+            for (let place = 0; place < repeater.count; ++place)
+                highest = Math.max(highest, (repeater.itemAt(place) as Item)?.implicitHeight ?? 0)
+            return highest
+        }
+
+        Layout.fillWidth: true
+        spacing: KarvelloDesign.spacing16
 
         Repeater {
+            id: repeater
             model: control.cards
             CoachCard {
                 id: card
                 required property int index
-
-                Layout.fillWidth: true
-                Layout.fillHeight: true
-                Layout.preferredWidth: 1
                 // The last one fills its row.
-                Layout.columnSpan: index + 1 < control.cards.count ? 1 : grid.columns - index % grid.columns
+                readonly property bool isLast: index + 1 === control.cards.count
+                readonly property real start: index % grid.columns * (grid.cardWidth + grid.spacing)
+
+                width: isLast ? grid.width - start : grid.cardWidth
+                height: grid.cardHeight
                 onActionRequested: control.openRequested(card.entry.section)
             }
         }

@@ -52,13 +52,15 @@ KarvelloCard {
             }
         }
     }
-    ColumnLayout {
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: projects
+        Layout.fillWidth: true
         visible: control.panel.hasProjects
-        spacing: 0
 
         Repeater {
             model: control.panel.projects
-            ProjectRowItem {}
+            ProjectRowItem { width: projects.width }
         }
     }
     RowLayout {

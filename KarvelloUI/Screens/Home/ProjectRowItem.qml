@@ -8,7 +8,6 @@ Item {
 
     required property var entry
 
-    Layout.fillWidth: true
     implicitHeight: Math.max(52, Math.ceil(row.implicitHeight) + 2 * KarvelloDesign.spacing8)
 
     Accessible.role: Accessible.ListItem

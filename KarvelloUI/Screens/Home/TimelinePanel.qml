@@ -21,9 +21,11 @@ KarvelloCard {
 
     signal openRequested(string section)
 
-    ColumnLayout {
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: list
+        Layout.fillWidth: true
         visible: control.points.count > 0
-        spacing: 0
         Accessible.role: Accessible.List
         Accessible.name: control.title
 
@@ -33,7 +35,7 @@ KarvelloCard {
                 required property var entry
                 required property int index
 
-                Layout.fillWidth: true
+                width: list.width
                 kind: control.rowKinds[entry.kind]
                 title: entry.title
                 date: entry.date

@@ -67,6 +67,10 @@ KarvelloPage {
         Layout.fillWidth: true
         visible: page.isWorking
         title: page.insights.workTitle
+        visiting: page.insights.visiting
+        progress: page.insights.progress
+        progressText: page.insights.progressText
+        figures: page.insights.figures
         cancelText: page.insights.cancelText
         isCancelling: page.insights.isCancelling
         onCancelRequested: page.insights.cancel()

@@ -1,10 +1,13 @@
 #include "KarvelloUI/Screens/Insights/InsightScreenModel.h"
 
+#include "KarvelloUI/Copy/PercentText.h"
 #include "KarvelloUI/Sessions/RunMessages.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 
+#include <QLocale>
 #include <QPointer>
+#include <QVariantMap>
 
 namespace KarvelloUI {
 
@@ -29,6 +32,8 @@ InsightScreenModel::InsightScreenModel(
         m_isCancelling = false;
         Q_EMIT stateChanged();
     });
+    connect(&insights(), &MacInsightsViewModel::progressChanged, this, &InsightScreenModel::progressChanged);
+    connect(this, &InsightScreenModel::stateChanged, this, &InsightScreenModel::progressChanged);
     connect(&m_dashboard, &MacCleanerDashboardModel::accessChanged, this, tell);
     connect(&m_dashboard.preferences(), &DashboardPreferences::languageChanged, this, tell);
 }
@@ -161,6 +166,57 @@ QString InsightScreenModel::workTitle() const
 QString InsightScreenModel::workHint() const
 {
     return content() == Scanning ? shown(words().scanRunnerHint()) : QString();
+}
+
+bool InsightScreenModel::isComparing() const
+{
+    const auto& scan = insights().scanProgress();
+    return scan.totalRoots > 0 && scan.completedRoots == scan.totalRoots;
+}
+
+QString InsightScreenModel::visiting() const
+{
+    if (content() != Scanning) {
+        return {};
+    }
+    const auto copy = words();
+    const auto& scan = insights().scanProgress();
+    if (scan.totalRoots == 0) {
+        return shown(copy.scanRunnerPreparing());
+    }
+    if (isComparing()) {
+        return shown(DashboardWords::joinedParts(
+            {copy.say("Comparing files that may be duplicates"), copy.byteSize(scan.readBytes)}));
+    }
+    return shown(copy.scanRunnerVisiting()) + u' ' + shownPath(scan.root);
+}
+
+qreal InsightScreenModel::progress() const
+{
+    const auto& scan = insights().scanProgress();
+    return scan.totalRoots == 0 || isComparing()
+        ? -1
+        : static_cast<qreal>(scan.completedRoots) / static_cast<qreal>(scan.totalRoots);
+}
+
+QString InsightScreenModel::progressText() const
+{
+    return progress() < 0 ? QString() : shown(percentText(progress()));
+}
+
+QVariantList InsightScreenModel::figures() const
+{
+    const auto& scan = insights().scanProgress();
+    if (scan.totalRoots == 0) {
+        return {};
+    }
+    const auto copy = words();
+    const QLocale locale(QString::fromStdString(std::string(copy.locale())));
+    const auto figure = [](const QString& value, const std::string& label) {
+        return QVariantMap{{QStringLiteral("value"), value}, {QStringLiteral("label"), shown(label)}};
+    };
+    return {figure(locale.toString(qlonglong(scan.visitedItems)), copy.scanRunnerScannedLabel()),
+        figure(QStringLiteral("%1 / %2").arg(scan.completedRoots).arg(scan.totalRoots), copy.say("Locations"))};
 }
 
 QString InsightScreenModel::cancelText() const

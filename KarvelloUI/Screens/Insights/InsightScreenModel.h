@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 #include <QtQmlIntegration>
 
 namespace KarvelloUI {
@@ -34,6 +35,12 @@ class InsightScreenModel : public QObject {
     /// The work that is under way.
     Q_PROPERTY(QString workTitle READ workTitle NOTIFY stateChanged FINAL)
     Q_PROPERTY(QString workHint READ workHint NOTIFY stateChanged FINAL)
+    /// Where a scan is, and how far: below 0 while that is not known.
+    Q_PROPERTY(QString visiting READ visiting NOTIFY progressChanged FINAL)
+    Q_PROPERTY(qreal progress READ progress NOTIFY progressChanged FINAL)
+    Q_PROPERTY(QString progressText READ progressText NOTIFY progressChanged FINAL)
+    /// Each is { value, label }.
+    Q_PROPERTY(QVariantList figures READ figures NOTIFY progressChanged FINAL)
     Q_PROPERTY(QString cancelText READ cancelText NOTIFY stateChanged FINAL)
     Q_PROPERTY(bool isCancelling READ isCancelling NOTIFY stateChanged FINAL)
     Q_PROPERTY(Banner banner READ banner NOTIFY stateChanged FINAL)
@@ -79,6 +86,10 @@ public:
     [[nodiscard]] bool isBlankGoodNews() const;
     [[nodiscard]] QString workTitle() const;
     [[nodiscard]] QString workHint() const;
+    [[nodiscard]] QString visiting() const;
+    [[nodiscard]] qreal progress() const;
+    [[nodiscard]] QString progressText() const;
+    [[nodiscard]] QVariantList figures() const;
     [[nodiscard]] QString cancelText() const;
     [[nodiscard]] bool isCancelling() const { return m_isCancelling; }
     [[nodiscard]] Banner banner() const;
@@ -101,6 +112,7 @@ public:
 Q_SIGNALS:
     /// Any of the above, the language as well.
     void stateChanged();
+    void progressChanged();
 
 protected:
     InsightScreenModel(MacCleanerDashboardModel& dashboard, MacDashboardSection section, QObject* parent);
@@ -122,6 +134,8 @@ protected:
 
 private:
     [[nodiscard]] bool isDone() const;
+    /// All folders were walked; what is left is to compare files.
+    [[nodiscard]] bool isComparing() const;
 
     MacCleanerDashboardModel& m_dashboard;
     MacDashboardSection m_section;

@@ -167,38 +167,43 @@ FocusScope {
                 }
             }
         }
-        Repeater {
-            // By their number: cards that are made anew in another language leave the layout with ones that are gone.
-            model: control.screen.cards.length
-            KarvelloCard {
-                id: card
-                required property int index
-                readonly property var modelData: control.screen.cards[index]
-                Layout.fillWidth: true
-                RowLayout {
-                    Layout.fillWidth: true
-                    spacing: KarvelloDesign.spacing16
-                    IconTile {
-                        Layout.alignment: Qt.AlignTop
-                        size: 36
-                        color: KarvelloDesign.accentSoft
-                        tint: KarvelloDesign.accent
-                        name: card.modelData.iconName
-                    }
-                    ColumnLayout {
-                        spacing: KarvelloDesign.spacing4
-                        KarvelloText {
-                            Layout.fillWidth: true
-                            text: card.modelData.title
-                            emphasis: KarvelloText.Strong
-                            color: KarvelloDesign.ink
-                            wrapMode: Text.Wrap
+        // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+        Column {
+            id: cards
+            Layout.fillWidth: true
+            spacing: KarvelloDesign.spacing12
+
+            Repeater {
+                model: control.screen.cards
+                KarvelloCard {
+                    id: card
+                    required property var modelData
+                    width: cards.width
+                    RowLayout {
+                        Layout.fillWidth: true
+                        spacing: KarvelloDesign.spacing16
+                        IconTile {
+                            Layout.alignment: Qt.AlignTop
+                            size: 36
+                            color: KarvelloDesign.accentSoft
+                            tint: KarvelloDesign.accent
+                            name: card.modelData.iconName
                         }
-                        KarvelloText {
-                            Layout.fillWidth: true
-                            text: card.modelData.text
-                            color: KarvelloDesign.ink2
-                            wrapMode: Text.Wrap
+                        ColumnLayout {
+                            spacing: KarvelloDesign.spacing4
+                            KarvelloText {
+                                Layout.fillWidth: true
+                                text: card.modelData.title
+                                emphasis: KarvelloText.Strong
+                                color: KarvelloDesign.ink
+                                wrapMode: Text.Wrap
+                            }
+                            KarvelloText {
+                                Layout.fillWidth: true
+                                text: card.modelData.text
+                                color: KarvelloDesign.ink2
+                                wrapMode: Text.Wrap
+                            }
                         }
                     }
                 }

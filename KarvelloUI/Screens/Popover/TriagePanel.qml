@@ -53,7 +53,10 @@ ColumnLayout {
             wrapMode: Text.Wrap
         }
     }
-    ColumnLayout {
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: list
+        Layout.fillWidth: true
         visible: !control.popover.isCalm
         spacing: KarvelloDesign.spacing8
 
@@ -66,7 +69,7 @@ ColumnLayout {
             TriageRow {
                 required property int index
 
-                Layout.fillWidth: true
+                width: list.width
                 onReviewRequested: control.popover.review(index)
                 onReached: control.rowReached(this)
             }

@@ -23,27 +23,29 @@ SettingsGroup {
         objectName: "guidanceText"
         text: control.group.text
     }
-    ColumnLayout {
+    // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
+    Column {
+        id: list
+        Layout.fillWidth: true
         Layout.leftMargin: KarvelloDesign.spacing20
         Layout.rightMargin: KarvelloDesign.spacing20
         Layout.bottomMargin: KarvelloDesign.spacing8
         visible: control.group.steps.length > 0
-        spacing: 0
 
         Repeater {
             id: steps
-            // By their number: steps that are made anew in another language leave the layout with ones that are gone.
-            model: control.group.steps.length
+            model: control.group.steps
 
             GuidanceStep {
                 required property int index
+                required property var modelData
 
                 objectName: "guidanceStep"
-                Layout.fillWidth: true
-                step: control.group.steps[index]
+                width: list.width
+                step: modelData
                 isLast: index === steps.count - 1
                 copyText: control.group.copyText
-                onCopyRequested: control.group.copySamples(step.number)
+                onCopyRequested: control.group.copySamples(modelData.number)
             }
         }
     }

@@ -78,14 +78,14 @@ Item {
             color: KarvelloDesign.elevated2
             border.color: KarvelloDesign.line
 
-            ColumnLayout {
+            Column {
                 id: samples
                 x: KarvelloDesign.spacing12
                 y: KarvelloDesign.spacing8
                 width: parent.width - 2 * KarvelloDesign.spacing12
-                spacing: 0
 
                 RowLayout {
+                    width: samples.width
                     spacing: KarvelloDesign.spacing8
                     KarvelloText {
                         Layout.fillWidth: true
@@ -104,11 +104,11 @@ Item {
                     }
                 }
                 Repeater {
-                    model: control.step.samples.length
+                    model: control.step.samples
                     KarvelloText {
-                        required property int index
-                        Layout.fillWidth: true
-                        text: control.step.samples[index] ?? ""
+                        required property string modelData
+                        width: samples.width
+                        text: modelData
                         textStyle: KarvelloDesign.small
                         color: KarvelloDesign.ink2
                         elide: Text.ElideMiddle

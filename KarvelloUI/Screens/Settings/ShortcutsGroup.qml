@@ -9,30 +9,32 @@ SettingsGroup {
 
     required property var shortcuts
 
-    ColumnLayout {
+    // Placed by hand: rows of a layout each have columns of their own, and keep a width from before texts were wrapped.
+    Column {
+        id: list
+        Layout.fillWidth: true
         Layout.margins: KarvelloDesign.spacing20
         Layout.topMargin: KarvelloDesign.spacing16
         Layout.bottomMargin: KarvelloDesign.spacing16
         spacing: KarvelloDesign.spacing8
 
         Repeater {
-            // By their number: rows that are made anew in another language leave the layout with ones that are gone.
-            model: control.shortcuts.length
+            model: control.shortcuts
 
-            RowLayout {
+            Item {
                 id: shortcut
-                required property int index
-                readonly property var modelData: control.shortcuts[index]
+                required property var modelData
 
                 objectName: "shortcut"
-                spacing: KarvelloDesign.spacing12
+                width: list.width
+                height: Math.max(keys.height, text.height)
 
                 Accessible.role: Accessible.ListItem
                 Accessible.name: KarvelloDesign.spoken([modelData.keys, modelData.text])
 
                 KarvelloText {
-                    Layout.alignment: Qt.AlignTop
-                    Layout.preferredWidth: Math.round(control.width * 0.36)
+                    id: keys
+                    width: Math.round(shortcut.width * 0.4)
                     text: shortcut.modelData.keys
                     textStyle: KarvelloDesign.small
                     emphasis: KarvelloText.Medium
@@ -41,7 +43,9 @@ SettingsGroup {
                     Accessible.ignored: true
                 }
                 KarvelloText {
-                    Layout.fillWidth: true
+                    id: text
+                    x: keys.width + KarvelloDesign.spacing12
+                    width: shortcut.width - x
                     text: shortcut.modelData.text
                     textStyle: KarvelloDesign.small
                     color: KarvelloDesign.ink3

@@ -22,6 +22,8 @@ struct StorageMapArea {
     /// Empty where all was counted.
     Q_PROPERTY(QString partialText MEMBER partialText CONSTANT FINAL)
     Q_PROPERTY(QString shareText MEMBER shareText CONSTANT FINAL)
+    /// All of it in a line.
+    Q_PROPERTY(QString detailText MEMBER detailText CONSTANT FINAL)
     Q_PROPERTY(QColor tint MEMBER tint CONSTANT FINAL)
     /// The place of the cell in the unit square; what has no size has no cell, and only the table has it.
     Q_PROPERTY(double x MEMBER x CONSTANT FINAL)
@@ -38,6 +40,7 @@ public:
     QString shortCountText = {};
     QString partialText = {};
     QString shareText = {};
+    QString detailText = {};
     QColor tint = {};
     double x = 0;
     double y = 0;

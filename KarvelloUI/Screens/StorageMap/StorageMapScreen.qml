@@ -12,6 +12,8 @@ InsightPage {
     required property StorageMapScreenModel screen
     // The cell under the pointer, in either place.
     property var hoveredId
+    // The area that is told of below the table.
+    readonly property var toldArea: screen.areas[hoveredId ?? screen.selectedId] ?? null
 
     insights: screen
 
@@ -134,6 +136,43 @@ InsightPage {
                     implicitHeight: 1
                     color: KarvelloDesign.line
                 }
+                Item {
+                    objectName: "told"
+                    Layout.fillWidth: true
+                    Layout.margins: KarvelloDesign.spacing16
+                    Layout.topMargin: KarvelloDesign.spacing12
+                    Layout.bottomMargin: 0
+                    // As high with a hint as with an area, so that nothing moves under the pointer.
+                    implicitHeight: Math.max(hint.implicitHeight, toldName.implicitHeight + 2 * KarvelloDesign.small.lineHeight)
+
+                    KarvelloText {
+                        id: hint
+                        width: parent.width
+                        visible: page.toldArea === null
+                        text: page.screen.detailHint
+                        textStyle: KarvelloDesign.small
+                        color: KarvelloDesign.ink3
+                        wrapMode: Text.Wrap
+                    }
+                    KarvelloText {
+                        id: toldName
+                        width: parent.width
+                        visible: page.toldArea !== null
+                        text: page.toldArea?.name ?? ""
+                        emphasis: KarvelloText.Medium
+                        color: KarvelloDesign.ink
+                    }
+                    KarvelloText {
+                        y: toldName.implicitHeight
+                        width: parent.width
+                        visible: page.toldArea !== null
+                        text: page.toldArea?.detailText ?? ""
+                        textStyle: KarvelloDesign.small
+                        color: KarvelloDesign.ink3
+                        wrapMode: Text.Wrap
+                        maximumLineCount: 2
+                    }
+                }
                 Flow {
                     Layout.fillWidth: true
                     Layout.margins: KarvelloDesign.spacing12
@@ -169,9 +208,7 @@ InsightPage {
             wrapMode: Text.Wrap
         }
         KarvelloTreemapLegend {
-            // A Flow does not say how wide one line of it is.
-            Layout.minimumWidth: Math.round(280 * KarvelloDesign.textFactor)
-            Layout.maximumWidth: Layout.minimumWidth
+            Layout.minimumWidth: implicitWidth
             entries: page.screen.legend
             accessibleName: page.screen.legendText
         }

@@ -7,6 +7,7 @@
 #include "KarvelloUI/Sessions/ShownText.h"
 
 #include <QLocale>
+#include <QStringList>
 #include <algorithm>
 #include <array>
 
@@ -80,6 +81,9 @@ StorageMapArea StorageMapScreenModel::areaOf(int id, const DashboardWords& copy)
         .partialText = item.isTruncated ? shown(copy.text("일부", "partial")) : QString(),
         .shareText = shown(copy.say("{} of the largest area", percentText(share))),
         .tint = qtColor(tint(item, m_maximumBytes, palette()))};
+    QStringList details{area.sizeText, area.countText, area.shareText, area.partialText};
+    details.removeAll(QString());
+    area.detailText = details.join(QStringLiteral(" · "));
     const auto cell =
         std::ranges::find(m_layout, item.id, [](const StorageTreemapCell& candidate) { return candidate.item.id; });
     if (cell != m_layout.end()) {
@@ -119,6 +123,11 @@ QString StorageMapScreenModel::tableSummary() const
     }
     const auto copy = words();
     return shown(DashboardWords::joinedParts({copy.byteSize(bytes), copy.count(count(), "{} area", "{} areas")}));
+}
+
+QString StorageMapScreenModel::detailHint() const
+{
+    return shown(words().say("Point at an area or select it to read about it here."));
 }
 
 QString StorageMapScreenModel::revealText() const

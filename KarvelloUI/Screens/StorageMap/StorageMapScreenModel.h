@@ -25,6 +25,8 @@ class StorageMapScreenModel final : public KarvelloUI::InsightScreenModel {
     Q_PROPERTY(QString legendText READ legendText NOTIFY mapChanged FINAL)
     Q_PROPERTY(QString tableTitle READ tableTitle NOTIFY mapChanged FINAL)
     Q_PROPERTY(QString tableSummary READ tableSummary NOTIFY mapChanged FINAL)
+    /// Stands where an area is told of, while there is none to tell of.
+    Q_PROPERTY(QString detailHint READ detailHint NOTIFY mapChanged FINAL)
     Q_PROPERTY(QString revealText READ revealText NOTIFY mapChanged FINAL)
     Q_PROPERTY(QString largeFilesText READ largeFilesText NOTIFY mapChanged FINAL)
     /// The id of an area, or -1.
@@ -42,6 +44,7 @@ public:
     [[nodiscard]] QString legendText() const;
     [[nodiscard]] QString tableTitle() const;
     [[nodiscard]] QString tableSummary() const;
+    [[nodiscard]] QString detailHint() const;
     [[nodiscard]] QString revealText() const;
     [[nodiscard]] QString largeFilesText() const;
     [[nodiscard]] int selectedId() const { return m_selectedId; }

@@ -44,6 +44,8 @@ KarvelloPage {
     }
 
     GridLayout {
+        // What is left of the height is the list's.
+        Layout.fillHeight: false
         columns: control.isStacked ? 1 : 2
         columnSpacing: KarvelloDesign.spacing16
         rowSpacing: KarvelloDesign.spacing16

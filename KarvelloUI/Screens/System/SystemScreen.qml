@@ -39,10 +39,11 @@ KarvelloPage {
         Layout.fillWidth: true
         Layout.fillHeight: true
         Layout.minimumHeight: 240
-        Layout.maximumHeight: control.isLargeText ? -1 : 360
         chart: control.screen.pulse
     }
     GridLayout {
+        // What is left of the height is the chart's.
+        Layout.fillHeight: false
         columns: control.isLargeText ? 2 : 3
         columnSpacing: KarvelloDesign.spacing16
         rowSpacing: KarvelloDesign.spacing16
@@ -74,6 +75,7 @@ KarvelloPage {
         }
     }
     GridLayout {
+        Layout.fillHeight: false
         columns: control.isLargeText ? 1 : 2
         columnSpacing: KarvelloDesign.spacing16
         rowSpacing: KarvelloDesign.spacing16

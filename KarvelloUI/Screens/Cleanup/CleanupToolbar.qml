@@ -97,6 +97,7 @@ RowLayout {
     }
     KarvelloButton {
         id: folded
+        objectName: "folded"
         visible: control.isFolded
         text: control.screen.texts.filters
         iconName: "chevron-down"

@@ -214,6 +214,33 @@ TEST_F(CleanupScreenTest, LooksUpWhatWasSkippedAndComesBack)
     EXPECT_TRUE(find("candidateList")->isVisible());
 }
 
+TEST_F(CleanupScreenTest, KeepsItsFiltersInAWindowOfTheUsualSize)
+{
+    scanForCleanup();
+    show(1240, 820);
+    for (const auto language : {AppLanguage::english, AppLanguage::german, AppLanguage::japanese}) {
+        ASSERT_TRUE(preferences->setLanguage(language));
+        layOut();
+        EXPECT_FALSE(find("folded")->isVisible()) << Platform::rawValue(language);
+        EXPECT_GE(find("search")->width(), 144) << Platform::rawValue(language);
+    }
+    m_design.setTextEnvironment({.scale = KarvelloTextScale::extraLarge});
+    layOut();
+    EXPECT_TRUE(find("folded")->isVisible());
+}
+
+TEST_F(CleanupScreenTest, AShortListLeavesNoEmptySheet)
+{
+    scanForCleanup();
+    screen->setSearchText(QStringLiteral("yarn"));
+    show(1240, 1200);
+    EXPECT_LT(find("sheet")->height(), 400);
+    screen->clearFilters();
+    layOut();
+    const auto listEnd = find("candidates")->property("contentHeight").toDouble();
+    EXPECT_NEAR(find("sheet")->height(), std::max(320.0, listEnd + 2), 2);
+}
+
 TEST_F(CleanupScreenTest, IsOneStopForTab)
 {
     showReview();

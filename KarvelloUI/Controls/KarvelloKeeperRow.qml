@@ -178,7 +178,15 @@ T.CheckDelegate {
         }
     }
     background: Rectangle {
+        // The last one lies in the round corners of its card.
+        radius: control.isLast ? KarvelloDesign.cardRadius - 1 : 0
         color: control.isKeeper || control.hovered ? KarvelloDesign.elevated2 : "transparent"
+        Rectangle {
+            visible: control.isLast
+            width: parent.width
+            height: parent.height / 2
+            color: parent.color
+        }
         Rectangle {
             anchors.bottom: parent.bottom
             visible: !control.isLast

@@ -104,6 +104,13 @@ T.CheckDelegate {
     background: Rectangle {
         radius: KarvelloDesign.cardRadius - 1
         color: head.hovered && !head.isLocked ? KarvelloDesign.elevated2 : "transparent"
+        // Round at the top alone.
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: parent.height / 2
+            color: parent.color
+        }
         FocusRing {
             isShown: head.visualFocus
             distance: 2

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/IOSGuide/IOSGuideScreenModel.h"
 
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
 #include "Tests/KarvelloUI/Dashboard/ScreenWindow.h"
 
 #include <gmock/gmock.h>
@@ -73,12 +74,20 @@ TEST_F(IOSGuideScreen, IsTidyInEveryLanguageAndScale)
     layOut();
     expectTidy();
     photograph("ios-en.png");
-    for (const auto language : {AppLanguage::german, AppLanguage::japanese, AppLanguage::korean}) {
+    for (const auto language : Platform::allCases<AppLanguage>()) {
         setLanguage(language);
-        layOut();
-        expectTidy();
-        photograph(("ios-" + std::string(Platform::rawValue(language)) + ".png").c_str());
+        for (const auto scale : {KarvelloTextScale::standard, KarvelloTextScale::extraLarge}) {
+            setScale(scale);
+            layOut();
+            SCOPED_TRACE(std::string(Platform::rawValue(language)) + " " + std::string(Platform::rawValue(scale)));
+            expectTidy();
+            EXPECT_THAT(KarvelloUI::Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty());
+            photograph(("ios-" + std::string(Platform::rawValue(language)) + "-"
+                + std::string(Platform::rawValue(scale)) + ".png")
+                    .c_str());
+        }
     }
+    setScale(KarvelloTextScale::standard);
     setLanguage(AppLanguage::german);
     setScale(KarvelloTextScale::extraLarge);
     layOut();

@@ -2,6 +2,7 @@
 
 #include "KarvelloUI/Controls/DesignTokens.h"
 #include "KarvelloUI/Controls/InstallDesign.h"
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
 #include "Tests/KarvelloUI/Screens/Insights/InsightScreenFixture.h"
 
 #include <QAccessible>
@@ -12,6 +13,7 @@
 #include <QQuickWindow>
 #include <QTest>
 #include <functional>
+#include <gmock/gmock.h>
 #include <memory>
 #include <stdexcept>
 
@@ -144,6 +146,29 @@ protected:
             photograph(name + "-" + face.name);
             EXPECT_EQ(textsOutside(), QStringList()) << face.name;
         }
+        m_design.setAppearanceMode(KarvelloAppearanceMode::light);
+        lookInAllLanguages(name);
+    }
+
+    /// At the least size of the window, whose sidebar is wider beside large texts.
+    void lookInAllLanguages(const std::string& name)
+    {
+        for (const auto language : Platform::allCases<AppLanguage>()) {
+            EXPECT_TRUE(preferences->setLanguage(language));
+            for (const auto scale : {KarvelloTextScale::standard, KarvelloTextScale::extraLarge}) {
+                m_design.setTextEnvironment({.scale = scale});
+                m_window->resize(scale == KarvelloTextScale::standard ? 956 : 916, 780);
+                SCOPED_TRACE(name + " " + std::string(Platform::rawValue(language)) + " "
+                    + std::string(Platform::rawValue(scale)));
+                photograph(name + "-" + std::string(Platform::rawValue(language)) + "-"
+                    + std::string(Platform::rawValue(scale)));
+                EXPECT_THAT(Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty());
+                EXPECT_GT(Tidiness::countTexts(*m_window->contentItem()), 3U);
+            }
+        }
+        m_window->resize(956, 780);
+        m_design.setTextEnvironment({});
+        EXPECT_TRUE(preferences->setLanguage(AppLanguage::english));
     }
 
     QQmlEngine m_engine;

@@ -1,4 +1,5 @@
 #include "Tests/KarvelloUI/Controls/ControlsFixture.h"
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
 #include "Tests/KarvelloUI/Screens/Settings/SettingsFixture.h"
 
 #include <gmock/gmock.h>
@@ -64,6 +65,7 @@ protected:
     /// Every text that is on show lies within the width of the page, and none is cut off.
     void expectFits() const
     {
+        EXPECT_THAT(Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty());
         for (auto* const item : m_item->findChildren<QQuickItem*>()) {
             if (!item->isVisible() || !item->inherits("QQuickText") || item->property("text").toString().isEmpty()) {
                 continue;

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/System/ReliefScreenModel.h"
 #include "KarvelloUI/Screens/System/SystemScreenModel.h"
 #include "Tests/KarvelloUI/Controls/ControlsFixture.h"
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
 #include "Tests/KarvelloUI/Screens/System/SystemScreens.h"
 
 #include <QImage>
@@ -86,6 +87,8 @@ protected:
     /// Nothing is cut without a way to read it, and nothing is wider than the window.
     void expectThatAllFits(const std::string& which)
     {
+        EXPECT_THAT(Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty()) << which;
+        EXPECT_GT(Tidiness::countTexts(*m_window->contentItem()), 8U);
         for (const auto* item : m_window->findChildren<QQuickItem*>()) {
             if (!item->isVisible() || item->width() <= 0) {
                 continue;

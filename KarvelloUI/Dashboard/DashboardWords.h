@@ -15,7 +15,7 @@ namespace KarvelloUI {
 /// The words of the screens in one language: those of the catalogue, and those that only the screens have (`Texts`).
 /// Making one costs nothing, so nobody keeps it.
 struct DashboardWords : KarvelloCopy {
-    explicit DashboardWords(AppLanguage spoken)
+    constexpr explicit DashboardWords(AppLanguage spoken)
         : KarvelloCopy{{{spoken, CopyHost::linuxDesktop}}}
     {
     }

@@ -4,6 +4,15 @@ namespace KarvelloUI {
 
 using CleanerCore::CleanupScanMode;
 
+namespace {
+
+/// A reason of the store of the user's folders that names permissions of the other host.
+constexpr std::string_view kCustomFolderUnavailable =
+    "Could not start security-scoped access for custom folder. Remove and add the folder again, or grant Files & "
+    "Folders or Full Disk Access.";
+
+} // namespace
+
 std::string CleanupCopy::scanningMessage() const
 {
     return text("안전한 기본 위치를 스캔하는 중…", "Scanning safe default locations…");
@@ -136,6 +145,9 @@ std::string CleanupCopy::skippedMore(std::int64_t itemCount) const
 
 std::string CleanupCopy::skippedReason(std::string_view reason) const
 {
+    if (isLinux() && reason == kCustomFolderUnavailable) {
+        return own("The custom folder could not be opened. Remove and add the folder again, or check who may read it.");
+    }
     return engineSentence(reason);
 }
 

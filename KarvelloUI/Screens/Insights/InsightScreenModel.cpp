@@ -1,6 +1,5 @@
 #include "KarvelloUI/Screens/Insights/InsightScreenModel.h"
 
-#include "KarvelloUI/Sessions/RunMessages.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 
@@ -188,13 +187,8 @@ QString InsightScreenModel::bannerTitle() const
 {
     const auto copy = words();
     switch (banner()) {
-    case FailedBanner: {
-        const std::string& message = *insights().errorMessage();
-        return message == RunMessages::kNoLongerEligible
-            ? shown(copy.say("Some selected items are no longer eligible for cleanup. Refresh the scan and review them "
-                             "again."))
-            : shownText(copy.skippedReason(message));
-    }
+    case FailedBanner:
+        return shownText(copy.skippedReason(*insights().errorMessage()));
     case DoneBanner:
         return shown(copy.lastCleanTitle(CleanerCore::CleaningMode::moveToTrash));
     case NoBanner:

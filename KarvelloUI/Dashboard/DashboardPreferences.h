@@ -34,7 +34,7 @@ public:
 
     [[nodiscard]] AppLanguage language() const { return m_values.language; }
     /// The texts in this language.
-    [[nodiscard]] DashboardWords words() const { return {{m_values.language}}; }
+    [[nodiscard]] DashboardWords words() const { return DashboardWords(m_values.language); }
     [[nodiscard]] KarvelloAppearanceMode appearanceMode() const { return m_values.appearanceMode; }
     [[nodiscard]] KarvelloTextScale textScale() const { return m_values.textScale; }
     /// As it is stored: a build may not offer it.

@@ -15,6 +15,11 @@ namespace KarvelloUI {
 /// The words of the screens in one language: those of the catalogue, and those that only the screens have (`Texts`).
 /// Making one costs nothing, so nobody keeps it.
 struct DashboardWords : KarvelloCopy {
+    constexpr explicit DashboardWords(AppLanguage spoken)
+        : KarvelloCopy{{{spoken, CopyHost::linuxDesktop}}}
+    {
+    }
+
     template <typename... Values>
     using Own = OwnText<Dashboard::kEnglishTexts, std::type_identity_t<Values>...>;
 
@@ -30,8 +35,7 @@ struct DashboardWords : KarvelloCopy {
     [[nodiscard]] std::string count(std::int64_t number, Own<std::int64_t, Values...> one,
         Own<std::int64_t, Values...> many, const Values&... values) const
     {
-        const bool isSingular = number == 1 || (number == 0 && language == AppLanguage::french);
-        return fmt::vformat(Dashboard::textsIn(language)[isSingular ? one.index() : many.index()],
+        return fmt::vformat(Dashboard::textsIn(language)[isSingular(number) ? one.index() : many.index()],
             fmt::make_format_args(number, values...));
     }
 

@@ -40,8 +40,7 @@ void MacCleanerDashboardModel::openParent(const Platform::FileURL& item)
                 .message = shown(copy.finderRevealFailedMessage(shownPath(item)))});
         } else if (!isStanding(item)) {
             showNotice({.title = shown(copy.text("상위 폴더를 열었습니다", "Opened Parent Folder")),
-                .message = shown(copy.say("The item no longer exists, so the parent folder was opened.") + "\n"
-                    + shownPath(item.deletingLastPathComponent()))});
+                .message = shown(copy.finderItemMissingMessage(shownPath(item.deletingLastPathComponent())))});
         }
     });
 }

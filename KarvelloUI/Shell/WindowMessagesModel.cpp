@@ -1,5 +1,7 @@
 #include "KarvelloUI/Shell/WindowMessagesModel.h"
 
+#include "KarvelloUI/Sessions/ShownText.h"
+
 namespace KarvelloUI {
 
 WindowMessagesModel::WindowMessagesModel(MacCleanerDashboardModel& dashboard, QObject* parent)
@@ -25,7 +27,8 @@ QString WindowMessagesModel::accessTitle() const
 QString WindowMessagesModel::accessText() const
 {
     const auto& failure = m_dashboard.homeAccess().lastErrorMessage();
-    return shown(failure.value_or(m_dashboard.words().homeAccessOnboardingMessage()));
+    const auto words = m_dashboard.words();
+    return failure ? shownText(words.skippedReason(*failure)) : shown(words.homeAccessOnboardingMessage());
 }
 
 QString WindowMessagesModel::accessActionText() const

@@ -1,4 +1,5 @@
 #include "KarvelloUI/Copy/PercentText.h"
+#include "KarvelloUI/Dashboard/KnownState.h"
 #include "KarvelloUI/Screens/Home/HomeFigures.h"
 
 #include <algorithm>
@@ -11,12 +12,6 @@ namespace KarvelloUI::HomeFigures {
 namespace {
 
 constexpr const char* kNoFigure = "—";
-constexpr std::string_view kUnknownState = "Unknown";
-
-bool isKnown(std::string_view state)
-{
-    return !state.empty() && state != kUnknownState;
-}
 
 /// What all three have in common.
 HomeMetric metric(
@@ -76,14 +71,14 @@ std::vector<HomeMetric> metrics(const CleanerCore::SystemResourceSnapshot& snaps
         memory.unit = shown(fmt::format("{} / {}", words.byteSize(static_cast<std::int64_t>(snapshot.usedMemoryBytes)),
             words.byteSize(static_cast<std::int64_t>(snapshot.physicalMemoryBytes))));
         memory.text =
-            isKnown(snapshot.memoryPressure) ? shown(words.localizedPressure(snapshot.memoryPressure)) : QString();
+            isKnownState(snapshot.memoryPressure) ? shown(words.localizedPressure(snapshot.memoryPressure)) : QString();
     }
 
     // The history keeps a value for machines that tell none; a curve of it would look like a reading.
-    const bool isTold = snapshot == CleanerCore::SystemResourceSnapshot() || isKnown(snapshot.thermalState);
+    const bool isTold = snapshot == CleanerCore::SystemResourceSnapshot() || isKnownState(snapshot.thermalState);
     HomeMetric thermal = metric(QStringLiteral("thermal"), words.text("발열", "Thermal"),
         isTold ? std::span<const double>(history.thermalPressure()) : std::span<const double>(), words);
-    if (isKnown(snapshot.thermalState)) {
+    if (isKnownState(snapshot.thermalState)) {
         thermal.figure = shown(words.localizedThermalState(snapshot.thermalState));
         thermal.text = shown(words.text(
             "센서 온도가 아님 · 공개된 열 압박 수준", "Not a sensor temperature · public thermal pressure level"));

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Popover/StatusPopoverModel.h"
 
+#include "KarvelloUI/Dashboard/KnownState.h"
 #include "KarvelloUI/MenuBar/KarvelloMenuBarSystemMetrics.h"
 #include "KarvelloUI/Screens/Popover/PopoverIcons.h"
 
@@ -100,7 +101,10 @@ void StatusPopoverModel::refresh()
 StatusPopoverModel::Texts StatusPopoverModel::texts(const KarvelloMenuBarStrings& strings) const
 {
     const auto& snapshot = m_status->snapshot();
-    const auto [cpu, memory, thermal] = KarvelloMenuBarSystemMetrics::metrics(snapshot, strings);
+    auto [cpu, memory, thermal] = KarvelloMenuBarSystemMetrics::metrics(snapshot, strings);
+    if (!isKnownState(snapshot.systemSnapshot.thermalState)) {
+        thermal.value = "—";
+    }
     return {
         .brand = shown(m_preferences.words().appTitle()),
         .updated = shown(strings.updated(snapshot.capturedAt)),

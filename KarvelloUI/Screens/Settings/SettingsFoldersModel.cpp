@@ -62,7 +62,7 @@ QString SettingsFoldersModel::revealText() const
 
 QString SettingsFoldersModel::errorText() const
 {
-    return m_dashboard.customFolders().lastErrorText();
+    return shownText(m_dashboard.words().skippedReason(m_dashboard.customFolders().lastErrorMessage().value_or("")));
 }
 
 void SettingsFoldersModel::add()
@@ -70,8 +70,8 @@ void SettingsFoldersModel::add()
     const auto words = m_dashboard.words();
     m_dashboard.services().fileDialogs.chooseFolder(
         {
-            .message = words.text("정리 스캔에 직접 고른 폴더를 추가합니다. 접근 권한은 보안 범위 책갈피로 유지됩니다.",
-                "Add user-selected folders to the cleanup scan. Access is persisted with security-scoped bookmarks."),
+            .message =
+                words.say("Add user-selected folders to the cleanup scan. Karvello remembers that it may read them."),
             .prompt = words.text("폴더 추가", "Add Folder"),
             .directory = m_dashboard.services().homeDirectory,
         },

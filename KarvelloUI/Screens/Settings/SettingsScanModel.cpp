@@ -96,7 +96,7 @@ QString SettingsScanModel::revokeText() const
 
 QString SettingsScanModel::errorText() const
 {
-    return m_dashboard.homeAccess().lastErrorText();
+    return shownText(m_dashboard.words().skippedReason(m_dashboard.homeAccess().lastErrorMessage().value_or("")));
 }
 
 void SettingsScanModel::chooseMode(const QString& value)

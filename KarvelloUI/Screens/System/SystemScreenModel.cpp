@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/System/SystemScreenModel.h"
 
 #include "KarvelloUI/Copy/PercentText.h"
+#include "KarvelloUI/Dashboard/KnownState.h"
 #include "KarvelloUI/Screens/System/SystemFigures.h"
 #include "Platform/Base/LocalizedText.h"
 
@@ -137,7 +138,7 @@ SystemTile SystemScreenModel::memoryTile(const DashboardWords& words) const
     tile.figure = SystemFigures::memory(snapshot);
     tile.unit = SystemFigures::memoryAmounts(snapshot, words);
     tile.text = shown(words.text("현재 상태에서 추정한 값", "Estimated from the current snapshot"));
-    if (!snapshot.memoryPressure.empty()) {
+    if (isKnownState(snapshot.memoryPressure)) {
         tile.pillText = shown(words.localizedPressure(snapshot.memoryPressure));
         tile.pillKind = static_cast<int>(SystemFigures::pillOfPressure(snapshot.memoryPressure));
     }
@@ -149,10 +150,10 @@ SystemTile SystemScreenModel::thermalTile(const DashboardWords& words) const
     const auto& state = m_dashboard.insights().currentSystemSnapshot().thermalState;
     SystemTile tile = tileOf(m_dashboard.insights().systemMetricHistory().thermalPressure(), words);
     tile.name = shown(words.text("발열 상태", "Thermal State"));
-    tile.figure = shown(state.empty() ? unknownFigure() : words.localizedThermalState(state));
+    tile.figure = shown(isKnownState(state) ? words.localizedThermalState(state) : unknownFigure());
     tile.text = shown(
         words.text("센서 온도가 아닌 공개된 열 압박 단계", "Not a sensor temperature · public thermal pressure level"));
-    if (!state.empty()) {
+    if (isKnownState(state)) {
         tile.pillText = tile.figure;
         tile.pillKind = static_cast<int>(SystemFigures::pillOfThermalState(state));
     }

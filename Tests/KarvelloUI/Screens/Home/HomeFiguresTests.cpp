@@ -10,7 +10,7 @@ using namespace KarvelloUI::HomeFigures;
 
 namespace {
 
-constexpr DashboardWords kEnglish{{AppLanguage::english}};
+constexpr DashboardWords kEnglish(AppLanguage::english);
 
 SystemMetricHistory historyOf(const std::vector<double>& samples)
 {

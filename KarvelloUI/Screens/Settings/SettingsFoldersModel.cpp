@@ -62,7 +62,7 @@ QString SettingsFoldersModel::revealText() const
 
 QString SettingsFoldersModel::errorText() const
 {
-    return m_dashboard.customFolders().lastErrorText();
+    return shownText(m_dashboard.customFolders().lastErrorMessage().value_or(std::string()));
 }
 
 void SettingsFoldersModel::add()

@@ -54,7 +54,7 @@ QString SettingsIgnoreModel::clearText() const
 
 QString SettingsIgnoreModel::errorText() const
 {
-    return m_dashboard.ignoreStore().lastErrorText();
+    return shownText(m_dashboard.ignoreStore().lastErrorMessage().value_or(std::string()));
 }
 
 void SettingsIgnoreModel::showAgain(int row)

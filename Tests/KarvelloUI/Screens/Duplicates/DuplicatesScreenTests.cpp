@@ -178,6 +178,35 @@ TEST_F(DuplicatesScreenTest, HasRoomForAllTexts)
     lookAtAllFaces("duplicates-results");
 }
 
+class DuplicatesScreenWithHostileNames : public DuplicatesScreenTest {
+protected:
+    DuplicatesScreenWithHostileNames()
+        : DuplicatesScreenTest("home/Pictures/\n  a/\n    " + std::string(kHostileNameOfTree)
+              + " size=40K age=90d\n  b/\n    " + std::string(kHostileNameOfTree) + " size=40K age=80d\n")
+    {
+    }
+};
+
+TEST_F(DuplicatesScreenWithHostileNames, ShowsThemWithEscapesAndActsOnTheFiles)
+{
+    DuplicatesScreenModel screen(*dashboard);
+    scan();
+    ASSERT_EQ(screen.count(), 1);
+    for (const int copy : {0, 1}) {
+        const auto shown = file(screen, 0, copy);
+        EXPECT_EQ(shown.value(QStringLiteral("name")).toString().toStdString(), kShownHostileName);
+        EXPECT_THAT(shown.value(QStringLiteral("path")).toString().toStdString(),
+            testing::AllOf(testing::StartsWith("~/Pictures/"), testing::EndsWith("/" + kShownHostileName)));
+        EXPECT_THAT(shown.value(QStringLiteral("spokenName")).toString().toStdString(),
+            testing::AllOf(testing::StartsWith(kShownHostileName), testing::Not(testing::HasSubstr("\n"))));
+    }
+    screen.toggleFile(0, id(screen, 0), 1);
+    ASSERT_EQ(session().selectedFiles(duplicates).size(), 1U);
+    EXPECT_EQ(session().selectedFiles(duplicates)[0]->displayName, kHostileName);
+    screen.reveal(0, id(screen, 0), 1);
+    EXPECT_EQ(fileViewer.selected.back(), session().selectedFiles(duplicates)[0]->url.path());
+}
+
 /// Many small groups.
 class DuplicatesScreenWithManyGroups : public DuplicatesScreenTest {
 protected:

@@ -8,7 +8,7 @@ namespace KarvelloUI {
 
 namespace {
 
-constexpr std::array<const char*, 3> kNames { "role", "checkable", "checked" };
+constexpr std::array<const char*, 3> kNames{"role", "checkable", "checked"};
 
 } // namespace
 

@@ -154,9 +154,10 @@ QString SidebarModel::advancedText() const
 {
     const auto words = m_dashboard.words();
     return shown(!isAdvancedShown() ? words.text("접힘", "Collapsed")
-            : isAdvancedHeld()      ? words.text("고급 섹션을 보는 동안에는 접을 수 없습니다. 다른 섹션으로 이동하면 접을 수 있습니다.",
+            : isAdvancedHeld()
+            ? words.text("고급 섹션을 보는 동안에는 접을 수 없습니다. 다른 섹션으로 이동하면 접을 수 있습니다.",
                   "Cannot collapse while viewing an advanced section. Switch to another section to collapse.")
-                                    : words.text("펼쳐짐", "Expanded"));
+            : words.text("펼쳐짐", "Expanded"));
 }
 
 QString SidebarModel::storageTitle() const

@@ -102,7 +102,7 @@ SettingsScreenModel::FailingGroup SettingsScreenModel::failingGroup() const
 {
     // Without access nothing is scanned; with a list that was not stored, what was hidden may come back; a folder is only
     // not looked at.
-    return !m_scan.errorText().isEmpty()       ? ScanGroup
+    return !m_scan.errorText().isEmpty()         ? ScanGroup
         : !m_ignoreList.errorText().isEmpty()    ? IgnoreListGroup
         : !m_customFolders.errorText().isEmpty() ? CustomFoldersGroup
                                                  : NoGroup;

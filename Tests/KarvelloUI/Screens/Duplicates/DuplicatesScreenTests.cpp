@@ -163,10 +163,23 @@ TEST_F(DuplicatesScreenTest, TellsAssistantsWhichCopyStaysAndWhy)
     auto* const head = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
     EXPECT_EQ(head->role(), QAccessible::CheckBox);
     EXPECT_FALSE(head->state().checked);
+    comeAgainAsAssistant();
+    EXPECT_EQ(head->role(), QAccessible::CheckBox);
+    head->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(head->state().checked);
+    EXPECT_FALSE(head->state().checkStateMixed);
     key(Qt::Key_Down);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(m_window->activeFocusItem())->role(), QAccessible::ListItem);
     EXPECT_EQ(nameOf(m_window->activeFocusItem()),
         "photo.jpg, Keeper, Keeper recommendation: preferred folder, 40 KB, ~/Documents/photo.jpg, 6 months");
     EXPECT_FALSE(QAccessible::queryAccessibleInterface(m_window->activeFocusItem())->state().checkable);
+    key(Qt::Key_Down);
+    auto* const extra = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    EXPECT_EQ(extra->role(), QAccessible::CheckBox);
+    EXPECT_TRUE(extra->state().checked);
+    extra->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_FALSE(extra->state().checked);
+    EXPECT_TRUE(head->state().checkStateMixed);
 }
 
 TEST_F(DuplicatesScreenTest, HasRoomForAllTexts)

@@ -145,8 +145,8 @@ TEST_F(ProjectPanelModelTest, ShowsThreeFoldersAndCountsAll)
 TEST_F(ProjectPanelModelTest, ShowsHostileNamesAsTextAlone)
 {
     tree.add("home/" + std::string(DashboardTests::kHostileNameOfTree) + "/node_modules/x size=8K age=100d\n");
-    ASSERT_TRUE(dashboard->customFolders().addFolder(
-        tree.url("home/" + DashboardTests::kHostileName + "/"), fileManager, now));
+    ASSERT_TRUE(
+        dashboard->customFolders().addFolder(tree.url("home/" + DashboardTests::kHostileName + "/"), fileManager, now));
     scan();
     ASSERT_EQ(panel().projects()->count(), 1);
     EXPECT_THAT(project(0).path.toStdString(), testing::StartsWith("~/" + DashboardTests::kShownHostileName));

@@ -174,9 +174,15 @@ TEST_F(StorageMapScreenTest, TellsAssistantsNameSizeCountAndShare)
     focus("table");
     key(Qt::Key_End);
     const auto* const row = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    comeAgainAsAssistant();
     EXPECT_EQ(row->role(), QAccessible::ListItem);
     EXPECT_TRUE(row->state().selected);
     EXPECT_EQ(nameOf(m_window->activeFocusItem()), "Music, 0 bytes, 0 items, 0% of the largest area, ~/Music");
+    focus("map");
+    key(Qt::Key_Home);
+    const auto* const cell = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    EXPECT_EQ(cell->role(), QAccessible::ListItem);
+    EXPECT_TRUE(cell->state().selected);
 }
 
 TEST_F(StorageMapScreenTest, HasRoomForAllTexts)

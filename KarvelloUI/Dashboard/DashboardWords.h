@@ -3,6 +3,7 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 #include "KarvelloUI/Copy/OwnText.h"
 #include "KarvelloUI/Dashboard/Texts/TextTables.h"
+#include "KarvelloUI/Sessions/ShownText.h"
 
 #include <QString>
 #include <cstdint>
@@ -47,10 +48,10 @@ struct DashboardWords : KarvelloCopy {
     using CopyWording::joinedParts;
 };
 
-/// A text for a screen. Names and paths that may hold anything go through `shownText`.
+/// A text for a screen, whatever names it holds; see `shownText`.
 [[nodiscard]] inline QString shown(const std::string& text)
 {
-    return QString::fromStdString(text);
+    return shownText(text);
 }
 
 } // namespace KarvelloUI

@@ -72,6 +72,12 @@ Window {
             }
         }
 
+        Shortcut {
+            sequences: ["F1", "Ctrl+?"]
+            enabled: dashboard.visible
+            onActivated: shortcuts.open()
+        }
+
         RowLayout {
             anchors.fill: parent
             spacing: 0
@@ -97,7 +103,7 @@ Window {
                     KarvelloBanner {
                         id: access
                         Layout.fillWidth: true
-                        visible: window.screens.messages.isAccessMissing
+                        visible: window.screens.messages.asksForAccess
                         kind: KarvelloBanner.Accent
                         iconName: "lock"
                         title: window.screens.messages.accessTitle
@@ -180,5 +186,10 @@ Window {
     }
     AlertDialog {
         messages: window.screens.messages
+    }
+    ShortcutsDialog {
+        id: shortcuts
+        objectName: "shortcuts"
+        settings: window.screens.settings
     }
 }

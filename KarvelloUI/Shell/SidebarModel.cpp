@@ -109,6 +109,7 @@ SidebarModel::SidebarModel(MacCleanerDashboardModel& dashboard, QObject* parent)
         &SidebarModel::advancedShownChanged);
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {
         refresh();
+        Q_EMIT advancedShownChanged();
         Q_EMIT diskChanged();
     });
     connect(&dashboard.cleaner(), &CleanerViewModel::reportChanged, this, &SidebarModel::refresh);
@@ -147,6 +148,16 @@ bool SidebarModel::isAdvancedHeld() const
 bool SidebarModel::isAdvancedShown() const
 {
     return isAdvancedHeld() || m_dashboard.preferences().isAdvancedExpanded();
+}
+
+QString SidebarModel::advancedText() const
+{
+    const auto words = m_dashboard.words();
+    return shown(!isAdvancedShown() ? words.text("접힘", "Collapsed")
+            : isAdvancedHeld()
+            ? words.text("고급 섹션을 보는 동안에는 접을 수 없습니다. 다른 섹션으로 이동하면 접을 수 있습니다.",
+                  "Cannot collapse while viewing an advanced section. Switch to another section to collapse.")
+            : words.text("펼쳐짐", "Expanded"));
 }
 
 QString SidebarModel::storageTitle() const

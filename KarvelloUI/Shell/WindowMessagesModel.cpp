@@ -2,6 +2,8 @@
 
 #include "KarvelloUI/Sessions/ShownText.h"
 
+#include <algorithm>
+
 namespace KarvelloUI {
 
 WindowMessagesModel::WindowMessagesModel(MacCleanerDashboardModel& dashboard, QObject* parent)
@@ -9,14 +11,29 @@ WindowMessagesModel::WindowMessagesModel(MacCleanerDashboardModel& dashboard, QO
     , m_dashboard(dashboard)
 {
     connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &WindowMessagesModel::accessChanged);
-    connect(&dashboard.homeAccess(), &HomeAccessBookmarkStore::lastErrorMessageChanged, this,
-        &WindowMessagesModel::accessChanged);
+    connect(&dashboard, &MacCleanerDashboardModel::selectedSectionChanged, this, &WindowMessagesModel::accessChanged);
+    for (const PreferenceStore* const store : storesOfTheSettings()) {
+        connect(store, &PreferenceStore::lastErrorMessageChanged, this, &WindowMessagesModel::accessChanged);
+    }
     connect(&dashboard, &MacCleanerDashboardModel::alertChanged, this, &WindowMessagesModel::alertChanged);
     connect(&dashboard, &MacCleanerDashboardModel::noticeChanged, this, &WindowMessagesModel::noticeChanged);
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {
         Q_EMIT accessChanged();
         Q_EMIT wordsChanged();
     });
+}
+
+std::array<const PreferenceStore*, 3> WindowMessagesModel::storesOfTheSettings() const
+{
+    return {&m_dashboard.homeAccess(), &m_dashboard.ignoreStore(), &m_dashboard.customFolders()};
+}
+
+bool WindowMessagesModel::asksForAccess() const
+{
+    const bool isToldInTheSettings = m_dashboard.selectedSection() == MacDashboardSection::settings
+        && std::ranges::any_of(
+            storesOfTheSettings(), [](const PreferenceStore* store) { return store->lastErrorMessage().has_value(); });
+    return isAccessMissing() && !isToldInTheSettings;
 }
 
 QString WindowMessagesModel::accessTitle() const

@@ -44,6 +44,7 @@ struct CleanupSectionHead {
     Q_PROPERTY(QString selection MEMBER selection CONSTANT FINAL)
     Q_PROPERTY(int checkState MEMBER checkState CONSTANT FINAL)
     Q_PROPERTY(bool isOpen MEMBER isOpen CONSTANT FINAL)
+    Q_PROPERTY(QString openText MEMBER openText CONSTANT FINAL)
     Q_PROPERTY(int row MEMBER row CONSTANT FINAL)
 
 public:
@@ -57,6 +58,8 @@ public:
     /// A `Qt::CheckState`.
     int checkState = 0;
     bool isOpen = true;
+    /// What is said of that.
+    QString openText = {};
     /// Its own, -1 without one.
     int row = -1;
 };

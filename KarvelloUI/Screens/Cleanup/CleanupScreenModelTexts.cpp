@@ -234,7 +234,7 @@ QString CleanupScreenModel::visiting() const
         return shown(copy.scanRunnerPreparing());
     }
     const Platform::HomePathAbbreviation home(m_dashboard.services().homeDirectory);
-    return shown(copy.scanRunnerVisiting()) + u' ' + shownName(home.abbreviate(url->path()));
+    return shown(copy.scanRunnerVisiting()) + u' ' + shownText(home.abbreviate(url->path()));
 }
 
 qreal CleanupScreenModel::progress() const
@@ -304,7 +304,7 @@ QVariantList CleanupScreenModel::factsOf(int row) const
     const auto copy = words();
     QVariantList facts;
     const auto add = [&facts](const std::string& title, const std::string& text) {
-        facts.append(QVariant::fromValue(CleanupFact{.title = shown(title), .text = shownName(text)}));
+        facts.append(QVariant::fromValue(CleanupFact{.title = shown(title), .text = shownText(text)}));
     };
     add(copy.say("Path"), candidate->url.path());
     add(copy.text("표시되는 이유", "Why is this listed?"), copy.cleanupCandidateTrustExplanation(*candidate));
@@ -329,7 +329,7 @@ QVariantList CleanupScreenModel::factsOf(int row) const
 QString CleanupScreenModel::menuNameOf(int row) const
 {
     const auto* const candidate = m_list.candidate(row);
-    return candidate == nullptr ? QString() : shownName(words().say("Actions for {}", candidate->displayName));
+    return candidate == nullptr ? QString() : shownText(words().say("Actions for {}", candidate->displayName));
 }
 
 QVariantList CleanupScreenModel::snoozesOf(int row) const

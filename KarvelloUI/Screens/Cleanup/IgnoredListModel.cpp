@@ -28,9 +28,9 @@ QVariant IgnoredListModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case nameRole:
-        return shownName(item.displayName);
+        return shownText(item.displayName);
     case pathRole:
-        return shownName(m_home.abbreviate(item.path));
+        return shownText(m_home.abbreviate(item.path));
     case sizeRole:
         return shown(m_words.byteSize(item.sizeBytes));
     case durationRole: {

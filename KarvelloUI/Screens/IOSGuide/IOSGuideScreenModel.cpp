@@ -46,7 +46,7 @@ QString IOSGuideScreenModel::subtitle() const
 QString IOSGuideScreenModel::notice() const
 {
     const auto words = m_dashboard.words();
-    return shown(
+    return shownLines(
         words.text("iOS 샌드박스 때문에 다른 앱의 캐시나 시스템 데이터를 직접 삭제할 수 없습니다. 대신 Apple이 "
                    "지원하는 경로를 따르세요.",
             "iOS sandboxing prevents direct deletion of other apps' caches or System Data. Follow Apple's "

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/Popover/TriageListModel.h"
 
 #include "KarvelloUI/Screens/Popover/PopoverIcons.h"
+#include "KarvelloUI/Sessions/ShownText.h"
 
 namespace KarvelloUI {
 
@@ -16,9 +17,9 @@ QVariant TriageListModel::data(const QModelIndex& index, int role) const
         return popoverIcon(row.symbol);
     case Qt::DisplayRole:
     case detailRole:
-        return QString::fromStdString(row.detail);
+        return shownText(row.detail);
     case buttonTitleRole:
-        return QString::fromStdString(row.buttonTitle);
+        return shownText(row.buttonTitle);
     case destinationRole:
         return QString::fromStdString(std::string(Platform::rawValue(row.destination)));
     case isCriticalRole:

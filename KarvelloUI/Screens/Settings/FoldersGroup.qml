@@ -8,6 +8,7 @@ SettingsGroup {
 
     required property SettingsFoldersModel group
     required property string closeName
+    required property bool showsFailure
 
     title: group.title
     headItem: KarvelloButton {
@@ -22,7 +23,7 @@ SettingsGroup {
     SettingsRule {}
     SettingsFailure {
         objectName: "foldersFailure"
-        text: control.group.errorText
+        text: control.showsFailure ? control.group.errorText : ""
         closeName: control.closeName
         onCloseRequested: control.group.dismissError()
     }

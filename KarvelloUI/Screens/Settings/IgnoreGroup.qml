@@ -8,6 +8,7 @@ SettingsGroup {
 
     required property SettingsIgnoreModel group
     required property string closeName
+    required property bool showsFailure
 
     title: group.title
     headItem: KarvelloButton {
@@ -23,7 +24,7 @@ SettingsGroup {
     SettingsRule {}
     SettingsFailure {
         objectName: "ignoreFailure"
-        text: control.group.errorText
+        text: control.showsFailure ? control.group.errorText : ""
         closeName: control.closeName
         onCloseRequested: control.group.dismissError()
     }

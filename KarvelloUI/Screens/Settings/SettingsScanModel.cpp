@@ -35,7 +35,7 @@ QString SettingsScanModel::modeTitle() const
 QString SettingsScanModel::modeText() const
 {
     const auto words = m_dashboard.words();
-    return shown(words.scanModeAccessibilityHint(m_dashboard.services().supportsDirectDistributionScans()) + "\n"
+    return shownLines(words.scanModeAccessibilityHint(m_dashboard.services().supportsDirectDistributionScans()) + "\n"
         + words.say("Changing the mode clears the results on show."));
 }
 
@@ -73,7 +73,7 @@ QString SettingsScanModel::accessText() const
     if (grant) {
         const auto path =
             Platform::HomePathAbbreviation(m_dashboard.services().homeDirectory).abbreviate(grant->fallbackPath);
-        return shown(words.homeAccessGrantedStatus() + "\n") + shownText(path)
+        return shown(words.homeAccessGrantedStatus()) + QLatin1Char('\n') + shownText(path)
             + shown(" · "
                 + words.say("Granted {}", Platform::LocalizedText::mediumMoment(grant->createdAt, words.locale())));
     }

@@ -23,6 +23,8 @@ T.ItemDelegate {
     focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.name: spokenName
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.onPressAction: row.clicked()

@@ -46,10 +46,11 @@ T.CheckDelegate {
     focusPolicy: Qt.ClickFocus
     onClicked: toggleIfSelectable()
 
-    Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
-    Accessible.checkable: isSelectable
-    Accessible.checked: isSelectable && isSelected
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.CheckBox
+    KarvelloSpoken.checkable: isSelectable
+    KarvelloSpoken.checked: isSelectable && isSelected
     Accessible.onToggleAction: toggleIfSelectable()
     Accessible.onPressAction: toggleIfSelectable()
 

@@ -241,6 +241,29 @@ TEST_F(CleanupScreenTest, AShortListLeavesNoEmptySheet)
     EXPECT_NEAR(find("sheet")->height(), std::max(320.0, listEnd + 2), 2);
 }
 
+TEST_F(CleanupScreenTest, HasOneStopInThePanelOfWhatIsHidden)
+{
+    showReview();
+    screen->snooze(1, QStringLiteral("oneDay"));
+    screen->snooze(1, QStringLiteral("oneDay"));
+    QMetaObject::invokeMethod(find("page"), "showPanel", Q_ARG(QString, QStringLiteral("ignored")));
+    layOut();
+    const std::string first = focused();
+    EXPECT_THAT(first, StartsWith("Show Again, "));
+    key(Qt::Key_Down);
+    const std::string second = focused();
+    EXPECT_THAT(second, testing::AllOf(StartsWith("Show Again, "), testing::Ne(first)));
+    key(Qt::Key_Home);
+    EXPECT_EQ(focused(), first);
+    key(Qt::Key_Tab);
+    EXPECT_THAT(focused(), testing::Not(StartsWith("Show Again")));
+    key(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), first);
+    key(Qt::Key_Space);
+    layOut();
+    EXPECT_EQ(focused(), second) << "the place stays when its row goes";
+}
+
 TEST_F(CleanupScreenTest, IsOneStopForTab)
 {
     showReview();

@@ -2,6 +2,7 @@
 
 #include "KarvelloUI/Screens/Home/HomeScreenModel.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 
 #include <filesystem>
 #include <memory>

@@ -144,12 +144,13 @@ TEST_F(ProjectPanelModelTest, ShowsThreeFoldersAndCountsAll)
 
 TEST_F(ProjectPanelModelTest, ShowsHostileNamesAsTextAlone)
 {
-    tree.add("home/\"a<b>\\n\\xFF\"/node_modules/x size=8K age=100d\n");
-    ASSERT_TRUE(dashboard->customFolders().addFolder(tree.url("home/a<b>\n\xFF/"), fileManager, now));
+    tree.add("home/" + std::string(DashboardTests::kHostileNameOfTree) + "/node_modules/x size=8K age=100d\n");
+    ASSERT_TRUE(
+        dashboard->customFolders().addFolder(tree.url("home/" + DashboardTests::kHostileName + "/"), fileManager, now));
     scan();
     ASSERT_EQ(panel().projects()->count(), 1);
-    EXPECT_THAT(project(0).path.toStdString(), HasSubstr("~/a<b>"));
-    EXPECT_THAT(project(0).path.toStdString(), HasSubstr("\\xFF"));
+    EXPECT_THAT(project(0).path.toStdString(), testing::StartsWith("~/" + DashboardTests::kShownHostileName));
+    EXPECT_EQ(project(0).name.toStdString().find('\n'), std::string::npos);
 }
 
 TEST_F(ProjectPanelModelTest, LeadsToReviewAndSettings)

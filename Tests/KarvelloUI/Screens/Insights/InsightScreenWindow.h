@@ -91,6 +91,13 @@ protected:
         return QAccessible::queryAccessibleInterface(object)->text(QAccessible::Name).toStdString();
     }
 
+    /// An assistant goes and comes back: the templates of the controls then write their own kinds and states.
+    static void comeAgainAsAssistant()
+    {
+        QAccessible::setActive(false);
+        QAccessible::setActive(true);
+    }
+
     /// The rows that a list has made.
     [[nodiscard]] QList<QQuickItem*> rowsOf(const char* list)
     {

@@ -103,13 +103,14 @@ TEST_F(SettingsFoldersModelTest, ShowsAFolderInTheFileManager)
 
 TEST_F(SettingsFoldersModelTest, ShowsAndRevealsNamesThatAreNoText)
 {
-    tree.add("home/x/");
-    std::filesystem::rename(tree.path("home/x"), tree.path("home/\xFF\n\u202E"));
-    addFolder("home/\xFF\n\u202E/");
+    tree.add("home/" + std::string(kHostileNameOfTree) + "/");
+    addFolder("home/" + kHostileName + "/");
     ASSERT_EQ(group().count(), 1);
-    EXPECT_EQ(text(0, Role::pathRole), "~/\\xFF\n\u202E");
+    EXPECT_EQ(text(0, Role::pathRole), "~/" + kShownHostileName);
     group().reveal(0);
-    EXPECT_THAT(fileViewer.selected, ElementsAre(tree.path("home/\xFF\n\u202E")));
+    EXPECT_THAT(fileViewer.selected, ElementsAre(tree.path("home/" + kHostileName)));
+    group().remove(0);
+    EXPECT_EQ(group().count(), 0);
 }
 
 TEST_F(SettingsFoldersModelTest, SaysWhatToDoAboutAFolderThatTheScanSkipped)

@@ -16,6 +16,7 @@ protected:
         using SettingsTest::addFolder;
         using SettingsTest::dashboard;
         using SettingsTest::defaults;
+        using SettingsTest::fileDialogs;
         using SettingsTest::ignore;
         using SettingsTest::isDirectDistribution;
         using SettingsTest::preferences;
@@ -154,6 +155,36 @@ TEST_F(SettingsScreen, ShowsWhatIsStoredAfterAChoiceThatWasNot)
     m_settings.defaults.failNoSave();
     key(Qt::Key_Right);
     EXPECT_EQ(m_settings.preferences->appearanceMode(), KarvelloAppearanceMode::light);
+}
+
+TEST_F(SettingsScreen, TellsOneFailureAtATimeTheWorstFirst)
+{
+    fill();
+    open();
+    const auto told = [this] {
+        std::vector<std::string> names;
+        for (const char* const name : {"accessFailure", "ignoreFailure", "foldersFailure"}) {
+            if (find(name)->isVisible()) {
+                names.emplace_back(name);
+            }
+        }
+        return names;
+    };
+    EXPECT_THAT(told(), testing::IsEmpty());
+    m_settings.defaults.failAllSaves();
+    m_settings.screen->customFolders()->remove(0);
+    EXPECT_THAT(told(), testing::ElementsAre("foldersFailure"));
+    m_settings.screen->ignoreList()->clear();
+    EXPECT_THAT(told(), testing::ElementsAre("ignoreFailure"));
+    m_settings.screen->scan()->grant();
+    m_settings.fileDialogs.answer(m_settings.tree.url("home/Projects/"));
+    EXPECT_THAT(told(), testing::ElementsAre("accessFailure"));
+    m_settings.screen->scan()->dismissError();
+    EXPECT_THAT(told(), testing::ElementsAre("ignoreFailure"));
+    m_settings.screen->ignoreList()->dismissError();
+    EXPECT_THAT(told(), testing::ElementsAre("foldersFailure"));
+    m_settings.screen->customFolders()->dismissError();
+    EXPECT_THAT(told(), testing::IsEmpty());
 }
 
 TEST_F(SettingsScreen, StandsInOneColumnWithLargeTexts)

@@ -279,8 +279,12 @@ TEST_F(SystemScreens, SelectByAnAssistant)
     placeRelief(ResourceReliefMetric::memory);
     auto* const list = find("candidates");
     list->forceActiveFocus(Qt::TabFocusReason);
+    QAccessible::setActive(false);
+    QAccessible::setActive(true);
+    EXPECT_EQ(spoken(focused())->role(), QAccessible::CheckBox);
     toggle(focused());
     EXPECT_EQ(m_machine.dashboard->resourceRelief().selectedCount(), 1);
+    EXPECT_TRUE(spoken(focused())->state().checked);
 }
 
 } // namespace

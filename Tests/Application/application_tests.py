@@ -9,6 +9,7 @@ from lifetime_tests import Lifetime
 from review_tests import Review
 from sections_tests import Sections
 from settings_tests import Settings
+from tray_tests import Tray
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)

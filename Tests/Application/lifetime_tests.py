@@ -8,7 +8,7 @@ from session import wait_until
 class Lifetime(ApplicationTest):
     def wait_for_item(self, host):
         """The item's owner on the bus."""
-        owner = host.stdout.readline().strip()
+        owner = host.line()
         self.assertTrue(owner, "no item in the tray")
         return owner
 
@@ -52,8 +52,7 @@ class Lifetime(ApplicationTest):
         application = self.start_after_first_run()
         self.wait_for_item(host)
         self.scan(application)
-        application.close_window()
-        wait_until(lambda: application.window() is None, "the window is closed")
+        application.hide()
         self.assertTrue(application.is_running())
         self.assertEqual(self.start().wait_for_end(), 0)
         application.wait_for_window()
@@ -64,8 +63,7 @@ class Lifetime(ApplicationTest):
         host = self.start_tray()
         application = self.start_after_first_run()
         owner = self.wait_for_item(host)
-        application.close_window()
-        wait_until(lambda: application.window() is None, "the window is closed")
+        application.hide()
 
         self.activate(owner)
         application.shown.wait_for("Quick Triage", "heading")

@@ -6,6 +6,7 @@ import unittest
 from faults_tests import Faults
 from figures_tests import Figures
 from lifetime_tests import Lifetime
+from reminders_tests import Reminders
 from review_tests import Review
 from sections_tests import Sections
 from settings_tests import Settings

@@ -8,6 +8,7 @@ import unittest
 
 import session as sessions
 from application import Application, Installation
+from gi.repository import Gio, GLib
 from home import Home
 from services import TRAY, Service
 
@@ -74,3 +75,13 @@ class ApplicationTest(unittest.TestCase):
     def start_tray(self):
         """A host of status notifier items; each of its lines is the owner of one."""
         return self.serve(TRAY)
+
+    def item_in(self, host):
+        """Its owner on the bus."""
+        owner = host.line()
+        self.assertTrue(owner, "no item in the tray")
+        return owner
+
+    def activate(self, owner):
+        self.session.session_bus.call_sync(owner, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate",
+                                           GLib.Variant("(ii)", (1200, 20)), None, Gio.DBusCallFlags.NONE, 30_000, None)

@@ -1,21 +1,10 @@
 """Starting, starting again, going into the tray, and ending."""
 
 from case import ApplicationTest
-from gi.repository import Gio, GLib
 from session import wait_until
 
 
 class Lifetime(ApplicationTest):
-    def wait_for_item(self, host):
-        """The item's owner on the bus."""
-        owner = host.line()
-        self.assertTrue(owner, "no item in the tray")
-        return owner
-
-    def activate(self, owner):
-        self.session.session_bus.call_sync(owner, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate",
-                                           GLib.Variant("(ii)", (1200, 20)), None, Gio.DBusCallFlags.NONE, 30_000, None)
-
     def test_a_second_start_brings_the_first_forward_and_ends(self):
         first = self.start_after_first_run()
         window = first.window()
@@ -50,7 +39,7 @@ class Lifetime(ApplicationTest):
         self.home.add_clutter()
         host = self.start_tray()
         application = self.start_after_first_run()
-        self.wait_for_item(host)
+        self.item_in(host)
         self.scan(application)
         application.hide()
         self.assertTrue(application.is_running())
@@ -62,7 +51,7 @@ class Lifetime(ApplicationTest):
     def test_the_popover_leads_to_the_dashboard(self):
         host = self.start_tray()
         application = self.start_after_first_run()
-        owner = self.wait_for_item(host)
+        owner = self.item_in(host)
         application.hide()
 
         self.activate(owner)
@@ -74,7 +63,7 @@ class Lifetime(ApplicationTest):
     def test_the_popover_quits(self):
         host = self.start_tray()
         application = self.start_after_first_run()
-        self.activate(self.wait_for_item(host))
+        self.activate(self.item_in(host))
         application.shown.wait_for("Quick Triage", "heading")
         application.press_button("Quit")
         self.assertEqual(application.wait_for_end(), 0)

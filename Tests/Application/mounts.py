@@ -47,3 +47,21 @@ def _mount(source, place, kind, flags, data=None):
     words = [os.fsencode(word) if word is not None else None for word in (source, place, kind)]
     if _LIBRARY.mount(*words, ctypes.c_ulong(flags), data.encode() if data else None) != 0:
         raise OSError(ctypes.get_errno(), os.strerror(ctypes.get_errno()), str(place))
+
+
+class MountsOfTheirOwn:
+    """For the cases of a suite that makes mounts; each goes with its test."""
+
+    @classmethod
+    def setUpClass(cls):
+        begin()
+        super().setUpClass()
+
+    def put(self, mount, place, *more):
+        mount(place, *more)
+        self.addCleanup(take_away, place)
+
+    def fill_disk(self, size=20_000_000, free=1_500_000):
+        """The home on a disk with no more room than that."""
+        self.put(put_small_disk, self.home.folder, size)
+        self.home.add("ballast", size - free)

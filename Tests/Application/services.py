@@ -45,6 +45,7 @@ class Service:
         return wait_until(lambda: len(self.heard()) >= count and self.heard(), lambda: f"{count} calls, heard {self.heard()}")
 
     def end(self):
+        """Once is enough, and twice does no harm."""
         sessions.end(self._process, keep_pipes=True)
         self._reader.join()
         self._process.stdout.close()

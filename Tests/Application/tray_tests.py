@@ -5,7 +5,6 @@ import time
 import mounts
 import session as sessions
 from case import ApplicationTest
-from home import MEGABYTE
 from session import wait_until
 
 SECTIONS = {"Review Cleanup": "Cleanup Review", "Open Memory Analysis": "Memory Analysis",
@@ -13,25 +12,15 @@ SECTIONS = {"Review Cleanup": "Cleanup Review", "Open Memory Analysis": "Memory 
 HEIGHT = 24
 
 
-class Tray(ApplicationTest):
+class Tray(mounts.MountsOfTheirOwn, ApplicationTest):
     @classmethod
     def setUpClass(cls):
-        mounts.begin()
         super().setUpClass()
         cls.show_tray()
 
     @classmethod
     def show_tray(cls):
         cls.tray = cls.session.run("trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", HEIGHT)
-
-    def put(self, mount, place, *more):
-        mount(place, *more)
-        self.addCleanup(mounts.take_away, place)
-
-    def fill_disk(self):
-        """A tenth of it is free, and no more."""
-        self.put(mounts.put_small_disk, self.home.folder, 20 * MEGABYTE)
-        self.home.add("ballast", 18 * MEGABYTE + 500_000)
 
     def strain_machine(self):
         figures = self.folder / f"figures-{self._testMethodName}"

@@ -12,6 +12,8 @@ from assistant import Assistant
 from session import wait_until
 
 PROGRAM = pathlib.Path(os.environ["KARVELLO_PROGRAM"])
+_LEAST_WIDTH = 1180
+_NOWHERE = (0, 0, 0, 0)
 
 
 class Installation:
@@ -61,10 +63,12 @@ class Application:
         return self.process.returncode
 
     def window(self):
-        """The number of the dashboard's window, if it is on the screen."""
-        found = self.session.output("xdotool", "search", "--onlyvisible", "--all", "--pid", self.process.pid, "--name",
-                                    "^Karvello$").split()
-        return found[0] if found else None
+        """The number of the dashboard's window, if it is on the screen; popover and item are smaller."""
+        return next((window for window in self.windows() if (self.session.place(window) or _NOWHERE)[2] >= _LEAST_WIDTH), None)
+
+    def windows(self):
+        """All of the program's, the item in a tray among them."""
+        return self.session.output("xdotool", "search", "--onlyvisible", "--pid", self.process.pid).split()
 
     def wait_for_window(self):
         def window():
@@ -84,6 +88,11 @@ class Application:
     def close_window(self):
         """As the user does it by the window manager."""
         self.press("alt+F4")
+
+    def hide(self):
+        """The same where there is a tray, in which the program goes on."""
+        self.close_window()
+        wait_until(lambda: self.window() is None, "the window is closed")
 
     def open(self, section):
         """Chooses a section of the sidebar, and waits for its title."""

@@ -6,9 +6,11 @@ import unittest
 from faults_tests import Faults
 from figures_tests import Figures
 from lifetime_tests import Lifetime
+from reminders_tests import Reminders
 from review_tests import Review
 from sections_tests import Sections
 from settings_tests import Settings
+from tray_tests import Tray
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)

@@ -32,8 +32,7 @@ class Figures(ApplicationTest):
         ready = time.monotonic() - application.started
         print(f"window after {shown:.2f} s, read by an assistant after {ready:.2f} s, {self.memory(application):.0f} MiB")
         print(f"idle with its window: {self.idle(application):.1f} percent of a processor")
-        host.stdout.readline()
-        application.close_window()
-        wait_until(lambda: application.window() is None, "the window is closed")
+        host.line()
+        application.hide()
         print(f"idle in the tray: {self.idle(application):.1f} percent of a processor, {self.memory(application):.0f} MiB")
         self.assertTrue(application.is_running())

@@ -4,7 +4,6 @@ import sys
 import unittest
 
 from faults_tests import Faults
-from figures_tests import Figures
 from lifetime_tests import Lifetime
 from reminders_tests import Reminders
 from review_tests import Review

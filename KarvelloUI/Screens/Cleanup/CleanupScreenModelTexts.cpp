@@ -3,7 +3,7 @@
 #include "KarvelloUI/Screens/Cleanup/Choices.h"
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 #include "KarvelloUI/Sessions/ShownText.h"
-#include "KarvelloUI/Stores/QtDates.h"
+#include "Platform/Base/LocalizedText.h"
 
 #include <QLocale>
 #include <algorithm>
@@ -176,10 +176,8 @@ QString CleanupScreenModel::summary() const
 QString CleanupScreenModel::scannedAt() const
 {
     const auto copy = words();
-    const auto time =
-        localeOf(copy).toString(toQDateTime(session().report().scannedAt).toLocalTime().time(), QLocale::ShortFormat);
-    return shown(DashboardWords::joinedParts(
-        {copy.text("마지막 스캔 · 현재 세션", "Last scan · current session"), time.toStdString()}));
+    return shown(DashboardWords::joinedParts({copy.text("마지막 스캔 · 현재 세션", "Last scan · current session"),
+        Platform::LocalizedText::shortTime(session().report().scannedAt, copy.locale())}));
 }
 
 QString CleanupScreenModel::skippedText() const

@@ -1,9 +1,8 @@
 #include "KarvelloUI/Screens/Cleanup/IgnoredListModel.h"
 
 #include "KarvelloUI/Sessions/ShownText.h"
-#include "KarvelloUI/Stores/QtDates.h"
+#include "Platform/Base/LocalizedText.h"
 
-#include <QLocale>
 #include <algorithm>
 
 namespace KarvelloUI {
@@ -34,10 +33,8 @@ QVariant IgnoredListModel::data(const QModelIndex& index, int role) const
     case sizeRole:
         return shown(m_words.byteSize(item.sizeBytes));
     case durationRole: {
-        const QLocale locale(QString::fromStdString(std::string(m_words.locale())));
-        const auto until = item.expiresAt
-            ? locale.toString(toQDateTime(item.expiresAt).toLocalTime(), QLocale::ShortFormat).toStdString()
-            : std::string();
+        const auto until =
+            item.expiresAt ? Platform::LocalizedText::mediumMoment(*item.expiresAt, m_words.locale()) : std::string();
         return shown(m_words.ignoredCandidateDurationDescription(item.duration, until));
     }
     default:

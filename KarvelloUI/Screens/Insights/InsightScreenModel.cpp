@@ -277,16 +277,14 @@ QString InsightScreenModel::noticeText() const
     if (content() != Results && content() != Nothing) {
         return {};
     }
-    QStringList lines;
     const auto& skipped = insights().report().skippedItems;
-    if (content() == Results && (skipped.empty() || !isNoticeOnHeldBackFiles())) {
-        lines.append(shown(noticeLine()));
+    const QString aboutSkipped = skipped.empty() ? QString() : shown(words().insightSkippedBody(std::ssize(skipped)));
+    if (content() == Nothing) {
+        return aboutSkipped;
     }
-    if (!skipped.empty()) {
-        lines.append(shown(words().insightSkippedBody(std::ssize(skipped))));
-    }
-    lines.removeAll(QString());
-    return lines.join(u'\n');
+    // One of them: what is skipped stands where it is missed, and elsewhere only if there is nothing else to know.
+    const QString ofScreen = shown(noticeLine());
+    return ofScreen.isEmpty() || (isNoticeOnHeldBackFiles() && !skipped.empty()) ? aboutSkipped : ofScreen;
 }
 
 void InsightScreenModel::scan()

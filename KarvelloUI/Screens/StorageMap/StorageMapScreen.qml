@@ -12,8 +12,9 @@ InsightPage {
     required property StorageMapScreenModel screen
     // The cell under the pointer, in either place.
     property var hoveredId
+    readonly property var focusedId: map.activeFocus ? map.cells[map.currentIndex]?.id : undefined
     // The area that is told of below the table.
-    readonly property var toldArea: screen.areas[hoveredId ?? screen.selectedId] ?? null
+    readonly property var toldArea: screen.areas[hoveredId ?? focusedId ?? screen.selectedId] ?? null
 
     insights: screen
 

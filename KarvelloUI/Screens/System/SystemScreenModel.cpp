@@ -148,12 +148,15 @@ SystemTile SystemScreenModel::memoryTile(const DashboardWords& words) const
 SystemTile SystemScreenModel::thermalTile(const DashboardWords& words) const
 {
     const auto& state = m_dashboard.insights().currentSystemSnapshot().thermalState;
-    SystemTile tile = tileOf(m_dashboard.insights().systemMetricHistory().thermalPressure(), words);
+    // Machines that do not tell have no course either: a line at the bottom would say that all is cool.
+    const bool isKnown = isKnownState(state);
+    SystemTile tile = tileOf(
+        isKnown ? m_dashboard.insights().systemMetricHistory().thermalPressure() : std::vector<double>(), words);
     tile.name = shown(words.text("발열 상태", "Thermal State"));
-    tile.figure = shown(isKnownState(state) ? words.localizedThermalState(state) : unknownFigure());
+    tile.figure = shown(isKnown ? words.localizedThermalState(state) : unknownFigure());
     tile.text = shown(
         words.text("센서 온도가 아닌 공개된 열 압박 단계", "Not a sensor temperature · public thermal pressure level"));
-    if (isKnownState(state)) {
+    if (isKnown) {
         tile.pillText = tile.figure;
         tile.pillKind = static_cast<int>(SystemFigures::pillOfThermalState(state));
     }

@@ -232,6 +232,32 @@ TEST_F(InsightListScreenModelTest, EndsAScanOnRequest)
     EXPECT_EQ(screen.count(), 0);
 }
 
+TEST_F(InsightListScreenModelTest, TellsWhereTheScanIs)
+{
+    InsightListScreenModel screen(*dashboard, downloads);
+    EXPECT_EQ(screen.visiting().toStdString(), "");
+    screen.scan();
+    EXPECT_EQ(screen.visiting().toStdString(), dashboard->words().scanRunnerPreparing());
+    EXPECT_LT(screen.progress(), 0);
+    EXPECT_TRUE(screen.figures().isEmpty());
+    QStringList places;
+    QVariantList figures;
+    QObject::connect(&screen, &InsightScreenModel::progressChanged, &screen, [&] {
+        if (!screen.figures().isEmpty()) {
+            places.append(screen.visiting());
+            figures = screen.figures();
+        }
+    });
+    settle();
+    ASSERT_FALSE(places.isEmpty());
+    EXPECT_TRUE(places.last().startsWith(QStringLiteral("Comparing files"))
+        || places.last().startsWith(QStringLiteral("Visiting ~/")))
+        << places.last().toStdString();
+    EXPECT_EQ(figures[1].toMap().value(QStringLiteral("label")).toString().toStdString(), "Locations");
+    EXPECT_EQ(screen.visiting().toStdString(), "");
+    EXPECT_TRUE(screen.figures().isEmpty());
+}
+
 TEST_F(InsightListScreenModelTest, AsksForTheHomeFolderAndScansOnceItIsGranted)
 {
     isDirectDistribution = false;

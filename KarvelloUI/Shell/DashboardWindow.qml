@@ -88,7 +88,8 @@ Window {
                     Layout.fillWidth: true
                     Layout.margins: KarvelloDesign.spacing16
                     Layout.bottomMargin: 0
-                    visible: access.visible || notice.visible
+                    // Not after the children: whatever is in a hidden item says that it is hidden.
+                    visible: window.screens.messages.isAccessMissing || window.screens.messages.hasNotice
                     spacing: KarvelloDesign.spacing8
 
                     KarvelloBanner {

@@ -3,9 +3,12 @@
 import sys
 import unittest
 
+from ending_tests import Ending
 from faults_tests import Faults
 from figures_tests import Figures
+from folders_tests import Folders
 from lifetime_tests import Lifetime
+from no_bus_tests import NoBus
 from reminders_tests import Reminders
 from review_tests import Review
 from sections_tests import Sections

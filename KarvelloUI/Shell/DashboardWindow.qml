@@ -88,14 +88,15 @@ Window {
                     Layout.fillWidth: true
                     Layout.margins: KarvelloDesign.spacing16
                     Layout.bottomMargin: 0
-                    // Not after the children: whatever is in a hidden item says that it is hidden.
-                    visible: window.screens.messages.isAccessMissing || window.screens.messages.hasNotice
+                    // What is in a hidden item is not visible, so that would never bring it back.
+                    visible: access.isWanted || notice.isWanted
                     spacing: KarvelloDesign.spacing8
 
                     KarvelloBanner {
                         id: access
                         Layout.fillWidth: true
-                        visible: window.screens.messages.isAccessMissing
+                        readonly property bool isWanted: window.screens.messages.isAccessMissing
+                        visible: isWanted
                         kind: KarvelloBanner.Accent
                         iconName: "lock"
                         title: window.screens.messages.accessTitle
@@ -106,7 +107,8 @@ Window {
                     KarvelloBanner {
                         id: notice
                         Layout.fillWidth: true
-                        visible: window.screens.messages.hasNotice
+                        readonly property bool isWanted: window.screens.messages.hasNotice
+                        visible: isWanted
                         title: window.screens.messages.noticeTitle
                         text: window.screens.messages.noticeText
                         closeName: window.screens.messages.closeText

@@ -16,6 +16,12 @@ _LEAST_WIDTH = 1180
 _NOWHERE = (0, 0, 0, 0)
 
 
+def _slowing(call=None, milliseconds=0):
+    """The words before a program: it keeps its number, and a second process holds it up."""
+    return ["strace", "-D", "-f", "--seccomp-bpf", "-qqq", "-o", "/dev/null", "-e", f"trace={call}",
+            "-e", f"inject={call}:delay_enter={milliseconds * 1000}"] if call else []
+
+
 class Installation:
     """A copy of the program beside what it is told of its own distribution."""
 
@@ -35,7 +41,8 @@ class Installation:
 class Application:
     """A process, and what is on show of it."""
 
-    def __init__(self, session, installation, home, *arguments, without=(), **variables):
+    def __init__(self, session, installation, home, *arguments, without=(), slowed=None, **variables):
+        """`slowed`: a system call, and how many milliseconds each takes longer."""
         environment = {**session.environment, **home.environment, **variables}
         for name in without:
             del environment[name]
@@ -43,8 +50,8 @@ class Application:
         self._log = home.folder.with_name(f"{home.folder.name}-{time.monotonic_ns()}.log")
         self.started = time.monotonic()
         with open(self._log, "wb") as log:
-            self.process = sessions.start([installation.program, *arguments], environment, stdout=log,
-                                          stderr=subprocess.STDOUT)
+            self.process = sessions.start([*_slowing(*slowed or ()), installation.program, *arguments], environment,
+                                          stdout=log, stderr=subprocess.STDOUT)
         self.shown = Assistant(session, self.process.pid)
 
     def end(self):

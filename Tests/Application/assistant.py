@@ -46,8 +46,10 @@ class Element:
                 for owner, path in self._call(_PREFIX + "Accessible", "GetChildren")[0]]
 
     def act(self):
-        """Its first action: a press, or a toggle."""
-        self._call(_PREFIX + "Action", "DoAction", GLib.Variant("(i)", (0,)))
+        """Its first action but to take the focus: a press, or a toggle."""
+        names = [action[0] for action in self._call(_PREFIX + "Action", "GetActions")[0]]
+        index = next((index for index, name in enumerate(names) if name not in ("SetFocus", "Set Focus")), 0)
+        self._call(_PREFIX + "Action", "DoAction", GLib.Variant("(i)", (index,)))
 
     def focus(self):
         self._call(_PREFIX + "Component", "GrabFocus")

@@ -25,7 +25,11 @@ class Service:
         self._heard = []
         self._reader = threading.Thread(target=self._read, args=(self._process.stdout,), daemon=True)
         self._reader.start()
-        assert self.line() == "ready", f"{command} could not be started"
+        try:
+            assert self.line() == "ready", f"{command} could not be started"
+        except BaseException:
+            self.end()
+            raise
 
     def _read(self, stream):
         for line in stream:

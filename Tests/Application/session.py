@@ -83,9 +83,10 @@ class Session:
         manager = self.run("openbox", "--sm-disable", "--config-file", self._window_manager_settings())
         self.session_bus = connected(self.environment["DBUS_SESSION_BUS_ADDRESS"])
         wait_until(lambda: owner_of(self.session_bus, "org.a11y.Bus"), "the bus of the assistants")
-        self.accessibility_bus = connected(self.session_bus.call_sync(
+        self.accessibility_address = self.session_bus.call_sync(
             "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 30_000,
-            None).unpack()[0])
+            None).unpack()[0]
+        self.accessibility_bus = connected(self.accessibility_address)
         wait_until(lambda: self.output("xdotool", "get_num_desktops").strip() == "1",
                    lambda: f"a window manager; it runs: {manager.poll() is None}")
 

@@ -11,12 +11,16 @@ ListView {
     property string accessibleName
     property real maximumHeight: Infinity
 
+    // The keyboard went to another row.
+    signal moved(int row)
+
     function moveTo(row: int) {
         const reached = Math.max(0, Math.min(row, count - 1))
         positionViewAtIndex(reached, ListView.Contain)
         // What has the focus may not stop being a stop of Tab before it has given it away.
         itemAtIndex(reached)?.forceActiveFocus(Qt.TabFocusReason)
         currentIndex = reached
+        moved(reached)
     }
 
     implicitHeight: Math.min(Math.ceil(contentHeight), maximumHeight)
@@ -30,6 +34,12 @@ ListView {
     // Rows ahead are ready before they are seen.
     cacheBuffer: 400
     T.ScrollBar.vertical: KarvelloScrollBar {}
+
+    // A list that was empty for a while has a stop again.
+    onCountChanged: {
+        if (currentIndex < 0 && count > 0)
+            currentIndex = 0
+    }
 
     Accessible.role: Accessible.List
     Accessible.name: accessibleName

@@ -27,7 +27,7 @@ ColumnLayout {
 
             KarvelloText {
                 Layout.fillWidth: true
-                text: fact.modelData.title
+                text: fact.modelData.name
                 textStyle: KarvelloDesign.label
                 wrapMode: Text.Wrap
                 color: KarvelloDesign.ink4
@@ -36,7 +36,7 @@ ColumnLayout {
             KarvelloText {
                 Layout.fillWidth: true
                 Layout.maximumWidth: 820
-                text: fact.modelData.text
+                text: fact.modelData.value
                 textStyle: KarvelloDesign.small
                 color: KarvelloDesign.ink2
                 // A path has no blanks to break at.

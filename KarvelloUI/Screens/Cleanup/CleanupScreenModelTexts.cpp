@@ -1,4 +1,5 @@
 #include "KarvelloUI/Advisors/DeveloperProjectAdvisoryAnalyzer.h"
+#include "KarvelloUI/Controls/NamedValue.h"
 #include "KarvelloUI/Dashboard/ConfidencePills.h"
 #include "KarvelloUI/Screens/Cleanup/Choices.h"
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
@@ -304,7 +305,7 @@ QVariantList CleanupScreenModel::factsOf(int row) const
     const auto copy = words();
     QVariantList facts;
     const auto add = [&facts](const std::string& title, const std::string& text) {
-        facts.append(QVariant::fromValue(CleanupFact{.title = shown(title), .text = shownName(text)}));
+        facts.append(QVariant::fromValue(NamedValue{.name = shown(title), .value = shownName(text)}));
     };
     add(copy.say("Path"), candidate->url.path());
     add(copy.text("표시되는 이유", "Why is this listed?"), copy.cleanupCandidateTrustExplanation(*candidate));

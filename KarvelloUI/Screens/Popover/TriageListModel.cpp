@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Popover/TriageListModel.h"
 
+#include "KarvelloUI/Dashboard/RawText.h"
 #include "KarvelloUI/Screens/Popover/PopoverIcons.h"
 
 namespace KarvelloUI {
@@ -20,7 +21,7 @@ QVariant TriageListModel::data(const QModelIndex& index, int role) const
     case buttonTitleRole:
         return QString::fromStdString(row.buttonTitle);
     case destinationRole:
-        return QString::fromStdString(std::string(Platform::rawValue(row.destination)));
+        return rawText(row.destination);
     case isCriticalRole:
         return row.severity == KarvelloMenuBarReminder::Severity::critical;
     default:

@@ -315,7 +315,7 @@ TEST_F(CleanupScreenModelTest, HidesACandidateForAsLongAsItAllows)
     EXPECT_THAT(selectedNames(), UnorderedElementsAre("yarn", "old.log"));
     EXPECT_EQ(screen->ignoredText().toStdString(), "1 hidden");
     ASSERT_EQ(screen->ignored()->rowCount(), 1);
-    EXPECT_EQ(screen->ignored()->data(screen->ignored()->index(0), IgnoredListModel::nameRole).toString().toStdString(),
+    EXPECT_EQ(screen->ignored()->data(screen->ignored()->index(0), IgnoredItemList::nameRole).toString().toStdString(),
         "pip");
     screen->showAgain(0);
     EXPECT_EQ(screen->ignored()->rowCount(), 0);

@@ -72,21 +72,21 @@ TEST_F(IOSGuideScreen, IsTidyInEveryLanguageAndScale)
     guide->setStatus(QStringLiteral("offloadUnusedApps"), QStringLiteral("reviewed"));
     layOut();
     expectTidy();
-    photograph("ios-en.png");
+    photograph("ios-en");
     for (const auto language : {AppLanguage::german, AppLanguage::japanese, AppLanguage::korean}) {
         setLanguage(language);
         layOut();
         expectTidy();
-        photograph(("ios-" + std::string(Platform::rawValue(language)) + ".png").c_str());
+        photograph("ios-" + std::string(Platform::rawValue(language)));
     }
     setLanguage(AppLanguage::german);
     setScale(KarvelloTextScale::extraLarge);
     layOut();
     expectTidy();
-    photograph("ios-de-xl.png");
+    photograph("ios-de-xl");
     m_design.setAppearanceMode(KarvelloAppearanceMode::dark);
     layOut();
-    photograph("ios-dark.png");
+    photograph("ios-dark");
 }
 
 } // namespace DashboardTests

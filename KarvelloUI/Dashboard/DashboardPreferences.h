@@ -18,9 +18,6 @@ namespace KarvelloUI {
 /// does not count. Main thread only.
 class DashboardPreferences final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool isOnboardingCompleted READ isOnboardingCompleted NOTIFY onboardingCompletedChanged FINAL)
-    Q_PROPERTY(
-        bool isAdvancedExpanded READ isAdvancedExpanded WRITE setAdvancedExpanded NOTIFY advancedExpandedChanged FINAL)
 
 public:
     static constexpr std::string_view scanModeDefaultsKey = "karvello.macScanMode";

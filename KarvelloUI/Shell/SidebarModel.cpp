@@ -1,5 +1,7 @@
 #include "KarvelloUI/Shell/SidebarModel.h"
 
+#include "KarvelloUI/Dashboard/RawText.h"
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -14,11 +16,6 @@ constexpr std::array kAdvanced{MacDashboardSection::heatmap, MacDashboardSection
     MacDashboardSection::downloads, MacDashboardSection::duplicates, MacDashboardSection::security};
 constexpr std::array kSupport{MacDashboardSection::system, MacDashboardSection::cpuAnalysis,
     MacDashboardSection::memoryAnalysis, MacDashboardSection::settings};
-
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::string_view iconOf(MacDashboardSection section)
 {
@@ -80,9 +77,9 @@ QVariantList itemsOf(const MacCleanerDashboardModel& dashboard, std::span<const 
     for (const auto section : sections) {
         const auto count = countOf(dashboard, section);
         items.append(QVariant::fromValue(SidebarItem{
-            .section = toQString(Platform::rawValue(section)),
+            .section = rawText(section),
             .title = shown(words.macDashboardSectionTitle(section)),
-            .iconName = toQString(iconOf(section)),
+            .iconName = QString::fromUtf8(iconOf(section)),
             .count = count == 0 ? QString() : QString::number(count),
         }));
     }

@@ -64,17 +64,6 @@ public:
     int row = -1;
 };
 
-/// A part of what a row tells when it is open.
-struct CleanupFact {
-    Q_GADGET
-    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
-    Q_PROPERTY(QString text MEMBER text CONSTANT FINAL)
-
-public:
-    QString title = {};
-    QString text = {};
-};
-
 /// The one thing that needs attention, over the list.
 struct CleanupBanner {
     Q_GADGET

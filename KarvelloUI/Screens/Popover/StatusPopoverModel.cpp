@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/Popover/StatusPopoverModel.h"
 
 #include "KarvelloUI/Dashboard/KnownState.h"
+#include "KarvelloUI/Dashboard/RawText.h"
 #include "KarvelloUI/MenuBar/KarvelloMenuBarSystemMetrics.h"
 #include "KarvelloUI/Screens/Popover/PopoverIcons.h"
 
@@ -14,11 +15,6 @@ using Kind = KarvelloMenuBarReminder::Kind;
 using Destination = KarvelloDashboardLaunchDestination;
 
 namespace {
-
-QString rawText(Destination destination)
-{
-    return shown(std::string(Platform::rawValue(destination)));
-}
 
 /// How much of a bar is filled: what is no number fills nothing.
 double barFraction(double value)
@@ -75,9 +71,8 @@ void StatusPopoverModel::openDashboard()
 
 void StatusPopoverModel::review(int row)
 {
-    const auto& rows = m_triage.rows();
-    if (row >= 0 && std::cmp_less(row, rows.size())) {
-        Q_EMIT openDashboardRequested(rawText(rows[static_cast<std::size_t>(row)].row.destination));
+    if (const auto* const reminder = m_triage.row(row)) {
+        Q_EMIT openDashboardRequested(rawText(reminder->row.destination));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Popover/TriageListModel.h"
 
+#include "KarvelloUI/Dashboard/RawText.h"
 #include "KarvelloUI/Screens/Popover/PopoverIcons.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 
@@ -21,7 +22,7 @@ QVariant TriageListModel::data(const QModelIndex& index, int role) const
     case buttonTitleRole:
         return shownText(row.buttonTitle);
     case destinationRole:
-        return QString::fromStdString(std::string(Platform::rawValue(row.destination)));
+        return rawText(row.destination);
     case isCriticalRole:
         return row.severity == KarvelloMenuBarReminder::Severity::critical;
     default:

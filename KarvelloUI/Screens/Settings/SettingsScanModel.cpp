@@ -1,6 +1,6 @@
 #include "KarvelloUI/Screens/Settings/SettingsScanModel.h"
 
-#include "KarvelloUI/Screens/Settings/PickerChoice.h"
+#include "KarvelloUI/Dashboard/PickerChoices.h"
 #include "KarvelloUI/Screens/Settings/SettingsNotices.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
@@ -101,7 +101,7 @@ QString SettingsScanModel::errorText() const
 
 void SettingsScanModel::chooseMode(const QString& value)
 {
-    const auto picked = pickedChoice<CleanerCore::CleanupScanMode>(value);
+    const auto picked = fromRawText<CleanerCore::CleanupScanMode>(value);
     const auto available = CleanerCore::availableModes(m_dashboard.services().supportsDirectDistributionScans());
     if (picked && isModeEnabled() && std::ranges::find(available, *picked) != available.end()) {
         noticeUnlessStored(m_dashboard, m_dashboard.preferences().setScanMode(*picked));
@@ -110,7 +110,7 @@ void SettingsScanModel::chooseMode(const QString& value)
 
 void SettingsScanModel::grant()
 {
-    m_dashboard.grantHomeAccess();
+    m_dashboard.requestHomeAccess();
 }
 
 void SettingsScanModel::revoke()

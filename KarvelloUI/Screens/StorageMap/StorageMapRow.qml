@@ -20,7 +20,7 @@ T.ItemDelegate {
     horizontalPadding: KarvelloDesign.spacing16
     verticalPadding: KarvelloDesign.spacing4
     hoverEnabled: true
-    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.name: spokenName
     Accessible.focusable: true

@@ -17,12 +17,12 @@ protected:
     SettingsFoldersModelTest() { tree.add("home/Projects/file size=1M age=90d\nhome/Render/\n"); }
 
     [[nodiscard]] SettingsFoldersModel& group() const { return *screen->customFolders(); }
-    [[nodiscard]] std::string text(int row, Role role) const { return said(group().folders(), row, role); }
+    [[nodiscard]] std::string text(int row, Role role) const { return said(group().rows(), row, role); }
 };
 
 TEST_F(SettingsFoldersModelTest, AddsAFolderOfTheUsersChoice)
 {
-    const QAbstractItemModelTester tester(group().folders(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QAbstractItemModelTester tester(group().rows(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(group().count(), 0);
     EXPECT_EQ(group().emptyText(), QStringLiteral("No custom folders added."));
     addFolder("home/Render/");

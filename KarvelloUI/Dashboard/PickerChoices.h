@@ -7,30 +7,27 @@
 #include <QVariantList>
 #include <QVariantMap>
 #include <concepts>
-#include <optional>
 #include <ranges>
 #include <string>
 
 namespace KarvelloUI {
 
-/// What a picker shows for each of `values`: { value, text }, the value being the raw one.
+/// An entry of a picker: { value, text }. The screen hands the value back.
+[[nodiscard]] inline QVariantMap pickerChoice(const QString& value, const std::string& text)
+{
+    return {{QStringLiteral("value"), value}, {QStringLiteral("text"), shown(text)}};
+}
+
+/// An entry for each of `values`, by their raw values.
 template <std::ranges::input_range Values>
 [[nodiscard]] QVariantList pickerChoices(
     const Values& values, const std::invocable<std::ranges::range_value_t<Values>> auto& textOf)
 {
     QVariantList choices;
     for (const auto value : values) {
-        choices.append(QVariantMap{
-            {QStringLiteral("value"), rawText(value)}, {QStringLiteral("text"), shown(std::string(textOf(value)))}});
+        choices.append(pickerChoice(rawText(value), std::string(textOf(value))));
     }
     return choices;
-}
-
-/// The choice that a picker hands back; nothing for what is none.
-template <Platform::RawRepresentable Value>
-[[nodiscard]] std::optional<Value> pickedChoice(const QString& value)
-{
-    return Platform::fromRawValue<Value>(value.toStdString());
 }
 
 } // namespace KarvelloUI

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KarvelloUI/Design/KarvelloPill.h"
+
 #include <QList>
 #include <QMetaType>
 #include <QString>
@@ -7,11 +9,14 @@
 
 namespace KarvelloUI {
 
-/// A figure of the machine as a tile shows it.
-struct SystemTile {
+/// What a `KarvelloMetricTile` shows: a figure of the machine, what is said of it, and its course. A part that is empty is
+/// left out.
+struct MetricTile {
     Q_GADGET
     QML_ANONYMOUS
+    Q_PROPERTY(QString iconName MEMBER iconName CONSTANT FINAL)
     Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(QString note MEMBER note CONSTANT FINAL)
     Q_PROPERTY(QString pillText MEMBER pillText CONSTANT FINAL)
     Q_PROPERTY(int pillKind MEMBER pillKind CONSTANT FINAL)
     Q_PROPERTY(QString figure MEMBER figure CONSTANT FINAL)
@@ -23,34 +28,26 @@ struct SystemTile {
     Q_PROPERTY(double fraction MEMBER fraction CONSTANT FINAL)
 
 public:
+    QString iconName = {};
     QString name = {};
+    /// A word beside the name, where there is room for it.
+    QString note = {};
     QString pillText = {};
     /// A `KarvelloPillKind`.
-    int pillKind = 0;
+    int pillKind = static_cast<int>(KarvelloPillKind::neutral);
     QString figure = {};
     QString unit = {};
     QString text = {};
+    /// From 0 to 1, the oldest first.
     QList<double> samples = {};
+    /// In place of a course that has too few samples.
     QString emptyText = {};
+    /// The course in words.
     QString accessibleValue = {};
     /// For a tile with a bar, from 0 to 1.
     double fraction = 0;
 
-    friend bool operator==(const SystemTile&, const SystemTile&) = default;
-};
-
-/// A line of a table of facts.
-struct SystemFact {
-    Q_GADGET
-    QML_ANONYMOUS
-    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
-    Q_PROPERTY(QString value MEMBER value CONSTANT FINAL)
-
-public:
-    QString name = {};
-    QString value = {};
-
-    friend bool operator==(const SystemFact&, const SystemFact&) = default;
+    friend bool operator==(const MetricTile&, const MetricTile&) = default;
 };
 
 } // namespace KarvelloUI

@@ -3,7 +3,6 @@
 #include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloUI/Copy/Texts/TextTables.h"
-#include "Platform/Base/ASCII.h"
 #include "Platform/Files/FileError.h"
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
 

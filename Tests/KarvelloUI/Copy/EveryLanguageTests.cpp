@@ -3,7 +3,6 @@
 #include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloUI/Copy/Texts/TextTables.h"
-#include "Platform/Base/ASCII.h"
 #include "Platform/Files/FileError.h"
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
 
@@ -24,18 +23,37 @@ using testing::Not;
 
 constexpr KarvelloCopy kEnglish{AppLanguage::english};
 
-/// Texts that are the same in a language as in English, and rightly so.
+/// Texts that are the same in a language as in English, and rightly so: they are words of that language, or names.
 const std::set<std::pair<AppLanguage, std::string>>& sameAsEnglish()
 {
     using enum AppLanguage;
-    static const std::set<std::pair<AppLanguage, std::string>> texts{};
+    static const std::set<std::pair<AppLanguage, std::string>> texts{
+        {japanese, "OK"},
+        {french, "OK"},
+        {german, "OK"},
+        {spanish, "Manual 1"},
+        {german, "Downloads"},
+        {french, "Standard"},
+        {german, "Standard"},
+        {spanish, "Normal"},
+        {french, "Normal"},
+        {german, "Normal"},
+        {spanish, "Nominal"},
+        {french, "Nominal"},
+        {korean, "Xcode DerivedData"},
+        {simplifiedChinese, "Xcode DerivedData"},
+        {traditionalChinese, "Xcode DerivedData"},
+        {korean, "Xcode DeviceSupport"},
+        {simplifiedChinese, "Xcode DeviceSupport"},
+        {traditionalChinese, "Xcode DeviceSupport"},
+    };
     return texts;
 }
 
 /// Names, figures, and words that nobody knows are the same in every language.
 bool isNoWord(const CatalogueSample& sample)
 {
-    return sample.coverage == SampleCoverage::staysEnglish
+    return sample.coverage == SampleCoverage::staysEnglish || sample.coverage == SampleCoverage::onlyKorean
         || sample.name.starts_with("permissionDiagnosticSampleCopyPayload");
 }
 

@@ -1,7 +1,7 @@
-#include "KarvelloUI/Copy/Texts/TextTables.h"
+#include "Platform/Base/ASCII.h"
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
 
-#include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
@@ -59,9 +59,23 @@ const std::string& applicationSources()
     return sources;
 }
 
+bool isWordByte(char byte)
+{
+    const char letter = Platform::ASCII::lowercased(byte);
+    return (letter >= 'a' && letter <= 'z') || Platform::ASCII::isDigit(byte) || byte == '_';
+}
+
+/// Whether the application asks for the text anywhere.
 bool isShown(const CatalogueSample& sample)
 {
-    return std::regex_search(applicationSources(), std::regex("\\b" + std::string(sample.member()) + "\\b"));
+    const std::string& sources = applicationSources();
+    const std::string_view member = sample.member();
+    for (auto at = sources.find(member); at != std::string::npos; at = sources.find(member, at + 1)) {
+        if (!isWordByte(sources[at - 1]) && !isWordByte(sources[at + member.size()])) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// The guide to the storage of phones is about another machine, and so are the folders of tools that only that host has.

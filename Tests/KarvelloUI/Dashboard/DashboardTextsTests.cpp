@@ -1,20 +1,22 @@
 #include "KarvelloUI/Dashboard/DashboardWords.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
-#include <set>
-#include <string>
+#include <string_view>
 
 namespace {
 
 using namespace KarvelloUI;
 
-/// Texts that are the same in a language as in English, and rightly so.
-const std::set<std::pair<AppLanguage, std::string_view>>& sameAsEnglish()
+/// Names of keys are what stands on the keyboard, which in most countries is English.
+bool namesKeys(std::string_view english)
 {
-    using enum AppLanguage;
-    static const std::set<std::pair<AppLanguage, std::string_view>> texts{};
-    return texts;
+    return english.starts_with("Ctrl+") || english.starts_with("Tab, ");
+}
+
+/// Words that are the same in the language.
+bool isSameWord(AppLanguage language, std::string_view english)
+{
+    return english == "Version {}" && (language == AppLanguage::french || language == AppLanguage::german);
 }
 
 TEST(DashboardTexts, StandInEveryLanguage)
@@ -24,8 +26,10 @@ TEST(DashboardTexts, StandInEveryLanguage)
         const auto texts = Dashboard::textsIn(language);
         ASSERT_EQ(texts.size(), english.size());
         for (std::size_t index = 0; index < texts.size() && language != AppLanguage::english; ++index) {
-            EXPECT_EQ(texts[index] == english[index], sameAsEnglish().contains({language, english[index]}))
-                << displayName(language) << ": " << english[index];
+            if (!namesKeys(english[index])) {
+                EXPECT_EQ(texts[index] == english[index], isSameWord(language, english[index]))
+                    << displayName(language) << ": " << english[index];
+            }
         }
     }
 }

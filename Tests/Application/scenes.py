@@ -94,8 +94,8 @@ class Studio:
             return
         self._open("cleanup")
         if grouping := application.shown.find(lambda name: "No grouping" in name, "combo box"):
-            grouping.act()
-            application.shown.wait_for("Safety", "list item").act()
+            grouping.focus()
+            application.press("Down", "Down")
         for _ in self._variants(*names):
             self._take_sections("", "cleanup")
             application.press("Tab", "ctrl+f", "Down", "Down", "Right")

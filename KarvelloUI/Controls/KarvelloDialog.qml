@@ -23,7 +23,8 @@ T.Dialog {
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
-    width: Math.min(520, parent ? parent.width - 2 * KarvelloDesign.spacing32 : 520)
+    width: Math.min(Math.round(520 * KarvelloDesign.textFactor),
+                    parent ? parent.width - 2 * KarvelloDesign.spacing32 : 520)
     height: Math.min(implicitHeight, parent ? parent.height - 2 * KarvelloDesign.spacing16 : implicitHeight)
     implicitHeight: implicitHeaderHeight + implicitContentHeight + implicitFooterHeight + topPadding + bottomPadding
     padding: KarvelloDesign.spacing24
@@ -118,7 +119,13 @@ T.Dialog {
             if (event.accepted)
                 scrollBy(event.key === Qt.Key_PageDown ? height : -height)
         }
-        T.ScrollBar.vertical: KarvelloScrollBar {}
+        // Beside the content, in the dialog's own margin.
+        T.ScrollBar.vertical: KarvelloScrollBar {
+            parent: control.contentItem.parent
+            x: control.width - width
+            y: control.contentItem.y
+            height: control.contentItem.height
+        }
 
         FocusRing {
             parent: control.contentItem

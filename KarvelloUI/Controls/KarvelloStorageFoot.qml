@@ -34,6 +34,8 @@ Item {
             spacing: KarvelloDesign.spacing8
             KarvelloText {
                 Layout.fillWidth: true
+                // What the figure beside it leaves.
+                Layout.preferredWidth: 1
                 text: control.title
                 textStyle: KarvelloDesign.small
                 color: KarvelloDesign.ink3

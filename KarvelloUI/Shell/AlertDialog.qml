@@ -17,7 +17,8 @@ T.Dialog {
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
-    width: Math.min(520, parent ? parent.width - 2 * KarvelloDesign.spacing32 : 520)
+    width: Math.min(Math.round(520 * KarvelloDesign.textFactor),
+                    parent ? parent.width - 2 * KarvelloDesign.spacing32 : 520)
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: KarvelloDesign.spacing24
     modal: true

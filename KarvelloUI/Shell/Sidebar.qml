@@ -92,7 +92,13 @@ Rectangle {
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         clip: true
-        T.ScrollBar.vertical: KarvelloScrollBar {}
+        // Beside the counts, in the margin.
+        T.ScrollBar.vertical: KarvelloScrollBar {
+            parent: control
+            x: control.width - width - 1
+            y: flickable.y
+            height: flickable.height
+        }
 
         Connections {
             target: control.Window.window

@@ -93,8 +93,9 @@ class Studio:
         if not self._wants(*names):
             return
         self._open("cleanup")
-        if grouping := application.shown.find("Safety", "radio button"):
-            grouping.act()
+        if grouping := application.shown.find(lambda name: "No grouping" in name, "combo box"):
+            grouping.focus()
+            application.press("Down", "Down")
         for _ in self._variants(*names):
             self._take_sections("", "cleanup")
             application.press("Tab", "ctrl+f", "Down", "Down", "Right")

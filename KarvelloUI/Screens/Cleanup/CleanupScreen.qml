@@ -170,40 +170,39 @@ KarvelloPage {
             onSecondaryRequested: control.screen.openSettings()
         }
     }
-    Rectangle {
-        objectName: "sheet"
+    Item {
         Layout.fillWidth: true
         Layout.fillHeight: true
-        // A short list leaves no empty sheet below it.
-        Layout.maximumHeight: control.screen.isEverythingFiltered ? Infinity
-            : Math.max(320, Math.ceil(candidates.contentHeight) + 2)
         visible: control.hasList && control.panel === ""
-        radius: KarvelloDesign.cardRadius
-        color: KarvelloDesign.elevated1
-        border.color: KarvelloDesign.line
-        opacity: control.screen.isMoving ? 0.55 : 1
 
-        CandidateList {
-            id: candidates
-            objectName: "candidateList"
-            anchors.fill: parent
-            visible: !control.screen.isEverythingFiltered
-            screen: control.screen
+        // No higher than its rows.
+        Rectangle {
+            objectName: "sheet"
+            width: parent.width
+            height: control.screen.isEverythingFiltered ? parent.height
+                : Math.min(parent.height, Math.max(320, Math.ceil(candidates.contentHeight) + 2))
+            radius: KarvelloDesign.cardRadius
+            color: KarvelloDesign.elevated1
+            border.color: KarvelloDesign.line
+            opacity: control.screen.isMoving ? 0.55 : 1
+
+            CandidateList {
+                id: candidates
+                objectName: "candidateList"
+                anchors.fill: parent
+                visible: !control.screen.isEverythingFiltered
+                screen: control.screen
+            }
+            KarvelloEmptyState {
+                anchors.fill: parent
+                visible: control.screen.isEverythingFiltered
+                iconName: "search"
+                title: control.screen.texts.filteredTitle
+                text: control.screen.texts.filteredText
+                actionText: control.screen.texts.clearFilters
+                onActionRequested: control.screen.clearFilters()
+            }
         }
-        KarvelloEmptyState {
-            anchors.fill: parent
-            visible: control.screen.isEverythingFiltered
-            iconName: "search"
-            title: control.screen.texts.filteredTitle
-            text: control.screen.texts.filteredText
-            actionText: control.screen.texts.clearFilters
-            onActionRequested: control.screen.clearFilters()
-        }
-    }
-    Item {
-        Layout.fillHeight: true
-        Layout.topMargin: -KarvelloDesign.spacing16
-        visible: control.hasList && control.panel === ""
     }
     SkippedPanel {
         id: skippedPanel

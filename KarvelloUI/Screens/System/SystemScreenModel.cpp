@@ -149,8 +149,8 @@ SystemTile SystemScreenModel::thermalTile(const DashboardWords& words) const
     const auto& state = m_dashboard.insights().currentSystemSnapshot().thermalState;
     // Machines that do not tell have no course either: a line at the bottom would say that all is cool.
     const bool isKnown = !state.empty() && state != "Unknown";
-    SystemTile tile = tileOf(
-        isKnown ? m_dashboard.insights().systemMetricHistory().thermalPressure() : std::vector<double>(), words);
+    SystemTile tile =
+        tileOf(isKnown ? m_dashboard.insights().systemMetricHistory().thermalPressure() : std::vector<double>(), words);
     tile.name = shown(words.text("발열 상태", "Thermal State"));
     tile.figure = shown(state.empty() ? unknownFigure() : words.localizedThermalState(state));
     tile.text = shown(

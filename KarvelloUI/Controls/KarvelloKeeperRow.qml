@@ -45,11 +45,12 @@ T.CheckDelegate {
     focusPolicy: Qt.StrongFocus
     onClicked: toggleIfSelectable()
 
-    Accessible.role: isKeeper ? Accessible.ListItem : Accessible.CheckBox
     Accessible.name: accessibleName
     Accessible.description: isSelectable ? "" : disabledReason
-    Accessible.checkable: isSelectable
-    Accessible.checked: isSelectable && isChecked
+    Accessible.focusable: true
+    KarvelloSpoken.role: isKeeper ? Accessible.ListItem : Accessible.CheckBox
+    KarvelloSpoken.checkable: isSelectable
+    KarvelloSpoken.checked: isSelectable && isChecked
     Accessible.onToggleAction: toggleIfSelectable()
     Accessible.onPressAction: toggleIfSelectable()
 

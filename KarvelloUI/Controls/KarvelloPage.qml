@@ -135,11 +135,15 @@ FocusScope {
     Flickable {
         id: flickable
 
+        // What is first in the page has its mark of the focus around it.
+        readonly property int ringRoom: KarvelloDesign.spacing4
+
         anchors.top: header.bottom
+        anchors.topMargin: -ringRoom
         anchors.bottom: footerSlot.top
         width: parent.width
         contentWidth: width
-        contentHeight: body.height + KarvelloDesign.spacing24
+        contentHeight: ringRoom + body.height + KarvelloDesign.spacing24
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         clip: true
@@ -148,8 +152,9 @@ FocusScope {
         ColumnLayout {
             id: body
             x: control.sideMargin
+            y: flickable.ringRoom
             width: control.contentWidth
-            height: Math.max(implicitHeight, flickable.height - KarvelloDesign.spacing24)
+            height: Math.max(implicitHeight, flickable.height - flickable.ringRoom - KarvelloDesign.spacing24)
             spacing: KarvelloDesign.spacing16
         }
     }

@@ -37,11 +37,6 @@ MacInsightsViewModel::MacInsightsViewModel(SessionServices services, Setup setup
 {
 }
 
-QString MacInsightsViewModel::errorText() const
-{
-    return QString::fromStdString(m_errorMessage.value_or(""));
-}
-
 void MacInsightsViewModel::scan(const std::optional<ResolvedHomeAccessBookmark>& homeAccessBookmark)
 {
     setPhase(Phase::scanning);

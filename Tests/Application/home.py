@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import shutil
 import time
 
 _DAY = 86_400
@@ -37,6 +38,10 @@ class Home:
             os.utime(file, (then, then))
             file = file.parent
         return self.folder / path
+
+    def remove(self, place):
+        """A folder with all that is in it, which may have gone."""
+        shutil.rmtree(self.folder / place, ignore_errors=True)
 
     def add_clutter(self):
         self.add("Library/Caches/com.example.Player/stream.bin", 6 * MEGABYTE)

@@ -65,7 +65,7 @@ def filled(folder):
 def busy(folder):
     """So much that a scan can be seen at work."""
     home = Home(folder)
-    home.add_many("Library/Caches/com.example.Big", 40_000)
+    home.add_many("Library/Caches/com.example.Big", 60_000)
     return home
 
 

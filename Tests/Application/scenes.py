@@ -4,6 +4,7 @@ import fnmatch
 import itertools
 import os
 import pathlib
+import signal
 import subprocess
 import time
 from contextlib import contextmanager
@@ -151,9 +152,7 @@ class Studio:
                 for section in ("cleanup", "map"):
                     if self._wants(section + "-scanning"):
                         self._open(section)
-                        application.press("ctrl+r")
-                        time.sleep(0.5)
-                        self._take_now(section + "-scanning")
+                        self._take_at_work(section + "-scanning", "ctrl+r", delay=0.2)
                         self._wait_for_the_scan()
             if not self._wants("cleanup-cleaning"):
                 return
@@ -164,9 +163,7 @@ class Studio:
                 self._wait_for_the_scan()
                 application.press("ctrl+a", "ctrl+Return")
                 wait_until(lambda: application.shown.find(lambda name: True, "dialog"), "the question")
-                application.press("Tab", "Return")
-                time.sleep(1)
-                self._take_now("cleanup-cleaning")
+                self._take_at_work("cleanup-cleaning", "Tab", "Return", delay=1)
                 self._wait_for_the_scan()
 
     @contextmanager
@@ -296,8 +293,16 @@ class Studio:
             wait_until(is_still, "a still window", limit=1.5)
         self._write(name, last)
 
-    def _take_now(self, name):
-        self._write(name, self._picture())
+    def _take_at_work(self, name, *keys, delay):
+        """The program holds still in the middle of what the keys begin."""
+        process = self._application.process
+        self._application.press(*keys)
+        time.sleep(delay)
+        process.send_signal(signal.SIGSTOP)
+        try:
+            self._write(name, self._picture())
+        finally:
+            process.send_signal(signal.SIGCONT)
 
     def _write(self, name, picture):
         picture.write_png(self._options.folder / f"{self._variant}-{name}.png")

@@ -171,6 +171,7 @@ KarvelloPage {
         }
     }
     Rectangle {
+        objectName: "sheet"
         Layout.fillWidth: true
         Layout.fillHeight: true
         // A short list leaves no empty sheet below it.

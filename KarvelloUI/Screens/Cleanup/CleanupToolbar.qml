@@ -97,11 +97,12 @@ RowLayout {
     }
     KarvelloButton {
         id: folded
+        objectName: "folded"
         visible: control.isFolded
         text: control.screen.texts.filters
         iconName: "chevron-down"
         enabled: control.screen.canFilter
-        Accessible.role: Accessible.ButtonMenu
+        KarvelloSpoken.role: Accessible.ButtonMenu
         onClicked: menu.openBelow(folded)
 
         KarvelloMenu {

@@ -52,7 +52,7 @@ KarvelloCard {
                     Layout.fillWidth: true
                     value: bar.entry.fraction
                     tint: bar.entry.isPending ? KarvelloDesign.caution
-                        : bar.entry.isRecovered ? KarvelloDesign.safe : KarvelloDesign.ink4
+                        : bar.entry.isRecovered ? KarvelloDesign.safe : KarvelloDesign.lineStrong
                     accessibleName: bar.entry.label + ", " + bar.entry.value
                 }
             }

@@ -1,7 +1,6 @@
 #include "KarvelloUI/Screens/Insights/InsightScreenModel.h"
 
 #include "KarvelloUI/Copy/PercentText.h"
-#include "KarvelloUI/Sessions/RunMessages.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 
@@ -244,13 +243,8 @@ QString InsightScreenModel::bannerTitle() const
 {
     const auto copy = words();
     switch (banner()) {
-    case FailedBanner: {
-        const std::string& message = *insights().errorMessage();
-        return message == RunMessages::kNoLongerEligible
-            ? shown(copy.say("Some selected items are no longer eligible for cleanup. Refresh the scan and review them "
-                             "again."))
-            : shownText(copy.skippedReason(message));
-    }
+    case FailedBanner:
+        return shownText(copy.skippedReason(*insights().errorMessage()));
     case DoneBanner:
         return shown(copy.lastCleanTitle(CleanerCore::CleaningMode::moveToTrash));
     case NoBanner:

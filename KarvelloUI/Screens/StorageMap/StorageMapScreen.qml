@@ -23,6 +23,12 @@ InsightPage {
         property: "isDark"
         value: KarvelloDesign.isDark
     }
+    // The keyboard moves the list by itself, too.
+    Binding {
+        target: table
+        property: "currentIndex"
+        value: Math.max(0, page.screen.selectedId)
+    }
 
     RowLayout {
         Layout.fillWidth: true
@@ -109,14 +115,13 @@ InsightPage {
                         }
                     }
                 }
-                InsightRows {
+                KarvelloRows {
                     id: table
                     objectName: "table"
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     model: page.screen.areas
                     accessibleName: page.screen.tableTitle
-                    currentIndex: Math.max(0, page.screen.selectedId)
                     onMoved: index => page.screen.select(index)
                     onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
 

@@ -35,6 +35,13 @@ TEST_F(KarvelloDialog, HasTheFocusOnCancelWhereItCanBeSeen)
     open();
     EXPECT_EQ(focused(), "Cancel");
     EXPECT_TRUE(m_window->activeFocusItem()->property("visualFocus").toBool());
+    // At the next opening as well.
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+    key(Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->property("opened").toBool(); }));
+    EXPECT_EQ(focused(), "Cancel");
+    EXPECT_TRUE(m_window->activeFocusItem()->property("visualFocus").toBool());
 }
 
 TEST_F(KarvelloDialog, MovesNothingByAStrayReturn)

@@ -73,7 +73,7 @@ TEST_F(IOSGuideScreen, IsTidyInEveryLanguageAndScale)
     guide->setStatus(QStringLiteral("offloadUnusedApps"), QStringLiteral("reviewed"));
     layOut();
     expectTidy();
-    photograph("ios-en.png");
+    photograph("ios-en");
     for (const auto language : Platform::allCases<AppLanguage>()) {
         setLanguage(language);
         for (const auto scale : {KarvelloTextScale::standard, KarvelloTextScale::extraLarge}) {
@@ -82,9 +82,8 @@ TEST_F(IOSGuideScreen, IsTidyInEveryLanguageAndScale)
             SCOPED_TRACE(std::string(Platform::rawValue(language)) + " " + std::string(Platform::rawValue(scale)));
             expectTidy();
             EXPECT_THAT(KarvelloUI::Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty());
-            photograph(("ios-" + std::string(Platform::rawValue(language)) + "-"
-                + std::string(Platform::rawValue(scale)) + ".png")
-                    .c_str());
+            photograph(
+                "ios-" + std::string(Platform::rawValue(language)) + "-" + std::string(Platform::rawValue(scale)));
         }
     }
     setScale(KarvelloTextScale::standard);
@@ -92,10 +91,10 @@ TEST_F(IOSGuideScreen, IsTidyInEveryLanguageAndScale)
     setScale(KarvelloTextScale::extraLarge);
     layOut();
     expectTidy();
-    photograph("ios-de-xl.png");
+    photograph("ios-de-xl");
     m_design.setAppearanceMode(KarvelloAppearanceMode::dark);
     layOut();
-    photograph("ios-dark.png");
+    photograph("ios-dark");
 }
 
 } // namespace DashboardTests

@@ -27,6 +27,7 @@ TEST_F(OnboardingScreenModelTest, SaysWhatKindOfAccessTheBuildHas)
 
 TEST_F(OnboardingScreenModelTest, ScansAtOnceInABuildForDirectDistribution)
 {
+    EXPECT_EQ(screen.primaryIconName(), QStringLiteral("scan"));
     screen.begin();
     EXPECT_TRUE(preferences->isOnboardingCompleted());
     EXPECT_FALSE(fileDialogs.isOpen());
@@ -38,6 +39,7 @@ TEST_F(OnboardingScreenModelTest, AsksForTheHomeFirstInAnyOtherBuild)
 {
     isDirectDistribution = false;
     EXPECT_EQ(screen.primaryText(), QStringLiteral("Grant Access and Start Scan"));
+    EXPECT_EQ(screen.primaryIconName(), QStringLiteral("folder"));
     screen.begin();
     ASSERT_TRUE(fileDialogs.isOpen());
     EXPECT_FALSE(preferences->isOnboardingCompleted());

@@ -164,8 +164,10 @@ void MacInsightsViewModel::setPhase(Phase phase)
         m_phase = phase;
         noteChange(Change::phase);
     }
-    m_scanProgress = {};
-    noteChange(Change::progress);
+    if (m_scanProgress.totalRoots != 0) {
+        m_scanProgress = {};
+        noteChange(Change::progress);
+    }
 }
 
 void MacInsightsViewModel::setErrorMessage(std::optional<std::string> message)

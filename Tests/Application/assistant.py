@@ -5,7 +5,7 @@ from gi.repository import Gio, GLib
 from session import wait_until
 
 _PREFIX = "org.a11y.atspi."
-_STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "modal": 16, "selected": 23, "showing": 25}
+_STATES = {"active": 1, "checked": 4, "focused": 12, "modal": 16, "selected": 23, "showing": 25}
 _CALL_LIMIT = 30_000
 
 
@@ -141,7 +141,7 @@ class Assistant:
             try:
                 name = element.name
                 if name:
-                    lines.append(f"  {element.role}: {name!r} {sorted(element.states - {'showing', 'enabled'})}")
+                    lines.append(f"  {element.role}: {name!r} {sorted(element.states - {'showing'})}")
             except GLib.Error:
                 continue
         return "\n".join(lines) or "  nothing"

@@ -8,7 +8,7 @@ from session import wait_until
 
 
 class Figures(ApplicationTest):
-    SECONDS = 10
+    SECONDS = 5
 
     def memory(self, application):
         status = pathlib.Path(f"/proc/{application.process.pid}/status").read_text()

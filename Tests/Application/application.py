@@ -9,6 +9,7 @@ import time
 
 import session as sessions
 from assistant import Assistant
+from gi.repository import GLib
 from session import wait_until
 
 PROGRAM = pathlib.Path(os.environ["KARVELLO_PROGRAM"])
@@ -106,5 +107,20 @@ class Application:
         self.shown.wait_for(lambda name: name == section or name.startswith(section + ","), "list item").act()
         self.shown.wait_for(section, "heading")
 
-    def press_button(self, name, states=("enabled",)):
-        self.shown.wait_for(name, "push button", states).act()
+    def ready(self, name, role="push button"):
+        """It, if it can be used now. Qt 6.4 says of nothing that it is disabled; but what is disabled takes no focus."""
+        element = self.shown.find(name, role)
+        if element:
+            try:
+                element.focus()
+                return element if "focused" in element.states else None
+            except GLib.Error:
+                pass
+        return None
+
+    def wait_until_ready(self, name, role="push button"):
+        return wait_until(lambda: self.ready(name, role),
+                          lambda: f"a {role} {name} that can be used, on show is\n{self.shown.told()}")
+
+    def press_button(self, name):
+        self.wait_until_ready(name).act()

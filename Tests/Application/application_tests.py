@@ -10,6 +10,7 @@ from folders_tests import Folders
 from lifetime_tests import Lifetime
 from names_tests import Names
 from no_bus_tests import NoBus
+from questions_tests import Questions
 from reminders_tests import Reminders
 from review_tests import Review
 from sections_tests import Sections

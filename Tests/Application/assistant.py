@@ -141,7 +141,7 @@ class Assistant:
             try:
                 name = element.name
                 if name:
-                    lines.append(f"  {element.role}: {name!r} {sorted(element.states - {'showing', 'enabled'})}")
+                    lines.append(f"  {element.role}: {name!r} {sorted(element.states - {'showing'})}")
             except GLib.Error:
                 continue
         return "\n".join(lines) or "  nothing"

@@ -1,5 +1,7 @@
 """A desktop that lacks something, and files that are not as they should be."""
 
+import base64
+
 from application import Installation
 from case import MOVE, SCAN, ApplicationTest
 from session import wait_until
@@ -28,6 +30,22 @@ class Faults(ApplicationTest):
         kept = [file for file in self.home.preferences_file.parent.iterdir() if file.read_bytes() == damaged]
         self.assertEqual(len(kept), 1)
         self.assertTrue(self.home.preferences()["karvello.macOnboardingCompleted.v1"])
+
+    def test_damaged_values_count_as_none_and_are_kept(self):
+        damaged = {"data": base64.b64encode(b'{"fallbackPath": "/no').decode()}
+        stores = ("karvello.homeAccessBookmark.v1", "karvello.customScanFolders.v1", "karvello.cleanupIgnoreItems.v1")
+        self.home.add_clutter()
+        application = self.start_after_first_run(preferences={
+            **{store: damaged for store in stores}, "karvello.textScale": 5, "karvello.appearanceMode": "gigantic",
+            "karvello.macScanMode": {"unknown": []}})
+        self.scan(application)
+        application.open("Settings")
+        for words in ("Could not load home folder access bookmark.", "Could not load custom scan folders."):
+            application.shown.wait_for(lambda name: name.startswith(words), "alert message")
+        kept = self.home.preferences()
+        for store in stores:
+            with self.subTest(store):
+                self.assertEqual(kept.get(store + ".malformedBackup"), damaged)
 
     def test_a_damaged_log_stays_beside_and_says_nothing_false(self):
         damaged = b'[{"id": "half of an entry'

@@ -77,7 +77,7 @@ class Home:
     def files(self):
         """Every file below the clutter, by its path and size."""
         found = {}
-        for top in ("Library", "Downloads", "Documents"):
+        for top in ("Library", "Downloads", "Documents", "Movies"):
             for folder, _, names in os.walk(self.folder / top):
                 for name in names:
                     file = pathlib.Path(folder, name)

@@ -56,8 +56,8 @@ class Names(ApplicationTest):
         self.assertEqual(len(self.home.trashed()), len(NAMES))
 
         application.open("Review & Evidence")
-        application.shown.wait_for(lambda name: name.startswith("Select All,"), "check box", ["enabled"]).act()
-        application.shown.wait_for(lambda name: name.startswith("Try Restoring"), "push button", ["enabled"])
+        application.wait_until_ready(lambda name: name.startswith("Select All,"), "check box").act()
+        application.wait_until_ready(lambda name: name.startswith("Try Restoring"))
         self.assert_shown_harmlessly(application)
         application.press_button(f"Try Restoring {len(NAMES)} Selected Items")
         wait_until(lambda: self.found() == sorted(NAMES), lambda: f"the names are back: {self.found()}")

@@ -40,7 +40,7 @@ class NoBus(ApplicationTest):
         wait_until(lambda: len(self.log()) == 1, "the other clean")
         application.open("Review & Evidence")
         box = self.centre_of(application, "Select All,")
-        application.shown.wait_for(lambda name: name.startswith("Select All,"), "check box", ["enabled"]).act()
+        application.wait_until_ready(lambda name: name.startswith("Select All,"), "check box").act()
         places = box, self.centre_of(application, "Try Restoring")
         application.end()
         self.home = own

@@ -1,8 +1,6 @@
 #include "KarvelloCLI/Say.h"
 
-#include "CleanerCore/Insights/SecurityReview.h"
 #include "CleanerCore/Safety/CleaningError.h"
-#include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloCLI/Texts/TextTables.h"
 #include "KarvelloCLI/Words.h"

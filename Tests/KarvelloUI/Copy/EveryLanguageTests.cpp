@@ -1,6 +1,5 @@
 #include "CleanerCore/Insights/SecurityReview.h"
 #include "CleanerCore/Safety/CleaningError.h"
-#include "CleanerCore/Scan/CustomFolderLocation.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloUI/Copy/Texts/TextTables.h"
 #include "Platform/Files/FileError.h"
@@ -20,8 +19,6 @@ using Platform::FileErrorKind;
 using Platform::FileOperation;
 using testing::HasSubstr;
 using testing::Not;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
 
 /// Texts that are the same in a language as in English, and rightly so: they are words of that language, or names.
 const std::set<std::pair<AppLanguage, std::string>>& sameAsEnglish()

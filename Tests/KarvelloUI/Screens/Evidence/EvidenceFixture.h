@@ -18,7 +18,7 @@ protected:
     explicit EvidenceTest(std::string_view layoutOfHome = "home/.cache/pip/wheel size=64K age=90d\n"
                                                           "home/.cache/thumbnails/large/t.png size=16K age=90d\n"
                                                           "home/.cache/go-build/a size=300K age=90d\n")
-        : ScreenWindowTest(layoutOfHome)
+        : ScreenWindow(layoutOfHome)
     {
         open();
     }

@@ -24,6 +24,7 @@ T.AbstractButton {
     hoverEnabled: canToggle
     focusPolicy: canToggle || activeFocus ? Qt.StrongFocus : Qt.NoFocus
 
+    Accessible.focusable: isCollapsible
     KarvelloSpoken.role: isCollapsible ? Accessible.Button : Accessible.Heading
     Accessible.name: text
     Accessible.description: isCollapsible ? openText : ""

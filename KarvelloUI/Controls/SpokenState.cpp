@@ -1,5 +1,6 @@
 #include "KarvelloUI/Controls/SpokenState.h"
 
+#include <QAccessible>
 #include <QMetaProperty>
 #include <QQmlProperty>
 #include <QtQml/qqml.h>
@@ -31,10 +32,19 @@ SpokenState* SpokenState::qmlAttachedProperties(QObject* item)
     return new SpokenState(item);
 }
 
+void SpokenState::setRole(int role)
+{
+    // A number would not be taken for one.
+    say(kRole, QVariant::fromValue(static_cast<QAccessible::Role>(role)));
+}
+
 void SpokenState::say(Part part, const QVariant& value)
 {
     m_said.at(part) = value;
-    sayAgain();
+    // Even what holds already: else it goes by what is usual for the role.
+    if (m_accessible != nullptr) {
+        m_accessible->setProperty(kNames.at(part), value);
+    }
 }
 
 void SpokenState::sayAgain()

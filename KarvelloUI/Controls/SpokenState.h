@@ -15,7 +15,7 @@ namespace KarvelloUI {
 class SpokenState : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(KarvelloSpoken)
-    QML_ATTACHED(SpokenState)
+    QML_ATTACHED(KarvelloUI::SpokenState)
     QML_UNCREATABLE("It belongs to an item.")
 
     /// Of `Accessible`.
@@ -31,7 +31,7 @@ public:
     [[nodiscard]] int role() const { return m_said[kRole].toInt(); }
     [[nodiscard]] bool isCheckable() const { return m_said[kCheckable].toBool(); }
     [[nodiscard]] bool isChecked() const { return m_said[kChecked].toBool(); }
-    void setRole(int role) { say(kRole, role); }
+    void setRole(int role);
     void setCheckable(bool isCheckable) { say(kCheckable, isCheckable); }
     void setChecked(bool isChecked) { say(kChecked, isChecked); }
 

@@ -9,7 +9,7 @@ T.AbstractButton {
 
     property bool isCollapsible: false
     property bool isOpen: true
-    // "Expanded", "Collapsed", or why it cannot be: Qt 6.4 has no such state for assistants.
+    // "Expanded", "Collapsed", or why it cannot be.
     property string openText
     // The group holds the selection, and stays open.
     property bool isHeldOpen: false
@@ -26,6 +26,8 @@ T.AbstractButton {
 
     Accessible.focusable: isCollapsible
     KarvelloSpoken.role: isCollapsible ? Accessible.Button : Accessible.Heading
+    KarvelloSpoken.expandable: isCollapsible
+    KarvelloSpoken.expanded: isOpen
     Accessible.name: text
     Accessible.description: isCollapsible ? openText : ""
     Accessible.onPressAction: request()

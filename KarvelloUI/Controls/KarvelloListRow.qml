@@ -75,6 +75,8 @@ T.CheckDelegate {
     Accessible.description: isSelectable ? "" : disabledReason
     Accessible.focusable: true
     KarvelloSpoken.role: hasCheckBox ? Accessible.CheckBox : Accessible.ListItem
+    KarvelloSpoken.expandable: details !== null
+    KarvelloSpoken.expanded: isOpen
     KarvelloSpoken.checkable: hasCheckBox && isSelectable
     KarvelloSpoken.checked: hasCheckBox && isSelectable && isChecked
     Accessible.onToggleAction: toggleIfSelectable()

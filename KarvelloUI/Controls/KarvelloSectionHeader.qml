@@ -13,7 +13,7 @@ Rectangle {
     property int checkState: Qt.Unchecked
     property bool isSelectable: true
     property bool isOpen: true
-    // "Expanded", "Collapsed": Qt 6.4 has no such state for assistants.
+    // "Expanded", "Collapsed".
     property string openText
     // In a list the row is the stop for Tab, and not what is in it.
     property bool takesFocus: true
@@ -59,6 +59,8 @@ Rectangle {
             iconName: control.isOpen ? "chevron-down" : "chevron-right"
             accessibleName: KarvelloDesign.spoken([control.name, control.openText])
             focusPolicy: control.takesFocus ? Qt.StrongFocus : Qt.NoFocus
+            KarvelloSpoken.expandable: true
+            KarvelloSpoken.expanded: control.isOpen
             onClicked: control.openRequested(!control.isOpen)
         }
         KarvelloText {

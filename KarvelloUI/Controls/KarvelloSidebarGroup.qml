@@ -9,7 +9,7 @@ T.AbstractButton {
 
     property bool isCollapsible: false
     property bool isOpen: true
-    // "Expanded", "Collapsed", or why it cannot be: Qt 6.4 has no such state for assistants.
+    // "Expanded", "Collapsed", or why it cannot be.
     property string openText
     // The group holds the selection, and stays open.
     property bool isHeldOpen: false
@@ -24,7 +24,10 @@ T.AbstractButton {
     hoverEnabled: canToggle
     focusPolicy: canToggle || activeFocus ? Qt.StrongFocus : Qt.NoFocus
 
+    Accessible.focusable: isCollapsible
     KarvelloSpoken.role: isCollapsible ? Accessible.Button : Accessible.Heading
+    KarvelloSpoken.expandable: isCollapsible
+    KarvelloSpoken.expanded: isOpen
     Accessible.name: text
     Accessible.description: isCollapsible ? openText : ""
     Accessible.onPressAction: request()

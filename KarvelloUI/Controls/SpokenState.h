@@ -1,50 +1,58 @@
 #pragma once
 
+#include <QAccessible>
 #include <QObject>
-#include <QPointer>
-#include <QVariant>
 #include <QtQml/qqmlregistration.h>
-#include <array>
-#include <cstdint>
+#include <optional>
 
 namespace KarvelloUI {
 
-/// `KarvelloSpoken.role`, `.checkable` and `.checked`: what an item is for assistants, whatever template it is made of. The
-/// templates of Qt Quick write their own kind and state over those that an item declares as `Accessible`, and do so when an
-/// assistant comes, not when the item is made; what stands here is written again each time.
+/// `KarvelloSpoken.role`, `.checkable`, `.checked`, `.expandable` and `.expanded`: what an item is for assistants, whatever
+/// template it is made of. For Qt 6.4 the template decides on the role, writes its own state over what is declared as
+/// `Accessible` when an assistant comes, and there is no state of things that fold away.
 class SpokenState : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(KarvelloSpoken)
-    QML_ATTACHED(SpokenState)
+    QML_ATTACHED(KarvelloUI::SpokenState)
     QML_UNCREATABLE("It belongs to an item.")
 
     /// Of `Accessible`.
     Q_PROPERTY(int role READ role WRITE setRole FINAL)
     Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable FINAL)
     Q_PROPERTY(bool checked READ isChecked WRITE setChecked FINAL)
+    Q_PROPERTY(bool expandable READ isExpandable WRITE setExpandable FINAL)
+    Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded FINAL)
 
 public:
-    explicit SpokenState(QObject* item);
+    using QObject::QObject;
 
     static SpokenState* qmlAttachedProperties(QObject* item);
+    /// Has assistants ask here, as long as the program runs.
+    static void install();
 
-    [[nodiscard]] int role() const { return m_said[kRole].toInt(); }
-    [[nodiscard]] bool isCheckable() const { return m_said[kCheckable].toBool(); }
-    [[nodiscard]] bool isChecked() const { return m_said[kChecked].toBool(); }
-    void setRole(int role) { say(kRole, role); }
-    void setCheckable(bool isCheckable) { say(kCheckable, isCheckable); }
-    void setChecked(bool isChecked) { say(kChecked, isChecked); }
+    [[nodiscard]] int role() const { return m_role.value_or(QAccessible::NoRole); }
+    [[nodiscard]] bool isCheckable() const { return m_isCheckable.value_or(false); }
+    [[nodiscard]] bool isChecked() const { return m_isChecked.value_or(false); }
+    [[nodiscard]] bool isExpandable() const { return m_isExpandable; }
+    [[nodiscard]] bool isExpanded() const { return m_isExpanded; }
+    void setRole(int role) { m_role = static_cast<QAccessible::Role>(role); }
+    void setCheckable(bool isCheckable) { m_isCheckable = isCheckable; }
+    void setChecked(bool isChecked);
+    void setExpandable(bool isExpandable) { m_isExpandable = isExpandable; }
+    void setExpanded(bool isExpanded);
+
+    /// With `known` where nothing is said here.
+    [[nodiscard]] QAccessible::Role roleOr(QAccessible::Role known) const { return m_role.value_or(known); }
+    [[nodiscard]] QAccessible::State stateOver(QAccessible::State known) const;
 
 private:
-    enum Part : std::uint8_t { kRole, kCheckable, kChecked, kParts };
+    void tell(QAccessible::State changed);
 
-    void say(Part part, const QVariant& value);
-    Q_INVOKABLE void sayAgain();
-
-    /// Invalid where the item's own kind and state hold.
-    std::array<QVariant, kParts> m_said;
-    /// What Qt Quick keeps of the item for assistants.
-    QPointer<QObject> m_accessible;
+    std::optional<QAccessible::Role> m_role;
+    std::optional<bool> m_isCheckable;
+    std::optional<bool> m_isChecked;
+    bool m_isExpandable = false;
+    bool m_isExpanded = false;
 };
 
 } // namespace KarvelloUI

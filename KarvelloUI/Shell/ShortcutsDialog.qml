@@ -17,12 +17,13 @@ KarvelloDialog {
     cancelText: settings.closeText
 
     Repeater {
-        model: control.settings.shortcuts
+        // By their number: the list is a new one with each language.
+        model: control.settings.shortcuts.length
 
         ShortcutRow {
-            required property var modelData
+            required property int index
             Layout.fillWidth: true
-            shortcut: modelData
+            shortcut: control.settings.shortcuts[index]
             keysWidth: Math.round(control.availableWidth * 0.36)
         }
     }

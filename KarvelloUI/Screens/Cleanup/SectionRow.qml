@@ -19,6 +19,8 @@ T.Control {
     Accessible.description: head.openText
     KarvelloSpoken.role: Accessible.CheckBox
     KarvelloSpoken.checkable: true
+    KarvelloSpoken.expandable: true
+    KarvelloSpoken.expanded: head.isOpen
     KarvelloSpoken.checked: head.checkState === Qt.Checked
     Accessible.checkStateMixed: head.checkState === Qt.PartiallyChecked
     Accessible.onToggleAction: screen.toggleSection(head.id)

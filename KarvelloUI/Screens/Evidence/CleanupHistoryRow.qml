@@ -36,6 +36,8 @@ T.ItemDelegate {
 
     Accessible.focusable: true
     KarvelloSpoken.role: Accessible.ListItem
+    KarvelloSpoken.expandable: hasDetails
+    KarvelloSpoken.expanded: isOpen
     Accessible.name: spokenName
     Accessible.description: isOpen ? details.join("\n") : hasDetails ? openName : ""
     Accessible.onPressAction: clicked()

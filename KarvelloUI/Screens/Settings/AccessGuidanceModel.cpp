@@ -3,6 +3,7 @@
 #include "KarvelloUI/Advisors/StoragePermissionAdvisor.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
+#include "Platform/Base/Text.h"
 
 #include <QPointer>
 #include <algorithm>

@@ -10,7 +10,6 @@
 #include <QString>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
-#include <cstdint>
 
 namespace KarvelloUI {
 
@@ -55,8 +54,8 @@ class SettingsScreenModel final : public QObject {
 
 public:
     // QML reads only enumerators with a capital letter.
-    // NOLINTNEXTLINE(readability-identifier-naming)
-    enum FailingGroup : std::uint8_t { NoGroup, ScanGroup, IgnoreListGroup, CustomFoldersGroup };
+    // NOLINTNEXTLINE(readability-identifier-naming,performance-enum-size)
+    enum FailingGroup : int { NoGroup, ScanGroup, IgnoreListGroup, CustomFoldersGroup };
     Q_ENUM(FailingGroup)
 
     /// `dashboard` outlives the model.

@@ -130,9 +130,16 @@ TEST_P(KarvelloSpoken, SaysWhatIsFoldedAway)
     EXPECT_EQ(roleOf(group), QAccessible::Button);
     EXPECT_FALSE(stateOf(group).checkable);
     EXPECT_EQ(spoken(group)->text(QAccessible::Description), QStringLiteral("Expanded"));
+    EXPECT_TRUE(stateOf(group).expandable);
+    EXPECT_TRUE(stateOf(group).expanded);
+    group->setProperty("isOpen", false);
+    EXPECT_TRUE(stateOf(group).collapsed);
+    EXPECT_FALSE(stateOf(group).expanded);
+    group->setProperty("isOpen", true);
     press(group);
     EXPECT_EQ(spoken(group)->text(QAccessible::Description), QStringLiteral("Collapsed"));
     EXPECT_EQ(roleOf(find("heading")), QAccessible::Heading);
+    EXPECT_FALSE(stateOf(find("heading")).expandable);
     EXPECT_EQ(spoken(find("head"))->text(QAccessible::Description), QStringLiteral("Collapsed"));
     ASSERT_EQ(spoken(find("head"))->childCount(), 3) << "box, chevron, note";
     EXPECT_EQ(spoken(find("head"))->child(1)->text(QAccessible::Name), QStringLiteral("Safe, Collapsed"));

@@ -133,7 +133,8 @@ protected:
         for (const auto language : Platform::allCases<AppLanguage>()) {
             setLanguage(language);
             for (const auto section : Platform::allCases<Section>()) {
-                SCOPED_TRACE(std::string(Platform::rawValue(language)) + " " + std::string(Platform::rawValue(section)));
+                SCOPED_TRACE(
+                    std::string(Platform::rawValue(language)) + " " + std::string(Platform::rawValue(section)));
                 dashboard->showSection(section);
                 layOut();
                 expectTidy();

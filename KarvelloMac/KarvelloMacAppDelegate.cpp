@@ -1,5 +1,6 @@
 #include "KarvelloMac/KarvelloMacAppDelegate.h"
 
+#include "KarvelloMac/PreferredText.h"
 #include "KarvelloUI/Controls/DesignTokens.h"
 #include "KarvelloUI/Controls/InstallDesign.h"
 #include "KarvelloUI/Stores/KarvelloDashboardLaunchRequestStore.h"
@@ -49,17 +50,15 @@ void KarvelloMacAppDelegate::applicationDidFinishLaunching()
 
 void KarvelloMacAppDelegate::configureDesign()
 {
-    const auto followText = [this] { m_design.setTextEnvironment({.scale = m_preferences.textScale()}); };
     const auto followMode = [this] { m_design.setAppearanceMode(m_preferences.appearanceMode()); };
     const auto followDesktop = [this] {
         const auto& desktop = m_services.appearance();
         m_design.setPlatformScheme(desktop.prefersDark() ? ColorScheme::dark : ColorScheme::light);
         m_design.setReducedMotion(desktop.prefersReducedMotion());
     };
-    connect(&m_preferences, &DashboardPreferences::textScaleChanged, this, followText);
     connect(&m_preferences, &DashboardPreferences::appearanceModeChanged, this, followMode);
     m_services.appearance().setObserver(followDesktop);
-    followText();
+    followPreferredText(m_design, m_preferences);
     followMode();
     followDesktop();
 }

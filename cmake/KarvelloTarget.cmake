@@ -30,6 +30,8 @@ endif()
 if(KARVELLO_SANITIZE)
   target_compile_options(karvello_options INTERFACE
     -fsanitize=${KARVELLO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer
+    # Qt asks it of whatever uses Qt. Headers that were made ready without it would be left aside there.
+    -fPIC
     # This check opens a pipe to look at memory, and takes a process without free descriptors for a broken one.
     -fno-sanitize=vptr)
   target_link_options(karvello_options INTERFACE -fsanitize=${KARVELLO_SANITIZE})

@@ -23,11 +23,11 @@ T.CheckBox {
     focusPolicy: Qt.StrongFocus
     nextCheckState: isAsking ? () => control.checkState : undefined
 
-    Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : disabledReason
-    Accessible.checkable: !isLocked
-    Accessible.checked: checkState === Qt.Checked
+    KarvelloSpoken.role: Accessible.CheckBox
+    KarvelloSpoken.checkable: !isLocked
+    KarvelloSpoken.checked: checkState === Qt.Checked
     Accessible.checkStateMixed: checkState === Qt.PartiallyChecked
     Accessible.onToggleAction: toggleByAssistant()
     Accessible.onPressAction: toggleByAssistant()

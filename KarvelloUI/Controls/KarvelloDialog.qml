@@ -11,6 +11,7 @@ T.Dialog {
     default property alias content: column.data
     property string message
     property string iconName: "trash"
+    // Without it there is only something to read, and `cancelText` closes it.
     required property string acceptText
     required property string cancelText
     property string acceptIconName: iconName
@@ -157,6 +158,7 @@ T.Dialog {
             KarvelloButton {
                 Layout.fillWidth: true
                 kind: KarvelloButton.Primary
+                visible: text !== ""
                 text: control.acceptText
                 iconName: control.acceptIconName
                 enabled: control.canAccept

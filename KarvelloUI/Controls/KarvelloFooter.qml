@@ -40,6 +40,9 @@ Rectangle {
     readonly property real textWidth: Math.max(heading.implicitWidth,
         Math.min(sentence.implicitWidth, Math.round(240 * KarvelloDesign.textFactor)))
     readonly property bool isFolded: selectAllText !== "" && textWidth + buttonsWidth + selectAllWidth > room
+    // Then it stands in the menu too.
+    readonly property bool isClearFolded: isFolded && clearText !== ""
+        && heading.implicitWidth + buttonsWidth + more.implicitWidth + buttons.spacing > room
     readonly property bool hasRoomForPills: KarvelloDesign.textFactor < 1.25
         && heading.implicitWidth + pillRow.implicitWidth + KarvelloDesign.spacing8 + buttonsWidth + selectAllWidth <= room
 
@@ -133,7 +136,7 @@ Rectangle {
 
         KarvelloButton {
             id: clear
-            visible: text !== ""
+            visible: text !== "" && !control.isClearFolded
             kind: KarvelloButton.Quiet
             text: control.clearText
             enabled: control.canClear && !control.isBusy
@@ -151,7 +154,7 @@ Rectangle {
             visible: control.isFolded
             iconName: "more"
             accessibleName: control.moreName
-            enabled: control.canSelectAll && !control.isBusy
+            enabled: (control.canSelectAll || (control.isClearFolded && control.canClear)) && !control.isBusy
             onClicked: menu.openBelow(more)
 
             KarvelloMenu {
@@ -159,7 +162,15 @@ Rectangle {
                 accessibleName: control.moreName
                 KarvelloMenuItem {
                     text: control.selectAllText
+                    enabled: control.canSelectAll
                     onTriggered: control.selectAllRequested()
+                }
+                KarvelloMenuItem {
+                    visible: control.isClearFolded
+                    height: visible ? implicitHeight : 0
+                    text: control.clearText
+                    enabled: control.canClear
+                    onTriggered: control.clearRequested()
                 }
             }
         }

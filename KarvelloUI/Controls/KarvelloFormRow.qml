@@ -16,7 +16,9 @@ Item {
     readonly property real slotMaximumWidth: Math.max(0, width - 2 * padding)
     readonly property real leastTextWidth: Math.max(label.implicitWidth,
         Math.min(line.implicitWidth, Math.round(150 * KarvelloDesign.textFactor)))
-    readonly property bool isWrapped: leastTextWidth + KarvelloDesign.spacing16 + slot.implicitWidth > slotMaximumWidth
+    readonly property real widthBeside: slotMaximumWidth - KarvelloDesign.spacing16 - slot.implicitWidth
+    // A text of more than three lines beside a button is a narrow column that nobody likes to read.
+    readonly property bool isWrapped: leastTextWidth > widthBeside || line.implicitWidth > 3 * widthBeside
     readonly property real contentHeight: isWrapped ? texts.height + KarvelloDesign.spacing8 + slot.height
         : Math.max(texts.height, slot.height)
     readonly property real contentTop: Math.round((height - contentHeight) / 2)

@@ -45,11 +45,12 @@ T.CheckDelegate {
     focusPolicy: Qt.StrongFocus
     onClicked: toggleIfSelectable()
 
-    Accessible.role: isKeeper ? Accessible.ListItem : Accessible.CheckBox
     Accessible.name: accessibleName
     Accessible.description: isSelectable ? "" : disabledReason
-    Accessible.checkable: isSelectable
-    Accessible.checked: isSelectable && isChecked
+    Accessible.focusable: true
+    KarvelloSpoken.role: isKeeper ? Accessible.ListItem : Accessible.CheckBox
+    KarvelloSpoken.checkable: isSelectable
+    KarvelloSpoken.checked: isSelectable && isChecked
     Accessible.onToggleAction: toggleIfSelectable()
     Accessible.onPressAction: toggleIfSelectable()
 
@@ -178,7 +179,15 @@ T.CheckDelegate {
         }
     }
     background: Rectangle {
+        // The last one lies in the round corners of its card.
+        radius: control.isLast ? KarvelloDesign.cardRadius - 1 : 0
         color: control.isKeeper || control.hovered ? KarvelloDesign.elevated2 : "transparent"
+        Rectangle {
+            visible: control.isLast
+            width: parent.width
+            height: parent.height / 2
+            color: parent.color
+        }
         Rectangle {
             anchors.bottom: parent.bottom
             visible: !control.isLast

@@ -61,7 +61,7 @@ T.CheckDelegate {
             control.toggleRequested()
     }
 
-    // Its kind is what makes it a check box for assistants; the state is the owner's.
+    // The state is the owner's.
     checkable: false
     implicitWidth: 640
     implicitHeight: Math.max(54, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
@@ -73,10 +73,13 @@ T.CheckDelegate {
 
     Accessible.name: accessibleName
     Accessible.description: isSelectable ? "" : disabledReason
-    Accessible.checkable: isSelectable
-    Accessible.checked: isSelectable && isChecked
+    Accessible.focusable: true
+    KarvelloSpoken.role: hasCheckBox ? Accessible.CheckBox : Accessible.ListItem
+    KarvelloSpoken.checkable: hasCheckBox && isSelectable
+    KarvelloSpoken.checked: hasCheckBox && isSelectable && isChecked
     Accessible.onToggleAction: toggleIfSelectable()
-    Accessible.onPressAction: toggleIfSelectable()
+    // Without a box there is nothing to do with it but to open it.
+    Accessible.onPressAction: hasCheckBox ? toggleIfSelectable() : openRequested(!isOpen)
 
     Keys.onPressed: event => {
         event.accepted = true

@@ -13,7 +13,7 @@ T.ProgressBar {
     implicitWidth: 160
     implicitHeight: thickness
 
-    Accessible.role: Accessible.ProgressBar
+    KarvelloSpoken.role: Accessible.ProgressBar
     Accessible.name: accessibleName
 
     background: Rectangle {

@@ -11,12 +11,16 @@ ListView {
     property string accessibleName
     property real maximumHeight: Infinity
 
+    // The keyboard went to another row.
+    signal moved(int row)
+
     function moveTo(row: int) {
         const reached = Math.max(0, Math.min(row, count - 1))
         positionViewAtIndex(reached, ListView.Contain)
         // What has the focus may not stop being a stop of Tab before it has given it away.
         itemAtIndex(reached)?.forceActiveFocus(Qt.TabFocusReason)
         currentIndex = reached
+        moved(reached)
     }
 
     implicitHeight: Math.min(Math.ceil(contentHeight), maximumHeight)
@@ -32,6 +36,12 @@ ListView {
     T.ScrollBar.vertical: KarvelloScrollBar {
         // Rows that become lower leave the old share in it.
         policy: list.interactive ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
+    }
+
+    // A list that was empty for a while has a stop again.
+    onCountChanged: {
+        if (currentIndex < 0 && count > 0)
+            currentIndex = 0
     }
 
     Accessible.role: Accessible.List

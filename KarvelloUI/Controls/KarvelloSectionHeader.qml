@@ -13,6 +13,8 @@ Rectangle {
     property int checkState: Qt.Unchecked
     property bool isSelectable: true
     property bool isOpen: true
+    // "Expanded", "Collapsed": Qt 6.4 has no such state for assistants.
+    property string openText
     // In a list the row is the stop for Tab, and not what is in it.
     property bool takesFocus: true
     // What is said of the selection.
@@ -27,7 +29,7 @@ Rectangle {
 
     Accessible.role: Accessible.Heading
     Accessible.name: KarvelloDesign.spoken([name, count, total])
-    Accessible.description: accessibleValue
+    Accessible.description: KarvelloDesign.spoken([accessibleValue, openText])
 
     RowLayout {
         id: row
@@ -46,6 +48,8 @@ Rectangle {
             focusPolicy: control.takesFocus ? Qt.StrongFocus : Qt.NoFocus
             isAsking: true
             onClicked: control.toggleRequested()
+            // There the row is the check box.
+            Accessible.ignored: !control.takesFocus
         }
         KarvelloButton {
             Layout.rightMargin: -KarvelloDesign.spacing8
@@ -53,10 +57,8 @@ Rectangle {
             kind: KarvelloButton.Quiet
             size: KarvelloButton.Small
             iconName: control.isOpen ? "chevron-down" : "chevron-right"
-            accessibleName: control.name
+            accessibleName: KarvelloDesign.spoken([control.name, control.openText])
             focusPolicy: control.takesFocus ? Qt.StrongFocus : Qt.NoFocus
-            Accessible.checkable: true
-            Accessible.checked: control.isOpen
             onClicked: control.openRequested(!control.isOpen)
         }
         KarvelloText {

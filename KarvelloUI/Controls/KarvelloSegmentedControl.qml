@@ -41,7 +41,6 @@ Rectangle {
             id: segments
             model: control.choices
 
-            // Its kind is what makes it a choice for assistants; the state is the owner's.
             T.RadioButton {
                 id: segment
 
@@ -59,8 +58,10 @@ Rectangle {
                 onClicked: control.choose(index, Qt.MouseFocusReason)
 
                 Accessible.name: text
-                Accessible.checkable: true
-                Accessible.checked: isChosen
+                // The state is the owner's.
+                KarvelloSpoken.role: Accessible.RadioButton
+                KarvelloSpoken.checkable: true
+                KarvelloSpoken.checked: isChosen
                 Accessible.onPressAction: chooseByAssistant()
                 Accessible.onToggleAction: chooseByAssistant()
 

@@ -9,6 +9,8 @@ T.AbstractButton {
 
     property bool isCollapsible: false
     property bool isOpen: true
+    // "Expanded", "Collapsed", or why it cannot be: Qt 6.4 has no such state for assistants.
+    property string openText
     // The group holds the selection, and stays open.
     property bool isHeldOpen: false
     readonly property bool canToggle: isCollapsible && !isHeldOpen
@@ -22,10 +24,9 @@ T.AbstractButton {
     hoverEnabled: canToggle
     focusPolicy: canToggle || activeFocus ? Qt.StrongFocus : Qt.NoFocus
 
-    Accessible.role: isCollapsible ? Accessible.Button : Accessible.Heading
+    KarvelloSpoken.role: isCollapsible ? Accessible.Button : Accessible.Heading
     Accessible.name: text
-    Accessible.checkable: canToggle
-    Accessible.checked: canToggle && isOpen
+    Accessible.description: isCollapsible ? openText : ""
     Accessible.onPressAction: request()
     onClicked: request()
     Keys.onReturnPressed: request()

@@ -25,8 +25,9 @@ T.ItemDelegate {
     hoverEnabled: true
     focusPolicy: isStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
-    Accessible.role: Accessible.ListItem
     Accessible.name: accessibleName
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.onPressAction: control.clicked()

@@ -15,11 +15,11 @@ T.Switch {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
 
-    Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : disabledReason
-    Accessible.checkable: true
-    Accessible.checked: checked
+    KarvelloSpoken.role: Accessible.CheckBox
+    KarvelloSpoken.checkable: true
+    KarvelloSpoken.checked: checked
     Accessible.onToggleAction: toggleByAssistant()
     Accessible.onPressAction: toggleByAssistant()
 

@@ -24,7 +24,7 @@ T.TextField {
     selectByMouse: true
     hoverEnabled: true
 
-    Accessible.role: Accessible.EditableText
+    KarvelloSpoken.role: Accessible.EditableText
     Accessible.name: accessibleName
 
     Keys.onEscapePressed: event => {

@@ -26,8 +26,9 @@ T.AbstractButton {
     horizontalPadding: isLarge ? 14 : isMedium ? 8 : 6
     verticalPadding: isLarge ? 12 : isMedium ? 6 : 3
 
-    Accessible.role: Accessible.ListItem
     Accessible.name: spokenName
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: isSelected
 

@@ -63,7 +63,7 @@ struct CleanupCopy : CopyWording {
     [[nodiscard]] std::string skippedTitle() const;
     [[nodiscard]] std::string skippedSummary(std::int64_t itemCount) const;
     [[nodiscard]] std::string skippedMore(std::int64_t itemCount) const;
-    /// A reason of the scanner; one that it does not have itself comes back as it is.
+    /// What the engine or the system gives as the reason of something; what neither says comes back as it is.
     [[nodiscard]] std::string skippedReason(std::string_view reason) const;
     [[nodiscard]] std::string cancel() const;
     [[nodiscard]] std::string cancelOperation() const;
@@ -267,12 +267,7 @@ struct CleanupCopy : CopyWording {
     friend bool operator==(const CleanupCopy&, const CleanupCopy&) = default;
 
 private:
-    /// The copy for the parts of a sentence that stays English, so that it does not change its language midway.
-    [[nodiscard]] CleanupCopy ofParts() const
-    {
-        return {language == AppLanguage::korean ? AppLanguage::korean : AppLanguage::english};
-    }
-
+    [[nodiscard]] std::string linuxAccessDiagnosticsBody(std::int64_t blockedCount, bool hasCustomFolders) const;
     [[nodiscard]] std::string cleanupImpactOutcome(const CleanerCore::CleanupStorageImpactReport& report) const;
 };
 

@@ -1,11 +1,15 @@
 #pragma once
 
 #include "KarvelloUI/Copy/AppLanguage.h"
+#include "KarvelloUI/Copy/CopyHost.h"
+#include "KarvelloUI/Copy/OwnText.h"
+#include "KarvelloUI/Copy/Texts/TextTables.h"
 
 #include <cstdint>
 #include <fmt/format.h>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace KarvelloUI {
@@ -13,6 +17,8 @@ namespace KarvelloUI {
 /// How the texts of a catalogue are made in one language.
 struct CopyWording {
     AppLanguage language;
+    /// The tables speak of this one; where its names are none of the machine's, the catalogue has own texts.
+    CopyHost host = CopyHost::mac;
 
     [[nodiscard]] std::string_view locale() const { return Platform::rawValue(language); }
 
@@ -56,6 +62,34 @@ protected:
         std::string text = sentence<std::string_view, Values...>(korean, english, kStandIn, values...);
         return text.replace(text.find(kStandIn), kStandIn.size(), part);
     }
+
+    /// A sentence for which the tables have no row, with its values put in: `Texts` has it in all languages.
+    template <typename... Values>
+    [[nodiscard]] std::string own(
+        OwnText<Copy::kEnglishTexts, std::type_identity_t<Values>...> text, const Values&... values) const
+    {
+        return fmt::vformat(Copy::textsIn(language)[text.index()], fmt::make_format_args(values...));
+    }
+
+    /// The same for one or for any other number; French counts none as one.
+    template <typename... Values>
+    [[nodiscard]] std::string ownCount(std::int64_t number,
+        OwnText<Copy::kEnglishTexts, std::int64_t, std::type_identity_t<Values>...> one,
+        OwnText<Copy::kEnglishTexts, std::int64_t, std::type_identity_t<Values>...> many, const Values&... values) const
+    {
+        return fmt::vformat(Copy::textsIn(language)[isSingular(number) ? one.index() : many.index()],
+            fmt::make_format_args(number, values...));
+    }
+
+    /// A finished sentence that the engine or the system made in English; one that is not known comes back as it is.
+    [[nodiscard]] std::string engineSentence(std::string_view english) const;
+
+    /// Whether the language takes its sentence for one.
+    [[nodiscard]] bool isSingular(std::int64_t number) const
+    {
+        return number == 1 || (number == 0 && language == AppLanguage::french);
+    }
+    [[nodiscard]] bool isLinux() const { return host == CopyHost::linuxDesktop; }
 
     [[nodiscard]] std::string byteSize(std::int64_t bytes) const;
     /// Parts that are in their language already, with " · " between them.

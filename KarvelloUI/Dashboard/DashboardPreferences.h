@@ -18,9 +18,6 @@ namespace KarvelloUI {
 /// does not count. Main thread only.
 class DashboardPreferences final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool isOnboardingCompleted READ isOnboardingCompleted NOTIFY onboardingCompletedChanged FINAL)
-    Q_PROPERTY(
-        bool isAdvancedExpanded READ isAdvancedExpanded WRITE setAdvancedExpanded NOTIFY advancedExpandedChanged FINAL)
 
 public:
     static constexpr std::string_view scanModeDefaultsKey = "karvello.macScanMode";
@@ -34,7 +31,7 @@ public:
 
     [[nodiscard]] AppLanguage language() const { return m_values.language; }
     /// The texts in this language.
-    [[nodiscard]] DashboardWords words() const { return {{m_values.language}}; }
+    [[nodiscard]] DashboardWords words() const { return DashboardWords(m_values.language); }
     [[nodiscard]] KarvelloAppearanceMode appearanceMode() const { return m_values.appearanceMode; }
     [[nodiscard]] KarvelloTextScale textScale() const { return m_values.textScale; }
     /// As it is stored: a build may not offer it.

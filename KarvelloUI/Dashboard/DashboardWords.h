@@ -3,6 +3,7 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 #include "KarvelloUI/Copy/OwnText.h"
 #include "KarvelloUI/Dashboard/Texts/TextTables.h"
+#include "KarvelloUI/Sessions/ShownText.h"
 
 #include <QString>
 #include <cstdint>
@@ -15,6 +16,11 @@ namespace KarvelloUI {
 /// The words of the screens in one language: those of the catalogue, and those that only the screens have (`Texts`).
 /// Making one costs nothing, so nobody keeps it.
 struct DashboardWords : KarvelloCopy {
+    constexpr explicit DashboardWords(AppLanguage spoken)
+        : KarvelloCopy{{{spoken, CopyHost::linuxDesktop}}}
+    {
+    }
+
     template <typename... Values>
     using Own = OwnText<Dashboard::kEnglishTexts, std::type_identity_t<Values>...>;
 
@@ -30,8 +36,7 @@ struct DashboardWords : KarvelloCopy {
     [[nodiscard]] std::string count(std::int64_t number, Own<std::int64_t, Values...> one,
         Own<std::int64_t, Values...> many, const Values&... values) const
     {
-        const bool isSingular = number == 1 || (number == 0 && language == AppLanguage::french);
-        return fmt::vformat(Dashboard::textsIn(language)[isSingular ? one.index() : many.index()],
+        return fmt::vformat(Dashboard::textsIn(language)[isSingular(number) ? one.index() : many.index()],
             fmt::make_format_args(number, values...));
     }
 
@@ -43,10 +48,10 @@ struct DashboardWords : KarvelloCopy {
     using CopyWording::joinedParts;
 };
 
-/// A text for a screen. Names and paths that may hold anything go through `shownText`.
+/// A text for a screen, whatever names it holds; see `shownText`.
 [[nodiscard]] inline QString shown(const std::string& text)
 {
-    return QString::fromStdString(text);
+    return shownText(text);
 }
 
 } // namespace KarvelloUI

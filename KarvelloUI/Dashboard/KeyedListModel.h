@@ -22,7 +22,13 @@ public:
         return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
     }
     [[nodiscard]] const std::vector<Row>& rows() const { return m_rows; }
+    /// Nothing for a place outside of the list. It holds until the list changes.
+    [[nodiscard]] const Row* row(int place) const
+    {
+        return place >= 0 && place < rowCount() ? &m_rows[static_cast<std::size_t>(place)] : nullptr;
+    }
 
+    /// Shows `rows` in their order.
     void show(std::vector<Row> rows)
     {
         removeAllBut(rows);
@@ -35,8 +41,7 @@ protected:
     /// Of an index that is one of the list's; nothing for any other.
     [[nodiscard]] const Row* rowAt(const QModelIndex& index) const
     {
-        return checkIndex(index, CheckIndexOption::IndexIsValid) ? &m_rows[static_cast<std::size_t>(index.row())]
-                                                                 : nullptr;
+        return checkIndex(index, CheckIndexOption::IndexIsValid) ? row(index.row()) : nullptr;
     }
 
 private:

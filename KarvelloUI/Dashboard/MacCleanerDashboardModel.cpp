@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Audit/AuditEntryRetention.h"
 #include "CleanerCore/Audit/CleanupAuditStore.h"
+#include "KarvelloUI/Dashboard/RawText.h"
 #include "KarvelloUI/Stores/KarvelloDashboardLaunchRequestStore.h"
 
 #include <QMetaObject>
@@ -84,8 +85,7 @@ void MacCleanerDashboardModel::setWindowVisible(bool isVisible)
 
 QString MacCleanerDashboardModel::selectedSectionText() const
 {
-    const std::string_view raw = Platform::rawValue(m_selectedSection);
-    return QString::fromUtf8(raw.data(), static_cast<qsizetype>(raw.size()));
+    return rawText(m_selectedSection);
 }
 
 void MacCleanerDashboardModel::showSection(MacDashboardSection section)
@@ -108,7 +108,7 @@ void MacCleanerDashboardModel::selectSection(MacDashboardSection section)
 
 void MacCleanerDashboardModel::selectSectionText(const QString& rawValue)
 {
-    const auto section = Platform::fromRawValue<MacDashboardSection>(rawValue.toStdString());
+    const auto section = fromRawText<MacDashboardSection>(rawValue);
     selectSection(section.value_or(MacDashboardSection::dashboard));
 }
 

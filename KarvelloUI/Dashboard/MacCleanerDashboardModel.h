@@ -28,16 +28,6 @@ namespace KarvelloUI {
 /// guards the way to every move: only a confirmation leads to the sessions. Main thread only.
 class MacCleanerDashboardModel final : public QObject {
     Q_OBJECT
-    /// The raw value of a section.
-    Q_PROPERTY(
-        QString selectedSection READ selectedSectionText WRITE selectSectionText NOTIFY selectedSectionChanged FINAL)
-    Q_PROPERTY(bool hasHomeAccess READ hasHomeAccess NOTIFY accessChanged FINAL)
-    Q_PROPERTY(bool canStartCleanupScan READ canStartCleanupScan NOTIFY accessChanged FINAL)
-    Q_PROPERTY(bool isShowingCleanConfirmation READ isShowingCleanConfirmation NOTIFY confirmationChanged FINAL)
-    Q_PROPERTY(
-        bool isShowingInsightCleanConfirmation READ isShowingInsightCleanConfirmation NOTIFY confirmationChanged FINAL)
-    Q_PROPERTY(bool isShowingResourceReliefConfirmation READ isShowingResourceReliefConfirmation NOTIFY
-            confirmationChanged FINAL)
 
 public:
     static constexpr int kSystemSnapshotIntervalMilliseconds = 1'000;
@@ -77,7 +67,7 @@ public:
     /// A selection as it may be stored anywhere: what no group of the sidebar holds becomes the dashboard.
     void selectSection(MacDashboardSection section);
     void selectSectionText(const QString& rawValue);
-    Q_INVOKABLE void openIOSGuide() { showSection(MacDashboardSection::iosGuide); }
+    void openIOSGuide() { showSection(MacDashboardSection::iosGuide); }
 
     [[nodiscard]] MacAccessPolicy accessPolicy() const;
     [[nodiscard]] bool hasHomeAccess() const { return accessPolicy().hasHomeAccess(); }
@@ -87,25 +77,23 @@ public:
 
     /// Nothing happens while the session is busy. Without access to the home there is nothing to scan, and the results of
     /// both sessions go.
-    Q_INVOKABLE void scanCleanup();
-    Q_INVOKABLE void scanInsights();
+    void scanCleanup();
+    void scanInsights();
     /// Asks for the home folder with the desktop's dialog; `granted` tells whether it is granted now.
     void requestHomeAccess(std::function<void(bool granted)> answered = {});
-    Q_INVOKABLE void grantHomeAccess() { requestHomeAccess(); }
 
     [[nodiscard]] const DiskCapacitySnapshot& diskSnapshot() const { return m_diskSnapshot; }
-    Q_INVOKABLE void refreshDiskSnapshot();
+    void refreshDiskSnapshot();
 
     /// The only way to a clean of the review: what is confirmed is what was asked about, whatever is selected by then.
-    Q_INVOKABLE void requestCleanSelected();
-    Q_INVOKABLE void cleanSelected();
-    Q_INVOKABLE void requestInsightClean(const QString& sectionRawValue);
+    void requestCleanSelected();
+    void cleanSelected();
     void requestInsightClean(MacInsightFileSection section);
-    Q_INVOKABLE void cleanSelectedInsight();
-    Q_INVOKABLE void requestQuitSelected();
-    Q_INVOKABLE void quitSelected();
+    void cleanSelectedInsight();
+    void requestQuitSelected();
+    void quitSelected();
     /// Any of the three; nothing is pending then.
-    Q_INVOKABLE void cancelConfirmation();
+    void cancelConfirmation();
     [[nodiscard]] bool isShowingCleanConfirmation() const { return m_pendingCleanSelection.has_value(); }
     [[nodiscard]] bool isShowingInsightCleanConfirmation() const { return m_pendingInsightSection.has_value(); }
     [[nodiscard]] bool isShowingResourceReliefConfirmation() const { return m_isResourceReliefPending; }
@@ -124,7 +112,7 @@ public:
         return m_restoreCenterSelectedIDs;
     }
     void setRestoreCenterSelectedIDs(std::set<std::string, std::less<>> ids);
-    Q_INVOKABLE void restoreSelectedTrashMoves();
+    void restoreSelectedTrashMoves();
 
     /// Shows the item in the file manager, or its folder if it has gone, or says why neither can be.
     void revealInFinder(const Platform::FileURL& item);
@@ -132,9 +120,9 @@ public:
     [[nodiscard]] const std::optional<FinderRevealNotice>& notice() const { return m_notice; }
     void showAlert(FinderRevealAlert alert);
     void showNotice(FinderRevealNotice notice);
-    Q_INVOKABLE void dismissAlert();
-    Q_INVOKABLE void dismissNotice();
-    Q_INVOKABLE void openActivityMonitor();
+    void dismissAlert();
+    void dismissNotice();
+    void openActivityMonitor();
 
 Q_SIGNALS:
     void selectedSectionChanged();

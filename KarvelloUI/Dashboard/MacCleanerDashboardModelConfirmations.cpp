@@ -33,13 +33,6 @@ void MacCleanerDashboardModel::cleanSelected()
         CleanerCore::CleaningMode::moveToTrash, confirmed, copy.cleanFailureMessage(), copy.cleanCancelledMessage());
 }
 
-void MacCleanerDashboardModel::requestInsightClean(const QString& sectionRawValue)
-{
-    if (const auto section = Platform::fromRawValue<MacInsightFileSection>(sectionRawValue.toStdString())) {
-        requestInsightClean(*section);
-    }
-}
-
 void MacCleanerDashboardModel::requestInsightClean(MacInsightFileSection section)
 {
     cancelConfirmation();

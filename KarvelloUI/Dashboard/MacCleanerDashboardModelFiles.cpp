@@ -2,6 +2,7 @@
 
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
+#include "Platform/Base/UnseenText.h"
 
 #include <utility>
 
@@ -26,22 +27,21 @@ void MacCleanerDashboardModel::openParent(const Platform::FileURL& item)
 {
     const Platform::FileURL parent = item.deletingLastPathComponent();
     const auto shownPath = [home = m_services.homeDirectory](const Platform::FileURL& url) {
-        return Platform::Text::escapingInvalidUTF8(Platform::HomePathAbbreviation(home).abbreviate(url.path()));
+        return Platform::Text::escapingUnseen(Platform::HomePathAbbreviation(home).abbreviate(url.path()));
     };
     if (!isStanding(parent)) {
         showAlert({.title = shown(words().finderItemMissingTitle()),
-            .message = shown(words().finderItemMissingMessage(shownPath(item)))});
+            .message = shownLines(words().finderItemMissingMessage(shownPath(item)))});
         return;
     }
     m_services.fileViewer.open(parent, [this, item, shownPath](bool isOpened) {
         const auto copy = words();
         if (!isOpened) {
             showAlert({.title = shown(copy.finderRevealFailedTitle()),
-                .message = shown(copy.finderRevealFailedMessage(shownPath(item)))});
+                .message = shownLines(copy.finderRevealFailedMessage(shownPath(item)))});
         } else if (!isStanding(item)) {
             showNotice({.title = shown(copy.text("상위 폴더를 열었습니다", "Opened Parent Folder")),
-                .message = shown(copy.say("The item no longer exists, so the parent folder was opened.") + "\n"
-                    + shownPath(item.deletingLastPathComponent()))});
+                .message = shownLines(copy.finderItemMissingMessage(shownPath(item.deletingLastPathComponent())))});
         }
     });
 }

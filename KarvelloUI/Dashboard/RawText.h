@@ -3,7 +3,7 @@
 #include "Platform/Base/RawValue.h"
 
 #include <QString>
-#include <string_view>
+#include <optional>
 
 namespace KarvelloUI {
 
@@ -11,8 +11,20 @@ namespace KarvelloUI {
 template <Platform::RawRepresentable Value>
 [[nodiscard]] QString rawText(Value value)
 {
-    const std::string_view raw = Platform::rawValue(value);
-    return QString::fromUtf8(raw.data(), static_cast<qsizetype>(raw.size()));
+    return QString::fromUtf8(Platform::rawValue(value));
+}
+/// Empty for none.
+template <Platform::RawRepresentable Value>
+[[nodiscard]] QString rawText(std::optional<Value> value)
+{
+    return value ? rawText(*value) : QString();
+}
+
+/// What a screen hands back; nothing for a text that is no raw value.
+template <Platform::RawRepresentable Value>
+[[nodiscard]] std::optional<Value> fromRawText(const QString& text)
+{
+    return Platform::fromRawValue<Value>(text.toStdString());
 }
 
 } // namespace KarvelloUI

@@ -20,7 +20,6 @@ namespace KarvelloUI {
 /// then. Main thread only.
 class ScanExports final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool isWriting READ isWriting NOTIFY writingChanged FINAL)
 
 public:
     using Format = CleanerCore::ScanResultExportFormat;

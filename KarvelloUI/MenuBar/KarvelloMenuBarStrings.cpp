@@ -25,7 +25,7 @@ std::string KarvelloMenuBarStrings::compactStatus(const KarvelloMenuBarStatusSna
 
 std::string KarvelloMenuBarStrings::updated(Platform::Date date) const
 {
-    return around(Platform::LocalizedText::shortTime(date, locale()), "최근 갱신 {}", "Updated {}");
+    return own("Updated {}", Platform::LocalizedText::shortTime(date, locale()));
 }
 
 std::string KarvelloMenuBarStrings::storageTitle() const
@@ -35,8 +35,7 @@ std::string KarvelloMenuBarStrings::storageTitle() const
 
 std::string KarvelloMenuBarStrings::storageValue(const KarvelloMenuBarStatusSnapshot& snapshot) const
 {
-    return sentence(
-        "{} · 여유 {}", "{} · {} free", byteSize(snapshot.diskFreeBytes), percent(snapshot.diskFreeFraction()));
+    return own("{} · {} free", byteSize(snapshot.diskFreeBytes), percent(snapshot.diskFreeFraction()));
 }
 
 std::string KarvelloMenuBarStrings::storageSubtitle(const KarvelloMenuBarStatusSnapshot& snapshot) const

@@ -52,9 +52,9 @@ QVariant CandidateListModel::data(const QModelIndex& index, int role) const
         return QString::fromStdString(candidate->id);
     case Qt::DisplayRole:
     case nameRole:
-        return shownName(candidate->displayName);
+        return shownText(candidate->displayName);
     case pathRole:
-        return shownName(candidate->url.path());
+        return shownText(candidate->url.path());
     case sizeBytesRole:
         return QVariant::fromValue<qint64>(candidate->sizeBytes);
     case sizeTextRole:

@@ -35,17 +35,6 @@ namespace KarvelloUI {
 /// scan whose report is on show, and nothing is scanned again after it.
 class CleanerViewModel final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(bool busy READ isBusy NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(bool canUndoLastTrashClean READ canUndoLastTrashClean NOTIFY resultsChanged FINAL)
-    Q_PROPERTY(qint64 selectedCount READ selectedCount NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(qint64 selectedBytes READ selectedBytes NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(bool allCandidatesSelected READ areAllCandidatesSelected NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(bool selectionContainsNonSafe READ selectionContainsNonSafe NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(qint64 ignoredCandidateCount READ ignoredCandidateCount NOTIFY ignoredItemsChanged FINAL)
-    Q_PROPERTY(bool auditLogLoaded READ isAuditLogLoaded NOTIFY auditEntriesChanged FINAL)
-    Q_PROPERTY(QString errorMessage READ errorText NOTIFY errorMessageChanged FINAL)
 
 public:
     enum class Phase : std::uint8_t {
@@ -59,7 +48,6 @@ public:
         /// The last clean or restore ran to its end.
         finished,
     };
-    Q_ENUM(Phase)
 
     /// Loads the log. `ignoreStore` and what `services` names must outlive the session. Without a `cleanAction` the
     /// cleaning service does the work.
@@ -96,9 +84,9 @@ public:
     void scanAppSandbox();
     void scan(std::vector<CleanerCore::ScanLocation> locations);
     /// A scan ends at once, and the report from before it stays. A clean or restore comes to its end by itself, soon.
-    Q_INVOKABLE void cancelCurrentOperation();
+    void cancelCurrentOperation();
     /// Forgets the report and whatever runs. The log and the ignored items stay.
-    Q_INVOKABLE void clearScanResults();
+    void clearScanResults();
 
     [[nodiscard]] qint64 selectedCount() const { return m_review.selection().count(); }
     [[nodiscard]] qint64 selectedBytes() const { return m_review.selection().bytes(); }
@@ -110,8 +98,8 @@ public:
     void setSelected(const CleanerCore::CleanupCandidate& candidate, bool isSelected);
     /// Any number at once: positions in the report on show.
     void setSelected(std::span<const std::uint32_t> positions, bool isSelected);
-    Q_INVOKABLE void selectAllCandidates();
-    Q_INVOKABLE void clearSelection();
+    void selectAllCandidates();
+    void clearSelection();
 
     [[nodiscard]] const CandidateListFilters& filters() const { return m_review.filters(); }
     void setFilters(CandidateListFilters filters);
@@ -126,7 +114,7 @@ public:
     void snoozeCandidate(const CleanerCore::CleanupCandidate& candidate, CleanupIgnoreDuration duration);
     /// Whether there was such an item, and it is gone. Its candidate comes back with the next scan.
     bool removeIgnoredItem(const std::string& id);
-    Q_INVOKABLE void clearIgnoredItems();
+    void clearIgnoredItems();
 
     /// Cleans what `snapshot` holds, or without one what is selected. Nothing happens while the session is busy, or for
     /// candidates that have all left the report. The messages take the place of the session's own.

@@ -4,6 +4,7 @@
 #include "KarvelloUI/Sessions/ScanRootAccess.h"
 
 #include <chrono>
+#include <cstdint>
 #include <utility>
 
 namespace KarvelloUI {
@@ -23,9 +24,9 @@ public:
     void operator()(const Progress& progress)
     {
         const auto now = std::chrono::steady_clock::now();
-        if (!m_last || progress.root != m_lastRoot || now - *m_last >= kLeastDistance) {
+        if (progress.completedRoots != m_completedRoots || now - m_last >= kLeastDistance) {
             m_last = now;
-            m_lastRoot = progress.root;
+            m_completedRoots = progress.completedRoots;
             m_report(progress);
         }
     }
@@ -34,8 +35,8 @@ private:
     static constexpr std::chrono::milliseconds kLeastDistance{100};
 
     const std::function<void(const Progress&)>& m_report;
-    std::optional<std::chrono::steady_clock::time_point> m_last;
-    Platform::FileURL m_lastRoot;
+    std::chrono::steady_clock::time_point m_last;
+    std::int64_t m_completedRoots = -1;
 };
 
 } // namespace

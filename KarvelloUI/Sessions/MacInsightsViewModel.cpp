@@ -37,11 +37,6 @@ MacInsightsViewModel::MacInsightsViewModel(SessionServices services, Setup setup
 {
 }
 
-QString MacInsightsViewModel::errorText() const
-{
-    return QString::fromStdString(m_errorMessage.value_or(""));
-}
-
 void MacInsightsViewModel::scan(const std::optional<ResolvedHomeAccessBookmark>& homeAccessBookmark)
 {
     setPhase(Phase::scanning);
@@ -169,8 +164,10 @@ void MacInsightsViewModel::setPhase(Phase phase)
         m_phase = phase;
         noteChange(Change::phase);
     }
-    m_scanProgress = {};
-    noteChange(Change::progress);
+    if (m_scanProgress.totalRoots != 0) {
+        m_scanProgress = {};
+        noteChange(Change::progress);
+    }
 }
 
 void MacInsightsViewModel::setErrorMessage(std::optional<std::string> message)

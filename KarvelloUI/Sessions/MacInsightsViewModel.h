@@ -15,7 +15,6 @@
 
 #include <QFlags>
 #include <QObject>
-#include <QString>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -33,16 +32,6 @@ namespace KarvelloUI {
 /// operation that was replaced brings is dropped whole. A sample of the machine runs beside it.
 class MacInsightsViewModel final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(Phase phase READ phase NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(bool busy READ isBusy NOTIFY phaseChanged FINAL)
-    Q_PROPERTY(qint64 selectedCount READ selectedCount NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(qint64 selectedBytes READ selectedBytes NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(qint64 duplicateFileCount READ duplicateFileCount NOTIFY reportChanged FINAL)
-    Q_PROPERTY(qint64 duplicateSelectableCount READ duplicateSelectableCount NOTIFY reportChanged FINAL)
-    Q_PROPERTY(qint64 duplicateSelectedCount READ duplicateSelectedCount NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(qint64 duplicateSelectedBytes READ duplicateSelectedBytes NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(bool auditLogLoaded READ isAuditLogLoaded NOTIFY auditEntriesChanged FINAL)
-    Q_PROPERTY(QString errorMessage READ errorText NOTIFY errorMessageChanged FINAL)
 
 public:
     enum class Phase : std::uint8_t {
@@ -55,7 +44,6 @@ public:
         /// The last clean ran to its end.
         finished,
     };
-    Q_ENUM(Phase)
 
     using Files = InsightReview::Files;
 
@@ -83,7 +71,6 @@ public:
     [[nodiscard]] bool isAuditLogLoaded() const { return m_audit.isLoaded(); }
     /// The one place where a failure reaches the user.
     [[nodiscard]] const std::optional<std::string>& errorMessage() const { return m_errorMessage; }
-    [[nodiscard]] QString errorText() const;
     [[nodiscard]] const ActiveScan& activeScan() const { return m_active; }
     /// Of the scan that runs; empty while none does.
     [[nodiscard]] const CleanerCore::InsightScanProgress& scanProgress() const { return m_scanProgress; }
@@ -91,9 +78,9 @@ public:
     /// A grant's home takes the place of the session's.
     void scan(const std::optional<ResolvedHomeAccessBookmark>& homeAccessBookmark);
     /// A scan ends at once, and the report from before it stays. A clean comes to its end by itself, soon.
-    Q_INVOKABLE void cancelCurrentOperation();
+    void cancelCurrentOperation();
     /// Forgets the report and whatever runs. The log and the history stay.
-    Q_INVOKABLE void clearScanResults();
+    void clearScanResults();
 
     [[nodiscard]] const std::unordered_set<std::string>& selectedIDs() const { return m_review.selectedIDs(); }
     [[nodiscard]] qint64 selectedCount() const { return m_review.selectedCount(); }
@@ -137,9 +124,9 @@ public:
         return m_currentSystemSnapshot;
     }
     /// Takes a sample, in the background. Nothing happens while one is under way.
-    Q_INVOKABLE void refreshSystemSnapshot();
+    void refreshSystemSnapshot();
     /// Saves the history now; the write itself goes on in the background.
-    Q_INVOKABLE void flushSystemMetricHistory();
+    void flushSystemMetricHistory();
 
 Q_SIGNALS:
     void phaseChanged();

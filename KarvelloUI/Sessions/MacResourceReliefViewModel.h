@@ -24,10 +24,6 @@ namespace KarvelloUI {
 /// observe it: who has not been asked by then is not asked any more.
 class MacResourceReliefViewModel final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(bool canRequestQuit READ canRequestQuit NOTIFY candidatesChanged FINAL)
-    Q_PROPERTY(qint64 selectedCount READ selectedCount NOTIFY selectionChanged FINAL)
-    Q_PROPERTY(bool refreshing READ isRefreshing NOTIFY refreshingChanged FINAL)
-    Q_PROPERTY(bool requestingQuit READ isRequestingQuit NOTIFY requestingQuitChanged FINAL)
 
 public:
     using Candidate = CleanerCore::ResourceReliefCandidate;
@@ -58,7 +54,7 @@ public:
     [[nodiscard]] std::vector<Candidate> selectedCandidates() const;
     /// Nothing happens for a candidate that may not be asked, or where nobody can be.
     void setSelected(const Candidate& candidate, bool isSelected);
-    Q_INVOKABLE void clearSelection();
+    void clearSelection();
 
     /// Of the last request.
     [[nodiscard]] const std::vector<ActionResult>& lastResults() const { return m_lastResults; }

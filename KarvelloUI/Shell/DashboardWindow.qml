@@ -72,6 +72,12 @@ Window {
             }
         }
 
+        Shortcut {
+            sequences: ["F1", "Ctrl+?"]
+            enabled: dashboard.visible
+            onActivated: shortcuts.open()
+        }
+
         RowLayout {
             anchors.fill: parent
             spacing: 0
@@ -91,13 +97,15 @@ Window {
                     Layout.topMargin: KarvelloDesign.spacing16
                     Layout.leftMargin: sideMargin
                     Layout.rightMargin: sideMargin
-                    visible: access.visible || notice.visible
+                    // What is in a hidden item is not visible, so that would never bring it back.
+                    visible: access.isWanted || notice.isWanted
                     spacing: KarvelloDesign.spacing8
 
                     KarvelloBanner {
                         id: access
                         Layout.fillWidth: true
-                        visible: window.screens.messages.isAccessMissing
+                        readonly property bool isWanted: window.screens.messages.asksForAccess
+                        visible: isWanted
                         kind: KarvelloBanner.Accent
                         iconName: "lock"
                         title: window.screens.messages.accessTitle
@@ -108,7 +116,8 @@ Window {
                     KarvelloBanner {
                         id: notice
                         Layout.fillWidth: true
-                        visible: window.screens.messages.hasNotice
+                        readonly property bool isWanted: window.screens.messages.hasNotice
+                        visible: isWanted
                         title: window.screens.messages.noticeTitle
                         text: window.screens.messages.noticeText
                         closeName: window.screens.messages.closeText
@@ -180,5 +189,10 @@ Window {
     }
     AlertDialog {
         messages: window.screens.messages
+    }
+    ShortcutsDialog {
+        id: shortcuts
+        objectName: "shortcuts"
+        settings: window.screens.settings
     }
 }

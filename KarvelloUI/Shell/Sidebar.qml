@@ -30,6 +30,7 @@ Rectangle {
     }
 
     Accessible.role: Accessible.Pane
+    Accessible.name: "Karvello"
 
     component Group: ColumnLayout {
         id: group
@@ -127,6 +128,7 @@ Rectangle {
                 isCollapsible: true
                 isOpen: control.sidebar.isAdvancedShown
                 isHeldOpen: control.sidebar.isAdvancedHeld
+                openText: control.sidebar.advancedText
                 onOpenRequested: isOpen => control.sidebar.setAdvancedShown(isOpen)
             }
             Group {

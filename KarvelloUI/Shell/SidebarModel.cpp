@@ -1,5 +1,7 @@
 #include "KarvelloUI/Shell/SidebarModel.h"
 
+#include "KarvelloUI/Dashboard/RawText.h"
+
 #include <algorithm>
 #include <array>
 #include <span>
@@ -14,11 +16,6 @@ constexpr std::array kAdvanced{MacDashboardSection::heatmap, MacDashboardSection
     MacDashboardSection::downloads, MacDashboardSection::duplicates, MacDashboardSection::security};
 constexpr std::array kSupport{MacDashboardSection::system, MacDashboardSection::cpuAnalysis,
     MacDashboardSection::memoryAnalysis, MacDashboardSection::settings};
-
-QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::string_view iconOf(MacDashboardSection section)
 {
@@ -80,9 +77,9 @@ QVariantList itemsOf(const MacCleanerDashboardModel& dashboard, std::span<const 
     for (const auto section : sections) {
         const auto count = countOf(dashboard, section);
         items.append(QVariant::fromValue(SidebarItem{
-            .section = toQString(Platform::rawValue(section)),
+            .section = rawText(section),
             .title = shown(words.macDashboardSectionTitle(section)),
-            .iconName = toQString(iconOf(section)),
+            .iconName = QString::fromUtf8(iconOf(section)),
             .count = count == 0 ? QString() : QString::number(count),
         }));
     }
@@ -109,6 +106,7 @@ SidebarModel::SidebarModel(MacCleanerDashboardModel& dashboard, QObject* parent)
         &SidebarModel::advancedShownChanged);
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {
         refresh();
+        Q_EMIT advancedShownChanged();
         Q_EMIT diskChanged();
     });
     connect(&dashboard.cleaner(), &CleanerViewModel::reportChanged, this, &SidebarModel::refresh);
@@ -147,6 +145,16 @@ bool SidebarModel::isAdvancedHeld() const
 bool SidebarModel::isAdvancedShown() const
 {
     return isAdvancedHeld() || m_dashboard.preferences().isAdvancedExpanded();
+}
+
+QString SidebarModel::advancedText() const
+{
+    const auto words = m_dashboard.words();
+    return shown(!isAdvancedShown() ? words.text("접힘", "Collapsed")
+            : isAdvancedHeld()
+            ? words.text("고급 섹션을 보는 동안에는 접을 수 없습니다. 다른 섹션으로 이동하면 접을 수 있습니다.",
+                  "Cannot collapse while viewing an advanced section. Switch to another section to collapse.")
+            : words.text("펼쳐짐", "Expanded"));
 }
 
 QString SidebarModel::storageTitle() const

@@ -46,6 +46,8 @@ class SidebarModel final : public QObject {
     Q_PROPERTY(bool isAdvancedShown READ isAdvancedShown NOTIFY advancedShownChanged FINAL)
     /// It holds the selection, and cannot be folded away.
     Q_PROPERTY(bool isAdvancedHeld READ isAdvancedHeld NOTIFY selectedSectionChanged FINAL)
+    /// What is said of both.
+    Q_PROPERTY(QString advancedText READ advancedText NOTIFY advancedShownChanged FINAL)
     Q_PROPERTY(QString storageTitle READ storageTitle NOTIFY itemsChanged FINAL)
     Q_PROPERTY(QString freeText READ freeText NOTIFY diskChanged FINAL)
     Q_PROPERTY(QString usedText READ usedText NOTIFY diskChanged FINAL)
@@ -65,6 +67,7 @@ public:
     [[nodiscard]] QString selectedSection() const { return m_dashboard.selectedSectionText(); }
     [[nodiscard]] bool isAdvancedShown() const;
     [[nodiscard]] bool isAdvancedHeld() const;
+    [[nodiscard]] QString advancedText() const;
     [[nodiscard]] QString storageTitle() const;
     [[nodiscard]] QString freeText() const;
     [[nodiscard]] QString usedText() const;

@@ -1,5 +1,9 @@
 #include "KarvelloUI/Shell/WindowMessagesModel.h"
 
+#include "KarvelloUI/Sessions/ShownText.h"
+
+#include <algorithm>
+
 namespace KarvelloUI {
 
 WindowMessagesModel::WindowMessagesModel(MacCleanerDashboardModel& dashboard, QObject* parent)
@@ -7,14 +11,29 @@ WindowMessagesModel::WindowMessagesModel(MacCleanerDashboardModel& dashboard, QO
     , m_dashboard(dashboard)
 {
     connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &WindowMessagesModel::accessChanged);
-    connect(&dashboard.homeAccess(), &HomeAccessBookmarkStore::lastErrorMessageChanged, this,
-        &WindowMessagesModel::accessChanged);
+    connect(&dashboard, &MacCleanerDashboardModel::selectedSectionChanged, this, &WindowMessagesModel::accessChanged);
+    for (const PreferenceStore* const store : storesOfTheSettings()) {
+        connect(store, &PreferenceStore::lastErrorMessageChanged, this, &WindowMessagesModel::accessChanged);
+    }
     connect(&dashboard, &MacCleanerDashboardModel::alertChanged, this, &WindowMessagesModel::alertChanged);
     connect(&dashboard, &MacCleanerDashboardModel::noticeChanged, this, &WindowMessagesModel::noticeChanged);
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, [this] {
         Q_EMIT accessChanged();
         Q_EMIT wordsChanged();
     });
+}
+
+std::array<const PreferenceStore*, 3> WindowMessagesModel::storesOfTheSettings() const
+{
+    return {&m_dashboard.homeAccess(), &m_dashboard.ignoreStore(), &m_dashboard.customFolders()};
+}
+
+bool WindowMessagesModel::asksForAccess() const
+{
+    const bool isToldInTheSettings = m_dashboard.selectedSection() == MacDashboardSection::settings
+        && std::ranges::any_of(
+            storesOfTheSettings(), [](const PreferenceStore* store) { return store->lastErrorMessage().has_value(); });
+    return isAccessMissing() && !isToldInTheSettings;
 }
 
 QString WindowMessagesModel::accessTitle() const
@@ -25,7 +44,8 @@ QString WindowMessagesModel::accessTitle() const
 QString WindowMessagesModel::accessText() const
 {
     const auto& failure = m_dashboard.homeAccess().lastErrorMessage();
-    return shown(failure.value_or(m_dashboard.words().homeAccessOnboardingMessage()));
+    const auto words = m_dashboard.words();
+    return failure ? shownText(words.skippedReason(*failure)) : shown(words.homeAccessOnboardingMessage());
 }
 
 QString WindowMessagesModel::accessActionText() const

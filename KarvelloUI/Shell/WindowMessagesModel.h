@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
+#include <array>
 
 namespace KarvelloUI {
 
@@ -16,6 +17,8 @@ class WindowMessagesModel final : public QObject {
     QML_UNCREATABLE("made by the window's model")
     /// Nothing can be scanned as things are.
     Q_PROPERTY(bool isAccessMissing READ isAccessMissing NOTIFY accessChanged FINAL)
+    /// That is asked for over the screen, unless the screen tells a failure of its own.
+    Q_PROPERTY(bool asksForAccess READ asksForAccess NOTIFY accessChanged FINAL)
     Q_PROPERTY(QString accessTitle READ accessTitle NOTIFY accessChanged FINAL)
     /// Why a grant was lost, or what it is for.
     Q_PROPERTY(QString accessText READ accessText NOTIFY accessChanged FINAL)
@@ -36,6 +39,7 @@ public:
     explicit WindowMessagesModel(MacCleanerDashboardModel& dashboard, QObject* parent = nullptr);
 
     [[nodiscard]] bool isAccessMissing() const { return !m_dashboard.hasHomeAccess(); }
+    [[nodiscard]] bool asksForAccess() const;
     [[nodiscard]] QString accessTitle() const;
     [[nodiscard]] QString accessText() const;
     [[nodiscard]] QString accessActionText() const;
@@ -60,6 +64,8 @@ Q_SIGNALS:
     void wordsChanged();
 
 private:
+    [[nodiscard]] std::array<const PreferenceStore*, 3> storesOfTheSettings() const;
+
     MacCleanerDashboardModel& m_dashboard;
 };
 

@@ -37,7 +37,7 @@ protected:
     PreferenceStore(Platform::UserDefaults& defaults, std::string key, LanguageProvider language, QObject* parent);
 
     /// In the language of this moment.
-    [[nodiscard]] KarvelloCopy copy() const { return {{{m_language()}}}; }
+    [[nodiscard]] KarvelloCopy copy() const { return {{{m_language(), CopyHost::linuxDesktop}}}; }
     void setLastErrorMessage(std::optional<std::string> message);
 
 private:

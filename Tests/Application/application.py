@@ -9,9 +9,18 @@ import time
 
 import session as sessions
 from assistant import Assistant
+from gi.repository import GLib
 from session import wait_until
 
 PROGRAM = pathlib.Path(os.environ["KARVELLO_PROGRAM"])
+_LEAST_WIDTH = 1180
+_NOWHERE = (0, 0, 0, 0)
+
+
+def _slowing(call=None, milliseconds=0):
+    """The words before a program: it keeps its number, and a second process holds it up."""
+    return ["strace", "-D", "-f", "--seccomp-bpf", "-qqq", "-o", "/dev/null", "-e", f"trace={call}",
+            "-e", f"inject={call}:delay_enter={milliseconds * 1000}"] if call else []
 
 
 class Installation:
@@ -33,7 +42,8 @@ class Installation:
 class Application:
     """A process, and what is on show of it."""
 
-    def __init__(self, session, installation, home, *arguments, without=(), **variables):
+    def __init__(self, session, installation, home, *arguments, without=(), slowed=None, **variables):
+        """`slowed`: a system call, and how many milliseconds each takes longer."""
         environment = {**session.environment, **home.environment, **variables}
         for name in without:
             del environment[name]
@@ -41,8 +51,8 @@ class Application:
         self._log = home.folder.with_name(f"{home.folder.name}-{time.monotonic_ns()}.log")
         self.started = time.monotonic()
         with open(self._log, "wb") as log:
-            self.process = sessions.start([installation.program, *arguments], environment, stdout=log,
-                                          stderr=subprocess.STDOUT)
+            self.process = sessions.start([*_slowing(*slowed or ()), installation.program, *arguments], environment,
+                                          stdout=log, stderr=subprocess.STDOUT)
         self.shown = Assistant(session, self.process.pid)
 
     def end(self):
@@ -61,10 +71,12 @@ class Application:
         return self.process.returncode
 
     def window(self):
-        """The number of the dashboard's window, if it is on the screen."""
-        found = self.session.output("xdotool", "search", "--onlyvisible", "--all", "--pid", self.process.pid, "--name",
-                                    "^Karvello$").split()
-        return found[0] if found else None
+        """The number of the dashboard's window, if it is on the screen; popover and item are smaller."""
+        return next((window for window in self.windows() if (self.session.place(window) or _NOWHERE)[2] >= _LEAST_WIDTH), None)
+
+    def windows(self):
+        """All of the program's, the item in a tray among them."""
+        return self.session.output("xdotool", "search", "--onlyvisible", "--pid", self.process.pid).split()
 
     def wait_for_window(self):
         def window():
@@ -85,10 +97,30 @@ class Application:
         """As the user does it by the window manager."""
         self.press("alt+F4")
 
+    def hide(self):
+        """The same where there is a tray, in which the program goes on."""
+        self.close_window()
+        wait_until(lambda: self.window() is None, "the window is closed")
+
     def open(self, section):
         """Chooses a section of the sidebar, and waits for its title."""
         self.shown.wait_for(lambda name: name == section or name.startswith(section + ","), "list item").act()
         self.shown.wait_for(section, "heading")
 
-    def press_button(self, name, states=("enabled",)):
-        self.shown.wait_for(name, "push button", states).act()
+    def ready(self, name, role="push button"):
+        """It, if it can be used now. Qt 6.4 says of nothing that it is disabled; but what is disabled takes no focus."""
+        element = self.shown.find(name, role)
+        if element:
+            try:
+                element.focus()
+                return element if "focused" in element.states else None
+            except GLib.Error:
+                pass
+        return None
+
+    def wait_until_ready(self, name, role="push button"):
+        return wait_until(lambda: self.ready(name, role),
+                          lambda: f"a {role} {name} that can be used, on show is\n{self.shown.told()}")
+
+    def press_button(self, name):
+        self.wait_until_ready(name).act()

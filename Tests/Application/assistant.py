@@ -5,7 +5,7 @@ from gi.repository import Gio, GLib
 from session import wait_until
 
 _PREFIX = "org.a11y.atspi."
-_STATES = {"active": 1, "checked": 4, "enabled": 8, "focused": 12, "modal": 16, "selected": 23, "showing": 25}
+_STATES = {"active": 1, "checked": 4, "enabled": 8, "focusable": 11, "focused": 12, "modal": 16, "selected": 23, "showing": 25}
 _CALL_LIMIT = 30_000
 
 
@@ -46,8 +46,10 @@ class Element:
                 for owner, path in self._call(_PREFIX + "Accessible", "GetChildren")[0]]
 
     def act(self):
-        """Its first action: a press, or a toggle."""
-        self._call(_PREFIX + "Action", "DoAction", GLib.Variant("(i)", (0,)))
+        """Its first action but to take the focus: a press, or a toggle."""
+        names = [action[0] for action in self._call(_PREFIX + "Action", "GetActions")[0]]
+        index = next((index for index, name in enumerate(names) if name not in ("SetFocus", "Set Focus")), 0)
+        self._call(_PREFIX + "Action", "DoAction", GLib.Variant("(i)", (index,)))
 
     def focus(self):
         self._call(_PREFIX + "Component", "GrabFocus")
@@ -139,7 +141,7 @@ class Assistant:
             try:
                 name = element.name
                 if name:
-                    lines.append(f"  {element.role}: {name!r} {sorted(element.states - {'showing', 'enabled'})}")
+                    lines.append(f"  {element.role}: {name!r} {sorted(element.states - {'showing'})}")
             except GLib.Error:
                 continue
         return "\n".join(lines) or "  nothing"

@@ -3,13 +3,14 @@
 import json
 import pathlib
 import shutil
-import subprocess
 import tempfile
 import unittest
 
 import session as sessions
 from application import Application, Installation
+from gi.repository import Gio, GLib
 from home import Home
+from services import TRAY, Service
 
 SCAN = "Start New Scan"
 MOVE = "Move Selected to Trash"
@@ -65,10 +66,22 @@ class ApplicationTest(unittest.TestCase):
         file = self.home.folder / ".local/share/Karvello/cleanup-audit-log.json"
         return json.loads(file.read_text()) if file.exists() else []
 
+    def serve(self, *command):
+        """A service of the desktop, until the test ends."""
+        service = Service(self.session, *command)
+        self.addCleanup(service.end)
+        return service
+
     def start_tray(self):
-        """A host of status notifier items; it tells of each on its standard output."""
-        host = sessions.start([pathlib.Path(__file__).with_name("test-status-notifier-host")],
-                              self.session.environment, stdout=subprocess.PIPE, text=True)
-        self.addCleanup(sessions.end, host)
-        self.assertEqual(host.stdout.readline().strip(), "ready")
-        return host
+        """A host of status notifier items; each of its lines is the owner of one."""
+        return self.serve(TRAY)
+
+    def item_in(self, host):
+        """Its owner on the bus."""
+        owner = host.line()
+        self.assertTrue(owner, "no item in the tray")
+        return owner
+
+    def activate(self, owner):
+        self.session.session_bus.call_sync(owner, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate",
+                                           GLib.Variant("(ii)", (1200, 20)), None, Gio.DBusCallFlags.NONE, 30_000, None)

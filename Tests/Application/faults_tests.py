@@ -1,7 +1,6 @@
 """A desktop that lacks something, and files that are not as they should be."""
 
-import os
-import signal
+import base64
 
 from application import Installation
 from case import MOVE, SCAN, ApplicationTest
@@ -9,14 +8,6 @@ from session import wait_until
 
 
 class Faults(ApplicationTest):
-    def test_without_a_session_bus_it_runs_and_ends(self):
-        """Assistants are told of the program on that bus, so the display has to do."""
-        application = self.start_after_first_run(without=["DBUS_SESSION_BUS_ADDRESS"])
-        application.press("ctrl+2")
-        application.press("ctrl+r")
-        application.close_window()
-        self.assertEqual(application.wait_for_end(), 0)
-
     def test_a_sandboxed_build_scans_no_other_way_and_asks_for_access(self):
         self.home.add_clutter()
         sandboxed = Installation(self.folder / "sandboxed", sandboxed=True)
@@ -39,6 +30,22 @@ class Faults(ApplicationTest):
         kept = [file for file in self.home.preferences_file.parent.iterdir() if file.read_bytes() == damaged]
         self.assertEqual(len(kept), 1)
         self.assertTrue(self.home.preferences()["karvello.macOnboardingCompleted.v1"])
+
+    def test_damaged_values_count_as_none_and_are_kept(self):
+        damaged = {"data": base64.b64encode(b'{"fallbackPath": "/no').decode()}
+        stores = ("karvello.homeAccessBookmark.v1", "karvello.customScanFolders.v1", "karvello.cleanupIgnoreItems.v1")
+        self.home.add_clutter()
+        application = self.start_after_first_run(preferences={
+            **{store: damaged for store in stores}, "karvello.textScale": 5, "karvello.appearanceMode": "gigantic",
+            "karvello.macScanMode": {"unknown": []}})
+        self.scan(application)
+        application.open("Settings")
+        for words in ("Could not load home folder access bookmark.", "Could not load custom scan folders."):
+            application.shown.wait_for(lambda name: name.startswith(words), "alert message")
+        kept = self.home.preferences()
+        for store in stores:
+            with self.subTest(store):
+                self.assertEqual(kept.get(store + ".malformedBackup"), damaged)
 
     def test_a_damaged_log_stays_beside_and_says_nothing_false(self):
         damaged = b'[{"id": "half of an entry'
@@ -63,32 +70,3 @@ class Faults(ApplicationTest):
         application.wait_for_window()
         application.press_button("Start Scan")
         application.shown.wait_for(lambda name: "Example" in name, "check box")
-
-    def test_a_scan_that_is_told_to_end_ends(self):
-        self.home.add_many("Library/Caches/com.example.Big", 20_000)
-        application = self.start_after_first_run("--open", "cleanupReview")
-        application.press_button(SCAN)
-        application.process.send_signal(signal.SIGTERM)
-        self.assertEqual(application.wait_for_end(), 0)
-        self.assertEqual(self.log(), [])
-        self.assertEqual(self.home.trashed(), [])
-
-    def test_a_clean_that_is_told_to_end_comes_to_a_true_end(self):
-        names = {f"log{number}" for number in range(1_500)}
-        for name in names:
-            self.home.add(f"Library/Logs/{name}/session.log", size=100)
-        application = self.start_after_first_run("--open", "cleanupReview")
-        application.press_button(SCAN)
-        application.shown.wait_for(lambda name: "candidate log" in name, "check box")
-        application.press_button(MOVE)
-        self.agree(application)
-        wait_until(self.home.trashed, "something in the Trash")
-        application.process.send_signal(signal.SIGTERM)
-        self.assertEqual(application.wait_for_end(), 0)
-
-        moved = set(self.home.trashed())
-        left = {name for name in names if (self.home.folder / f"Library/Logs/{name}/session.log").exists()}
-        self.assertEqual(moved | left, names)
-        self.assertEqual(moved & left, set())
-        self.assertEqual({name.removesuffix(".trashinfo") for name in os.listdir(self.home.trash / "info")}, moved)
-        self.assertEqual([entry["succeededItemCount"] for entry in self.log()], [len(moved)])

@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import shutil
 import time
 
 _DAY = 86_400
@@ -38,6 +39,10 @@ class Home:
             file = file.parent
         return self.folder / path
 
+    def remove(self, place):
+        """A folder with all that is in it, which may have gone."""
+        shutil.rmtree(self.folder / place, ignore_errors=True)
+
     def add_clutter(self):
         self.add("Library/Caches/com.example.Player/stream.bin", 6 * MEGABYTE)
         self.add("Library/Logs/Example/session.log", 3 * MEGABYTE)
@@ -72,7 +77,7 @@ class Home:
     def files(self):
         """Every file below the clutter, by its path and size."""
         found = {}
-        for top in ("Library", "Downloads", "Documents"):
+        for top in ("Library", "Downloads", "Documents", "Movies"):
             for folder, _, names in os.walk(self.folder / top):
                 for name in names:
                     file = pathlib.Path(folder, name)

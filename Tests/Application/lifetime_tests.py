@@ -1,21 +1,10 @@
 """Starting, starting again, going into the tray, and ending."""
 
 from case import ApplicationTest
-from gi.repository import Gio, GLib
 from session import wait_until
 
 
 class Lifetime(ApplicationTest):
-    def wait_for_item(self, host):
-        """The item's owner on the bus."""
-        owner = host.stdout.readline().strip()
-        self.assertTrue(owner, "no item in the tray")
-        return owner
-
-    def activate(self, owner):
-        self.session.session_bus.call_sync(owner, "/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate",
-                                           GLib.Variant("(ii)", (1200, 20)), None, Gio.DBusCallFlags.NONE, 30_000, None)
-
     def test_a_second_start_brings_the_first_forward_and_ends(self):
         first = self.start_after_first_run()
         window = first.window()
@@ -50,10 +39,9 @@ class Lifetime(ApplicationTest):
         self.home.add_clutter()
         host = self.start_tray()
         application = self.start_after_first_run()
-        self.wait_for_item(host)
+        self.item_in(host)
         self.scan(application)
-        application.close_window()
-        wait_until(lambda: application.window() is None, "the window is closed")
+        application.hide()
         self.assertTrue(application.is_running())
         self.assertEqual(self.start().wait_for_end(), 0)
         application.wait_for_window()
@@ -63,9 +51,8 @@ class Lifetime(ApplicationTest):
     def test_the_popover_leads_to_the_dashboard(self):
         host = self.start_tray()
         application = self.start_after_first_run()
-        owner = self.wait_for_item(host)
-        application.close_window()
-        wait_until(lambda: application.window() is None, "the window is closed")
+        owner = self.item_in(host)
+        application.hide()
 
         self.activate(owner)
         application.shown.wait_for("Quick Triage", "heading")
@@ -76,7 +63,7 @@ class Lifetime(ApplicationTest):
     def test_the_popover_quits(self):
         host = self.start_tray()
         application = self.start_after_first_run()
-        self.activate(self.wait_for_item(host))
+        self.activate(self.item_in(host))
         application.shown.wait_for("Quick Triage", "heading")
         application.press_button("Quit")
         self.assertEqual(application.wait_for_end(), 0)

@@ -33,10 +33,7 @@ class Review(ApplicationTest):
         self.select(application, *names)
 
     def ask(self, application):
-        button = application.shown.wait_for(MOVE, "push button", ["enabled"])
-        button.focus()
-        application.shown.wait_for(MOVE, "push button", ["focused"])
-        button.act()
+        application.press_button(MOVE)
         application.shown.wait_for(QUESTION, "dialog")
         # The dialog's own button that says no has the focus.
         application.shown.wait_for("Cancel", "push button", ["focused"])
@@ -69,7 +66,7 @@ class Review(ApplicationTest):
         wait_until(lambda: len(self.log()) == 1, lambda: f"the log: {self.log()}")
 
         application.open("Review & Evidence")
-        application.shown.wait_for(lambda name: name.startswith("Select All,"), "check box", ["enabled"]).act()
+        application.wait_until_ready(lambda name: name.startswith("Select All,"), "check box").act()
         application.press_button("Try Restoring 2 Selected Items")
         wait_until(lambda: self.home.files() == self.before, lambda: f"the files are back: {self.home.files()}")
         wait_until(lambda: len(self.log()) == 2, lambda: f"the log: {self.log()}")

@@ -5,14 +5,20 @@ from case import ApplicationTest
 SECTIONS = ("Live Dashboard", "Cleanup Review", "Review & Evidence", "Storage Map", "Large Files", "Downloads", "Duplicates",
             "Installer Review", "System Pulse", "CPU Analysis", "Memory Analysis", "Settings")
 
+# What somebody presses, toggles, chooses, or types into.
+ACTING = ("push button", "check box", "radio button", "list item", "combo box", "text", "entry", "menu item", "link",
+          "popup menu")
+# What takes the focus on behalf of what is in it.
+CONTAINERS = ("frame", "list", "dialog")
+
 
 class Sections(ApplicationTest):
     def assert_is_on_show(self, application, section):
         application.shown.wait_for(section, "heading")
         application.shown.wait_for(section, "list item", ["selected", "focused"])
-        others = [other for other in SECTIONS if other != section
-                  and application.shown.find(other, "list item", ["selected"])]
-        self.assertEqual(others, [])
+        selected = [element.name for element in application.shown.elements()
+                    if element.role == "list item" and "selected" in element.states]
+        self.assertEqual([name for name in selected if name in SECTIONS], [section])
 
     def test_the_digits_lead_to_the_first_nine(self):
         application = self.start_after_first_run()
@@ -38,12 +44,36 @@ class Sections(ApplicationTest):
         application.press("End")
         self.assert_is_on_show(application, SECTIONS[-1])
 
-    def test_everything_that_takes_the_focus_has_a_name(self):
+    def test_everything_that_takes_the_focus_has_a_name_and_a_fitting_role(self):
+        self.home.add_clutter()
         application = self.start_after_first_run()
+        self.scan(application)
+        application.open("Storage Map")
+        application.press_button("Start New Scan")
+        application.shown.wait_for(lambda name: "of the largest area" in name, "list item")
         for section in SECTIONS:
             with self.subTest(section):
                 application.open(section)
-                nameless = [(element.role, element.place()) for element in application.shown.elements()
-                            if element.role in ("push button", "check box", "list item", "combo box", "text", "radio button")
-                            and not element.name]
-                self.assertEqual(nameless, [])
+                self.assertEqual(self.faults(application), [])
+
+    def faults(self, application):
+        """What can be reached or pressed, and does not say what it is."""
+        faults = []
+        for element in application.shown.elements():
+            role, name = element.role, element.name
+            reached = "focusable" in element.states and role not in CONTAINERS
+            if reached and role not in ACTING or (reached or role in ACTING) and not name:
+                faults.append((role, name, element.place()))
+        return faults
+
+    def test_f1_lists_the_keys_and_gives_the_focus_back(self):
+        application = self.start_after_first_run()
+        application.press("ctrl+1")
+        self.assert_is_on_show(application, SECTIONS[0])
+        application.press("F1")
+        application.shown.wait_for("Keyboard Shortcuts", "dialog")
+        application.shown.wait_for("Close", "push button", ["focused"])
+        application.shown.wait_for(lambda name: name.startswith("Ctrl+R, "), "list item")
+        application.press("Escape")
+        application.shown.wait_without("Keyboard Shortcuts", "dialog")
+        self.assert_is_on_show(application, SECTIONS[0])

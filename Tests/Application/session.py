@@ -39,7 +39,7 @@ def start(command, environment, **options):
                             stdin=subprocess.DEVNULL, **options)
 
 
-def end(process):
+def end(process, keep_pipes=False):
     """By its own number, and only if it is still ours."""
     if process.poll() is None:
         process.terminate()
@@ -49,7 +49,7 @@ def end(process):
             process.kill()
             process.wait()
     for pipe in (process.stdout, process.stderr):
-        if pipe:
+        if pipe and not keep_pipes:
             pipe.close()
 
 
@@ -83,9 +83,10 @@ class Session:
         manager = self.run("openbox", "--sm-disable", "--config-file", self._window_manager_settings())
         self.session_bus = connected(self.environment["DBUS_SESSION_BUS_ADDRESS"])
         wait_until(lambda: owner_of(self.session_bus, "org.a11y.Bus"), "the bus of the assistants")
-        self.accessibility_bus = connected(self.session_bus.call_sync(
+        self.accessibility_address = self.session_bus.call_sync(
             "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None, Gio.DBusCallFlags.NONE, 30_000,
-            None).unpack()[0])
+            None).unpack()[0]
+        self.accessibility_bus = connected(self.accessibility_address)
         wait_until(lambda: self.output("xdotool", "get_num_desktops").strip() == "1",
                    lambda: f"a window manager; it runs: {manager.poll() is None}")
 
@@ -103,12 +104,19 @@ class Session:
         """As from a keyboard, to whatever has the focus."""
         self.output("xdotool", "key", "--clearmodifiers", *keys)
 
-    def picture(self, window):
-        """A window as it is on the screen."""
+    def click(self, x, y, button=1):
+        """As with a mouse."""
+        self.output("xdotool", "mousemove", x, y, "click", button)
+
+    def place(self, window):
+        """On the screen: x, y, width, height; nothing of a window that has gone."""
         shape = dict(line.split("=") for line in
                      self.output("xdotool", "getwindowgeometry", "--shell", window).split())
-        place = [int(shape[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")]
-        return Picture.of_screen(self.folder / "Xvfb_screen0").part(*place)
+        return [int(shape[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")] if shape else None
+
+    def picture(self, window):
+        """A window as it is on the screen."""
+        return Picture.of_screen(self.folder / "Xvfb_screen0").part(*self.place(window))
 
     def close(self):
         for process in reversed(self._processes):

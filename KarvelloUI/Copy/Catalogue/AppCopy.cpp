@@ -65,18 +65,19 @@ std::string KarvelloCopy::finderItemMissingTitle() const
 
 std::string KarvelloCopy::finderItemMissingMessage(std::string_view path) const
 {
-    return sentence("항목이 더 이상 없어 상위 폴더를 열었습니다.\n{}",
-        "The item no longer exists, so the parent folder was opened.\n{}", path);
+    return fmt::format("{}\n{}", own("The item no longer exists, so the parent folder was opened."), path);
 }
 
 std::string KarvelloCopy::finderRevealFailedTitle() const
 {
-    return text("Finder에서 열 수 없음", "Could Not Open in Finder");
+    return isLinux() ? own("Could Not Open in the File Manager")
+                     : text("Finder에서 열 수 없음", "Could Not Open in Finder");
 }
 
 std::string KarvelloCopy::finderRevealFailedMessage(std::string_view path) const
 {
-    return sentence("Finder에서 이 항목을 열 수 없습니다.\n{}", "Finder could not open this item.\n{}", path);
+    return fmt::format("{}\n{}",
+        isLinux() ? own("The file manager could not open this item.") : own("Finder could not open this item."), path);
 }
 
 } // namespace KarvelloUI

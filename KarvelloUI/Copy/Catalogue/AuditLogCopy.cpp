@@ -42,8 +42,8 @@ std::string CleanupCopy::auditLogExportPanelMessage() const
 
 std::string CleanupCopy::auditLogExportFailedMessage(std::string_view reason) const
 {
-    return around(
-        reason, "Karvello가 정리 기록을 저장하지 못했습니다: {}", "Karvello could not save the cleanup history: {}");
+    return around(engineSentence(reason), "Karvello가 정리 기록을 저장하지 못했습니다: {}",
+        "Karvello could not save the cleanup history: {}");
 }
 
 std::string CleanupCopy::auditOperationName(CleanupAuditOperation operation) const
@@ -63,7 +63,7 @@ std::string CleanupCopy::auditSourceName(CleanupAuditSource source) const
     case CleanupAuditSource::cleanupDashboard:
         return text("정리 대시보드", "Cleanup dashboard");
     case CleanupAuditSource::macInsights:
-        return text("Mac 인사이트", "Mac insights");
+        return isLinux() ? own("Storage insights") : text("Mac 인사이트", "Mac insights");
     case CleanupAuditSource::iOSSandbox:
         return text("iOS 샌드박스", "iOS sandbox");
     }
@@ -79,10 +79,9 @@ std::string CleanupCopy::auditEntrySummary(const CleanupAuditEntry& entry) const
 
 std::string CleanupCopy::auditEntryAccessibilityLabel(const CleanupAuditEntry& entry, std::string_view occurredAt) const
 {
-    return sentence("{}, {}, {}, {}개 성공, {}개 실패, {}{}", "{}, {}, {}, {} succeeded, {} failed, {}{}",
-        auditOperationName(entry.operation), auditSourceName(entry.source), occurredAt, entry.succeededItemCount,
-        entry.failedItemCount, byteSize(entry.affectedBytes),
-        entry.wasCancelled ? text(", 취소됨", ", cancelled") : std::string());
+    return own("{}, {}, {}, {} succeeded, {} failed, {}{}", auditOperationName(entry.operation),
+        auditSourceName(entry.source), occurredAt, entry.succeededItemCount, entry.failedItemCount,
+        byteSize(entry.affectedBytes), entry.wasCancelled ? text(", 취소됨", ", cancelled") : std::string());
 }
 
 } // namespace KarvelloUI

@@ -15,95 +15,56 @@ using CleanerCore::FileInsightKind;
 namespace {
 
 struct CategoryWords {
-    std::string_view koreanName;
-    std::string_view koreanExplanation;
     std::string_view koreanReason;
     std::string_view englishReason;
     std::string_view koreanAction;
     std::string_view englishAction;
 };
 
-/// In the order of the categories, which is that of the reasons.
+/// In the order of the categories, which is that of the reasons; empty where the tables have no row.
 constexpr std::array<CategoryWords, Platform::RawValues<CleanupCategory>::names.size()> kWords{{
-    {"사용자 캐시", "macOS 앱이 현재 사용자의 Library/Caches 폴더에 저장한, 다시 만들 수 있는 파일입니다.",
-        "앱이 필요할 때 다시 만들 수 있는 사용자 캐시라서 표시되었습니다.",
+    {"앱이 필요할 때 다시 만들 수 있는 사용자 캐시라서 표시되었습니다.",
         "Flagged because apps can regenerate this user cache when needed.",
         "앱 경로를 검토한 뒤 오래된 캐시 폴더를 휴지통으로 이동하세요. 앱이 다시 만들 수 있습니다.",
         "Review the app path, then move stale cache folders to Trash; apps can rebuild them."},
-    {"사용자 로그",
-        "현재 사용자의 Library/Logs 폴더에 있는 진단 로그입니다. 디버깅에 유용하지만 보관하거나 제거해도 안전한 경우가 "
-        "많습니다.",
-        "디버깅이 끝나면 검토하고 제거할 수 있는 경우가 많은 진단 로그라서 표시되었습니다.",
+    {"디버깅이 끝나면 검토하고 제거할 수 있는 경우가 많은 진단 로그라서 표시되었습니다.",
         "Flagged because diagnostic logs can often be reviewed and removed after debugging.",
         "디버깅에 아직 필요한 로그는 열어 확인하고, 검토를 마친 오래된 로그를 휴지통으로 이동하세요.",
         "Open logs you still need for debugging; move old reviewed logs to Trash."},
-    {"Xcode DerivedData",
-        "Xcode DerivedData에는 Xcode가 다시 만들 수 있는 프로젝트 색인과 빌드 산출물이 저장됩니다. 제거하면 다음 색인 "
-        "작업이나 빌드가 느려질 수 있습니다.",
-        "Xcode가 다시 만들 수 있는 산출물이라서 표시되었습니다. 현재 빌드 상태가 없어져도 되는지 확인하세요.",
+    {"Xcode가 다시 만들 수 있는 산출물이라서 표시되었습니다. 현재 빌드 상태가 없어져도 되는지 확인하세요.",
         "Flagged because Xcode can rebuild these derived artifacts; confirm the current build state is disposable.",
         "먼저 Xcode 빌드와 테스트를 중지하고, 현재 빌드 산출물이 없어져도 될 때만 휴지통으로 이동하세요.",
         "Stop Xcode builds and tests first; move to Trash only when current build artifacts are disposable."},
-    {"시뮬레이터 캐시",
-        "CoreSimulator 아래에 있는, 다시 만들 수 있는 iOS 시뮬레이터 캐시 파일입니다. 검토하거나 휴지통으로 이동하기 "
-        "전에 실행 중인 시뮬레이터를 종료하세요.",
-        "시뮬레이터가 다시 만들 수 있는 캐시라서 표시되었습니다. 검토하기 전에 실행 중인 시뮬레이터를 종료하세요.",
+    {"시뮬레이터가 다시 만들 수 있는 캐시라서 표시되었습니다. 검토하기 전에 실행 중인 시뮬레이터를 종료하세요.",
         "Flagged because Simulator can recreate this cache; quit running Simulators before review.",
         "먼저 실행 중인 시뮬레이터와 테스트를 종료한 다음, 검토한 시뮬레이터 캐시를 휴지통으로 이동하세요.",
         "Quit running Simulators and tests first, then move reviewed Simulator caches to Trash."},
-    {"이 앱의 캐시", "이 앱의 샌드박스에 속한 캐시 파일만 해당합니다. iOS에서 정리할 수 있는 주된 범위입니다.",
-        "이 앱의 제한된 샌드박스 범위 안에 있는 캐시 데이터라서 표시되었습니다.",
+    {"이 앱의 제한된 샌드박스 범위 안에 있는 캐시 데이터라서 표시되었습니다.",
         "Flagged because this is cache data inside this app's limited sandbox scope.",
         "이 앱의 샌드박스 캐시를 검토하고 더 이상 필요하지 않은 캐시 데이터만 정리하세요.",
         "Review this app's sandbox cache and clean only cache data you no longer need."},
-    {"앱 컨테이너 캐시",
-        "샌드박스 처리된 macOS 앱 컨테이너 안의 캐시입니다. 앱이 실행 중에 다시 만들 수 있으므로 주의해서 검토하세요.",
-        "앱을 다시 실행하면 대개 다시 만들어지는 앱 컨테이너 캐시라서 표시되었습니다.",
+    {"앱을 다시 실행하면 대개 다시 만들어지는 앱 컨테이너 캐시라서 표시되었습니다.",
         "Flagged because this app-container cache is usually regenerable after app relaunch.",
         "먼저 해당 앱을 종료한 다음, 앱이 다시 만들 수 있는 캐시 폴더를 휴지통으로 이동하세요.",
         "Quit the owning app first, then move cache folders that the app can rebuild to Trash."},
-    {"그룹 컨테이너 캐시",
-        "공유 앱 그룹 컨테이너 안의 캐시입니다. 여러 앱이 같은 컨테이너를 사용할 수 있으므로 주의해서 검토하세요.",
-        "공유 컨테이너 캐시로 표시되었습니다. 여러 앱이 사용할 수 있으므로 경로를 검토하세요.",
+    {"공유 컨테이너 캐시로 표시되었습니다. 여러 앱이 사용할 수 있으므로 경로를 검토하세요.",
         "Flagged as shared-container cache; review the path because multiple apps may use it.",
         "그룹 식별자와 실행 중인 관련 앱을 검토하세요. 여러 앱이 이 경로를 사용할 수 있습니다.",
         "Review the group identifier and any running matching app; multiple apps may use this path."},
-    {"Xcode DeviceSupport",
-        "Xcode가 실제 기기를 디버깅할 때 쓰는 DeviceSupport 파일입니다. 대개 다시 만들거나 내려받을 수 있지만, "
-        "제거하면 다음 기기 디버깅 준비가 느려질 수 있습니다.",
-        "Xcode가 대개 다시 내려받거나 만들 수 있는 기기 지원 파일이라서 표시되었습니다. 아직 디버깅하는 버전은 "
-        "남겨 두세요.",
+    {"Xcode가 대개 다시 내려받거나 만들 수 있는 기기 지원 파일이라서 표시되었습니다. 아직 디버깅하는 버전은 남겨 "
+     "두세요.",
         "Flagged because Xcode can usually re-download or regenerate device support files; keep versions you still "
         "debug.",
         "아직 디버깅하는 기기와 iOS 버전은 남겨 두고, 오래된 지원 폴더만 휴지통으로 이동하세요.",
         "Keep devices and iOS versions you still debug; move only old support folders to Trash."},
-    {"개발 도구 캐시",
-        "개발 도구의 캐시와 중간 파일입니다. 작업 중인 프로젝트나 실행 중인 도구가 아직 사용할 수 있으므로 경로를 "
-        "주의해서 검토하세요.",
-        "개발 도구가 대개 다시 만들 수 있는 파일이라서 표시되었습니다. 작업 중인 프로젝트가 아직 사용할 수 있습니다.",
-        "Flagged because developer tools can usually rebuild these files; active projects may still rely on them.",
-        "먼저 이 경로를 사용하는 도구를 중지하고, 작업 중인 프로젝트에 필요하지 않은 캐시만 휴지통으로 이동하세요.",
-        "Stop the tools that use this path first; move only caches that no active project needs to Trash."},
-    {"패키지 관리자 캐시",
-        "대개 다시 내려받을 수 있는 패키지 관리자 캐시입니다. 정리하기 전에 오프라인 작업이나 고정된 의존성에 필요한지 "
-        "검토하세요.",
-        "대개 다시 내려받을 수 있는 패키지 캐시라서 표시되었습니다. 오프라인 작업이나 고정된 의존성에 필요할 수 "
-        "있습니다.",
-        "Flagged because packages can usually be downloaded again; offline work or pinned dependencies may need them.",
-        "오프라인 작업이나 고정된 버전에 필요한지 확인한 뒤, 검토한 패키지 캐시를 휴지통으로 이동하세요.",
-        "Check offline and pinned dependency needs before moving reviewed package caches to Trash."},
-    {"빌드 아카이브", "빌드 아카이브와 내보낸 산출물입니다. 심볼 해석, 배포 이력 또는 재배포에 필요할 수 있습니다.",
-        "오래되면 공간을 많이 차지하는 빌드 아카이브라서 표시되었습니다. 심볼 해석이나 재배포에 필요할 수 있습니다.",
-        "Flagged because old build archives take space; symbolication or re-distribution may still need them.",
-        "배포한 버전의 아카이브는 남겨 두고, 더 이상 필요하지 않다고 확인한 아카이브만 휴지통으로 이동하세요.",
-        "Keep archives of released versions; move only archives that you know you no longer need to Trash."},
-    {"임시 파일", "다음 실행까지 남아 있을 필요가 없는 임시 파일입니다.",
-        "오래 보관할 필요가 없는 임시 항목이라서 표시되었습니다.",
+    {},
+    {},
+    {},
+    {"오래 보관할 필요가 없는 임시 항목이라서 표시되었습니다.",
         "Flagged because temporary items are not expected to be kept long term.",
         "열려 있거나 사용 중인 항목이 아닌지 확인한 다음, 오래된 임시 파일을 휴지통으로 이동하세요.",
         "Confirm the item is not open or in use, then move stale temporary files to Trash."},
-    {"사용자 지정 폴더", "사용자가 선택한 폴더입니다. 정리하기 전에 내용을 주의해서 검토하세요.",
-        "직접 추가한 폴더라서 표시되었습니다. 수동 검토가 필요합니다.",
+    {"직접 추가한 폴더라서 표시되었습니다. 수동 검토가 필요합니다.",
         "Flagged because you explicitly added this folder; manual review is required.",
         "경로를 하나씩 직접 검토하세요. Karvello는 사용자 지정 폴더의 항목을 자동으로 선택하지 않습니다.",
         "Review each path manually; Karvello never auto-selects custom-folder items."},
@@ -129,36 +90,66 @@ std::string_view withoutFullStop(std::string_view sentence)
 
 std::string CleanupCopy::categoryName(CleanupCategory category) const
 {
-    return text(wordsOf(category).koreanName, CleanerCore::displayName(category));
+    return engineSentence(CleanerCore::displayName(category));
 }
 
 std::string CleanupCopy::categoryExplanation(CleanupCategory category) const
 {
-    return text(wordsOf(category).koreanExplanation, CleanerCore::explanation(category));
+    if (isLinux()) {
+        switch (category) {
+        case CleanupCategory::userCaches:
+            return own("Regenerable files that apps keep in the current user's cache folder.");
+        case CleanupCategory::userLogs:
+            return own("Diagnostic logs of the current user's apps. Useful for debugging, but often safe to archive or "
+                       "remove.");
+        case CleanupCategory::appContainerCaches:
+            return own(
+                "Caches of apps that run in a sandbox. Review carefully because apps may recreate them while running.");
+        default:
+            break;
+        }
+    }
+    return engineSentence(CleanerCore::explanation(category));
 }
 
 std::string CleanupCopy::categoryRecommendedAction(CleanupCategory category) const
 {
-    return text(wordsOf(category).koreanAction, wordsOf(category).englishAction);
+    switch (category) {
+    case CleanupCategory::developerToolCaches:
+        return own("Stop the tools that use this path first; move only caches that no active project needs to Trash.");
+    case CleanupCategory::packageManagerCaches:
+        return own("Check offline and pinned dependency needs before moving reviewed package caches to Trash.");
+    case CleanupCategory::buildArchives:
+        return own("Keep archives of released versions; move only archives that you know you no longer need to Trash.");
+    default:
+        return text(wordsOf(category).koreanAction, wordsOf(category).englishAction);
+    }
 }
 
 std::string CleanupCopy::recommendationReason(CleanupRecommendationReason reason) const
 {
-    const CategoryWords& words = kWords.at(static_cast<std::size_t>(reason));
-    return text(words.koreanReason, words.englishReason);
+    switch (reason) {
+    case CleanupRecommendationReason::developerToolCache:
+        return own(
+            "Flagged because developer tools can usually rebuild these files; active projects may still rely on them.");
+    case CleanupRecommendationReason::packageManagerCache:
+        return own("Flagged because packages can usually be downloaded again; offline work or pinned dependencies may "
+                   "need them.");
+    case CleanupRecommendationReason::buildArchive:
+        return own(
+            "Flagged because old build archives take space; symbolication or re-distribution may still need them.");
+    default: {
+        const CategoryWords& words = kWords.at(static_cast<std::size_t>(reason));
+        return text(words.koreanReason, words.englishReason);
+    }
+    }
 }
 
 std::string CleanupCopy::safetyName(CleanupSafety safety) const
 {
-    switch (safety) {
-    case CleanupSafety::safe:
-        return text("안전", CleanerCore::displayName(safety));
-    case CleanupSafety::caution:
-        return text("주의", CleanerCore::displayName(safety));
-    case CleanupSafety::manualReview:
-        return text("수동 검토", CleanerCore::displayName(safety));
-    }
-    return {};
+    // "Safe" has a row.
+    return safety == CleanupSafety::safe ? text("안전", CleanerCore::displayName(safety))
+                                         : engineSentence(CleanerCore::displayName(safety));
 }
 
 std::string CleanupCopy::cleanupCandidateTrustExplanation(const CleanupCandidate& candidate) const

@@ -9,17 +9,17 @@ std::string CleanupCopy::cleanupCandidatesTitle() const
 
 std::string CleanupCopy::candidateListSearchPrompt() const
 {
-    return text("이름, 경로, 카테고리 검색", "Search candidates");
+    return own("Search candidates");
 }
 
 std::string CleanupCopy::candidateListCategoryFilterTitle() const
 {
-    return text("카테고리", "Category");
+    return own("Category");
 }
 
 std::string CleanupCopy::candidateListAllCategoriesFilter() const
 {
-    return text("모든 카테고리", "All categories");
+    return own("All categories");
 }
 
 std::string CleanupCopy::candidateListSafetyFilterTitle() const
@@ -29,19 +29,19 @@ std::string CleanupCopy::candidateListSafetyFilterTitle() const
 
 std::string CleanupCopy::candidateListAllSafetyFilter() const
 {
-    return text("모든 안전 등급", "All safety levels");
+    return own("All safety levels");
 }
 
 std::string CleanupCopy::candidateListGroupingTitle() const
 {
-    return text("그룹 기준", "Group by");
+    return own("Group by");
 }
 
 std::string CleanupCopy::candidateListGroupingModeName(CandidateListGroupingMode mode) const
 {
     switch (mode) {
     case CandidateListGroupingMode::flat:
-        return text("그룹 없음", "No grouping");
+        return own("No grouping");
     case CandidateListGroupingMode::category:
         return candidateListCategoryFilterTitle();
     case CandidateListGroupingMode::safety:
@@ -68,8 +68,7 @@ std::string CleanupCopy::noFilteredCleanupCandidatesTitle() const
 
 std::string CleanupCopy::noFilteredCleanupCandidatesDescription() const
 {
-    return text("검색어와 필터에 맞는 정리 후보가 없습니다. 검색어나 필터를 바꿔 보세요.",
-        "No cleanup candidate matches the search and filters. Change them to see more.");
+    return own("No cleanup candidate matches the search and filters. Change them to see more.");
 }
 
 std::string CleanupCopy::visibleCleanupCandidatesSummary(std::int64_t visibleCount, std::int64_t totalCount) const
@@ -90,12 +89,12 @@ std::string CleanupCopy::clearSelection() const
 
 std::string CleanupCopy::selectVisibleCandidates() const
 {
-    return text("표시된 항목 선택", "Select Visible");
+    return own("Select Visible");
 }
 
 std::string CleanupCopy::clearVisibleSelection() const
 {
-    return text("표시된 항목 선택 해제", "Clear Visible");
+    return own("Clear Visible");
 }
 
 std::string CleanupCopy::partialSelectionCaption() const

@@ -41,7 +41,7 @@ std::string CleanupCopy::lastCleanSubtitle(const CleanResult& result, std::optio
     const std::string size = byteSize(result.reclaimedBytes());
     const std::string tail = result.wasCancelled ? text(" · 취소됨", " · cancelled") : std::string();
     if (!mode) {
-        return sentence("{}개 처리됨, {}개 실패 · {}{}", "{} processed, {} failed · {}{}", cleaned, failed, size, tail);
+        return own("{} processed, {} failed · {}{}", cleaned, failed, size, tail);
     }
     return *mode == CleaningMode::moveToTrash
         ? sentence("{}개를 휴지통으로 이동함, {}개 실패 · {}{}", "{} moved to Trash, {} failed · {}{}", cleaned, failed,

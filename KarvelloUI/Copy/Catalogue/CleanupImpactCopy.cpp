@@ -64,9 +64,13 @@ std::string CleanupCopy::cleanupImpactSummary(const CleanupStorageImpactReport& 
     const std::string tail =
         report.wasCancelled ? text(" 취소된 작업을 기준으로 합니다.", " Based on a cancelled run.") : std::string();
     if (!report.mode) {
-        return sentence("요청한 항목 {1}개 중 {0}개 처리됨, {2}개 실패 · {3}. 디스크 공간이 확보되었는지는 확인되지 "
-                        "않았습니다.{4}",
-            "{} of {} requested items processed, {} failed · {}. Disk recovery is not verified.{}",
+        return own("{} of {} requested items processed, {} failed · {}. Disk recovery is not verified.{}",
+            report.succeededItemCount, report.requestedItemCount, report.failedItemCount, outcome, tail);
+    }
+    if (*report.mode == CleaningMode::moveToTrash && isLinux()) {
+        return own(
+            "{} of {} requested items moved to Trash, {} failed · {}. Moved bytes are pending recovery; actual free "
+            "space increases after Trash is emptied.{}",
             report.succeededItemCount, report.requestedItemCount, report.failedItemCount, outcome, tail);
     }
     if (*report.mode == CleaningMode::moveToTrash) {
@@ -84,18 +88,16 @@ std::string CleanupCopy::cleanupImpactSummary(const CleanupStorageImpactReport& 
 
 std::string CleanupCopy::cleanupImpactAccessibilityLabel(const CleanupStorageImpactReport& report) const
 {
-    const CleanupCopy parts = ofParts();
     const auto fraction = report.outcomeFraction();
     // What a move brought to the Trash takes its space until the Trash is emptied.
     const std::int64_t unreclaimed =
         report.mode == CleaningMode::moveToTrash ? report.pendingRecoveryBytes() : report.remainingExpectedBytes();
-    return sentence("{}, {}, {} {}, {} {}, {} {}, {}, {}개 성공, {}개 실패{}",
-        "{}, {}, {} {}, {} {}, {} {}, {}, {} succeeded, {} failed{}", parts.cleanupImpactTitle(),
-        parts.auditSourceName(report.source), parts.cleanupImpactExpectedLabel(report.mode),
-        byteSize(report.expectedBytes), parts.cleanupImpactActualLabel(report.mode), byteSize(report.outcomeBytes()),
-        parts.cleanupImpactUnreclaimedLabel(report.mode), byteSize(unreclaimed),
-        fraction ? percentText(*fraction) : parts.cleanupImpactUnavailablePercent(), report.succeededItemCount,
-        report.failedItemCount, report.wasCancelled ? parts.text(", 취소된 작업", ", cancelled run") : std::string());
+    return own("{}, {}, {} {}, {} {}, {} {}, {}, {} succeeded, {} failed{}", cleanupImpactTitle(),
+        auditSourceName(report.source), cleanupImpactExpectedLabel(report.mode), byteSize(report.expectedBytes),
+        cleanupImpactActualLabel(report.mode), byteSize(report.outcomeBytes()),
+        cleanupImpactUnreclaimedLabel(report.mode), byteSize(unreclaimed),
+        fraction ? percentText(*fraction) : cleanupImpactUnavailablePercent(), report.succeededItemCount,
+        report.failedItemCount, report.wasCancelled ? text(", 취소된 작업", ", cancelled run") : std::string());
 }
 
 } // namespace KarvelloUI

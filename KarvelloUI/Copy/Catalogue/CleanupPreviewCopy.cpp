@@ -17,9 +17,8 @@ std::string CleanupCopy::cleanupPreviewSummary(const CleanupSelectionPreview& pr
         return text("선택한 항목이 없습니다. 항목을 선택하면 정리하기 전에 검토 요약을 볼 수 있습니다.",
             "No selected items. Select items to see the review summary before cleanup.");
     }
-    return sentence("{}({})를 휴지통으로 이동하기 전에 신뢰 수준과 카테고리를 검토하세요.",
-        "Review confidence levels and categories before moving {} ({}) to Trash.",
-        ofParts().cleanupPreviewItemCount(preview.count), byteSize(preview.bytes));
+    return own("Review confidence levels and categories before moving {} ({}) to Trash.",
+        cleanupPreviewItemCount(preview.count), byteSize(preview.bytes));
 }
 
 std::string CleanupCopy::cleanupPreviewItemCount(std::int64_t itemCount) const
@@ -29,9 +28,8 @@ std::string CleanupCopy::cleanupPreviewItemCount(std::int64_t itemCount) const
 
 std::string CleanupCopy::cleanupPreviewCategoryLine(const CleanupPreviewCategorySummary& summary) const
 {
-    const CleanupCopy parts = ofParts();
-    return sentence("{} · {} · {}", "{} · {} · {}", parts.categoryName(summary.category),
-        parts.cleanupPreviewItemCount(summary.count), byteSize(summary.bytes));
+    return joinedParts(
+        {categoryName(summary.category), cleanupPreviewItemCount(summary.count), byteSize(summary.bytes)});
 }
 
 std::string CleanupCopy::cleanupPreviewMoreCategories(std::int64_t categoryCount) const

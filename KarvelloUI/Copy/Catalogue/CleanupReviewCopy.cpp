@@ -21,8 +21,7 @@ std::string CleanupCopy::cleanupReviewCadenceStatus(
         return text("안전 검토를 할 때가 되었습니다. 선택하기 전에 후보를 검토하세요.",
             "Safety review is due. Review candidates before choosing anything.");
     case CleanupReviewCadenceStatusKind::upcoming:
-        return counted(daysUntilNextReview, "다음 검토까지 {}일 남았습니다.", "Next review in {} day.",
-            "Next review in {} days.", daysUntilNextReview);
+        return ownCount(daysUntilNextReview, "Next review in {} day.", "Next review in {} days.");
     }
     return {};
 }

@@ -30,8 +30,8 @@ std::string CleanupCopy::scanExportFailedTitle() const
 
 std::string CleanupCopy::scanExportFailedMessage(std::string_view reason) const
 {
-    return around(
-        reason, "Karvello가 스캔 결과를 저장하지 못했습니다: {}", "Karvello could not save the scan results: {}");
+    return around(engineSentence(reason), "Karvello가 스캔 결과를 저장하지 못했습니다: {}",
+        "Karvello could not save the scan results: {}");
 }
 
 std::string CleanupCopy::exportJSON() const

@@ -10,6 +10,10 @@ std::string CleanupCopy::homeAccessOnboardingTitle() const
 
 std::string CleanupCopy::homeAccessOnboardingMessage() const
 {
+    if (isLinux()) {
+        return own("Karvello needs access to your home folder to read user caches and logs. Grant access once in the "
+                   "folder picker; future scans reuse the saved permission.");
+    }
     return text("Karvello가 사용자 캐시와 로그를 읽으려면 홈 폴더나 Library 폴더에 접근할 수 있어야 합니다. 폴더 선택 "
                 "창에서 한 번만 허용하면 다음 스캔부터는 저장된 권한을 사용합니다.",
         "Karvello needs access to your home folder or Library folder to read user caches and logs. Grant access once "
@@ -46,25 +50,29 @@ std::string CleanupCopy::homeAccessPanelPrompt() const
 
 std::string CleanupCopy::homeAccessPanelMessage() const
 {
+    if (isLinux()) {
+        return own("Select your home folder so Karvello can scan user caches and logs.");
+    }
     return text("Karvello가 사용자 캐시와 로그를 스캔할 수 있도록 홈 폴더(또는 ~/Library)를 선택하세요.",
         "Select your home folder (or ~/Library) so Karvello can scan user caches and logs.");
 }
 
 std::string CleanupCopy::homeAccessBookmarkLoadFailedMessage(std::string_view reason) const
 {
-    return around(reason, "홈 폴더 접근 책갈피를 불러오지 못했습니다. 저장된 책갈피를 백업하고 초기화했습니다: {}",
+    return around(engineSentence(reason),
+        "홈 폴더 접근 책갈피를 불러오지 못했습니다. 저장된 책갈피를 백업하고 초기화했습니다: {}",
         "Could not load home folder access bookmark. The saved bookmark was backed up and reset: {}");
 }
 
 std::string CleanupCopy::homeAccessBookmarkSaveFailedMessage(std::string_view reason) const
 {
-    return around(
-        reason, "홈 폴더 접근 책갈피를 저장하지 못했습니다: {}", "Could not save home folder access bookmark: {}");
+    return around(engineSentence(reason), "홈 폴더 접근 책갈피를 저장하지 못했습니다: {}",
+        "Could not save home folder access bookmark: {}");
 }
 
 std::string CleanupCopy::homeAccessBookmarkResolveFailedMessage(std::string_view reason) const
 {
-    return around(reason, "홈 폴더 접근 책갈피를 확인할 수 없어 지웠습니다. 접근을 다시 허용하세요: {}",
+    return around(engineSentence(reason), "홈 폴더 접근 책갈피를 확인할 수 없어 지웠습니다. 접근을 다시 허용하세요: {}",
         "Could not resolve home folder access bookmark and cleared it. Grant access again: {}");
 }
 
@@ -76,13 +84,15 @@ std::string CleanupCopy::homeAccessBookmarkStaleMessage() const
 
 std::string CleanupCopy::customScanFoldersLoadFailedMessage(std::string_view reason) const
 {
-    return around(reason, "사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: {}",
+    return around(engineSentence(reason),
+        "사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: {}",
         "Could not load custom scan folders. The saved folder list was backed up and reset: {}");
 }
 
 std::string CleanupCopy::customScanFoldersSaveFailedMessage(std::string_view reason) const
 {
-    return around(reason, "사용자 지정 스캔 폴더를 저장하지 못했습니다: {}", "Could not save custom scan folders: {}");
+    return around(engineSentence(reason), "사용자 지정 스캔 폴더를 저장하지 못했습니다: {}",
+        "Could not save custom scan folders: {}");
 }
 
 } // namespace KarvelloUI

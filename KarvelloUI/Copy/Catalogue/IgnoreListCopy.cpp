@@ -69,13 +69,15 @@ std::string CleanupCopy::clearIgnoredCandidates() const
 
 std::string CleanupCopy::cleanupIgnoreLoadFailedMessage(std::string_view reason) const
 {
-    return around(reason, "무시한 정리 항목을 불러오지 못했습니다. 저장된 무시 목록을 백업하고 초기화했습니다: {}",
+    return around(engineSentence(reason),
+        "무시한 정리 항목을 불러오지 못했습니다. 저장된 무시 목록을 백업하고 초기화했습니다: {}",
         "Could not load ignored cleanup items. The saved ignore list was backed up and reset: {}");
 }
 
 std::string CleanupCopy::cleanupIgnoreSaveFailedMessage(std::string_view reason) const
 {
-    return around(reason, "무시한 정리 항목을 저장하지 못했습니다: {}", "Could not save ignored cleanup items: {}");
+    return around(engineSentence(reason), "무시한 정리 항목을 저장하지 못했습니다: {}",
+        "Could not save ignored cleanup items: {}");
 }
 
 } // namespace KarvelloUI

@@ -16,6 +16,10 @@ std::string KarvelloCopy::macOnboardingTitle() const
 
 std::string KarvelloCopy::macOnboardingBody() const
 {
+    if (isLinux()) {
+        return own("Karvello scans user caches and logs, shows the review list first, and moves only user-confirmed "
+                   "items to Trash. Folder access is saved only after you choose your home folder in the picker.");
+    }
     return text("Karvello는 사용자 캐시와 로그를 스캔해 검토 목록을 먼저 보여 주고, 사용자가 확인한 항목만 휴지통으로 "
                 "이동합니다. 폴더 접근 권한은 선택 창에서 홈 폴더나 라이브러리 폴더를 직접 선택한 뒤에만 저장됩니다.",
         "Karvello scans user caches and logs, shows the review list first, and moves only user-confirmed items to "
@@ -45,13 +49,21 @@ std::string KarvelloCopy::macOnboardingScanFirstBody() const
 
 std::string KarvelloCopy::macOnboardingAccessTitle(bool supportsDirectScans) const
 {
-    return supportsDirectScans
-        ? text("직접 배포 앱: 전체 디스크 접근 권한 권장", "Direct app: Full Disk Access recommended")
-        : text("사용자가 선택한 접근 권한", "User-selected access");
+    if (supportsDirectScans && isLinux()) {
+        return own("Your permissions decide what is read");
+    }
+    return supportsDirectScans ? own("Direct app: Full Disk Access recommended")
+                               : text("사용자가 선택한 접근 권한", "User-selected access");
 }
 
 std::string KarvelloCopy::macOnboardingAccessBody(bool supportsDirectScans) const
 {
+    if (isLinux()) {
+        return supportsDirectScans
+            ? own("If results look empty or permission errors appear, check who may read the folders.")
+            : own("Grant your home folder once. Karvello reuses the saved permission for future user-cache and log "
+                  "scans.");
+    }
     return supportsDirectScans
         ? text(
               "결과가 비어 보이거나 권한 오류가 나타나면 macOS의 파일 및 폴더 또는 전체 디스크 접근 권한을 확인하세요.",

@@ -39,10 +39,9 @@ std::string KarvelloCopy::resourceReliefMetricAccessibility(
     const std::string percent = resourceReliefPercent(fraction);
     switch (metric) {
     case ResourceReliefMetric::cpu:
-        return sentence("{} 앱이 전체 CPU 용량의 {} 사용 중", "{} uses {} of total CPU capacity", appName, percent);
+        return own("{} uses {} of total CPU capacity", appName, percent);
     case ResourceReliefMetric::memory:
-        return sentence(
-            "{} 앱이 전체 물리 메모리의 {} 사용 중", "{} uses {} of total physical memory", appName, percent);
+        return own("{} uses {} of total physical memory", appName, percent);
     }
     return {};
 }

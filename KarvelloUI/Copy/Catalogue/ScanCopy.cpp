@@ -1,9 +1,4 @@
-#include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "KarvelloUI/Copy/CleanupCopy.h"
-
-#include <algorithm>
-#include <array>
-#include <utility>
 
 namespace KarvelloUI {
 
@@ -11,21 +6,10 @@ using CleanerCore::CleanupScanMode;
 
 namespace {
 
-namespace SkipReason = CleanerCore::StorageScannerSkipReason;
-
-constexpr std::array<std::pair<std::string_view, std::string_view>, 11> kKoreanSkipReasons{{
-    {SkipReason::folderDoesNotExist, "폴더가 없음"},
-    {SkipReason::symbolicLink, "안전을 위해 심볼릭 링크는 건너뜀"},
-    {SkipReason::noTouchPath, "보호된 사용자 데이터 경로"},
-    {SkipReason::noTouchDescendant, "보호된 사용자 데이터가 들어 있음"},
-    {SkipReason::recentlyModified, "최근에 수정됨"},
-    {SkipReason::emptyItem, "빈 항목"},
-    {SkipReason::inventoryItemLimitExceeded, "폴더의 항목 수가 한도를 넘음"},
-    {SkipReason::duplicateHashBudgetExceeded, "중복 확인에 쓸 수 있는 해시 한도를 넘음"},
-    {SkipReason::couldNotEnumerateFolder, "폴더의 내용을 읽을 수 없음"},
-    {SkipReason::couldNotEnumeratePackage, "패키지의 내용을 읽을 수 없음"},
-    {SkipReason::scanRootItself, "스캔 위치 자체는 정리 후보가 아님"},
-}};
+/// A reason of the store of the user's folders that names permissions of the other host.
+constexpr std::string_view kCustomFolderUnavailable =
+    "Could not start security-scoped access for custom folder. Remove and add the folder again, or grant Files & "
+    "Folders or Full Disk Access.";
 
 } // namespace
 
@@ -57,7 +41,7 @@ std::string CleanupCopy::scanModeName(CleanupScanMode mode) const
     case CleanupScanMode::aggressive:
         return text("적극", "Aggressive");
     case CleanupScanMode::direct:
-        return text("직접 배포", "Direct distribution");
+        return own("Direct distribution");
     }
     return {};
 }
@@ -65,12 +49,9 @@ std::string CleanupCopy::scanModeName(CleanupScanMode mode) const
 std::string CleanupCopy::scanModeAccessibilityHint(bool includesDirectDistribution) const
 {
     return includesDirectDistribution
-        ? text("표준, 적극, 직접 배포 스캔 중에서 선택하세요. 결과의 범위가 넓어져도 정리하기 전에 직접 검토해야 "
-               "합니다.",
-              "Choose Standard, Aggressive, or Direct distribution scans. Broader results still require manual review "
+        ? own("Choose Standard, Aggressive, or Direct distribution scans. Broader results still require manual review "
               "before cleanup.")
-        : text("표준 스캔과 적극 스캔 중에서 선택하세요. 결과의 범위가 넓어져도 정리하기 전에 직접 검토해야 합니다.",
-              "Choose Standard or Aggressive scans. Broader results still require manual review before cleanup.");
+        : own("Choose Standard or Aggressive scans. Broader results still require manual review before cleanup.");
 }
 
 std::string CleanupCopy::aggressiveWarningTitle() const
@@ -164,8 +145,10 @@ std::string CleanupCopy::skippedMore(std::int64_t itemCount) const
 
 std::string CleanupCopy::skippedReason(std::string_view reason) const
 {
-    const auto known = std::ranges::find(kKoreanSkipReasons, reason, [](const auto& row) { return row.first; });
-    return text(known == kKoreanSkipReasons.end() ? reason : known->second, reason);
+    if (isLinux() && reason == kCustomFolderUnavailable) {
+        return own("The custom folder could not be opened. Remove and add the folder again, or check who may read it.");
+    }
+    return engineSentence(reason);
 }
 
 std::string CleanupCopy::cancel() const

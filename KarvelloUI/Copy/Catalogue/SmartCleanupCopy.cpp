@@ -31,7 +31,7 @@ std::string KarvelloCopy::smartCleanupSizeDetail(std::int64_t bytes) const
 
 std::string KarvelloCopy::smartCleanupOpenSectionCTA(std::string_view sectionTitle) const
 {
-    return sentence("{} 열기", "Open {}", sectionTitle);
+    return own("Open {}", sectionTitle);
 }
 
 std::string KarvelloCopy::smartCleanupLowDiskBody(std::int64_t freeBytes, std::string_view sectionTitle) const

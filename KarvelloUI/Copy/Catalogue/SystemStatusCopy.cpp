@@ -106,6 +106,9 @@ std::string KarvelloCopy::memoryAnalysisInterpretation(LoadLevel level) const
 {
     switch (level) {
     case LoadLevel::nominal:
+        if (isLinux()) {
+            return own("Memory has headroom. Let the system manage caches and proceed with normal scans.");
+        }
         return text("메모리에 여유가 있습니다. 캐시 관리는 macOS에 맡기고 평소처럼 스캔하세요.",
             "Memory has headroom. Let macOS manage caches and proceed with normal scans.");
     case LoadLevel::elevated:

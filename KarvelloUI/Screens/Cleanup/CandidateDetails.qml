@@ -30,11 +30,11 @@ ColumnLayout {
                 width: list.width
                 spacing: 0
                 Accessible.role: Accessible.StaticText
-                Accessible.name: KarvelloDesign.spoken([modelData.title, modelData.text])
+                Accessible.name: KarvelloDesign.spoken([modelData.name, modelData.value])
 
                 KarvelloText {
                     Layout.fillWidth: true
-                    text: fact.modelData.title
+                    text: fact.modelData.name
                     textStyle: KarvelloDesign.label
                     wrapMode: Text.Wrap
                     color: KarvelloDesign.ink4
@@ -43,7 +43,7 @@ ColumnLayout {
                 KarvelloText {
                     Layout.fillWidth: true
                     Layout.maximumWidth: 820
-                    text: fact.modelData.text
+                    text: fact.modelData.value
                     textStyle: KarvelloDesign.small
                     color: KarvelloDesign.ink2
                     // A path has no blanks to break at.

@@ -114,6 +114,7 @@ FocusScope {
         total: head.total
         checkState: head.checkState
         isOpen: head.isOpen
+        openText: head.openText
         takesFocus: false
         enabled: !control.screen.isBusy
         // The row that it stands for is there for assistants.

@@ -81,7 +81,7 @@ QVariant CleanupListModel::data(const QModelIndex& index, int role) const
         }
         const auto& context = candidate->appCacheContext;
         const auto advisory = m_words.developerCleanupAdvisory(candidate->category, candidate->url.path());
-        return shownName(m_words.cleanupCandidateAccessibilityLabel(*candidate,
+        return shownText(m_words.cleanupCandidateAccessibilityLabel(*candidate,
             context ? m_words.appCacheContextSummary(*context) : std::string(),
             advisory ? advisory->summary : std::string()));
     }
@@ -150,8 +150,8 @@ void CleanupListModel::setWords(const DashboardWords& words)
 
 CleanupRow CleanupListModel::content(const CleanupCandidate& candidate) const
 {
-    return {.name = shownName(candidate.displayName),
-        .path = shownName(m_home.abbreviate(candidate.url.path())),
+    return {.name = shownText(candidate.displayName),
+        .path = shownText(m_home.abbreviate(candidate.url.path())),
         .reason = m_reasons[static_cast<std::size_t>(candidate.category)],
         .warning = warning(candidate),
         .age = age(candidate.lastModified),
@@ -177,6 +177,7 @@ CleanupSectionHead CleanupListModel::head(const CandidateListRows::Section& sect
             : section.selectedCount == count     ? Qt::Checked
                                                  : Qt::PartiallyChecked,
         .isOpen = section.isOpen,
+        .openText = shown(section.isOpen ? m_words.text("펼쳐짐", "Expanded") : m_words.text("접힘", "Collapsed")),
         .row = section.headerRow};
 }
 
@@ -200,7 +201,7 @@ QString CleanupListModel::warning(const CleanupCandidate& candidate) const
         return {};
     }
     return context->matchedRunningDisplayName
-        ? shownName(m_words.say("{} is running", *context->matchedRunningDisplayName))
+        ? shownText(m_words.say("{} is running", *context->matchedRunningDisplayName))
         : shown(m_words.text("일치하는 앱 실행 중", "matching app is running"));
 }
 

@@ -44,6 +44,7 @@ struct CleanupSectionHead {
     Q_PROPERTY(QString selection MEMBER selection CONSTANT FINAL)
     Q_PROPERTY(int checkState MEMBER checkState CONSTANT FINAL)
     Q_PROPERTY(bool isOpen MEMBER isOpen CONSTANT FINAL)
+    Q_PROPERTY(QString openText MEMBER openText CONSTANT FINAL)
     Q_PROPERTY(int row MEMBER row CONSTANT FINAL)
 
 public:
@@ -57,19 +58,10 @@ public:
     /// A `Qt::CheckState`.
     int checkState = 0;
     bool isOpen = true;
+    /// What is said of that.
+    QString openText = {};
     /// Its own, -1 without one.
     int row = -1;
-};
-
-/// A part of what a row tells when it is open.
-struct CleanupFact {
-    Q_GADGET
-    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
-    Q_PROPERTY(QString text MEMBER text CONSTANT FINAL)
-
-public:
-    QString title = {};
-    QString text = {};
 };
 
 /// The one thing that needs attention, over the list.

@@ -1,6 +1,6 @@
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 
-#include "KarvelloUI/Screens/Cleanup/Choices.h"
+#include "KarvelloUI/Dashboard/RawText.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,7 +17,6 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
     , m_dashboard(dashboard)
     , m_list(dashboard.cleaner().review().selection(), dashboard.services().homeDirectory)
     , m_skipped(dashboard.services().homeDirectory)
-    , m_ignored(dashboard.services().homeDirectory)
     , m_exportMenu(dashboard, ExportMenuModel::Source::cleanupScan)
 {
     // Who has a model can import its screen.
@@ -100,7 +99,7 @@ QString CleanupScreenModel::scanMode() const
 
 void CleanupScreenModel::setScanMode(const QString& rawValue)
 {
-    const auto mode = valueOf<CleanupScanMode>(rawValue);
+    const auto mode = fromRawText<CleanupScanMode>(rawValue);
     if (mode && !isBusy() && *mode != m_dashboard.scanMode()) {
         m_dashboard.preferences().setScanMode(*mode);
     }
@@ -121,7 +120,7 @@ QString CleanupScreenModel::category() const
 void CleanupScreenModel::setCategory(const QString& rawValue)
 {
     auto filters = session().filters();
-    filters.category = valueOf<CleanupCategory>(rawValue);
+    filters.category = fromRawText<CleanupCategory>(rawValue);
     setFilters(filters);
 }
 
@@ -133,7 +132,7 @@ QString CleanupScreenModel::safety() const
 void CleanupScreenModel::setSafety(const QString& rawValue)
 {
     auto filters = session().filters();
-    filters.safety = valueOf<CleanupSafety>(rawValue);
+    filters.safety = fromRawText<CleanupSafety>(rawValue);
     setFilters(filters);
 }
 
@@ -145,7 +144,7 @@ QString CleanupScreenModel::grouping() const
 void CleanupScreenModel::setGrouping(const QString& rawValue)
 {
     auto filters = session().filters();
-    filters.groupingMode = valueOf<CandidateListGroupingMode>(rawValue).value_or(filters.groupingMode);
+    filters.groupingMode = fromRawText<CandidateListGroupingMode>(rawValue).value_or(filters.groupingMode);
     setFilters(filters);
 }
 
@@ -214,7 +213,7 @@ void CleanupScreenModel::takeUpPhase()
 
 void CleanupScreenModel::takeUpIgnoredItems()
 {
-    m_ignored.show(session().ignoredItems(), words());
+    m_ignored.showItems(session().ignoredItems(), m_dashboard.services().homeDirectory, words());
     Q_EMIT listChanged();
 }
 
@@ -296,7 +295,7 @@ void CleanupScreenModel::toggleAll()
 void CleanupScreenModel::snooze(int row, const QString& duration)
 {
     const auto* const candidate = m_list.candidate(row);
-    const auto wanted = valueOf<CleanupIgnoreDuration>(duration);
+    const auto wanted = fromRawText<CleanupIgnoreDuration>(duration);
     if (candidate != nullptr && wanted && !isBusy()) {
         // The row goes with the call.
         const auto hidden = *candidate;
@@ -313,8 +312,9 @@ void CleanupScreenModel::reveal(int row)
 
 void CleanupScreenModel::showAgain(int row)
 {
-    if (const auto id = m_ignored.itemID(row); !id.empty()) {
-        session().removeIgnoredItem(id);
+    if (const auto* const item = m_ignored.row(row)) {
+        // A copy: the row goes with the item.
+        session().removeIgnoredItem(std::string(item->id));
     }
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "KarvelloUI/Advisors/StoragePermissionAdvisor.h"
+#include "KarvelloUI/Dashboard/IgnoredItemList.h"
 #include "KarvelloUI/Dashboard/MacCleanerDashboardModel.h"
 #include "KarvelloUI/Screens/Cleanup/CleanupListModel.h"
-#include "KarvelloUI/Screens/Cleanup/IgnoredListModel.h"
 #include "KarvelloUI/Screens/Cleanup/SkippedListModel.h"
 #include "KarvelloUI/Screens/Exports/ExportMenuModel.h"
 
@@ -58,7 +58,7 @@ class CleanupScreenModel final : public QObject {
     Q_PROPERTY(QString ignoredSummary READ ignoredSummary NOTIFY listChanged FINAL)
     Q_PROPERTY(KarvelloUI::CleanupListModel* list READ list CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::SkippedListModel* skipped READ skipped CONSTANT FINAL)
-    Q_PROPERTY(KarvelloUI::IgnoredListModel* ignored READ ignored CONSTANT FINAL)
+    Q_PROPERTY(QAbstractItemModel* ignored READ ignored CONSTANT FINAL)
     Q_PROPERTY(KarvelloUI::ExportMenuModel* exportMenu READ exportMenu CONSTANT FINAL)
     /// The report has candidates, and none passes the filters.
     Q_PROPERTY(bool isEverythingFiltered READ isEverythingFiltered NOTIFY listChanged FINAL)
@@ -71,10 +71,13 @@ class CleanupScreenModel final : public QObject {
     /// 0 to 1, negative where it is not known.
     Q_PROPERTY(qreal progress READ progress NOTIFY progressChanged FINAL)
     Q_PROPERTY(QString progressText READ progressText NOTIFY progressChanged FINAL)
+    /// Of { value, label }: what the scan has counted.
     Q_PROPERTY(QVariantList figures READ figures NOTIFY progressChanged FINAL)
 
     Q_PROPERTY(QString selectionTitle READ selectionTitle NOTIFY selectionChanged FINAL)
+    /// Of `ConfidencePill`.
     Q_PROPERTY(QVariantList selectionPills READ selectionPills NOTIFY selectionChanged FINAL)
+    /// A `Qt::CheckState`.
     Q_PROPERTY(int selectionState READ selectionState NOTIFY selectionChanged FINAL)
     Q_PROPERTY(QString selectionValue READ selectionValue NOTIFY selectionChanged FINAL)
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged FINAL)
@@ -123,7 +126,7 @@ public:
     [[nodiscard]] QString ignoredSummary() const;
     [[nodiscard]] CleanupListModel* list() { return &m_list; }
     [[nodiscard]] SkippedListModel* skipped() { return &m_skipped; }
-    [[nodiscard]] IgnoredListModel* ignored() { return &m_ignored; }
+    [[nodiscard]] IgnoredItemList* ignored() { return &m_ignored; }
     [[nodiscard]] ExportMenuModel* exportMenu() { return &m_exportMenu; }
     [[nodiscard]] bool isEverythingFiltered() const { return face() == Face::List && m_list.visibleCount() == 0; }
 
@@ -146,31 +149,35 @@ public:
     [[nodiscard]] bool canSelectAll() const;
 
     Q_INVOKABLE void scan() { m_dashboard.scanCleanup(); }
-    Q_INVOKABLE void grantAccess() { m_dashboard.grantHomeAccess(); }
+    Q_INVOKABLE void grantAccess() { m_dashboard.requestHomeAccess(); }
     Q_INVOKABLE void cancel() { session().cancelCurrentOperation(); }
     Q_INVOKABLE void openSettings() { m_dashboard.selectSection(MacDashboardSection::settings); }
     /// The button of the face without a list.
     Q_INVOKABLE void followPlaceholder();
     Q_INVOKABLE void askToClean() { m_dashboard.requestCleanSelected(); }
 
-    // Rows are those of the list now.
+    // Rows are those of the list now. Nothing happens, and nothing is told, for a row that is no candidate; nothing changes
+    // the selection while the session works.
     Q_INVOKABLE void toggle(int row);
-    /// All visible rows of the section, or none if all of them are selected.
+    /// All candidates of the section that pass the filters, or none if all of them are selected.
     Q_INVOKABLE void toggleSection(const QString& id);
     Q_INVOKABLE void setSectionOpen(const QString& id, bool isOpen) { m_list.setSectionOpen(id, isOpen); }
     Q_INVOKABLE void setOpen(int row, bool isOpen);
     [[nodiscard]] Q_INVOKABLE bool isRowOpen(int row) const;
     Q_INVOKABLE void selectAll();
     Q_INVOKABLE void clearSelection();
+    /// Selects all unless all are.
     Q_INVOKABLE void toggleAll();
-    /// List of `CleanupFact`: what an open row tells.
+    /// List of `NamedValue`: what an open row tells.
     [[nodiscard]] Q_INVOKABLE QVariantList factsOf(int row) const;
     [[nodiscard]] Q_INVOKABLE QString menuNameOf(int row) const;
     /// { value, text } for how long the candidate may be hidden.
     [[nodiscard]] Q_INVOKABLE QVariantList snoozesOf(int row) const;
+    /// Hides the candidate; `duration` is one of those values.
     Q_INVOKABLE void snooze(int row, const QString& duration);
+    /// In the file manager.
     Q_INVOKABLE void reveal(int row);
-    /// A row of the hidden items.
+    /// A row of the hidden items: its candidate comes back with the next scan.
     Q_INVOKABLE void showAgain(int row);
     Q_INVOKABLE void showAllAgain() { session().clearIgnoredItems(); }
 
@@ -204,7 +211,7 @@ private:
     MacCleanerDashboardModel& m_dashboard;
     CleanupListModel m_list;
     SkippedListModel m_skipped;
-    IgnoredListModel m_ignored;
+    IgnoredItemList m_ignored;
     ExportMenuModel m_exportMenu;
     /// The candidate whose selection is being changed; empty for any number.
     std::string m_toggledID;

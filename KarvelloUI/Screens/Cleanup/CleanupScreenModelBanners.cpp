@@ -39,7 +39,7 @@ CleanupBanner CleanupScreenModel::bannerOf(Notice notice) const
     switch (notice) {
     case Notice::failure:
         return {.kind = CleanupBanner::review,
-            .text = shownText(*session().errorMessage()),
+            .text = shownText(copy.skippedReason(*session().errorMessage())),
             .iconName = QStringLiteral("warning"),
             .canClose = true};
     case Notice::result: {

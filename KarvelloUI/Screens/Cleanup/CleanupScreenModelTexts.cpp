@@ -1,9 +1,10 @@
 #include "KarvelloUI/Advisors/DeveloperProjectAdvisoryAnalyzer.h"
+#include "KarvelloUI/Controls/NamedValue.h"
 #include "KarvelloUI/Dashboard/ConfidencePills.h"
-#include "KarvelloUI/Screens/Cleanup/Choices.h"
+#include "KarvelloUI/Dashboard/PickerChoices.h"
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 #include "KarvelloUI/Sessions/ShownText.h"
-#include "KarvelloUI/Stores/QtDates.h"
+#include "Platform/Base/LocalizedText.h"
 
 #include <QLocale>
 #include <algorithm>
@@ -13,6 +14,8 @@
 
 namespace KarvelloUI {
 
+using CleanerCore::CleanupCategory;
+using CleanerCore::CleanupSafety;
 using CleanerCore::CleanupScanMode;
 using Phase = CleanerViewModel::Phase;
 
@@ -129,40 +132,32 @@ QVariantMap CleanupScreenModel::placeholder() const
 
 QVariantList CleanupScreenModel::scanModes() const
 {
-    QVariantList modes;
-    for (const auto mode : Platform::allCases<CleanupScanMode>()) {
-        if (CleanerCore::sanitized(mode, m_dashboard.accessPolicy().supportsDirectDistributionScans) == mode) {
-            modes.append(choice(rawText(mode), shown(words().scanModeName(mode))));
-        }
-    }
-    return modes;
+    const auto copy = words();
+    return pickerChoices(CleanerCore::availableModes(m_dashboard.accessPolicy().supportsDirectDistributionScans),
+        [&copy](CleanupScanMode mode) { return copy.scanModeName(mode); });
 }
 
 QVariantList CleanupScreenModel::categories() const
 {
-    QVariantList choices{choice({}, shown(words().candidateListAllCategoriesFilter()))};
-    for (const auto category : session().index()->availableCategories()) {
-        choices.append(choice(rawText(category), shown(words().categoryName(category))));
-    }
-    return choices;
+    const auto copy = words();
+    return QVariantList{pickerChoice({}, copy.candidateListAllCategoriesFilter())}
+    + pickerChoices(session().index()->availableCategories(),
+        [&copy](CleanupCategory category) { return copy.categoryName(category); });
 }
 
 QVariantList CleanupScreenModel::safetyLevels() const
 {
-    QVariantList choices{choice({}, shown(words().candidateListAllSafetyFilter()))};
-    for (const auto safety : session().index()->availableSafetyLevels()) {
-        choices.append(choice(rawText(safety), shown(words().safetyName(safety))));
-    }
-    return choices;
+    const auto copy = words();
+    return QVariantList{pickerChoice({}, copy.candidateListAllSafetyFilter())}
+    + pickerChoices(
+        session().index()->availableSafetyLevels(), [&copy](CleanupSafety safety) { return copy.safetyName(safety); });
 }
 
 QVariantList CleanupScreenModel::groupings() const
 {
-    QVariantList choices;
-    for (const auto mode : Platform::allCases<CandidateListGroupingMode>()) {
-        choices.append(choice(rawText(mode), shown(words().candidateListGroupingModeName(mode))));
-    }
-    return choices;
+    const auto copy = words();
+    return pickerChoices(Platform::allCases<CandidateListGroupingMode>(),
+        [&copy](CandidateListGroupingMode mode) { return copy.candidateListGroupingModeName(mode); });
 }
 
 QString CleanupScreenModel::summary() const
@@ -176,10 +171,8 @@ QString CleanupScreenModel::summary() const
 QString CleanupScreenModel::scannedAt() const
 {
     const auto copy = words();
-    const auto time =
-        localeOf(copy).toString(toQDateTime(session().report().scannedAt).toLocalTime().time(), QLocale::ShortFormat);
-    return shown(DashboardWords::joinedParts(
-        {copy.text("마지막 스캔 · 현재 세션", "Last scan · current session"), time.toStdString()}));
+    return shown(DashboardWords::joinedParts({copy.text("마지막 스캔 · 현재 세션", "Last scan · current session"),
+        Platform::LocalizedText::shortTime(session().report().scannedAt, copy.locale())}));
 }
 
 QString CleanupScreenModel::skippedText() const
@@ -234,7 +227,7 @@ QString CleanupScreenModel::visiting() const
         return shown(copy.scanRunnerPreparing());
     }
     const Platform::HomePathAbbreviation home(m_dashboard.services().homeDirectory);
-    return shown(copy.scanRunnerVisiting()) + u' ' + shownName(home.abbreviate(url->path()));
+    return shown(copy.scanRunnerVisiting()) + u' ' + shownText(home.abbreviate(url->path()));
 }
 
 qreal CleanupScreenModel::progress() const
@@ -304,7 +297,7 @@ QVariantList CleanupScreenModel::factsOf(int row) const
     const auto copy = words();
     QVariantList facts;
     const auto add = [&facts](const std::string& title, const std::string& text) {
-        facts.append(QVariant::fromValue(CleanupFact{.title = shown(title), .text = shownName(text)}));
+        facts.append(QVariant::fromValue(NamedValue{.name = shown(title), .value = shownText(text)}));
     };
     add(copy.say("Path"), candidate->url.path());
     add(copy.text("표시되는 이유", "Why is this listed?"), copy.cleanupCandidateTrustExplanation(*candidate));
@@ -329,18 +322,18 @@ QVariantList CleanupScreenModel::factsOf(int row) const
 QString CleanupScreenModel::menuNameOf(int row) const
 {
     const auto* const candidate = m_list.candidate(row);
-    return candidate == nullptr ? QString() : shownName(words().say("Actions for {}", candidate->displayName));
+    return candidate == nullptr ? QString() : shownText(words().say("Actions for {}", candidate->displayName));
 }
 
 QVariantList CleanupScreenModel::snoozesOf(int row) const
 {
-    QVariantList choices;
-    if (const auto* const candidate = m_list.candidate(row)) {
-        for (const auto duration : availableIgnoreDurations(*candidate)) {
-            choices.append(choice(rawText(duration), shown(words().cleanupIgnoreDurationTitle(duration))));
-        }
+    const auto* const candidate = m_list.candidate(row);
+    if (candidate == nullptr) {
+        return {};
     }
-    return choices;
+    const auto copy = words();
+    return pickerChoices(availableIgnoreDurations(*candidate),
+        [&copy](CleanupIgnoreDuration duration) { return copy.cleanupIgnoreDurationTitle(duration); });
 }
 
 } // namespace KarvelloUI

@@ -102,7 +102,7 @@ RowLayout {
         text: control.screen.texts.filters
         iconName: "chevron-down"
         enabled: control.screen.canFilter
-        Accessible.role: Accessible.ButtonMenu
+        KarvelloSpoken.role: Accessible.ButtonMenu
         onClicked: menu.openBelow(folded)
 
         KarvelloMenu {

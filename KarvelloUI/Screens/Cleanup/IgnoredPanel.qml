@@ -18,7 +18,7 @@ SidePanel {
     emptyText: screen.texts.ignoredEmpty
     onActionRequested: screen.showAllAgain()
     model: screen.ignored
-    delegate: Item {
+    delegate: FocusScope {
         id: item
         ListView.onPooled: visible = false
         ListView.onReused: visible = true
@@ -77,7 +77,12 @@ SidePanel {
                 Accessible.ignored: true
             }
             KarvelloButton {
+                objectName: "showAgain"
+                focus: true
+                // The list is one stop; arrows lead to the buttons of the other rows.
+                focusPolicy: item.ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
                 size: KarvelloButton.Small
+                accessibleName: KarvelloDesign.spoken([text, item.name])
                 text: item.panel ? item.panel.screen.texts.showAgain : ""
                 onClicked: item.panel.screen.showAgain(item.index)
             }

@@ -14,10 +14,12 @@ T.Control {
     implicitHeight: implicitContentHeight
     focusPolicy: Qt.ClickFocus
 
-    Accessible.role: Accessible.CheckBox
     Accessible.name: KarvelloDesign.spoken([head.name, head.count, head.total, head.note, head.selection])
-    Accessible.checkable: true
-    Accessible.checked: head.checkState === Qt.Checked
+    Accessible.focusable: true
+    Accessible.description: head.openText
+    KarvelloSpoken.role: Accessible.CheckBox
+    KarvelloSpoken.checkable: true
+    KarvelloSpoken.checked: head.checkState === Qt.Checked
     Accessible.checkStateMixed: head.checkState === Qt.PartiallyChecked
     Accessible.onToggleAction: screen.toggleSection(head.id)
     Accessible.onPressAction: screen.toggleSection(head.id)
@@ -43,6 +45,9 @@ T.Control {
         isSelectable: true
         enabled: !control.screen.isBusy
         isOpen: control.head.isOpen
+        openText: control.head.openText
+        // The row says it all.
+        Accessible.ignored: true
         accessibleValue: control.head.selection
         takesFocus: false
         onToggleRequested: control.screen.toggleSection(control.head.id)

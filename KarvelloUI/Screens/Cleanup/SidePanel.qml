@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Karvello.Design
 
 // A list that is looked up beside the review, in its place: what was skipped, what is hidden. Escape closes it.
@@ -23,7 +22,10 @@ Rectangle {
     signal actionRequested()
 
     function takeFocus() {
-        list.forceActiveFocus(Qt.ShortcutFocusReason)
+        if (list.count > 0)
+            list.moveTo(list.currentIndex)
+        else
+            list.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 
     implicitHeight: head.implicitHeight + 2 * KarvelloDesign.spacing12 + 3
@@ -95,7 +97,7 @@ Rectangle {
         height: 1
         color: KarvelloDesign.line
     }
-    ListView {
+    KarvelloRows {
         id: list
         objectName: "panelList"
         anchors.top: rule.bottom
@@ -103,14 +105,15 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.margins: 1
-        clip: true
-        reuseItems: true
-        activeFocusOnTab: true
-        highlightFollowsCurrentItem: false
-        boundsBehavior: Flickable.StopAtBounds
-        T.ScrollBar.vertical: KarvelloScrollBar {}
-        Accessible.role: Accessible.List
-        Accessible.name: control.title
+        activeFocusOnTab: count === 0
+        accessibleName: control.title
+        // The place stays when its row goes.
+        onCountChanged: {
+            if (currentIndex < 0 && count > 0)
+                currentIndex = 0
+            if (activeFocus && count > 0)
+                moveTo(currentIndex)
+        }
 
         KarvelloText {
             anchors.centerIn: parent
@@ -122,7 +125,7 @@ Rectangle {
         }
     }
     FocusRing {
-        isShown: list.activeFocus
+        isShown: list.activeFocus && list.count === 0
         distance: 1
         radius: KarvelloDesign.cardRadius
     }

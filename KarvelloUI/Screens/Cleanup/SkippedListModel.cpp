@@ -28,7 +28,7 @@ QVariant SkippedListModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
     case pathRole:
-        return shownName(m_home.abbreviate(item.url.path()));
+        return shownText(m_home.abbreviate(item.url.path()));
     case reasonRole:
         return shownText(m_words.skippedReason(item.reason));
     case isPermissionRole:

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Karvello.Design
 import Karvello.Screens.Cleanup
 
@@ -15,7 +16,7 @@ SidePanel {
     note: isClosable ? screen.skippedSummary : screen.texts.skippedNote
     closeName: isClosable ? screen.texts.close : ""
     model: screen.skipped
-    delegate: Item {
+    delegate: T.Control {
         id: item
         ListView.onPooled: visible = false
         ListView.onReused: visible = true
@@ -24,15 +25,15 @@ SidePanel {
         required property bool isPermission
 
         width: ListView.view ? ListView.view.width : 0
-        implicitHeight: Math.max(44, row.implicitHeight + 2 * KarvelloDesign.spacing8)
-        Accessible.role: Accessible.ListItem
+        implicitHeight: Math.max(44, Math.ceil(implicitContentHeight) + topPadding + bottomPadding)
+        horizontalPadding: KarvelloDesign.spacing20
+        verticalPadding: KarvelloDesign.spacing8
+        focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
+        KarvelloSpoken.role: Accessible.ListItem
         Accessible.name: KarvelloDesign.spoken([path, reason])
+        Accessible.focusable: true
 
-        RowLayout {
-            id: row
-            x: KarvelloDesign.spacing20
-            width: parent.width - 2 * x
-            anchors.verticalCenter: parent.verticalCenter
+        contentItem: RowLayout {
             spacing: KarvelloDesign.spacing12
 
             KarvelloIcon { name: item.isPermission ? "warning" : "lock" }
@@ -54,11 +55,18 @@ SidePanel {
                 Accessible.ignored: true
             }
         }
-        Rectangle {
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: 1
-            color: KarvelloDesign.lineSoft
+        background: Item {
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: 1
+                color: KarvelloDesign.lineSoft
+            }
+            FocusRing {
+                isShown: item.visualFocus
+                distance: 2
+                radius: KarvelloDesign.checkBoxRadius
+            }
         }
     }
 }

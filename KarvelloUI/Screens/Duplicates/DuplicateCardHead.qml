@@ -27,14 +27,16 @@ T.CheckDelegate {
     horizontalPadding: KarvelloDesign.spacing16
     verticalPadding: KarvelloDesign.spacing8
     hoverEnabled: true
-    // Its kind is what makes it a check box for assistants; the state is the owner's.
+    // The state is the owner's.
     checkable: false
     onClicked: toggleIfPossible()
 
     Accessible.name: KarvelloDesign.spoken([title, stateText, bytesText])
     Accessible.description: isLocked ? disabledReason : ""
-    Accessible.checkable: !isLocked
-    Accessible.checked: groupState === Qt.Checked
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.CheckBox
+    KarvelloSpoken.checkable: !isLocked
+    KarvelloSpoken.checked: groupState === Qt.Checked
     Accessible.checkStateMixed: groupState === Qt.PartiallyChecked
     Accessible.onToggleAction: toggleIfPossible()
     Accessible.onPressAction: toggleIfPossible()
@@ -104,6 +106,13 @@ T.CheckDelegate {
     background: Rectangle {
         radius: KarvelloDesign.cardRadius - 1
         color: head.hovered && !head.isLocked ? KarvelloDesign.elevated2 : "transparent"
+        // Round at the top alone.
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: parent.height / 2
+            color: parent.color
+        }
         FocusRing {
             isShown: head.visualFocus
             distance: 2

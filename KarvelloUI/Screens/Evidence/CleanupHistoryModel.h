@@ -12,7 +12,7 @@
 
 namespace KarvelloUI {
 
-/// The history of cleans and restores, with what is needed to export it.
+/// The history of cleans and restores, with what is needed to export it. Main thread only.
 class CleanupHistoryModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -34,7 +34,8 @@ T.ItemDelegate {
     hoverEnabled: true
     onClicked: if (hasDetails) openRequested(!isOpen)
 
-    Accessible.role: Accessible.ListItem
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.ListItem
     Accessible.name: spokenName
     Accessible.description: isOpen ? details.join("\n") : hasDetails ? openName : ""
     Accessible.onPressAction: clicked()

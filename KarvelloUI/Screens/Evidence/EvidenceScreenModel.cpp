@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/Evidence/EvidenceScreenModel.h"
 
 #include "KarvelloUI/Copy/PercentText.h"
+#include "KarvelloUI/Sessions/ShownText.h"
 
 namespace KarvelloUI {
 
@@ -64,7 +65,9 @@ QString EvidenceScreenModel::cancelTitle() const
 
 QString EvidenceScreenModel::errorText() const
 {
-    return m_isErrorClosed ? QString() : m_dashboard.cleaner().errorText();
+    return m_isErrorClosed
+        ? QString()
+        : shownText(m_dashboard.words().skippedReason(m_dashboard.cleaner().errorMessage().value_or("")));
 }
 
 QString EvidenceScreenModel::workTitle() const

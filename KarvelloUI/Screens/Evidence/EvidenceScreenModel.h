@@ -15,6 +15,7 @@
 namespace KarvelloUI {
 
 /// The screen of what was done and what can be taken back, beside what comes up for review. Nothing here cleans.
+/// Main thread only.
 class EvidenceScreenModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -60,7 +61,9 @@ public:
     [[nodiscard]] ReviewLoopModel* reviewLoop() { return &m_reviewLoop; }
     [[nodiscard]] ProjectPanelModel* projects() { return &m_projects; }
 
+    /// Until the next failure.
     Q_INVOKABLE void closeError();
+    /// What was done by then stays done, and is told.
     Q_INVOKABLE void cancelWork();
 
 Q_SIGNALS:

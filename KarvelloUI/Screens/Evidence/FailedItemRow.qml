@@ -20,7 +20,8 @@ T.ItemDelegate {
     verticalPadding: KarvelloDesign.spacing8
     focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
 
-    Accessible.role: Accessible.ListItem
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.ListItem
     Accessible.name: KarvelloDesign.spoken([name, path, reason])
 
     contentItem: ColumnLayout {

@@ -46,6 +46,7 @@ public:
 };
 
 /// What the last clean was expected to do beside what it did. Moved bytes never count as recovered ones.
+/// Main thread only.
 class ImpactReportModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT

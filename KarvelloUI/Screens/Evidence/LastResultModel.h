@@ -13,6 +13,7 @@
 namespace KarvelloUI {
 
 /// What the last clean or the last restore of this session did, and what it left alone and why.
+/// Main thread only.
 class LastResultModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT

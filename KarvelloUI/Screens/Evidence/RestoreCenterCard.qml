@@ -147,7 +147,7 @@ ListCard {
         function openFor(row, at) {
             key = row.key
             hasTrashLocation = row.hasTrashLocation
-            popup(row, at)
+            openAt(row, at)
         }
 
         accessibleName: control.center.menuName

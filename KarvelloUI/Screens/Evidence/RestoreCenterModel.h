@@ -13,7 +13,7 @@
 namespace KarvelloUI {
 
 /// The restore centre: what the last clean took away, what of it is chosen to be put back, and where it is. What is only
-/// known from the log can be looked at.
+/// known from the log can be looked at. Main thread only.
 class RestoreCenterModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -76,7 +76,9 @@ public:
     /// Selects all unless all are.
     Q_INVOKABLE void toggleAll();
     Q_INVOKABLE void setOpen(int key, bool isOpen) { m_rows.setOpen(key, isOpen); }
+    /// Puts back what is selected; nothing happens where nothing can be restored.
     Q_INVOKABLE void restore();
+    /// In the file manager; nothing happens to a row that has gone.
     Q_INVOKABLE void revealOriginal(int key);
     Q_INVOKABLE void revealTrashLocation(int key);
 

@@ -15,7 +15,7 @@ KarvelloButton {
     isBusy: exportModel.isWriting
     onClicked: menu.openBelow(control)
 
-    Accessible.role: Accessible.ButtonMenu
+    KarvelloSpoken.role: Accessible.ButtonMenu
     Accessible.description: exportModel.explanation
 
     KarvelloMenu {

@@ -11,7 +11,7 @@
 
 namespace KarvelloUI {
 
-/// The export button of a screen and the menu behind it.
+/// The export button of a screen and the menu behind it. Main thread only.
 class ExportMenuModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT

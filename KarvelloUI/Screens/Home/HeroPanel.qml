@@ -58,7 +58,7 @@ Rectangle {
                     text: entry.text
                     samples: entry.samples
                     emptyText: entry.emptyText
-                    accessibleValue: entry.trend
+                    accessibleValue: entry.accessibleValue
 
                     Rectangle {
                         parent: tile

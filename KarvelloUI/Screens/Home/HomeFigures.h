@@ -5,6 +5,7 @@
 #include "KarvelloUI/Advisors/DiskCapacitySnapshot.h"
 #include "KarvelloUI/Advisors/MacAccessPolicy.h"
 #include "KarvelloUI/Advisors/StorageReviewFigures.h"
+#include "KarvelloUI/Controls/MetricTile.h"
 #include "KarvelloUI/Dashboard/DashboardWords.h"
 #include "KarvelloUI/Screens/Home/HomeRows.h"
 #include "KarvelloUI/Sessions/CleanerViewModel.h"
@@ -36,7 +37,7 @@ struct Progress {
 [[nodiscard]] HomeHero hero(
     const DiskCapacitySnapshot& disk, std::int64_t reclaimableBytes, const DashboardWords& words);
 /// Processors, memory and heat. A snapshot that was never taken has no figures.
-[[nodiscard]] std::vector<HomeMetric> metrics(const CleanerCore::SystemResourceSnapshot& snapshot,
+[[nodiscard]] std::vector<MetricTile> metrics(const CleanerCore::SystemResourceSnapshot& snapshot,
     const SystemMetricHistory& history, const DashboardWords& words);
 /// Those before the current one are done. There is one current step, or none while there is nothing to do.
 [[nodiscard]] std::vector<HomeFlowStep> flow(const Progress& progress, const DashboardWords& words);

@@ -1,4 +1,5 @@
 #include "KarvelloUI/Copy/PercentText.h"
+#include "KarvelloUI/Dashboard/KnownState.h"
 #include "KarvelloUI/Screens/Home/HomeFigures.h"
 
 #include <algorithm>
@@ -11,12 +12,6 @@ namespace KarvelloUI::HomeFigures {
 namespace {
 
 constexpr const char* kNoFigure = "—";
-constexpr std::string_view kUnknownState = "Unknown";
-
-bool isKnown(std::string_view state)
-{
-    return !state.empty() && state != kUnknownState;
-}
 
 /// "3 / 16 GB": a unit that both have is said once, so that the text stays beside its figure as that changes.
 std::string shareText(const std::string& part, const std::string& whole)
@@ -27,7 +22,7 @@ std::string shareText(const std::string& part, const std::string& whole)
 }
 
 /// What all three have in common.
-HomeMetric metric(
+MetricTile metric(
     QString iconName, const std::string& name, std::span<const double> samples, const DashboardWords& words)
 {
     return {
@@ -38,7 +33,7 @@ HomeMetric metric(
         .text = shown(words.say("No reading")),
         .samples = QList<double>(samples.begin(), samples.end()),
         .emptyText = shown(words.systemTrendSubtitle(std::ssize(samples))),
-        .trend = shown(words.metricTrendAccessibilityValue(samples)),
+        .accessibleValue = shown(words.metricTrendAccessibilityValue(samples)),
     };
 }
 
@@ -67,31 +62,31 @@ HomeHero hero(const DiskCapacitySnapshot& disk, std::int64_t reclaimableBytes, c
     return hero;
 }
 
-std::vector<HomeMetric> metrics(const CleanerCore::SystemResourceSnapshot& snapshot, const SystemMetricHistory& history,
+std::vector<MetricTile> metrics(const CleanerCore::SystemResourceSnapshot& snapshot, const SystemMetricHistory& history,
     const DashboardWords& words)
 {
-    HomeMetric processors = metric(QStringLiteral("cpu"), words.text("CPU", "CPU"), history.cpuLoad(), words);
+    MetricTile processors = metric(QStringLiteral("cpu"), words.text("CPU", "CPU"), history.cpuLoad(), words);
     if (snapshot != CleanerCore::SystemResourceSnapshot()) {
         processors.figure = shown(percentText(snapshot.normalizedCPULoad));
         processors.text =
             shown(words.text("순간 변화를 볼 수 있도록 1초마다 측정", "Sampled every second for visible spikes"));
     }
 
-    HomeMetric memory = metric(QStringLiteral("memory"), words.text("메모리", "Memory"), history.memoryUsage(), words);
+    MetricTile memory = metric(QStringLiteral("memory"), words.text("메모리", "Memory"), history.memoryUsage(), words);
     if (snapshot.physicalMemoryBytes > 0) {
         memory.figure = shown(percentText(
             static_cast<double>(snapshot.usedMemoryBytes) / static_cast<double>(snapshot.physicalMemoryBytes)));
         memory.unit = shown(shareText(words.byteSize(static_cast<std::int64_t>(snapshot.usedMemoryBytes)),
             words.byteSize(static_cast<std::int64_t>(snapshot.physicalMemoryBytes))));
         memory.text =
-            isKnown(snapshot.memoryPressure) ? shown(words.localizedPressure(snapshot.memoryPressure)) : QString();
+            isKnownState(snapshot.memoryPressure) ? shown(words.localizedPressure(snapshot.memoryPressure)) : QString();
     }
 
     // The history keeps a value for machines that tell none; a curve of it would look like a reading.
-    const bool isTold = snapshot == CleanerCore::SystemResourceSnapshot() || isKnown(snapshot.thermalState);
-    HomeMetric thermal = metric(QStringLiteral("thermal"), words.text("발열", "Thermal"),
+    const bool isTold = snapshot == CleanerCore::SystemResourceSnapshot() || isKnownState(snapshot.thermalState);
+    MetricTile thermal = metric(QStringLiteral("thermal"), words.text("발열", "Thermal"),
         isTold ? std::span<const double>(history.thermalPressure()) : std::span<const double>(), words);
-    if (isKnown(snapshot.thermalState)) {
+    if (isKnownState(snapshot.thermalState)) {
         thermal.figure = shown(words.localizedThermalState(snapshot.thermalState));
         thermal.text = shown(words.text(
             "센서 온도가 아님 · 공개된 열 압박 수준", "Not a sensor temperature · public thermal pressure level"));

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -36,37 +35,6 @@ public:
     double reclaimableFraction = 0;
 
     friend bool operator==(const HomeHero&, const HomeHero&) = default;
-};
-
-/// A figure of the machine and its course.
-struct HomeMetric {
-    Q_GADGET
-    QML_ANONYMOUS
-    Q_PROPERTY(QString iconName MEMBER iconName FINAL)
-    Q_PROPERTY(QString name MEMBER name FINAL)
-    Q_PROPERTY(QString note MEMBER note FINAL)
-    Q_PROPERTY(QString figure MEMBER figure FINAL)
-    Q_PROPERTY(QString unit MEMBER unit FINAL)
-    Q_PROPERTY(QString text MEMBER text FINAL)
-    Q_PROPERTY(QList<double> samples MEMBER samples FINAL)
-    Q_PROPERTY(QString emptyText MEMBER emptyText FINAL)
-    Q_PROPERTY(QString trend MEMBER trend FINAL)
-
-public:
-    QString iconName = {};
-    QString name = {};
-    QString note = {};
-    QString figure = {};
-    QString unit = {};
-    QString text = {};
-    /// From 0 to 1, the oldest first.
-    QList<double> samples = {};
-    /// In place of a course that has too few samples.
-    QString emptyText = {};
-    /// The course in words.
-    QString trend = {};
-
-    friend bool operator==(const HomeMetric&, const HomeMetric&) = default;
 };
 
 /// One of the four steps from home to restore. It leads to a section.

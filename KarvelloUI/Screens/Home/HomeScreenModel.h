@@ -24,7 +24,7 @@ class HomeScreenModel final : public QObject {
     Q_PROPERTY(bool canStartScan READ canStartScan NOTIFY textsChanged FINAL)
     Q_PROPERTY(bool isScanning READ isScanning NOTIFY textsChanged FINAL)
     Q_PROPERTY(KarvelloUI::HomeHero hero READ hero NOTIFY heroChanged FINAL)
-    /// Of `HomeMetric`: processors, memory, heat.
+    /// Of `MetricTile`: processors, memory, heat.
     Q_PROPERTY(KarvelloUI::RowList* metrics READ metrics CONSTANT FINAL)
     /// Of `HomeFlowStep`, four.
     Q_PROPERTY(KarvelloUI::RowList* flow READ flow CONSTANT FINAL)

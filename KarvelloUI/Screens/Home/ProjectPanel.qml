@@ -32,7 +32,7 @@ KarvelloCard {
                 Layout.alignment: Qt.AlignTop
                 spacing: 0
                 Accessible.role: Accessible.Indicator
-                Accessible.name: KarvelloDesign.spoken([figure.entry.label, figure.entry.value])
+                Accessible.name: KarvelloDesign.spoken([figure.entry.name, figure.entry.value])
 
                 KarvelloText {
                     Layout.fillWidth: true
@@ -43,7 +43,7 @@ KarvelloCard {
                 }
                 KarvelloText {
                     Layout.fillWidth: true
-                    text: figure.entry.label
+                    text: figure.entry.name
                     textStyle: KarvelloDesign.small
                     color: KarvelloDesign.ink3
                     wrapMode: Text.Wrap

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/Home/ProjectPanelModel.h"
 
 #include "KarvelloUI/Advisors/DeveloperProjectAdvisoryAnalyzer.h"
+#include "KarvelloUI/Controls/NamedValue.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 
@@ -35,11 +36,11 @@ void ProjectPanelModel::summarize()
 void ProjectPanelModel::showSummary(const DashboardWords& words)
 {
     const auto number = [](std::int64_t count) { return QString::number(count); };
-    m_figures.show(std::vector<PanelFigure>{
-        {.value = number(m_summary.projectCount()), .label = shown(words.text("프로젝트", "Projects"))},
-        {.value = number(m_summary.inactiveOrStaleCount()), .label = shown(words.text("오래된 항목", "Older hints"))},
-        {.value = shown(words.byteSize(m_summary.estimatedBytes())),
-            .label = shown(words.text("검토할 예상 크기", "Estimated size to review"))},
+    m_figures.show(std::vector<NamedValue>{
+        {.name = shown(words.text("프로젝트", "Projects")), .value = number(m_summary.projectCount())},
+        {.name = shown(words.text("오래된 항목", "Older hints")), .value = number(m_summary.inactiveOrStaleCount())},
+        {.name = shown(words.text("검토할 예상 크기", "Estimated size to review")),
+            .value = shown(words.byteSize(m_summary.estimatedBytes()))},
     });
 
     const Platform::HomePathAbbreviation home(m_dashboard.services().homeDirectory);

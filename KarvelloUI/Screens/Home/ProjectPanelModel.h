@@ -14,20 +14,6 @@ namespace KarvelloUI {
 
 class CandidateIndex;
 
-/// A figure and what it counts.
-struct PanelFigure {
-    Q_GADGET
-    QML_ANONYMOUS
-    Q_PROPERTY(QString value MEMBER value FINAL)
-    Q_PROPERTY(QString label MEMBER label FINAL)
-
-public:
-    QString value = {};
-    QString label = {};
-
-    friend bool operator==(const PanelFigure&, const PanelFigure&) = default;
-};
-
 /// A folder of a project that could be made anew. Texts alone: nothing here leads to the folder itself.
 struct ProjectRow {
     Q_GADGET
@@ -66,7 +52,7 @@ class ProjectPanelModel final : public QObject {
     Q_PROPERTY(QString note READ note NOTIFY changed FINAL)
     Q_PROPERTY(QString openReviewTitle READ openReviewTitle NOTIFY changed FINAL)
     Q_PROPERTY(QString openSettingsTitle READ openSettingsTitle NOTIFY changed FINAL)
-    /// Of `PanelFigure`.
+    /// Of `NamedValue`.
     Q_PROPERTY(KarvelloUI::RowList* figures READ figures CONSTANT FINAL)
     /// Of `ProjectRow`, three at most, projects at rest first.
     Q_PROPERTY(KarvelloUI::RowList* projects READ projects CONSTANT FINAL)

@@ -1,20 +1,13 @@
 #include "KarvelloUI/Screens/Home/ReviewLoopModel.h"
 
-#include "KarvelloUI/Dashboard/RawText.h"
+#include "KarvelloUI/Dashboard/PickerChoices.h"
 #include "Platform/Base/LocalizedText.h"
 
-#include <QVariantMap>
 #include <utility>
 
 namespace KarvelloUI {
 
 namespace {
-
-template <typename Value>
-QVariantMap choice(Value value, const std::string& text)
-{
-    return {{QStringLiteral("value"), rawText(value)}, {QStringLiteral("text"), shown(text)}};
-}
 
 std::string cadenceName(CleanupReviewCadence cadence, const DashboardWords& words)
 {
@@ -85,7 +78,8 @@ ReviewLoopModel::State ReviewLoopModel::made() const
             ? shown(words.say("Last reviewed: {}", Platform::LocalizedText::shortDay(*lastReview, words.locale())))
             : QString(),
         .cadenceTitle = shown(words.text("검토 주기", "Review cadence")),
-        .cadences = {},
+        .cadences = pickerChoices(Platform::allCases<CleanupReviewCadence>(),
+            [&words](CleanupReviewCadence cadence) { return cadenceName(cadence, words); }),
         .cadence = rawText(preferences.cadence()),
         .profileTitle = shown(words.text("정리 프로필", "Cleanup Profiles")),
         .profiles = {},
@@ -97,14 +91,11 @@ ReviewLoopModel::State ReviewLoopModel::made() const
         .openReviewTitle = shown(words.smartCleanupTitle(StorageRecommendationKind::cleanupReview)),
         .failureText = m_hasFailed ? shown(words.say("The choice could not be saved.")) : QString(),
     };
-    for (const auto cadence : Platform::allCases<CleanupReviewCadence>()) {
-        state.cadences.append(choice(cadence, cadenceName(cadence, words)));
-    }
     for (const auto& offered : CleanupReviewProfile::builtIn()) {
         if (offered.id == profile.id) {
             state.profileIndex = static_cast<int>(state.profiles.size());
         }
-        state.profiles.append(choice(offered.id, words.cleanupReviewProfileName(offered.id)));
+        state.profiles.append(pickerChoice(rawText(offered.id), words.cleanupReviewProfileName(offered.id)));
     }
     return state;
 }
@@ -127,14 +118,14 @@ void ReviewLoopModel::noteStored(bool isStored)
 
 void ReviewLoopModel::chooseCadence(const QString& rawValue)
 {
-    if (const auto cadence = Platform::fromRawValue<CleanupReviewCadence>(rawValue.toStdString())) {
+    if (const auto cadence = fromRawText<CleanupReviewCadence>(rawValue)) {
         noteStored(m_dashboard.reviewPreferences().setCadence(*cadence));
     }
 }
 
 void ReviewLoopModel::chooseProfile(const QString& rawValue)
 {
-    if (const auto id = Platform::fromRawValue<CleanupReviewProfileID>(rawValue.toStdString())) {
+    if (const auto id = fromRawText<CleanupReviewProfileID>(rawValue)) {
         noteStored(m_dashboard.reviewPreferences().selectProfile(*id));
     }
 }

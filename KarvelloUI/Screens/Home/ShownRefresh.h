@@ -18,6 +18,7 @@ public:
     ShownRefresh(
         MacCleanerDashboardModel& dashboard, std::set<MacDashboardSection> sections, std::function<void()> refresh);
 
+    /// For the work; it may be done before this returns.
     void request();
 
 private:

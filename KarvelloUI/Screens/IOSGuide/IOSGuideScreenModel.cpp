@@ -1,8 +1,7 @@
 #include "KarvelloUI/Screens/IOSGuide/IOSGuideScreenModel.h"
 
-#include "KarvelloUI/Dashboard/RawText.h"
+#include "KarvelloUI/Dashboard/PickerChoices.h"
 
-#include <QVariantMap>
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -46,7 +45,7 @@ QString IOSGuideScreenModel::subtitle() const
 QString IOSGuideScreenModel::notice() const
 {
     const auto words = m_dashboard.words();
-    return shown(
+    return shownLines(
         words.text("iOS 샌드박스 때문에 다른 앱의 캐시나 시스템 데이터를 직접 삭제할 수 없습니다. 대신 Apple이 "
                    "지원하는 경로를 따르세요.",
             "iOS sandboxing prevents direct deletion of other apps' caches or System Data. Follow Apple's "
@@ -78,12 +77,8 @@ QString IOSGuideScreenModel::backName() const
 QVariantList IOSGuideScreenModel::statuses() const
 {
     const auto words = m_dashboard.words();
-    QVariantList choices;
-    for (const auto status : Platform::allCases<IOSStorageChecklistStatus>()) {
-        choices.append(QVariantMap{{QStringLiteral("value"), rawText(status)},
-            {QStringLiteral("text"), shown(words.iOSStorageChecklistStatusName(status))}});
-    }
-    return choices;
+    return pickerChoices(Platform::allCases<IOSStorageChecklistStatus>(),
+        [&words](IOSStorageChecklistStatus status) { return words.iOSStorageChecklistStatusName(status); });
 }
 
 QString IOSGuideScreenModel::progressText() const
@@ -103,8 +98,8 @@ QString IOSGuideScreenModel::failureText() const
 
 void IOSGuideScreenModel::setStatus(const QString& step, const QString& status)
 {
-    const auto id = Platform::fromRawValue<IOSStorageChecklistStepID>(step.toStdString());
-    const auto wanted = Platform::fromRawValue<IOSStorageChecklistStatus>(status.toStdString());
+    const auto id = fromRawText<IOSStorageChecklistStepID>(step);
+    const auto wanted = fromRawText<IOSStorageChecklistStatus>(status);
     if (id && wanted) {
         noteStored(m_store.setStatus(*wanted, *id).has_value());
     }

@@ -13,6 +13,7 @@
 namespace KarvelloUI {
 
 /// The checklist of what people can do by hand on their iPhone. It stores how far they say to be and does nothing else.
+/// Main thread only.
 class IOSGuideScreenModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -55,6 +56,7 @@ public:
 
     /// Both are raw values; nothing happens for others.
     Q_INVOKABLE void setStatus(const QString& step, const QString& status);
+    /// No step is reviewed then.
     Q_INVOKABLE void reset();
     /// To the section that led here.
     Q_INVOKABLE void goBack();

@@ -30,7 +30,7 @@ InsightPage {
         color: KarvelloDesign.elevated1
         border.color: KarvelloDesign.line
 
-        InsightRows {
+        KarvelloRows {
             id: list
             objectName: "rows"
             anchors.fill: parent

@@ -1,7 +1,6 @@
 #include "KarvelloUI/Screens/Insights/InsightListScreenModel.h"
 
 #include "KarvelloUI/Design/FileIcon.h"
-#include "KarvelloUI/Screens/Insights/FindingText.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 
 namespace KarvelloUI {
@@ -147,7 +146,7 @@ InsightListModel::Texts InsightListScreenModel::textsOf(
     if (hasFooter()) {
         spoken << texts.size << detail << texts.path;
     } else {
-        texts.reason = shown(findingText(copy, file.detail));
+        texts.reason = shown(copy.skippedReason(file.detail));
         texts.pill = shown(copy.text("검토 전용", "Review only"));
         texts.explanation = texts.reason + QStringLiteral(" · ") + detail;
         spoken << texts.pill << texts.reason << texts.size << texts.age << texts.path;

@@ -31,7 +31,7 @@ KarvelloListRow {
     menuName: screen.moreName
     disabledReason: hasCheckBox && !isSelectable ? screen.notSelectableText : ""
     // The list is one stop; arrows go on from there.
-    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
     onToggleRequested: screen.toggle(key)
     onOpenRequested: isOpen => screen.setOpen(key, isOpen)
 

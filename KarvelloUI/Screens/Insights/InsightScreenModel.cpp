@@ -1,7 +1,6 @@
 #include "KarvelloUI/Screens/Insights/InsightScreenModel.h"
 
 #include "KarvelloUI/Copy/PercentText.h"
-#include "KarvelloUI/Sessions/RunMessages.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 
@@ -244,13 +243,8 @@ QString InsightScreenModel::bannerTitle() const
 {
     const auto copy = words();
     switch (banner()) {
-    case FailedBanner: {
-        const std::string& message = *insights().errorMessage();
-        return message == RunMessages::kNoLongerEligible
-            ? shown(copy.say("Some selected items are no longer eligible for cleanup. Refresh the scan and review them "
-                             "again."))
-            : shownText(copy.skippedReason(message));
-    }
+    case FailedBanner:
+        return shownText(copy.skippedReason(*insights().errorMessage()));
     case DoneBanner:
         return shown(copy.lastCleanTitle(CleanerCore::CleaningMode::moveToTrash));
     case NoBanner:
@@ -283,16 +277,14 @@ QString InsightScreenModel::noticeText() const
     if (content() != Results && content() != Nothing) {
         return {};
     }
-    QStringList lines;
     const auto& skipped = insights().report().skippedItems;
-    if (content() == Results && (skipped.empty() || !isNoticeOnHeldBackFiles())) {
-        lines.append(shown(noticeLine()));
+    const QString aboutSkipped = skipped.empty() ? QString() : shown(words().insightSkippedBody(std::ssize(skipped)));
+    if (content() == Nothing) {
+        return aboutSkipped;
     }
-    if (!skipped.empty()) {
-        lines.append(shown(words().insightSkippedBody(std::ssize(skipped))));
-    }
-    lines.removeAll(QString());
-    return lines.join(u'\n');
+    // One of them: what is skipped stands where it is missed, and elsewhere only if there is nothing else to know.
+    const QString ofScreen = shown(noticeLine());
+    return ofScreen.isEmpty() || (isNoticeOnHeldBackFiles() && !skipped.empty()) ? aboutSkipped : ofScreen;
 }
 
 void InsightScreenModel::scan()

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Onboarding/OnboardingScreenModel.h"
 
+#include "KarvelloUI/Sessions/ShownText.h"
 namespace KarvelloUI {
 
 OnboardingScreenModel::OnboardingScreenModel(MacCleanerDashboardModel& dashboard, QObject* parent)
@@ -55,7 +56,7 @@ QString OnboardingScreenModel::skipCaption() const
 
 QString OnboardingScreenModel::errorText() const
 {
-    return shown(m_dashboard.homeAccess().lastErrorMessage().value_or(std::string()));
+    return shownText(m_dashboard.words().skippedReason(m_dashboard.homeAccess().lastErrorMessage().value_or("")));
 }
 
 QString OnboardingScreenModel::languageTitle() const

@@ -1,5 +1,7 @@
 #include "KarvelloUI/Screens/Popover/StatusPopoverModel.h"
 
+#include "KarvelloUI/Dashboard/KnownState.h"
+#include "KarvelloUI/Dashboard/RawText.h"
 #include "KarvelloUI/MenuBar/KarvelloMenuBarSystemMetrics.h"
 #include "KarvelloUI/Screens/Popover/PopoverIcons.h"
 
@@ -13,11 +15,6 @@ using Kind = KarvelloMenuBarReminder::Kind;
 using Destination = KarvelloDashboardLaunchDestination;
 
 namespace {
-
-QString rawText(Destination destination)
-{
-    return shown(std::string(Platform::rawValue(destination)));
-}
 
 /// How much of a bar is filled: what is no number fills nothing.
 double barFraction(double value)
@@ -74,9 +71,8 @@ void StatusPopoverModel::openDashboard()
 
 void StatusPopoverModel::review(int row)
 {
-    const auto& rows = m_triage.rows();
-    if (row >= 0 && std::cmp_less(row, rows.size())) {
-        Q_EMIT openDashboardRequested(rawText(rows[static_cast<std::size_t>(row)].row.destination));
+    if (const auto* const reminder = m_triage.row(row)) {
+        Q_EMIT openDashboardRequested(rawText(reminder->row.destination));
     }
 }
 
@@ -100,7 +96,10 @@ void StatusPopoverModel::refresh()
 StatusPopoverModel::Texts StatusPopoverModel::texts(const KarvelloMenuBarStrings& strings) const
 {
     const auto& snapshot = m_status->snapshot();
-    const auto [cpu, memory, thermal] = KarvelloMenuBarSystemMetrics::metrics(snapshot, strings);
+    auto [cpu, memory, thermal] = KarvelloMenuBarSystemMetrics::metrics(snapshot, strings);
+    if (!isKnownState(snapshot.systemSnapshot.thermalState)) {
+        thermal.value = "—";
+    }
     return {
         .brand = shown(m_preferences.words().appTitle()),
         .updated = shown(strings.updated(snapshot.capturedAt)),

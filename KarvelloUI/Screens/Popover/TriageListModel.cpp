@@ -1,6 +1,8 @@
 #include "KarvelloUI/Screens/Popover/TriageListModel.h"
 
+#include "KarvelloUI/Dashboard/RawText.h"
 #include "KarvelloUI/Screens/Popover/PopoverIcons.h"
+#include "KarvelloUI/Sessions/ShownText.h"
 
 namespace KarvelloUI {
 
@@ -16,11 +18,11 @@ QVariant TriageListModel::data(const QModelIndex& index, int role) const
         return popoverIcon(row.symbol);
     case Qt::DisplayRole:
     case detailRole:
-        return QString::fromStdString(row.detail);
+        return shownText(row.detail);
     case buttonTitleRole:
-        return QString::fromStdString(row.buttonTitle);
+        return shownText(row.buttonTitle);
     case destinationRole:
-        return QString::fromStdString(std::string(Platform::rawValue(row.destination)));
+        return rawText(row.destination);
     case isCriticalRole:
         return row.severity == KarvelloMenuBarReminder::Severity::critical;
     default:

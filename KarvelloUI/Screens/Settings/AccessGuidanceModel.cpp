@@ -11,25 +11,6 @@
 
 namespace KarvelloUI {
 
-namespace {
-
-/// The desktop has no permission for the whole disk to grant: this step speaks of what there is.
-std::string titleOf(const StoragePermissionWizardStep& step, const DashboardWords& words)
-{
-    return step.role == StoragePermissionWizardStepRole::grantSystemAccess ? words.say("Check who may read the folders")
-                                                                           : words.permissionWizardStepTitle(step.role);
-}
-
-std::string textOf(const StoragePermissionWizardStep& step, const DashboardWords& words)
-{
-    return step.role == StoragePermissionWizardStepRole::grantSystemAccess
-        ? words.say("Look up in the file manager who owns the skipped folders and whether you may read them. An app in "
-                    "a sandbox also needs permission for the folder in the system settings.")
-        : words.permissionWizardStepBody(step.role, step.issueKind);
-}
-
-} // namespace
-
 AccessGuidanceModel::AccessGuidanceModel(MacCleanerDashboardModel& dashboard, QObject* parent)
     : QObject(parent)
     , m_dashboard(dashboard)
@@ -50,10 +31,8 @@ QString AccessGuidanceModel::title() const
 QString AccessGuidanceModel::text() const
 {
     const auto words = m_dashboard.words();
-    return shown(guide().empty()
-            ? words.settingsAccessDiagnosticsBody(0, hasCustomFolders())
-            : words.say("Review skipped paths, update the needed permission or folder bookmark yourself, then scan "
-                        "again. Karvello cannot grant access automatically."));
+    return shown(
+        guide().empty() ? words.settingsAccessDiagnosticsBody(0, hasCustomFolders()) : words.permissionWizardIntro());
 }
 
 QVariantList AccessGuidanceModel::steps() const
@@ -69,8 +48,8 @@ QVariantList AccessGuidanceModel::steps() const
         }
         steps.append(QVariant::fromValue(AccessGuidanceStep{
             .number = static_cast<int>(index),
-            .title = shown(titleOf(step, words)),
-            .text = shown(textOf(step, words)),
+            .title = shown(words.permissionWizardStepTitle(step.role)),
+            .text = shown(words.permissionWizardStepBody(step.role, step.issueKind)),
             .diagnosis =
                 step.issueKind ? shown(words.permissionDiagnosticTitle(*step.issueKind, step.count)) : QString(),
             .samplesTitle = shown(words.permissionDiagnosticSamplePathsTitle(samples.size())),

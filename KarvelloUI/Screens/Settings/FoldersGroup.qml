@@ -3,13 +3,14 @@ import QtQuick
 import Karvello.Design
 import Karvello.Screens.Settings
 
-SettingsGroup {
+// The folders that the user added to the scan.
+SettingsListGroup {
     id: control
 
     required property SettingsFoldersModel group
-    required property string closeName
 
-    title: group.title
+    model: group
+    listName: "folders"
     headItem: KarvelloButton {
         objectName: "addFolder"
         size: KarvelloButton.Small
@@ -18,58 +19,38 @@ SettingsGroup {
         onClicked: control.group.add()
     }
 
-    SettingsParagraph { text: control.group.text }
-    SettingsRule {}
-    SettingsFailure {
-        objectName: "foldersFailure"
-        text: control.group.errorText
-        closeName: control.closeName
-        onCloseRequested: control.group.dismissError()
-    }
-    SettingsParagraph {
-        objectName: "foldersEmpty"
-        visible: control.group.count === 0
-        text: control.group.emptyText
-        color: KarvelloDesign.ink2
-    }
-    SettingsList {
-        objectName: "folders"
-        accessibleName: control.group.title
-        model: control.group.folders
+    delegate: SettingsListRow {
+        id: row
 
-        delegate: SettingsListRow {
-            id: row
+        required property string added
+        required property string problem
 
-            required property string added
-            required property string problem
+        required path
+        width: ListView.view.width
+        iconName: "folder"
+        line: problem !== "" ? problem : added
+        isCaution: problem !== ""
 
-            required path
-            width: ListView.view.width
-            iconName: "folder"
-            line: problem !== "" ? problem : added
-            isCaution: problem !== ""
-
-            KarvelloButton {
-                objectName: "revealFolder"
-                focus: true
-                focusPolicy: row.buttonFocusPolicy
-                kind: KarvelloButton.Quiet
-                size: KarvelloButton.Small
-                iconName: "arrow-right"
-                accessibleName: control.group.revealText
-                Accessible.name: KarvelloDesign.spoken([accessibleName, row.path])
-                onClicked: control.group.reveal(row.index)
-            }
-            KarvelloButton {
-                objectName: "removeFolder"
-                focusPolicy: row.buttonFocusPolicy
-                kind: KarvelloButton.Quiet
-                size: KarvelloButton.Small
-                iconName: "close"
-                accessibleName: control.group.removeText
-                Accessible.name: KarvelloDesign.spoken([accessibleName, row.path])
-                onClicked: control.group.remove(row.index)
-            }
+        KarvelloButton {
+            objectName: "revealFolder"
+            focus: true
+            focusPolicy: row.buttonFocusPolicy
+            kind: KarvelloButton.Quiet
+            size: KarvelloButton.Small
+            iconName: "arrow-right"
+            accessibleName: control.group.revealText
+            Accessible.name: KarvelloDesign.spoken([accessibleName, row.path])
+            onClicked: control.group.reveal(row.index)
+        }
+        KarvelloButton {
+            objectName: "removeFolder"
+            focusPolicy: row.buttonFocusPolicy
+            kind: KarvelloButton.Quiet
+            size: KarvelloButton.Small
+            iconName: "close"
+            accessibleName: control.group.removeText
+            Accessible.name: KarvelloDesign.spoken([accessibleName, row.path])
+            onClicked: control.group.remove(row.index)
         }
     }
 }

@@ -7,6 +7,7 @@ SettingsGroup {
 
     required property SettingsScanModel group
     required property string closeName
+    required property bool showsFailure
 
     title: group.title
 
@@ -50,7 +51,7 @@ SettingsGroup {
     SettingsFailure {
         id: failure
         objectName: "accessFailure"
-        text: control.group.errorText
+        text: control.showsFailure ? control.group.errorText : ""
         closeName: control.closeName
         onCloseRequested: control.group.dismissError()
     }

@@ -1,7 +1,7 @@
 #include "KarvelloUI/Screens/Settings/SettingsAppearanceModel.h"
 
 #include "KarvelloUI/Copy/KarvelloLocalizer.h"
-#include "KarvelloUI/Screens/Settings/PickerChoice.h"
+#include "KarvelloUI/Dashboard/PickerChoices.h"
 #include "KarvelloUI/Screens/Settings/SettingsNotices.h"
 
 namespace KarvelloUI {
@@ -104,21 +104,21 @@ QString SettingsAppearanceModel::textSize() const
 
 void SettingsAppearanceModel::chooseLanguage(const QString& value)
 {
-    if (const auto language = pickedChoice<AppLanguage>(value)) {
+    if (const auto language = fromRawText<AppLanguage>(value)) {
         noticeUnlessStored(m_dashboard, preferences().setLanguage(*language));
     }
 }
 
 void SettingsAppearanceModel::chooseAppearance(const QString& value)
 {
-    if (const auto mode = pickedChoice<KarvelloAppearanceMode>(value)) {
+    if (const auto mode = fromRawText<KarvelloAppearanceMode>(value)) {
         noticeUnlessStored(m_dashboard, preferences().setAppearanceMode(*mode));
     }
 }
 
 void SettingsAppearanceModel::chooseTextSize(const QString& value)
 {
-    if (const auto scale = pickedChoice<KarvelloTextScale>(value)) {
+    if (const auto scale = fromRawText<KarvelloTextScale>(value)) {
         noticeUnlessStored(m_dashboard, preferences().setTextScale(*scale));
     }
 }

@@ -7,7 +7,6 @@
 
 #include <QPointer>
 #include <algorithm>
-#include <cstddef>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -15,25 +14,21 @@
 namespace KarvelloUI {
 
 SettingsFoldersModel::SettingsFoldersModel(MacCleanerDashboardModel& dashboard, QObject* parent)
-    : QObject(parent)
-    , m_dashboard(dashboard)
+    : SettingsListGroupModel(dashboard, dashboard.customFolders(), parent)
 {
     connect(&dashboard.customFolders(), &CustomScanFolderStore::foldersChanged, this, &SettingsFoldersModel::refresh);
-    connect(
-        &dashboard.customFolders(), &PreferenceStore::lastErrorMessageChanged, this, &SettingsFoldersModel::changed);
     connect(&dashboard.cleaner(), &CleanerViewModel::reportChanged, this, &SettingsFoldersModel::refresh);
-    connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &SettingsFoldersModel::refresh);
     refresh();
 }
 
 QString SettingsFoldersModel::title() const
 {
-    return shown(m_dashboard.words().text("사용자 지정 폴더", "Custom Folders"));
+    return shown(dashboard().words().text("사용자 지정 폴더", "Custom Folders"));
 }
 
 QString SettingsFoldersModel::text() const
 {
-    return shown(m_dashboard.words().text("사용자 지정 폴더의 항목은 자동으로 선택되지 않으며 수동 검토로 표시됩니다. "
+    return shown(dashboard().words().text("사용자 지정 폴더의 항목은 자동으로 선택되지 않으며 수동 검토로 표시됩니다. "
                                           "홈, 시스템 폴더, 볼륨의 최상위처럼 범위가 넓거나 보호된 위치는 추가할 수 "
                                           "없습니다.",
         "Custom-folder items are never auto-selected and are marked Manual Review. Broad or protected roots such as "
@@ -42,41 +37,36 @@ QString SettingsFoldersModel::text() const
 
 QString SettingsFoldersModel::emptyText() const
 {
-    return shown(m_dashboard.words().text("추가한 사용자 지정 폴더가 없습니다.", "No custom folders added."));
+    return shown(dashboard().words().text("추가한 사용자 지정 폴더가 없습니다.", "No custom folders added."));
 }
 
 QString SettingsFoldersModel::addText() const
 {
-    return shown(m_dashboard.words().text("폴더 추가", "Add Folder"));
+    return shown(dashboard().words().text("폴더 추가", "Add Folder"));
 }
 
 QString SettingsFoldersModel::removeText() const
 {
-    return shown(m_dashboard.words().text("폴더 제거", "Remove Folder"));
+    return shown(dashboard().words().text("폴더 제거", "Remove Folder"));
 }
 
 QString SettingsFoldersModel::revealText() const
 {
-    return shown(m_dashboard.words().say("Show in File Manager"));
-}
-
-QString SettingsFoldersModel::errorText() const
-{
-    return m_dashboard.customFolders().lastErrorText();
+    return shown(dashboard().words().say("Show in File Manager"));
 }
 
 void SettingsFoldersModel::add()
 {
-    const auto words = m_dashboard.words();
-    m_dashboard.services().fileDialogs.chooseFolder(
+    const auto words = dashboard().words();
+    dashboard().services().fileDialogs.chooseFolder(
         {
-            .message = words.text("정리 스캔에 직접 고른 폴더를 추가합니다. 접근 권한은 보안 범위 책갈피로 유지됩니다.",
-                "Add user-selected folders to the cleanup scan. Access is persisted with security-scoped bookmarks."),
+            .message =
+                words.say("Add user-selected folders to the cleanup scan. Karvello remembers that it may read them."),
             .prompt = words.text("폴더 추가", "Add Folder"),
-            .directory = m_dashboard.services().homeDirectory,
+            .directory = dashboard().services().homeDirectory,
         },
         // The answer comes while the dialogs live, and they outlive the dashboard.
-        [dashboard = QPointer(&m_dashboard)](const std::optional<Platform::FileURL>& picked) {
+        [dashboard = QPointer(&this->dashboard())](const std::optional<Platform::FileURL>& picked) {
             if (dashboard && picked) {
                 const auto& session = dashboard->services().session;
                 dashboard->customFolders().addFolder(*picked, session.fileManager, session.now());
@@ -86,31 +76,21 @@ void SettingsFoldersModel::add()
 
 void SettingsFoldersModel::remove(int place)
 {
-    if (const auto* const folder = row(place)) {
-        m_dashboard.customFolders().removeFolder(folder->id);
+    if (const auto* const folder = m_folders.row(place)) {
+        dashboard().customFolders().removeFolder(folder->id);
     }
 }
 
 void SettingsFoldersModel::reveal(int place)
 {
-    if (const auto* const folder = row(place)) {
-        m_dashboard.revealInFinder(Platform::FileURL(folder->rawPath));
+    if (const auto* const folder = m_folders.row(place)) {
+        dashboard().revealInFinder(Platform::FileURL(folder->rawPath));
     }
-}
-
-void SettingsFoldersModel::dismissError()
-{
-    m_dashboard.customFolders().clearError();
-}
-
-const CustomFolderRow* SettingsFoldersModel::row(int place) const
-{
-    return place >= 0 && place < count() ? &m_folders.rows()[static_cast<std::size_t>(place)] : nullptr;
 }
 
 QString SettingsFoldersModel::problemOf(const CustomScanFolder& folder) const
 {
-    const auto& skipped = m_dashboard.cleaner().report().skippedItems;
+    const auto& skipped = dashboard().cleaner().report().skippedItems;
     const auto url = Platform::FileURL(folder.fallbackPath);
     const auto found = std::ranges::find_if(
         skipped, [&url](const CleanerCore::SkippedItem& item) { return item.url.path() == url.path(); });
@@ -118,16 +98,16 @@ QString SettingsFoldersModel::problemOf(const CustomScanFolder& folder) const
         return {};
     }
     const auto kind = StoragePermissionAdvisor::issueKind(found->reason);
-    return shown(m_dashboard.words().permissionDiagnosticAction(
+    return shown(dashboard().words().permissionDiagnosticAction(
         kind.value_or(StoragePermissionIssueKind::securityScopedAccess)));
 }
 
 void SettingsFoldersModel::refresh()
 {
-    const auto words = m_dashboard.words();
-    const Platform::HomePathAbbreviation home(m_dashboard.services().homeDirectory);
+    const auto words = dashboard().words();
+    const Platform::HomePathAbbreviation home(dashboard().services().homeDirectory);
     std::vector<CustomFolderRow> rows;
-    for (const auto& folder : m_dashboard.customFolders().folders()) {
+    for (const auto& folder : dashboard().customFolders().folders()) {
         rows.push_back({
             .id = folder.id,
             .rawPath = folder.fallbackPath,

@@ -1,22 +1,13 @@
 #include "KarvelloUI/Screens/Settings/SettingsIgnoreModel.h"
 
-#include "KarvelloUI/Sessions/ShownText.h"
-#include "Platform/Base/HomePathAbbreviation.h"
-#include "Platform/Base/LocalizedText.h"
-
-#include <cstddef>
-#include <utility>
-#include <vector>
+#include <string>
 
 namespace KarvelloUI {
 
 SettingsIgnoreModel::SettingsIgnoreModel(MacCleanerDashboardModel& dashboard, QObject* parent)
-    : QObject(parent)
-    , m_dashboard(dashboard)
+    : SettingsListGroupModel(dashboard, dashboard.ignoreStore(), parent)
 {
     connect(&dashboard.ignoreStore(), &CleanupIgnoreStore::itemsChanged, this, &SettingsIgnoreModel::refresh);
-    connect(&dashboard.ignoreStore(), &PreferenceStore::lastErrorMessageChanged, this, &SettingsIgnoreModel::changed);
-    connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &SettingsIgnoreModel::refresh);
     // A rule may have come to its end meanwhile.
     connect(&dashboard, &MacCleanerDashboardModel::selectedSectionChanged, this, &SettingsIgnoreModel::refresh);
     refresh();
@@ -24,44 +15,39 @@ SettingsIgnoreModel::SettingsIgnoreModel(MacCleanerDashboardModel& dashboard, QO
 
 QString SettingsIgnoreModel::title() const
 {
-    return shown(m_dashboard.words().ignoredCandidatesTitle());
+    return shown(dashboard().words().ignoredCandidatesTitle());
 }
 
 QString SettingsIgnoreModel::text() const
 {
-    return shown(m_dashboard.words().ignoredCandidatesDescription());
+    return shown(dashboard().words().ignoredCandidatesDescription());
 }
 
 QString SettingsIgnoreModel::emptyText() const
 {
-    return shown(m_dashboard.words().ignoredCandidatesEmpty());
+    return shown(dashboard().words().ignoredCandidatesEmpty());
 }
 
 QString SettingsIgnoreModel::countText() const
 {
-    return shown(m_dashboard.words().ignoredCandidatesSummary(count()));
+    return shown(dashboard().words().ignoredCandidatesSummary(m_items.rowCount()));
 }
 
 QString SettingsIgnoreModel::showAgainText() const
 {
-    return shown(m_dashboard.words().showIgnoredCandidateAgain());
+    return shown(dashboard().words().showIgnoredCandidateAgain());
 }
 
 QString SettingsIgnoreModel::clearText() const
 {
-    return shown(m_dashboard.words().clearIgnoredCandidates());
+    return shown(dashboard().words().clearIgnoredCandidates());
 }
 
-QString SettingsIgnoreModel::errorText() const
+void SettingsIgnoreModel::showAgain(int place)
 {
-    return m_dashboard.ignoreStore().lastErrorText();
-}
-
-void SettingsIgnoreModel::showAgain(int row)
-{
-    if (row >= 0 && row < count()) {
-        const auto id = m_items.rows()[static_cast<std::size_t>(row)].id;
-        m_dashboard.cleaner().removeIgnoredItem(id);
+    if (const auto* const item = m_items.row(place)) {
+        // A copy: the row goes with the item.
+        dashboard().cleaner().removeIgnoredItem(std::string(item->id));
         // Somebody else may have taken it out before.
         refresh();
     }
@@ -69,31 +55,15 @@ void SettingsIgnoreModel::showAgain(int row)
 
 void SettingsIgnoreModel::clear()
 {
-    m_dashboard.cleaner().clearIgnoredItems();
+    dashboard().cleaner().clearIgnoredItems();
     refresh();
-}
-
-void SettingsIgnoreModel::dismissError()
-{
-    m_dashboard.ignoreStore().clearError();
 }
 
 void SettingsIgnoreModel::refresh()
 {
-    const auto words = m_dashboard.words();
-    const Platform::HomePathAbbreviation home(m_dashboard.services().homeDirectory);
-    std::vector<IgnoreListRow> rows;
-    for (const auto& item : m_dashboard.ignoreStore().activeItems(m_dashboard.services().session.now())) {
-        const auto expiry =
-            item.expiresAt ? Platform::LocalizedText::mediumMoment(*item.expiresAt, words.locale()) : std::string();
-        rows.push_back({
-            .id = item.id,
-            .path = shownText(home.abbreviate(item.path)),
-            .size = shown(words.byteSize(item.sizeBytes)),
-            .duration = shown(words.ignoredCandidateDurationDescription(item.duration, expiry)),
-        });
-    }
-    m_items.show(std::move(rows));
+    const auto& services = dashboard().services();
+    m_items.showItems(
+        dashboard().ignoreStore().activeItems(services.session.now()), services.homeDirectory, dashboard().words());
     Q_EMIT changed();
 }
 

@@ -1,6 +1,6 @@
 #include "KarvelloUI/Screens/Settings/SettingsScanModel.h"
 
-#include "KarvelloUI/Screens/Settings/PickerChoice.h"
+#include "KarvelloUI/Dashboard/PickerChoices.h"
 #include "KarvelloUI/Screens/Settings/SettingsNotices.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
@@ -35,7 +35,7 @@ QString SettingsScanModel::modeTitle() const
 QString SettingsScanModel::modeText() const
 {
     const auto words = m_dashboard.words();
-    return shown(words.scanModeAccessibilityHint(m_dashboard.services().supportsDirectDistributionScans()) + "\n"
+    return shownLines(words.scanModeAccessibilityHint(m_dashboard.services().supportsDirectDistributionScans()) + "\n"
         + words.say("Changing the mode clears the results on show."));
 }
 
@@ -73,7 +73,7 @@ QString SettingsScanModel::accessText() const
     if (grant) {
         const auto path =
             Platform::HomePathAbbreviation(m_dashboard.services().homeDirectory).abbreviate(grant->fallbackPath);
-        return shown(words.homeAccessGrantedStatus() + "\n") + shownText(path)
+        return shown(words.homeAccessGrantedStatus()) + QLatin1Char('\n') + shownText(path)
             + shown(" · "
                 + words.say("Granted {}", Platform::LocalizedText::mediumMoment(grant->createdAt, words.locale())));
     }
@@ -96,12 +96,12 @@ QString SettingsScanModel::revokeText() const
 
 QString SettingsScanModel::errorText() const
 {
-    return m_dashboard.homeAccess().lastErrorText();
+    return shownText(m_dashboard.words().skippedReason(m_dashboard.homeAccess().lastErrorMessage().value_or("")));
 }
 
 void SettingsScanModel::chooseMode(const QString& value)
 {
-    const auto picked = pickedChoice<CleanerCore::CleanupScanMode>(value);
+    const auto picked = fromRawText<CleanerCore::CleanupScanMode>(value);
     const auto available = CleanerCore::availableModes(m_dashboard.services().supportsDirectDistributionScans());
     if (picked && isModeEnabled() && std::ranges::find(available, *picked) != available.end()) {
         noticeUnlessStored(m_dashboard, m_dashboard.preferences().setScanMode(*picked));
@@ -110,7 +110,7 @@ void SettingsScanModel::chooseMode(const QString& value)
 
 void SettingsScanModel::grant()
 {
-    m_dashboard.grantHomeAccess();
+    m_dashboard.requestHomeAccess();
 }
 
 void SettingsScanModel::revoke()

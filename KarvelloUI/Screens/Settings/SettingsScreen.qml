@@ -36,11 +36,13 @@ KarvelloPage {
                 width: parent.width
                 group: control.screen.scan
                 closeName: control.screen.closeText
+                showsFailure: control.screen.failingGroup === SettingsScreenModel.ScanGroup
             }
             IgnoreGroup {
                 width: parent.width
                 group: control.screen.ignoreList
                 closeName: control.screen.closeText
+                showsFailure: control.screen.failingGroup === SettingsScreenModel.IgnoreListGroup
             }
             AboutGroup {
                 width: parent.width
@@ -55,6 +57,7 @@ KarvelloPage {
                 width: parent.width
                 group: control.screen.customFolders
                 closeName: control.screen.closeText
+                showsFailure: control.screen.failingGroup === SettingsScreenModel.CustomFoldersGroup
             }
             AccessGuidanceGroup {
                 width: parent.width

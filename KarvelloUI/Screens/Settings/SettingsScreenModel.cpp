@@ -12,6 +12,9 @@ SettingsScreenModel::SettingsScreenModel(MacCleanerDashboardModel& dashboard, QO
     , m_accessGuidance(dashboard)
 {
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &SettingsScreenModel::wordsChanged);
+    connect(&m_scan, &SettingsScanModel::changed, this, &SettingsScreenModel::failingGroupChanged);
+    connect(&m_ignoreList, &SettingsIgnoreModel::changed, this, &SettingsScreenModel::failingGroupChanged);
+    connect(&m_customFolders, &SettingsFoldersModel::changed, this, &SettingsScreenModel::failingGroupChanged);
 }
 
 QString SettingsScreenModel::title() const
@@ -47,6 +50,7 @@ QVariantList SettingsScreenModel::shortcuts() const
         shortcut("Menu, Shift+F10", "Open the menu of the row"),
         shortcut("Ctrl+Return", "Ask to confirm the move to Trash"),
         shortcut("Escape", "Close a menu or dialog; clear the filter; reach Cancel during a scan"),
+        shortcut("F1", "Show these shortcuts"),
     };
 }
 
@@ -92,6 +96,16 @@ QString SettingsScreenModel::iosGuideButton() const
 QString SettingsScreenModel::closeText() const
 {
     return shown(m_dashboard.words().say("Close"));
+}
+
+SettingsScreenModel::FailingGroup SettingsScreenModel::failingGroup() const
+{
+    // Without access nothing is scanned; with a list that was not stored, what was hidden may come back; a folder is only
+    // not looked at.
+    return !m_scan.errorText().isEmpty()         ? ScanGroup
+        : !m_ignoreList.errorText().isEmpty()    ? IgnoreListGroup
+        : !m_customFolders.errorText().isEmpty() ? CustomFoldersGroup
+                                                 : NoGroup;
 }
 
 void SettingsScreenModel::openIOSGuide()

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
+#include <cstdint>
 
 namespace KarvelloUI {
 
@@ -49,8 +50,15 @@ class SettingsScreenModel final : public QObject {
     Q_PROPERTY(QString iosGuideText READ iosGuideText NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString iosGuideButton READ iosGuideButton NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString closeText READ closeText NOTIFY wordsChanged FINAL)
+    /// Whose failure is told: one at a time, the worst first.
+    Q_PROPERTY(FailingGroup failingGroup READ failingGroup NOTIFY failingGroupChanged FINAL)
 
 public:
+    // QML reads only enumerators with a capital letter.
+    // NOLINTNEXTLINE(readability-identifier-naming)
+    enum FailingGroup : std::uint8_t { NoGroup, ScanGroup, IgnoreListGroup, CustomFoldersGroup };
+    Q_ENUM(FailingGroup)
+
     /// `dashboard` outlives the model.
     explicit SettingsScreenModel(MacCleanerDashboardModel& dashboard, QObject* parent = nullptr);
 
@@ -71,11 +79,13 @@ public:
     [[nodiscard]] QString iosGuideText() const;
     [[nodiscard]] QString iosGuideButton() const;
     [[nodiscard]] QString closeText() const;
+    [[nodiscard]] FailingGroup failingGroup() const;
 
     Q_INVOKABLE void openIOSGuide();
 
 Q_SIGNALS:
     void wordsChanged();
+    void failingGroupChanged();
 
 private:
     MacCleanerDashboardModel& m_dashboard;

@@ -21,37 +21,11 @@ SettingsGroup {
         Repeater {
             model: control.shortcuts
 
-            Item {
-                id: shortcut
+            ShortcutRow {
                 required property var modelData
-
-                objectName: "shortcut"
                 width: list.width
-                height: Math.max(keys.height, text.height)
-
-                Accessible.role: Accessible.ListItem
-                Accessible.name: KarvelloDesign.spoken([modelData.keys, modelData.text])
-
-                KarvelloText {
-                    id: keys
-                    width: Math.round(shortcut.width * 0.4)
-                    text: shortcut.modelData.keys
-                    textStyle: KarvelloDesign.small
-                    emphasis: KarvelloText.Medium
-                    color: KarvelloDesign.ink
-                    wrapMode: Text.Wrap
-                    Accessible.ignored: true
-                }
-                KarvelloText {
-                    id: text
-                    x: keys.width + KarvelloDesign.spacing12
-                    width: shortcut.width - x
-                    text: shortcut.modelData.text
-                    textStyle: KarvelloDesign.small
-                    color: KarvelloDesign.ink3
-                    wrapMode: Text.Wrap
-                    Accessible.ignored: true
-                }
+                shortcut: modelData
+                keysWidth: Math.round(width * 0.4)
             }
         }
     }

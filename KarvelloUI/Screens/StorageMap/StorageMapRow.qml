@@ -20,9 +20,11 @@ T.ItemDelegate {
     horizontalPadding: KarvelloDesign.spacing16
     verticalPadding: KarvelloDesign.spacing4
     hoverEnabled: true
-    focusPolicy: isCurrent || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
+    focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.name: spokenName
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: isSelected
     Accessible.onPressAction: row.clicked()

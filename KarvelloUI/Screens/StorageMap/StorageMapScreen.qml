@@ -12,8 +12,9 @@ InsightPage {
     required property StorageMapScreenModel screen
     // The cell under the pointer, in either place.
     property var hoveredId
+    readonly property var focusedId: map.activeFocus ? map.cells[map.currentIndex]?.id : undefined
     // The area that is told of below the table.
-    readonly property var toldArea: screen.areas[hoveredId ?? screen.selectedId] ?? null
+    readonly property var toldArea: screen.areas[hoveredId ?? focusedId ?? screen.selectedId] ?? null
 
     insights: screen
 
@@ -21,6 +22,12 @@ InsightPage {
         target: page.screen
         property: "isDark"
         value: KarvelloDesign.isDark
+    }
+    // The keyboard moves the list by itself, too.
+    Binding {
+        target: table
+        property: "currentIndex"
+        value: Math.max(0, page.screen.selectedId)
     }
 
     RowLayout {
@@ -108,14 +115,13 @@ InsightPage {
                         }
                     }
                 }
-                InsightRows {
+                KarvelloRows {
                     id: table
                     objectName: "table"
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     model: page.screen.areas
                     accessibleName: page.screen.tableTitle
-                    currentIndex: Math.max(0, page.screen.selectedId)
                     onMoved: index => page.screen.select(index)
                     onCurrentIndexChanged: positionViewAtIndex(currentIndex, ListView.Contain)
 

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Karvello.Design
 import Karvello.Screens.System
 
@@ -72,63 +71,23 @@ Rectangle {
             actionText: control.screen.monitorTitle
             onActionRequested: control.screen.openMonitor()
         }
-        ListView {
+        KarvelloRows {
             id: list
             objectName: "candidates"
-
-            // Arrows and Tab show where they are; a press of the mouse does not.
-            property bool isByKeyboard: true
-
             Layout.fillWidth: true
             Layout.fillHeight: true
             Layout.leftMargin: 1
             Layout.rightMargin: 1
             Layout.minimumHeight: Math.round(156 * KarvelloDesign.textFactor)
+            Layout.preferredHeight: Layout.minimumHeight
+            accessibleName: control.screen.reliefTitle
             model: control.screen.candidates
-            reuseItems: true
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
-            activeFocusOnTab: count > 0
-            highlightFollowsCurrentItem: true
-            highlightMoveDuration: 0
-            T.ScrollBar.vertical: KarvelloScrollBar {}
-
-            function moveTo(row: int) {
-                isByKeyboard = true
-                currentIndex = Math.max(0, Math.min(count - 1, row))
-            }
-
-            Accessible.role: Accessible.List
-            Accessible.name: control.screen.reliefTitle
-
-            onActiveFocusChanged: {
-                if (activeFocus && currentIndex < 0)
-                    currentIndex = 0
-            }
-            Keys.onPressed: event => {
-                const page = Math.max(1, Math.floor(height / Math.max(1, currentItem ? currentItem.height : 1)) - 1)
-                const targets = {
-                    [Qt.Key_Up]: currentIndex - 1,
-                    [Qt.Key_Down]: currentIndex + 1,
-                    [Qt.Key_PageUp]: currentIndex - page,
-                    [Qt.Key_PageDown]: currentIndex + page,
-                    [Qt.Key_Home]: 0,
-                    [Qt.Key_End]: count - 1
-                }
-                event.accepted = event.key in targets
-                if (event.accepted)
-                    moveTo(targets[event.key])
-            }
 
             delegate: ReliefRow {
                 width: ListView.view.width
-                focus: ListView.isCurrentItem
-                showsFocus: list.isByKeyboard
+                focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
                 canToggle: !control.screen.isRequestingQuit
-                onPressed: {
-                    list.isByKeyboard = false
-                    list.currentIndex = index
-                }
+                onPressed: list.currentIndex = index
                 onToggleRequested: control.screen.toggle(index)
             }
 

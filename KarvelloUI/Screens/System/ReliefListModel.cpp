@@ -22,7 +22,7 @@ QVariant ReliefListModel::data(const QModelIndex& index, int role) const
     if (row == nullptr) {
         return {};
     }
-    const DashboardWords words{{{row->language}}};
+    const DashboardWords words(row->language);
     const auto& candidate = row->candidate;
     const double fraction = fractionOf(candidate).value_or(0);
     switch (role) {

@@ -25,7 +25,6 @@ T.CheckDelegate {
     required property string accessibleName
     // No request is under way.
     property bool canToggle: true
-    property bool showsFocus: false
 
     readonly property bool isLargeText: KarvelloDesign.textFactor >= 1.25
 
@@ -43,13 +42,13 @@ T.CheckDelegate {
     horizontalPadding: KarvelloDesign.spacing20
     verticalPadding: KarvelloDesign.spacing8
     hoverEnabled: true
-    focusPolicy: Qt.ClickFocus
     onClicked: toggleIfSelectable()
 
-    Accessible.role: Accessible.CheckBox
     Accessible.name: accessibleName
-    Accessible.checkable: isSelectable
-    Accessible.checked: isSelectable && isSelected
+    Accessible.focusable: true
+    KarvelloSpoken.role: Accessible.CheckBox
+    KarvelloSpoken.checkable: isSelectable
+    KarvelloSpoken.checked: isSelectable && isSelected
     Accessible.onToggleAction: toggleIfSelectable()
     Accessible.onPressAction: toggleIfSelectable()
 
@@ -136,7 +135,7 @@ T.CheckDelegate {
             color: KarvelloDesign.lineSoft
         }
         FocusRing {
-            isShown: control.activeFocus && control.showsFocus
+            isShown: control.visualFocus
             distance: 2
             radius: KarvelloDesign.checkBoxRadius
         }

@@ -215,13 +215,12 @@ void ReliefScreenModel::refresh()
 
 void ReliefScreenModel::toggle(int row)
 {
-    const auto& rows = m_candidates.rows();
-    if (row < 0 || std::cmp_greater_equal(row, rows.size()) || relief().isRequestingQuit()) {
-        return;
+    const auto* const chosen = m_candidates.row(row);
+    if (chosen != nullptr && !relief().isRequestingQuit()) {
+        // A copy: the change of the selection changes the rows.
+        const auto candidate = chosen->candidate;
+        relief().setSelected(candidate, !chosen->isSelected);
     }
-    // A copy: the change of the selection changes the rows.
-    const ReliefListRow chosen = rows[static_cast<std::size_t>(row)];
-    relief().setSelected(chosen.candidate, !chosen.isSelected);
 }
 
 void ReliefScreenModel::clearSelection()

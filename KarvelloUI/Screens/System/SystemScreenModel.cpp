@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/System/SystemScreenModel.h"
 
 #include "KarvelloUI/Copy/PercentText.h"
+#include "KarvelloUI/Dashboard/KnownState.h"
 #include "KarvelloUI/Screens/System/SystemFigures.h"
 #include "Platform/Base/LocalizedText.h"
 
@@ -12,7 +13,7 @@ namespace KarvelloUI {
 namespace {
 
 /// The course of a figure and what is said of it.
-SystemTile tileOf(const std::vector<double>& samples, const DashboardWords& words)
+MetricTile tileOf(const std::vector<double>& samples, const DashboardWords& words)
 {
     return {
         .samples = QList<double>(samples.begin(), samples.end()),
@@ -110,16 +111,16 @@ void SystemScreenModel::takeSample()
     update(m_memory, memoryTile(words), &SystemScreenModel::memoryChanged);
     update(m_thermal, thermalTile(words), &SystemScreenModel::thermalChanged);
     update(m_uptime,
-        SystemFact{.name = shown(words.text("시스템 가동 시간", "System Uptime")),
+        NamedValue{.name = shown(words.text("시스템 가동 시간", "System Uptime")),
             .value = shown(snapshot.uptime > 0 ? Platform::LocalizedText::duration(snapshot.uptime, words.locale())
                                                : unknownFigure())},
         &SystemScreenModel::uptimeChanged);
     update(m_loadAverage,
-        SystemFact{
+        NamedValue{
             .name = shown(words.text("평균 부하", "Load Average")), .value = SystemFigures::loadAverage(snapshot)},
         &SystemScreenModel::loadAverageChanged);
     update(m_activeCores,
-        SystemFact{
+        NamedValue{
             .name = shown(words.text("활성 코어", "Active Cores")), .value = SystemFigures::activeCores(snapshot)},
         &SystemScreenModel::activeCoresChanged);
 }
@@ -129,40 +130,43 @@ void SystemScreenModel::takeDisk()
     update(m_disk, diskTile(m_dashboard.words()), &SystemScreenModel::diskChanged);
 }
 
-SystemTile SystemScreenModel::memoryTile(const DashboardWords& words) const
+MetricTile SystemScreenModel::memoryTile(const DashboardWords& words) const
 {
     const auto& snapshot = m_dashboard.insights().currentSystemSnapshot();
-    SystemTile tile = tileOf(m_dashboard.insights().systemMetricHistory().memoryUsage(), words);
+    MetricTile tile = tileOf(m_dashboard.insights().systemMetricHistory().memoryUsage(), words);
     tile.name = shown(words.text("메모리", "Memory"));
     tile.figure = SystemFigures::memory(snapshot);
     tile.unit = SystemFigures::memoryAmounts(snapshot, words);
     tile.text = shown(words.text("현재 상태에서 추정한 값", "Estimated from the current snapshot"));
-    if (!snapshot.memoryPressure.empty()) {
+    if (isKnownState(snapshot.memoryPressure)) {
         tile.pillText = shown(words.localizedPressure(snapshot.memoryPressure));
         tile.pillKind = static_cast<int>(SystemFigures::pillOfPressure(snapshot.memoryPressure));
     }
     return tile;
 }
 
-SystemTile SystemScreenModel::thermalTile(const DashboardWords& words) const
+MetricTile SystemScreenModel::thermalTile(const DashboardWords& words) const
 {
     const auto& state = m_dashboard.insights().currentSystemSnapshot().thermalState;
-    SystemTile tile = tileOf(m_dashboard.insights().systemMetricHistory().thermalPressure(), words);
+    // Machines that do not tell have no course either: a line at the bottom would say that all is cool.
+    const bool isKnown = isKnownState(state);
+    MetricTile tile =
+        tileOf(isKnown ? m_dashboard.insights().systemMetricHistory().thermalPressure() : std::vector<double>(), words);
     tile.name = shown(words.text("발열 상태", "Thermal State"));
-    tile.figure = shown(state.empty() ? unknownFigure() : words.localizedThermalState(state));
+    tile.figure = shown(isKnown ? words.localizedThermalState(state) : unknownFigure());
     tile.text = shown(
         words.text("센서 온도가 아닌 공개된 열 압박 단계", "Not a sensor temperature · public thermal pressure level"));
-    if (!state.empty()) {
+    if (isKnown) {
         tile.pillText = tile.figure;
         tile.pillKind = static_cast<int>(SystemFigures::pillOfThermalState(state));
     }
     return tile;
 }
 
-SystemTile SystemScreenModel::diskTile(const DashboardWords& words) const
+MetricTile SystemScreenModel::diskTile(const DashboardWords& words) const
 {
     const auto& disk = m_dashboard.diskSnapshot();
-    SystemTile tile{.name = shown(words.text("여유 공간", "Free space")), .figure = shown(unknownFigure())};
+    MetricTile tile{.name = shown(words.text("여유 공간", "Free space")), .figure = shown(unknownFigure())};
     if (disk.totalBytes > 0) {
         tile.figure = shown(words.byteSize(disk.freeBytes));
         tile.unit = shown(percentText(disk.freeFraction()));

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "KarvelloUI/Controls/MetricTile.h"
+#include "KarvelloUI/Controls/NamedValue.h"
 #include "KarvelloUI/Dashboard/MacCleanerDashboardModel.h"
 #include "KarvelloUI/Screens/System/LoadChart.h"
-#include "KarvelloUI/Screens/System/SystemTile.h"
 
 #include <QObject>
 #include <QString>
@@ -25,12 +26,12 @@ class SystemScreenModel final : public QObject {
     Q_PROPERTY(QStringList notes READ notes NOTIFY languageChanged FINAL)
     Q_PROPERTY(QString factsTitle READ factsTitle NOTIFY languageChanged FINAL)
     Q_PROPERTY(KarvelloUI::LoadChart pulse READ pulse NOTIFY pulseChanged FINAL)
-    Q_PROPERTY(KarvelloUI::SystemTile memory READ memory NOTIFY memoryChanged FINAL)
-    Q_PROPERTY(KarvelloUI::SystemTile thermal READ thermal NOTIFY thermalChanged FINAL)
-    Q_PROPERTY(KarvelloUI::SystemTile disk READ disk NOTIFY diskChanged FINAL)
-    Q_PROPERTY(KarvelloUI::SystemFact uptime READ uptime NOTIFY uptimeChanged FINAL)
-    Q_PROPERTY(KarvelloUI::SystemFact loadAverage READ loadAverage NOTIFY loadAverageChanged FINAL)
-    Q_PROPERTY(KarvelloUI::SystemFact activeCores READ activeCores NOTIFY activeCoresChanged FINAL)
+    Q_PROPERTY(KarvelloUI::MetricTile memory READ memory NOTIFY memoryChanged FINAL)
+    Q_PROPERTY(KarvelloUI::MetricTile thermal READ thermal NOTIFY thermalChanged FINAL)
+    Q_PROPERTY(KarvelloUI::MetricTile disk READ disk NOTIFY diskChanged FINAL)
+    Q_PROPERTY(KarvelloUI::NamedValue uptime READ uptime NOTIFY uptimeChanged FINAL)
+    Q_PROPERTY(KarvelloUI::NamedValue loadAverage READ loadAverage NOTIFY loadAverageChanged FINAL)
+    Q_PROPERTY(KarvelloUI::NamedValue activeCores READ activeCores NOTIFY activeCoresChanged FINAL)
 
 public:
     /// `dashboard` outlives this model.
@@ -44,12 +45,12 @@ public:
     [[nodiscard]] QStringList notes() const;
     [[nodiscard]] QString factsTitle() const;
     [[nodiscard]] LoadChart pulse() const { return m_pulse; }
-    [[nodiscard]] SystemTile memory() const { return m_memory; }
-    [[nodiscard]] SystemTile thermal() const { return m_thermal; }
-    [[nodiscard]] SystemTile disk() const { return m_disk; }
-    [[nodiscard]] SystemFact uptime() const { return m_uptime; }
-    [[nodiscard]] SystemFact loadAverage() const { return m_loadAverage; }
-    [[nodiscard]] SystemFact activeCores() const { return m_activeCores; }
+    [[nodiscard]] MetricTile memory() const { return m_memory; }
+    [[nodiscard]] MetricTile thermal() const { return m_thermal; }
+    [[nodiscard]] MetricTile disk() const { return m_disk; }
+    [[nodiscard]] NamedValue uptime() const { return m_uptime; }
+    [[nodiscard]] NamedValue loadAverage() const { return m_loadAverage; }
+    [[nodiscard]] NamedValue activeCores() const { return m_activeCores; }
 
     /// Looks at the machine and its disk now.
     Q_INVOKABLE void refresh();
@@ -68,20 +69,20 @@ Q_SIGNALS:
 private:
     void takeSample();
     void takeDisk();
-    [[nodiscard]] SystemTile memoryTile(const DashboardWords& words) const;
-    [[nodiscard]] SystemTile thermalTile(const DashboardWords& words) const;
-    [[nodiscard]] SystemTile diskTile(const DashboardWords& words) const;
+    [[nodiscard]] MetricTile memoryTile(const DashboardWords& words) const;
+    [[nodiscard]] MetricTile thermalTile(const DashboardWords& words) const;
+    [[nodiscard]] MetricTile diskTile(const DashboardWords& words) const;
     template <typename Part>
     void update(Part& part, Part now, void (SystemScreenModel::*changed)());
 
     MacCleanerDashboardModel& m_dashboard;
     LoadChart m_pulse;
-    SystemTile m_memory;
-    SystemTile m_thermal;
-    SystemTile m_disk;
-    SystemFact m_uptime;
-    SystemFact m_loadAverage;
-    SystemFact m_activeCores;
+    MetricTile m_memory;
+    MetricTile m_thermal;
+    MetricTile m_disk;
+    NamedValue m_uptime;
+    NamedValue m_loadAverage;
+    NamedValue m_activeCores;
 };
 
 } // namespace KarvelloUI

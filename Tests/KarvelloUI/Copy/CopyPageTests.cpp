@@ -10,6 +10,22 @@ namespace {
 
 constexpr const char* kPath = KARVELLO_SOURCE_DIR "/Tests/Golden/copy.txt";
 
+std::string textsOn(CopyHost host, const CatalogueSample& sample)
+{
+    std::string lines;
+    for (const AppLanguage language : Platform::allCases<AppLanguage>()) {
+        std::string text = sample.text({{{language, host}}});
+        replaceAll(text, "\n", "\\n");
+        lines += fmt::format("  {:<8}{}\n", Platform::rawValue(language), text);
+    }
+    return lines;
+}
+
+bool saysItsOwnOnLinux(const CatalogueSample& sample)
+{
+    return textsOn(CopyHost::mac, sample) != textsOn(CopyHost::linuxDesktop, sample);
+}
+
 /// Every text in every language, to be read as a whole.
 std::string copyPage()
 {
@@ -18,12 +34,12 @@ std::string copyPage()
     for (const auto& [theme, samples] : catalogueSamples()) {
         page += fmt::format("\n== {} ==\n", theme);
         for (const CatalogueSample& sample : samples) {
-            page += fmt::format(
-                "\n{}{}\n", sample.name, sample.coverage == SampleCoverage::staysEnglish ? " (in no table)" : "");
-            for (const AppLanguage language : Platform::allCases<AppLanguage>()) {
-                std::string text = sample.text({language});
-                replaceAll(text, "\n", "\\n");
-                page += fmt::format("  {:<8}{}\n", Platform::rawValue(language), text);
+            const bool isInTable =
+                sample.coverage != SampleCoverage::staysEnglish && sample.coverage != SampleCoverage::own;
+            page += fmt::format("\n{}{}\n", sample.name, isInTable ? "" : " (in no table)");
+            page += textsOn(CopyHost::mac, sample);
+            if (saysItsOwnOnLinux(sample)) {
+                page += "  on Linux:\n" + textsOn(CopyHost::linuxDesktop, sample);
             }
         }
     }

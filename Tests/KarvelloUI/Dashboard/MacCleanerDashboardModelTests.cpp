@@ -238,7 +238,7 @@ TEST_F(MacCleanerDashboardModelTest, SaysSoWhenNothingCanBeOpened)
     fileViewer.canOpen = false;
     dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
     ASSERT_TRUE(dashboard->alert());
-    EXPECT_EQ(dashboard->alert()->title, QStringLiteral("Could Not Open in Finder"));
+    EXPECT_EQ(dashboard->alert()->title, QStringLiteral("Could Not Open in the File Manager"));
 }
 
 TEST_F(MacCleanerDashboardModelTest, TakesANewRevealAsTheEndOfTheLastMessage)

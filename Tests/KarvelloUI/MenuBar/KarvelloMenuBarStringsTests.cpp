@@ -55,6 +55,25 @@ TEST(KarvelloMenuBarStrings, TellTheDisk)
     EXPECT_EQ(kSpanish.storageSubtitle(large()), "Usado: 450 GB / 500 GB");
 }
 
+TEST(KarvelloMenuBarStrings, TellTheDiskAndTheTimeInEveryLanguage)
+{
+    EXPECT_EQ(kGerman.storageValue(large()), "50 GB · 10% frei");
+    EXPECT_EQ(kSpanish.storageValue(large()), "50 GB · libre: 10%");
+    EXPECT_THAT(kGerman.updated({800'000'000}), testing::MatchesRegex("Aktualisiert: [0-9]+:[0-9]+"));
+    for (const auto language : Platform::allCases<AppLanguage>()) {
+        const Strings strings{{language}};
+        EXPECT_EQ(strings.storageValue(large()) == kEnglish.storageValue(large()), language == AppLanguage::english);
+        EXPECT_EQ(strings.updated({800'000'000}).starts_with("Updated"), language == AppLanguage::english);
+    }
+}
+
+// The rows for these wait for a parenthesis that no sentence has.
+TEST(KarvelloMenuBarStrings, TheLinesWithoutARowStayEnglish)
+{
+    EXPECT_EQ(kGerman.compactStatus(large()), "Free 10% · CPU 25%");
+    EXPECT_EQ(kGerman.reminderDetail(kLowDisk, large()), "Free space 10% · 50 GB left");
+}
+
 TEST(KarvelloMenuBarStrings, TellTheTimeOfTheSnapshot)
 {
     EXPECT_THAT(kEnglish.updated({800'000'000}), testing::MatchesRegex("Updated [0-9]+:[0-9]+.*[AP]M"));

@@ -2,6 +2,7 @@
 #include "Tests/KarvelloUI/Sessions/MacInsightsViewModelFixture.h"
 #include "Tests/Support/RecordingBookmarks.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace MacInsightsViewModelTests {
@@ -14,6 +15,22 @@ using testing::SizeIs;
 using testing::UnorderedElementsAre;
 
 } // namespace
+
+TEST_F(MacInsightsViewModelTest, TellsHowFarItsScanIsUntilThatEnds)
+{
+    std::int64_t visited = 0;
+    std::int64_t completed = 0;
+    QObject::connect(session.get(), &MacInsightsViewModel::progressChanged, session.get(), [&] {
+        const auto& progress = session->scanProgress();
+        visited = std::max(visited, progress.visitedItems);
+        completed = std::max(completed, progress.completedRoots);
+        EXPECT_LE(progress.completedRoots, progress.totalRoots);
+    });
+    scan();
+    EXPECT_GT(visited, 0);
+    EXPECT_GE(completed, std::ssize(session->report().heatmapItems) - 1);
+    EXPECT_EQ(session->scanProgress().totalRoots, 0);
+}
 
 TEST_F(MacInsightsViewModelTest, StartsIdleAndEmpty)
 {

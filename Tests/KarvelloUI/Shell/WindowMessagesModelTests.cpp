@@ -1,5 +1,6 @@
 #include "KarvelloUI/Shell/WindowMessagesModel.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 
 #include <filesystem>
 
@@ -59,6 +60,40 @@ TEST_F(WindowMessagesModelTest, TellsOfAFailureUntilItIsDismissed)
     messages.dismissAlert();
     EXPECT_FALSE(messages.hasAlert());
     EXPECT_TRUE(messages.alertTitle().isEmpty());
+}
+
+TEST_F(WindowMessagesModelTest, TellsOfHostileNamesOnOneLineEach)
+{
+    const std::string path = "home/Downloads/" + kHostileName + "/";
+    tree.add("home/Downloads/" + std::string(kHostileNameOfTree) + "/");
+    dashboard->revealInFinder(tree.url(path + kHostileName));
+    EXPECT_EQ(fileViewer.opened, std::vector<std::string>{tree.path("home/Downloads/" + kHostileName)});
+    ASSERT_TRUE(messages.hasNotice());
+    EXPECT_EQ(messages.noticeText().toStdString(),
+        "The item no longer exists, so the parent folder was opened.\n~/Downloads/" + kShownHostileName);
+    fileViewer.canOpen = false;
+    dashboard->revealInFinder(tree.url(path + kHostileName));
+    ASSERT_TRUE(messages.hasAlert());
+    EXPECT_EQ(messages.alertText().count(QLatin1Char('\n')), 1);
+    EXPECT_TRUE(messages.alertText().endsWith(QString::fromStdString("/" + kShownHostileName)));
+}
+
+TEST_F(WindowMessagesModelTest, LeavesItToTheSettingsToTellTheirFailure)
+{
+    isDirectDistribution = false;
+    EXPECT_TRUE(messages.asksForAccess());
+    dashboard->selectSection(MacDashboardSection::settings);
+    EXPECT_TRUE(messages.asksForAccess());
+    messages.grantAccess();
+    int changes = 0;
+    QObject::connect(&messages, &WindowMessagesModel::accessChanged, &messages, [&changes] { ++changes; });
+    fileDialogs.answer(tree.url("config/"));
+    EXPECT_FALSE(messages.asksForAccess());
+    EXPECT_GT(changes, 0);
+    changes = 0;
+    dashboard->selectSection(MacDashboardSection::cleanup);
+    EXPECT_TRUE(messages.asksForAccess());
+    EXPECT_GT(changes, 0);
 }
 
 TEST_F(WindowMessagesModelTest, TellsSoftlyOfAParentThatWasOpened)

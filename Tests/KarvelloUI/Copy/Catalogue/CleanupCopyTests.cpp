@@ -110,20 +110,17 @@ TEST(CleanupCopy, ConfirmsAMoveWithItsCategoriesAndItsHiddenItems)
               "deselect hidden items, or cancel cleanup before moving items to Trash.");
 }
 
-TEST(CleanupCopy, KeepsASentenceThatStaysEnglishEnglishThroughout)
+TEST(CleanupCopy, SaysInOwnTextsWhatTheTablesDoNotHave)
 {
     const std::array candidates{sampleCandidate(), sampleCandidate()};
     const CleanupSelectionPreview preview(candidates);
     EXPECT_EQ(kGerman.cleanupPreviewSummary(preview),
-        "Review confidence levels and categories before moving 2 items (3 KB) to Trash.");
-    EXPECT_EQ(
-        kGerman.cleanupPreviewCategoryLine(preview.categorySummaries.front()), "Xcode DerivedData · 2 items · 3 KB");
+        "Prüfen Sie Sicherheitsstufen und Kategorien, bevor Sie dies in den Papierkorb legen: 2 Objekte (3 KB).");
+    EXPECT_EQ(kGerman.cleanupPreviewCategoryLine(preview.categorySummaries.front()),
+        "DerivedData von Xcode · 2 Objekte · 3 KB");
     EXPECT_EQ(kGerman.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 2048)),
-        "Before / After Report, Cleanup dashboard, Expected move 2 KB, Moved to Trash 1.5 KB, Not reclaimed yet 1.5 "
-        "KB, 75%, 5 succeeded, 1 failed, cancelled run");
-    EXPECT_EQ(kGerman.cleanupImpactAccessibilityLabel(report(CleaningMode::deletePermanently, 2048)),
-        "Before / After Report, Cleanup dashboard, Expected recovery 2 KB, Recovered 1.5 KB, Not reclaimed 512 bytes, "
-        "75%, 5 succeeded, 1 failed, cancelled run");
+        "Vorher-nachher-Bericht, Bereinigungs-Dashboard, Erwartete Menge 2 KB, In den Papierkorb gelegt 1.5 KB, Noch "
+        "nicht zurückgewonnen 1.5 KB, 75%, erfolgreich: 5, fehlgeschlagen: 1, abgebrochen");
 }
 
 TEST(CleanupCopy, ClaimsRecoveryOnlyForADeletion)
@@ -221,10 +218,11 @@ TEST(CleanupCopy, TellsWhenAFileWasChangedIfThatIsKnown)
     EXPECT_EQ(kEnglish.reviewDetail(file, Platform::Date{90 * 86400.0}), "Large file · modified 3 months ago");
 }
 
-TEST(CleanupCopy, TranslatesOnlyTheScannersOwnReasons)
+TEST(CleanupCopy, TranslatesTheReasonsOfTheEngineAndTheSystem)
 {
     EXPECT_EQ(kKorean.skippedReason("Recently modified"), "최근에 수정됨");
-    EXPECT_EQ(kKorean.skippedReason("Input/output error"), "Input/output error");
+    EXPECT_EQ(kKorean.skippedReason("Input/output error"), "입출력 오류");
+    EXPECT_EQ(kGerman.skippedReason("Something new: ENOSPC"), "Something new: ENOSPC");
     EXPECT_EQ(kEnglish.skippedReason("Recently modified"), "Recently modified");
 }
 

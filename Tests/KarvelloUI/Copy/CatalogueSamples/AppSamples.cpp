@@ -17,12 +17,10 @@ const CatalogueTheme kApp("App",
         {"foundAcrossItems", [](const KarvelloCopy& copy) { return copy.foundAcrossItems(3); }},
         {"finderItemMissingTitle", &KarvelloCopy::finderItemMissingTitle},
         {"finderItemMissingMessage",
-            [](const KarvelloCopy& copy) { return copy.finderItemMissingMessage("~/Karvello"); },
-            SampleCoverage::staysEnglish},
+            [](const KarvelloCopy& copy) { return copy.finderItemMissingMessage("~/Karvello"); }, SampleCoverage::own},
         {"finderRevealFailedTitle", &KarvelloCopy::finderRevealFailedTitle},
         {"finderRevealFailedMessage",
-            [](const KarvelloCopy& copy) { return copy.finderRevealFailedMessage("~/Karvello"); },
-            SampleCoverage::staysEnglish},
+            [](const KarvelloCopy& copy) { return copy.finderRevealFailedMessage("~/Karvello"); }, SampleCoverage::own},
     });
 
 } // namespace

@@ -35,7 +35,7 @@ const CatalogueTheme kAuditLog("AuditLog",
         {"auditEntrySummary cancelled", [](const KarvelloCopy& copy) { return copy.auditEntrySummary(entry(true)); }},
         {"auditEntryAccessibilityLabel",
             [](const KarvelloCopy& copy) { return copy.auditEntryAccessibilityLabel(entry(false), "10:30"); },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
     });
 
 } // namespace

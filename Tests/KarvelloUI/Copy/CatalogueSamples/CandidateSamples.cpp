@@ -23,12 +23,11 @@ FileInsight file(FileInsightKind kind, std::optional<Platform::Date> lastModifie
         {.url = Platform::FileURL("/Karvello"), .lastModified = lastModified, .kind = kind, .detail = {}});
 }
 
-const CatalogueTheme kCategoryName("Candidate",
-    samplesOfEachCase<CleanupCategory>("categoryName", &KarvelloCopy::categoryName, SampleCoverage::staysEnglish));
+const CatalogueTheme kCategoryName(
+    "Candidate", samplesOfEachCase<CleanupCategory>("categoryName", &KarvelloCopy::categoryName, SampleCoverage::own));
 
 const CatalogueTheme kCategoryExplanation("Candidate",
-    samplesOfEachCase<CleanupCategory>(
-        "categoryExplanation", &KarvelloCopy::categoryExplanation, SampleCoverage::staysEnglish));
+    samplesOfEachCase<CleanupCategory>("categoryExplanation", &KarvelloCopy::categoryExplanation, SampleCoverage::own));
 
 const CatalogueTheme kCandidate("Candidate",
     {
@@ -62,15 +61,15 @@ const CatalogueTheme kCandidate("Candidate",
             [](const KarvelloCopy& copy) {
                 return copy.categoryRecommendedAction(CleanupCategory::developerToolCaches);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"categoryRecommendedAction packageManagerCaches",
             [](const KarvelloCopy& copy) {
                 return copy.categoryRecommendedAction(CleanupCategory::packageManagerCaches);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"categoryRecommendedAction buildArchives",
             [](const KarvelloCopy& copy) { return copy.categoryRecommendedAction(CleanupCategory::buildArchives); },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"recommendationReason regenerableUserCache",
             [](const KarvelloCopy& copy) {
                 return copy.recommendationReason(CleanupRecommendationReason::regenerableUserCache);
@@ -115,23 +114,22 @@ const CatalogueTheme kCandidate("Candidate",
             [](const KarvelloCopy& copy) {
                 return copy.recommendationReason(CleanupRecommendationReason::developerToolCache);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"recommendationReason packageManagerCache",
             [](const KarvelloCopy& copy) {
                 return copy.recommendationReason(CleanupRecommendationReason::packageManagerCache);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"recommendationReason buildArchive",
             [](const KarvelloCopy& copy) {
                 return copy.recommendationReason(CleanupRecommendationReason::buildArchive);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"safetyName safe", [](const KarvelloCopy& copy) { return copy.safetyName(CleanupSafety::safe); }},
         {"safetyName caution", [](const KarvelloCopy& copy) { return copy.safetyName(CleanupSafety::caution); },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"safetyName manualReview",
-            [](const KarvelloCopy& copy) { return copy.safetyName(CleanupSafety::manualReview); },
-            SampleCoverage::staysEnglish},
+            [](const KarvelloCopy& copy) { return copy.safetyName(CleanupSafety::manualReview); }, SampleCoverage::own},
         {"cleanupCandidateTrustExplanation",
             [](const KarvelloCopy& copy) { return copy.cleanupCandidateTrustExplanation(sampleCandidate()); },
             SampleCoverage::assembled},

@@ -17,7 +17,9 @@ enum class SampleCoverage : std::uint8_t {
     translated,
     /// Put together from texts that are looked up one by one; no row is for the whole.
     assembled,
-    /// No row takes the sentence, and none is meant to: it stays English around the parts that come in.
+    /// Not every language has a row for the sentence: the catalogue's own texts have it.
+    own,
+    /// No table has it, since there is nothing in it to translate, or since it is not known.
     staysEnglish,
     /// Half of a member that chooses: for Korean alone, and for all others, put together like `assembled`.
     onlyKorean,

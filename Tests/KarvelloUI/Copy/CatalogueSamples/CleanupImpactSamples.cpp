@@ -50,7 +50,8 @@ const CatalogueTheme kCleanupImpact("CleanupImpact",
                 return copy.cleanupImpactSummary(report(CleaningMode::deletePermanently, 4096, false));
             }},
         {"cleanupImpactSummary unknown",
-            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 4096, false)); }},
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 4096, false)); },
+            SampleCoverage::own},
         {"cleanupImpactSummary moveToTrash cancelled without a percentage",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 0, true));
@@ -63,17 +64,17 @@ const CatalogueTheme kCleanupImpact("CleanupImpact",
             SampleCoverage::assembled},
         {"cleanupImpactSummary unknown cancelled without a percentage",
             [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 0, true)); },
-            SampleCoverage::assembled},
+            SampleCoverage::assembled, SampleCoverage::own},
         {"cleanupImpactAccessibilityLabel",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 4096, false));
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"cleanupImpactAccessibilityLabel cancelled",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::deletePermanently, 4096, true));
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
     });
 
 } // namespace

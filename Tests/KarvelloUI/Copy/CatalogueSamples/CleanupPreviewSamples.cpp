@@ -19,14 +19,14 @@ const CatalogueTheme kCleanupPreview("CleanupPreview",
     {
         {"cleanupPreviewSummary none", [](const KarvelloCopy& copy) { return copy.cleanupPreviewSummary({}); }},
         {"cleanupPreviewSummary some", [](const KarvelloCopy& copy) { return copy.cleanupPreviewSummary(preview()); },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"cleanupPreviewItemCount 1", [](const KarvelloCopy& copy) { return copy.cleanupPreviewItemCount(1); }},
         {"cleanupPreviewItemCount 3", [](const KarvelloCopy& copy) { return copy.cleanupPreviewItemCount(3); }},
         {"cleanupPreviewCategoryLine",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupPreviewCategoryLine(preview().categorySummaries.front());
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::assembled},
         {"cleanupPreviewMoreCategories 1",
             [](const KarvelloCopy& copy) { return copy.cleanupPreviewMoreCategories(1); }},
         {"cleanupPreviewMoreCategories 3",

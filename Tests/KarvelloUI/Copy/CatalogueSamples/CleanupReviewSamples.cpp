@@ -31,7 +31,7 @@ const CatalogueTheme kCleanupReview("CleanupReview",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupReviewCadenceStatus(CleanupReviewCadenceStatusKind::upcoming, 5);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"cleanupReviewProfileSummary standard",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupReviewProfileSummary(CleanupScanMode::standard, kCategories, 0);

@@ -41,12 +41,12 @@ const CatalogueTheme kResourceRelief("ResourceRelief",
             [](const KarvelloCopy& copy) {
                 return copy.resourceReliefMetricAccessibility("Karvello", ResourceReliefMetric::cpu, 0.42);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"resourceReliefMetricAccessibility memory",
             [](const KarvelloCopy& copy) {
                 return copy.resourceReliefMetricAccessibility("Karvello", ResourceReliefMetric::memory, 0.42);
             },
-            SampleCoverage::staysEnglish},
+            SampleCoverage::own},
         {"resourceReliefQuitButton", [](const KarvelloCopy& copy) { return copy.resourceReliefQuitButton(3); }},
         {"resourceReliefConfirmButton", [](const KarvelloCopy& copy) { return copy.resourceReliefConfirmButton(3); }},
         {"resourceReliefConfirmMessage", [](const KarvelloCopy& copy) { return copy.resourceReliefConfirmMessage(3); }},

@@ -40,4 +40,18 @@ TEST_F(CleanupHostileNamesTest, ShowsWhatCouldHideOrReorderAsEscapes)
     EXPECT_THAT(rows(), UnorderedElementsAre("not \\xFF utf", "two\\nlines", std::string(255, 'x'), "a\\u202eb"));
 }
 
+TEST_F(CleanupHostileNamesTest, SpeaksOfThemAndOffersTheirMenuWithEscapes)
+{
+    scanForCleanup();
+    const auto& list = *screen->list();
+    ASSERT_GE(list.rowCount(), 4);
+    for (int row = 0; row < list.rowCount(); ++row) {
+        const QString spoken = list.index(row, 0).data(CleanupListModel::spokenRole).toString();
+        for (const QString& told : {spoken, screen->menuNameOf(row)}) {
+            EXPECT_FALSE(told.contains(u'\n') || told.contains(QChar(0x202E)) || told.contains(QChar(0xFFFD)))
+                << told.toStdString();
+        }
+    }
+}
+
 } // namespace CleanupTests

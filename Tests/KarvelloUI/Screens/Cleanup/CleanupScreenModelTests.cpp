@@ -1,3 +1,4 @@
+#include "KarvelloUI/Controls/NamedValue.h"
 #include "Tests/KarvelloUI/Screens/Cleanup/CleanupFixture.h"
 
 #include <gmock/gmock.h>
@@ -314,7 +315,7 @@ TEST_F(CleanupScreenModelTest, HidesACandidateForAsLongAsItAllows)
     EXPECT_THAT(selectedNames(), UnorderedElementsAre("yarn", "old.log"));
     EXPECT_EQ(screen->ignoredText().toStdString(), "1 hidden");
     ASSERT_EQ(screen->ignored()->rowCount(), 1);
-    EXPECT_EQ(screen->ignored()->data(screen->ignored()->index(0), IgnoredListModel::nameRole).toString().toStdString(),
+    EXPECT_EQ(screen->ignored()->data(screen->ignored()->index(0), IgnoredItemList::nameRole).toString().toStdString(),
         "pip");
     screen->showAgain(0);
     EXPECT_EQ(screen->ignored()->rowCount(), 0);
@@ -326,8 +327,8 @@ TEST_F(CleanupScreenModelTest, TellsWhyACandidateIsListed)
     scanForCleanup();
     const auto facts = screen->factsOf(rowOf("pip"));
     ASSERT_GE(facts.size(), 2);
-    EXPECT_EQ(facts[0].value<CleanupFact>().text.toStdString(), tree.path("home/Library/Caches/pip"));
-    EXPECT_EQ(facts[1].value<CleanupFact>().title.toStdString(), "Why is this listed?");
+    EXPECT_EQ(facts[0].value<NamedValue>().value.toStdString(), tree.path("home/Library/Caches/pip"));
+    EXPECT_EQ(facts[1].value<NamedValue>().name.toStdString(), "Why is this listed?");
     EXPECT_THAT(screen->factsOf(99), IsEmpty());
 }
 

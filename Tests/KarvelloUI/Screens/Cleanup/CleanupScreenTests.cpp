@@ -45,10 +45,10 @@ TEST_F(CleanupScreenTest, MovesThroughHeadsAndRowsByTheArrows)
 {
     showReview();
     EXPECT_EQ(currentRow(), 0);
-    EXPECT_THAT(focused(), StartsWith("User Caches, 2 items"));
+    EXPECT_THAT(focusedName(), StartsWith("User Caches, 2 items"));
     key(Qt::Key_Down);
     EXPECT_EQ(currentRow(), 1);
-    EXPECT_THAT(focused(), StartsWith("Cleanup candidate "));
+    EXPECT_THAT(focusedName(), StartsWith("Cleanup candidate "));
     key(Qt::Key_End);
     EXPECT_EQ(currentRow(), 4);
     key(Qt::Key_Home);
@@ -97,7 +97,7 @@ TEST_F(CleanupScreenTest, OpensTheMenuOfARow)
     key(Qt::Key_Return);
     layOut();
     EXPECT_THAT(fileViewer.selected, testing::ElementsAre(HasSubstr(name)));
-    EXPECT_THAT(focused(), StartsWith("Cleanup candidate "));
+    EXPECT_THAT(focusedName(), StartsWith("Cleanup candidate "));
 }
 
 TEST_F(CleanupScreenTest, SnoozesFromTheMenu)
@@ -127,14 +127,14 @@ TEST_F(CleanupScreenTest, FiltersAsOneTypesAndLeavesByEscape)
 {
     showReview();
     key(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(m_window->activeFocusItem(), find("search"));
+    EXPECT_EQ(focused(), find("search"));
     type("yarn");
     EXPECT_EQ(screen->list()->count(), 2);
     key(Qt::Key_Escape);
     EXPECT_EQ(screen->list()->count(), 5);
-    EXPECT_EQ(m_window->activeFocusItem(), find("search"));
+    EXPECT_EQ(focused(), find("search"));
     key(Qt::Key_Escape);
-    EXPECT_THAT(focused(), StartsWith("User Caches"));
+    EXPECT_THAT(focusedName(), StartsWith("User Caches"));
 }
 
 TEST_F(CleanupScreenTest, CtrlReturnOnlyAsks)
@@ -145,7 +145,7 @@ TEST_F(CleanupScreenTest, CtrlReturnOnlyAsks)
     EXPECT_TRUE(confirmation->isOpen());
     settle();
     EXPECT_EQ(trashedCount(), 0);
-    EXPECT_EQ(focused(), "Cancel");
+    EXPECT_EQ(focusedName(), "Cancel");
     // A stray one presses Cancel.
     key(Qt::Key_Return);
     layOut();
@@ -172,7 +172,7 @@ TEST_F(CleanupScreenTest, TheDialogsOwnButtonMoves)
     screen->askToClean();
     layOut();
     key(Qt::Key_Tab);
-    EXPECT_EQ(focused(), "Move Selected to Trash");
+    EXPECT_EQ(focusedName(), "Move Selected to Trash");
     key(Qt::Key_Return);
     layOut();
     settle();
@@ -197,7 +197,7 @@ TEST_F(CleanupScreenTest, EscapeGoesToCancelWhileAScanRuns)
     screen->scan();
     layOut();
     key(Qt::Key_Escape);
-    EXPECT_EQ(focused(), "Cancel Operation");
+    EXPECT_EQ(focusedName(), "Cancel Operation");
     key(Qt::Key_Return);
     settle();
     EXPECT_EQ(screen->face(), Face::Idle);
@@ -241,13 +241,36 @@ TEST_F(CleanupScreenTest, AShortListLeavesNoEmptySheet)
     EXPECT_NEAR(find("sheet")->height(), std::max(320.0, listEnd + 2), 2);
 }
 
+TEST_F(CleanupScreenTest, HasOneStopInThePanelOfWhatIsHidden)
+{
+    showReview();
+    screen->snooze(1, QStringLiteral("oneDay"));
+    screen->snooze(1, QStringLiteral("oneDay"));
+    QMetaObject::invokeMethod(find("page"), "showPanel", Q_ARG(QString, QStringLiteral("ignored")));
+    layOut();
+    const std::string first = focused();
+    EXPECT_THAT(first, StartsWith("Show Again, "));
+    key(Qt::Key_Down);
+    const std::string second = focused();
+    EXPECT_THAT(second, testing::AllOf(StartsWith("Show Again, "), testing::Ne(first)));
+    key(Qt::Key_Home);
+    EXPECT_EQ(focused(), first);
+    key(Qt::Key_Tab);
+    EXPECT_THAT(focused(), testing::Not(StartsWith("Show Again")));
+    key(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(focused(), first);
+    key(Qt::Key_Space);
+    layOut();
+    EXPECT_EQ(focused(), second) << "the place stays when its row goes";
+}
+
 TEST_F(CleanupScreenTest, IsOneStopForTab)
 {
     showReview();
     key(Qt::Key_Tab);
-    EXPECT_THAT(focused(), testing::Not(StartsWith("Cleanup candidate")));
+    EXPECT_THAT(focusedName(), testing::Not(StartsWith("Cleanup candidate")));
     key(Qt::Key_Tab, Qt::ShiftModifier);
-    EXPECT_THAT(focused(), StartsWith("User Caches"));
+    EXPECT_THAT(focusedName(), StartsWith("User Caches"));
 }
 
 } // namespace CleanupTests

@@ -163,10 +163,23 @@ TEST_F(DuplicatesScreenTest, TellsAssistantsWhichCopyStaysAndWhy)
     auto* const head = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
     EXPECT_EQ(head->role(), QAccessible::CheckBox);
     EXPECT_FALSE(head->state().checked);
+    comeAgainAsAssistant();
+    EXPECT_EQ(head->role(), QAccessible::CheckBox);
+    head->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(head->state().checked);
+    EXPECT_FALSE(head->state().checkStateMixed);
     key(Qt::Key_Down);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(m_window->activeFocusItem())->role(), QAccessible::ListItem);
     EXPECT_EQ(nameOf(m_window->activeFocusItem()),
         "photo.jpg, Keeper, Keeper recommendation: preferred folder, 40 KB, ~/Documents/photo.jpg, 6 months");
     EXPECT_FALSE(QAccessible::queryAccessibleInterface(m_window->activeFocusItem())->state().checkable);
+    key(Qt::Key_Down);
+    auto* const extra = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    EXPECT_EQ(extra->role(), QAccessible::CheckBox);
+    EXPECT_TRUE(extra->state().checked);
+    extra->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_FALSE(extra->state().checked);
+    EXPECT_TRUE(head->state().checkStateMixed);
 }
 
 TEST_F(DuplicatesScreenTest, HasRoomForAllTexts)
@@ -176,6 +189,35 @@ TEST_F(DuplicatesScreenTest, HasRoomForAllTexts)
     scan();
     screen.toggleFile(0, id(screen, 0), 1);
     lookAtAllFaces("duplicates-results");
+}
+
+class DuplicatesScreenWithHostileNames : public DuplicatesScreenTest {
+protected:
+    DuplicatesScreenWithHostileNames()
+        : DuplicatesScreenTest("home/Pictures/\n  a/\n    " + std::string(kHostileNameOfTree)
+              + " size=40K age=90d\n  b/\n    " + std::string(kHostileNameOfTree) + " size=40K age=80d\n")
+    {
+    }
+};
+
+TEST_F(DuplicatesScreenWithHostileNames, ShowsThemWithEscapesAndActsOnTheFiles)
+{
+    DuplicatesScreenModel screen(*dashboard);
+    scan();
+    ASSERT_EQ(screen.count(), 1);
+    for (const int copy : {0, 1}) {
+        const auto shown = file(screen, 0, copy);
+        EXPECT_EQ(shown.value(QStringLiteral("name")).toString().toStdString(), kShownHostileName);
+        EXPECT_THAT(shown.value(QStringLiteral("path")).toString().toStdString(),
+            testing::AllOf(testing::StartsWith("~/Pictures/"), testing::EndsWith("/" + kShownHostileName)));
+        EXPECT_THAT(shown.value(QStringLiteral("spokenName")).toString().toStdString(),
+            testing::AllOf(testing::StartsWith(kShownHostileName), testing::Not(testing::HasSubstr("\n"))));
+    }
+    screen.toggleFile(0, id(screen, 0), 1);
+    ASSERT_EQ(session().selectedFiles(duplicates).size(), 1U);
+    EXPECT_EQ(session().selectedFiles(duplicates)[0]->displayName, kHostileName);
+    screen.reveal(0, id(screen, 0), 1);
+    EXPECT_EQ(fileViewer.selected.back(), session().selectedFiles(duplicates)[0]->url.path());
 }
 
 /// Many small groups.

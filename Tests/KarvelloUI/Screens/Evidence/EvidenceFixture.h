@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Audit/CleanupAuditEntry.h"
 #include "KarvelloUI/Screens/Evidence/EvidenceScreenModel.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 #include "Tests/KarvelloUI/Dashboard/ScreenWindow.h"
 
 #include <memory>

@@ -112,9 +112,9 @@ TEST_F(EvidenceScreenModelTest, TellsTheReasonsOfAnEntryAndWhatTheLogDidNotKeep)
     auto old = entryAt(-200);
     old.succeededItemCount = 30;
     old.failureReasons = {"The item is in use.", "/home/ada/secret cannot be moved"};
-    old.cleanedItems = {
-        {.candidate = CleanerCore::CleanupCandidate({.url = tree.url("home/.cache/a\n\xff"), .sizeBytes = 5}),
-            .destinationURL = tree.url("Trash/a")}};
+    old.cleanedItems = {{.candidate = CleanerCore::CleanupCandidate(
+                             {.url = tree.url("home/.cache/" + DashboardTests::kHostileName), .sizeBytes = 5}),
+        .destinationURL = tree.url("Trash/a")}};
     old = old.storageSafeForAuditPersistence();
     History history(*dashboard);
     history.show({old});
@@ -124,7 +124,8 @@ TEST_F(EvidenceScreenModelTest, TellsTheReasonsOfAnEntryAndWhatTheLogDidNotKeep)
     ASSERT_EQ(details.size(), 4);
     EXPECT_EQ(details[0].toStdString(), "The item is in use.");
     EXPECT_EQ(details[1].toStdString(), "The history keeps no reason that names a path.");
-    EXPECT_THAT(details[2].toStdString(), AllOf(StartsWith("~/.cache/a"), HasSubstr("5 bytes")));
+    EXPECT_THAT(details[2].toStdString(),
+        AllOf(StartsWith("~/.cache/" + DashboardTests::kShownHostileName), HasSubstr("5 bytes")));
     EXPECT_EQ(details[3].toStdString(), "The history keeps no list of 29 more items.");
 }
 

@@ -135,7 +135,7 @@ TEST_F(EvidenceScreen, ExportsTheHistoryByTheKeyboard)
     find("exportHistory")->forceActiveFocus(Qt::TabFocusReason);
     key(Qt::Key_Return);
     layOut();
-    photograph("evidence-export.png");
+    photograph("evidence-export");
     key(Qt::Key_Down);
     key(Qt::Key_Down);
     key(Qt::Key_Return);
@@ -158,7 +158,7 @@ TEST_F(EvidenceScreen, IsTidyWhenEmpty)
 {
     look(1180, 780);
     expectTidy();
-    photograph("evidence-empty.png");
+    photograph("evidence-empty");
 }
 
 TEST_F(EvidenceScreen, IsTidyInEveryLanguageAndScale)
@@ -167,17 +167,17 @@ TEST_F(EvidenceScreen, IsTidyInEveryLanguageAndScale)
     look();
     layOut();
     expectTidy();
-    photograph("evidence-light.png");
+    photograph("evidence-light");
     m_design.setAppearanceMode(KarvelloAppearanceMode::dark);
     layOut();
-    photograph("evidence-dark.png");
+    photograph("evidence-dark");
     m_design.setAppearanceMode(KarvelloAppearanceMode::light);
     m_window->resize(1180, 1600);
     for (const auto language : {AppLanguage::english, AppLanguage::german, AppLanguage::japanese}) {
         setLanguage(language);
         layOut();
         expectTidy();
-        photograph(("evidence-" + std::string(Platform::rawValue(language)) + ".png").c_str());
+        photograph("evidence-" + std::string(Platform::rawValue(language)));
     }
     setScale(KarvelloTextScale::extraLarge);
     m_window->resize(1180, 2800);
@@ -185,7 +185,7 @@ TEST_F(EvidenceScreen, IsTidyInEveryLanguageAndScale)
         setLanguage(language);
         layOut();
         expectTidy();
-        photograph(("evidence-" + std::string(Platform::rawValue(language)) + "-xl.png").c_str());
+        photograph("evidence-" + std::string(Platform::rawValue(language)) + "-xl");
     }
 }
 

@@ -235,7 +235,8 @@ TEST_F(RestoreCenter, ShowsHostileNamesAndActsOnTheirBytes)
     clean();
     auto result = *dashboard->cleaner().lastCleanResult();
     auto& candidate = result.cleanedItems[0].candidate;
-    const std::string name = "bad\xff\n<b>\u202Ename" + std::string(200, 'x');
+    const std::string name = DashboardTests::kHostileName + std::string(200, 'x');
+    const std::string shownName = DashboardTests::kShownHostileName + std::string(200, 'x');
     candidate.url = tree.url("home/.cache/" + name);
     candidate.displayName = name;
     candidate.id = "temporaryFiles:" + candidate.url.path();
@@ -243,7 +244,9 @@ TEST_F(RestoreCenter, ShowsHostileNamesAndActsOnTheirBytes)
     list.show(CleanerCore::CleanupRestoreCenterSnapshot(result));
     list.setSelected({candidate.id});
     EXPECT_EQ(list.selectedCount(), 1);
-    EXPECT_THAT(list.index(0).data(List::nameRole).toString().toStdString(), StartsWith("bad\\xFF"));
+    EXPECT_EQ(list.index(0).data(List::nameRole).toString().toStdString(), shownName);
+    EXPECT_EQ(list.index(0).data(List::pathRole).toString().toStdString(), "~/.cache/" + shownName);
+    EXPECT_THAT(list.index(0).data(List::accessibleNameRole).toString().toStdString(), StartsWith(shownName));
     EXPECT_EQ(list.row(0)->item.candidate.url.path(), candidate.url.path());
 }
 

@@ -10,7 +10,7 @@ using namespace KarvelloUI::HomeFigures;
 
 namespace {
 
-constexpr DashboardWords kEnglish{{AppLanguage::english}};
+constexpr DashboardWords kEnglish(AppLanguage::english);
 
 SystemMetricHistory historyOf(const std::vector<double>& samples)
 {
@@ -81,7 +81,7 @@ TEST(HomeMetrics, TellTheirCourseInWords)
 {
     const auto shown = metrics({.normalizedCPULoad = 0.5}, historyOf({0.1, 0.3, 0.5}), kEnglish);
     EXPECT_EQ(shown.at(0).samples.size(), 3);
-    EXPECT_EQ(shown.at(0).trend, QStringLiteral("3 samples, 10% → 50%"));
+    EXPECT_EQ(shown.at(0).accessibleValue, QStringLiteral("3 samples, 10% → 50%"));
 }
 
 TEST(HomeFlow, AWorkUnderWayIsTheCurrentStep)

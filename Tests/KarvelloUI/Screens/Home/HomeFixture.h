@@ -1,7 +1,10 @@
 #pragma once
 
+#include "KarvelloUI/Controls/MetricTile.h"
+#include "KarvelloUI/Controls/NamedValue.h"
 #include "KarvelloUI/Screens/Home/HomeScreenModel.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 
 #include <filesystem>
 #include <memory>
@@ -99,11 +102,11 @@ protected:
         return list->row(index).value<Row>();
     }
     HomeFlowStep step(int index) { return row<HomeFlowStep>(home->flow(), index); }
-    HomeMetric metric(int index) { return row<HomeMetric>(home->metrics(), index); }
+    MetricTile metric(int index) { return row<MetricTile>(home->metrics(), index); }
     HomeCoachCard card(int index) { return row<HomeCoachCard>(home->coach(), index); }
     HomeTimelinePoint point(int index) { return row<HomeTimelinePoint>(home->timeline(), index); }
     ProjectRow project(int index) { return row<ProjectRow>(home->projects()->projects(), index); }
-    PanelFigure figure(int index) { return row<PanelFigure>(home->projects()->figures(), index); }
+    NamedValue figure(int index) { return row<NamedValue>(home->projects()->figures(), index); }
 
     std::unique_ptr<HomeScreenModel> home;
 };

@@ -332,7 +332,7 @@ TEST_F(HomeScreenModelTest, LeavesNoTextInEnglishInAnyLanguage)
         add(home->projects()->subtitle());
         add(home->projects()->note());
         add(project(0).note);
-        add(figure(1).label);
+        add(figure(1).name);
         return texts;
     };
     const auto english = all();

@@ -39,20 +39,20 @@ TEST_F(HomeScreen, IsShownInEveryStateWithoutAWarning)
 {
     show();
     home->startScan();
-    laidOut();
+    layOut();
     settle();
-    laidOut();
+    layOut();
     addProjects();
     scanEverything();
-    laidOut();
+    layOut();
     cleanEverything();
-    laidOut();
+    layOut();
     disk = {.totalBytes = 100, .freeBytes = 5};
     dashboard->refreshDiskSnapshot();
     settle();
-    laidOut();
+    layOut();
     ASSERT_TRUE(preferences->setScanMode(CleanerCore::CleanupScanMode::aggressive));
-    laidOut();
+    layOut();
     EXPECT_EQ(home->flow()->count(), 4);
 }
 
@@ -160,7 +160,7 @@ TEST_F(HomeScreen, AStepKeepsTheKeyboardWhileAScanRunsAndEnds)
     QQuickItem* const step = stepItems().at(2);
     step->forceActiveFocus(Qt::TabFocusReason);
     scanEverything();
-    laidOut();
+    layOut();
     EXPECT_EQ(m_window->activeFocusItem(), step);
 }
 

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/IOSGuide/IOSGuideScreenModel.h"
 
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
 #include "Tests/KarvelloUI/Dashboard/ScreenWindow.h"
 
 #include <gmock/gmock.h>
@@ -72,21 +73,28 @@ TEST_F(IOSGuideScreen, IsTidyInEveryLanguageAndScale)
     guide->setStatus(QStringLiteral("offloadUnusedApps"), QStringLiteral("reviewed"));
     layOut();
     expectTidy();
-    photograph("ios-en.png");
-    for (const auto language : {AppLanguage::german, AppLanguage::japanese, AppLanguage::korean}) {
+    photograph("ios-en");
+    for (const auto language : Platform::allCases<AppLanguage>()) {
         setLanguage(language);
-        layOut();
-        expectTidy();
-        photograph(("ios-" + std::string(Platform::rawValue(language)) + ".png").c_str());
+        for (const auto scale : {KarvelloTextScale::standard, KarvelloTextScale::extraLarge}) {
+            setScale(scale);
+            layOut();
+            SCOPED_TRACE(std::string(Platform::rawValue(language)) + " " + std::string(Platform::rawValue(scale)));
+            expectTidy();
+            EXPECT_THAT(KarvelloUI::Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty());
+            photograph(
+                "ios-" + std::string(Platform::rawValue(language)) + "-" + std::string(Platform::rawValue(scale)));
+        }
     }
+    setScale(KarvelloTextScale::standard);
     setLanguage(AppLanguage::german);
     setScale(KarvelloTextScale::extraLarge);
     layOut();
     expectTidy();
-    photograph("ios-de-xl.png");
+    photograph("ios-de-xl");
     m_design.setAppearanceMode(KarvelloAppearanceMode::dark);
     layOut();
-    photograph("ios-dark.png");
+    photograph("ios-dark");
 }
 
 } // namespace DashboardTests

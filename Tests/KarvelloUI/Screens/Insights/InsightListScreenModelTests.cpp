@@ -232,6 +232,32 @@ TEST_F(InsightListScreenModelTest, EndsAScanOnRequest)
     EXPECT_EQ(screen.count(), 0);
 }
 
+TEST_F(InsightListScreenModelTest, TellsWhereTheScanIs)
+{
+    InsightListScreenModel screen(*dashboard, downloads);
+    EXPECT_EQ(screen.visiting().toStdString(), "");
+    screen.scan();
+    EXPECT_EQ(screen.visiting().toStdString(), dashboard->words().scanRunnerPreparing());
+    EXPECT_LT(screen.progress(), 0);
+    EXPECT_TRUE(screen.figures().isEmpty());
+    QStringList places;
+    QVariantList figures;
+    QObject::connect(&screen, &InsightScreenModel::progressChanged, &screen, [&] {
+        if (!screen.figures().isEmpty()) {
+            places.append(screen.visiting());
+            figures = screen.figures();
+        }
+    });
+    settle();
+    ASSERT_FALSE(places.isEmpty());
+    EXPECT_TRUE(places.last().startsWith(QStringLiteral("Comparing files"))
+        || places.last().startsWith(QStringLiteral("Visiting ~/")))
+        << places.last().toStdString();
+    EXPECT_EQ(figures[1].toMap().value(QStringLiteral("label")).toString().toStdString(), "Locations");
+    EXPECT_EQ(screen.visiting().toStdString(), "");
+    EXPECT_TRUE(screen.figures().isEmpty());
+}
+
 TEST_F(InsightListScreenModelTest, AsksForTheHomeFolderAndScansOnceItIsGranted)
 {
     isDirectDistribution = false;
@@ -278,12 +304,54 @@ TEST_F(InsightListScreenModelOfHostileNames, ActsOnTheFileWhateverItsNameLooksLi
 {
     InsightListScreenModel screen(*dashboard, downloads);
     scan();
-    ASSERT_THAT(names(screen), ElementsAre("\\xFF.mov", "two\nlines", "\\xFF.mov"));
+    ASSERT_THAT(names(screen), ElementsAre("\\xFF.mov", "two\\nlines", "\\xFF.mov"));
     screen.toggle(key(screen, 0));
     ASSERT_EQ(session().selectedFiles(downloads).size(), 1U);
     EXPECT_EQ(session().selectedFiles(downloads)[0]->displayName, "\xFF.mov");
     screen.reveal(key(screen, 1));
     EXPECT_THAT(fileViewer.selected, ElementsAre(tree.path("home/Downloads/two\nlines")));
+}
+
+/// A download with a hostile name, and an installer of it.
+class InsightListScreenModelOfAHostileName : public InsightListScreenModelTest {
+protected:
+    InsightListScreenModelOfAHostileName()
+        : InsightListScreenModelTest("home/Downloads/\n  " + std::string(kHostileNameOfTree) + " size=64K age=90d\n  "
+              + installerOfTree() + " size=8K age=90d\n")
+    {
+    }
+
+    [[nodiscard]] static std::string installerOfTree()
+    {
+        std::string name(kHostileNameOfTree);
+        return name.insert(name.size() - 1, ".sh");
+    }
+    [[nodiscard]] std::string all(InsightListScreenModel& screen, int row)
+    {
+        std::string told;
+        for (const auto role : {Role::nameRole, Role::pathRole, Role::fullPathRole, Role::accessibleNameRole}) {
+            told += text(screen, row, role) + " ";
+        }
+        return told;
+    }
+};
+
+TEST_F(InsightListScreenModelOfAHostileName, IsShownAndSpokenWithEscapesInEverySection)
+{
+    for (const auto section : {largeFiles, downloads, security}) {
+        InsightListScreenModel screen(*dashboard, section);
+        scan();
+        ASSERT_GE(screen.count(), 1);
+        const std::string shownName = kShownHostileName + (section == security ? ".sh" : "");
+        EXPECT_EQ(text(screen, 0, Role::nameRole), shownName);
+        EXPECT_EQ(text(screen, 0, Role::pathRole), "~/Downloads/" + shownName);
+        EXPECT_THAT(text(screen, 0, Role::fullPathRole), testing::EndsWith("/" + shownName));
+        EXPECT_THAT(text(screen, 0, Role::accessibleNameRole), testing::StartsWith(shownName + ", "));
+        EXPECT_EQ(all(screen, 0).find_first_of("\n\xE2"), std::string::npos);
+        screen.reveal(key(screen, 0));
+        EXPECT_EQ(fileViewer.selected.back(),
+            tree.path("home/Downloads/" + kHostileName + (section == security ? ".sh" : "")));
+    }
 }
 
 } // namespace InsightScreenTests

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 
 #include <QSignalSpy>
 #include <string>
@@ -10,6 +11,7 @@ namespace InsightScreenTests {
 
 using namespace KarvelloUI;
 using enum MacInsightFileSection;
+using namespace DashboardTests;
 
 /// A home with large files (one where nothing may be cleaned, one too new to be judged), downloads, two groups of
 /// duplicates (in one of them an extra that may not be cleaned) and a finding.

@@ -1,38 +1,24 @@
 #pragma once
 
-#include "KarvelloUI/Controls/DesignTokens.h"
-#include "KarvelloUI/Controls/InstallDesign.h"
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
+#include "Tests/KarvelloUI/Controls/WindowTest.h"
 #include "Tests/KarvelloUI/Screens/Insights/InsightScreenFixture.h"
 
-#include <QAccessible>
-#include <QGuiApplication>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTest>
 #include <functional>
+#include <gmock/gmock.h>
 #include <memory>
-#include <stdexcept>
 
 namespace InsightScreenTests {
 
-/// A screen in a window of the least size beside the sidebar. Any warning of QML fails the test. With the name of a folder
-/// in KARVELLO_PHOTOGRAPHS, `photograph` writes there what the window shows.
-class InsightScreenWindow : public InsightScreenTest {
+/// A screen in a window of the least size, without the sidebar.
+class InsightScreenWindow : public WindowTest<InsightScreenTest> {
 protected:
     explicit InsightScreenWindow(std::string_view layoutOfHome = kHome)
-        : InsightScreenTest(layoutOfHome)
+        : WindowTest(layoutOfHome)
     {
-        m_engine.setOutputWarningsToStandardError(false);
-        QObject::connect(&m_engine, &QQmlEngine::warnings, [](const QList<QQmlError>& warnings) {
-            for (const QQmlError& warning : warnings) {
-                ADD_FAILURE() << warning.toString().toStdString();
-            }
-        });
-        m_design.setReducedMotion(true);
         m_design.setAppearanceMode(KarvelloAppearanceMode::light);
     }
+    ~InsightScreenWindow() override { m_window.reset(); }
 
     /// Makes a screen's model and shows it. A throw ends the test.
     template <typename Model, typename... Arguments>
@@ -41,52 +27,29 @@ protected:
         auto made = std::make_unique<Model>(*dashboard, arguments...);
         Model& model = *made;
         m_screen = std::move(made);
-        load(module, type);
+        showWindow(QByteArray("import ") + module + "\nWindow { id: window; required property " + type
+                + "Model model; visible: true; color: KarvelloDesign.background\n" + type
+                + " { anchors.fill: parent; screen: window.model } }",
+            {{QStringLiteral("model"), QVariant::fromValue(m_screen.get())}, {QStringLiteral("width"), 956},
+                {QStringLiteral("height"), 780}});
+        m_window->grabWindow();
         return model;
     }
 
-    void load(const char* module, const char* type)
-    {
-        QQmlComponent component(&m_engine);
-        component.setData(QByteArray("import QtQuick\nimport Karvello.Design\nimport ") + module
-                + "\nWindow { id: window; required property " + type
-                + "Model model; visible: true; color: KarvelloDesign.background\n" + type
-                + " { anchors.fill: parent; screen: window.model } }",
-            {});
-        m_window.reset(qobject_cast<QQuickWindow*>(
-            component.createWithInitialProperties({{QStringLiteral("model"), QVariant::fromValue(m_screen.get())},
-                {QStringLiteral("width"), 956}, {QStringLiteral("height"), 780}})));
-        if (!m_window) {
-            throw std::runtime_error(component.errorString().toStdString());
-        }
-        m_window->requestActivate();
-        if (!QTest::qWaitForWindowActive(m_window.get())) {
-            throw std::runtime_error("the window never became active");
-        }
-        m_window->grabWindow();
-    }
-
-    QQuickItem* find(const char* name)
-    {
-        auto* const found = m_window->findChild<QQuickItem*>(QString::fromLatin1(name));
-        if (found == nullptr) {
-            throw std::runtime_error(name);
-        }
-        return found;
-    }
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(m_window.get(), key, modifiers);
-    }
     void focus(const char* name) { find(name)->forceActiveFocus(Qt::TabFocusReason); }
+    using WindowTest::focused;
+    /// A property of what has the keyboard.
     [[nodiscard]] QVariant focused(const char* property) const
     {
-        auto* const item = m_window->activeFocusItem();
+        const auto* const item = focused();
         return item == nullptr ? QVariant() : item->property(property);
     }
-    static std::string nameOf(QObject* object)
+
+    /// An assistant goes and comes back: the templates of the controls then write their own kinds and states.
+    static void comeAgainAsAssistant()
     {
-        return QAccessible::queryAccessibleInterface(object)->text(QAccessible::Name).toStdString();
+        QAccessible::setActive(false);
+        QAccessible::setActive(true);
     }
 
     /// The rows that a list has made.
@@ -115,15 +78,6 @@ protected:
         return outside;
     }
 
-    void photograph(const std::string& name)
-    {
-        QTest::qWait(50);
-        const QImage picture = m_window->grabWindow();
-        if (const QString folder = qEnvironmentVariable("KARVELLO_PHOTOGRAPHS"); !folder.isEmpty()) {
-            EXPECT_TRUE(picture.save(folder + u'/' + QString::fromStdString(name) + QStringLiteral(".png")));
-        }
-    }
-
     /// Looks at the screen in both schemes, in three languages and with the largest text, at the least size of the window.
     void lookAtAllFaces(const std::string& name)
     {
@@ -144,12 +98,32 @@ protected:
             photograph(name + "-" + face.name);
             EXPECT_EQ(textsOutside(), QStringList()) << face.name;
         }
+        m_design.setAppearanceMode(KarvelloAppearanceMode::light);
+        lookInAllLanguages(name);
     }
 
-    QQmlEngine m_engine;
-    DesignTokens& m_design = installDesign(m_engine);
+    /// At the least size of the window, whose sidebar is wider beside large texts.
+    void lookInAllLanguages(const std::string& name)
+    {
+        for (const auto language : Platform::allCases<AppLanguage>()) {
+            EXPECT_TRUE(preferences->setLanguage(language));
+            for (const auto scale : {KarvelloTextScale::standard, KarvelloTextScale::extraLarge}) {
+                m_design.setTextEnvironment({.scale = scale});
+                m_window->resize(scale == KarvelloTextScale::standard ? 956 : 916, 780);
+                SCOPED_TRACE(name + " " + std::string(Platform::rawValue(language)) + " "
+                    + std::string(Platform::rawValue(scale)));
+                photograph(name + "-" + std::string(Platform::rawValue(language)) + "-"
+                    + std::string(Platform::rawValue(scale)));
+                EXPECT_THAT(Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty());
+                EXPECT_GT(Tidiness::countTexts(*m_window->contentItem()), 3U);
+            }
+        }
+        m_window->resize(956, 780);
+        m_design.setTextEnvironment({});
+        EXPECT_TRUE(preferences->setLanguage(AppLanguage::english));
+    }
+
     std::unique_ptr<QObject> m_screen;
-    std::unique_ptr<QQuickWindow> m_window;
 
 private:
     /// What is on show, the parents first.

@@ -1,4 +1,5 @@
 #include "KarvelloUI/Screens/Popover/StatusPopoverModel.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 #include "Tests/KarvelloUI/MenuBar/MenuBarModelFixture.h"
 
 #include <QSignalSpy>
@@ -49,6 +50,15 @@ TEST_F(StatusPopoverModel, ShowsTheMachineBeforeTheFirstPoll)
     EXPECT_EQ(m_popover->thermal().value, QStringLiteral("Nominal"));
     EXPECT_EQ(m_popover->thermal().iconName, QStringLiteral("thermal"));
     EXPECT_DOUBLE_EQ(m_popover->thermal().fraction, 0.22);
+}
+
+TEST(TriageListModel, ShowsHostileNamesWithEscapes)
+{
+    KarvelloUI::TriageListModel list;
+    list.show({{.row = {.detail = DashboardTests::kHostileName, .buttonTitle = DashboardTests::kHostileName}}});
+    for (const int role : {KarvelloUI::TriageListModel::detailRole, KarvelloUI::TriageListModel::buttonTitleRole}) {
+        EXPECT_EQ(list.index(0, 0).data(role).toString().toStdString(), DashboardTests::kShownHostileName);
+    }
 }
 
 TEST_F(StatusPopoverModel, IsCalmWithoutReminders)

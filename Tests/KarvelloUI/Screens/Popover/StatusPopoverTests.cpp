@@ -1,59 +1,32 @@
 #include "KarvelloUI/Screens/Popover/StatusPopoverModel.h"
-#include "Tests/KarvelloUI/Controls/ControlsFixture.h"
+#include "Tests/KarvelloUI/Controls/WindowTest.h"
 #include "Tests/KarvelloUI/MenuBar/MenuBarModelFixture.h"
+
+#include <QSignalSpy>
 
 namespace KarvelloUI {
 
 namespace {
 
 /// The popover in a window of its size.
-class StatusPopover : public Controls {
+class StatusPopover : public WindowTest<MenuBarTests::MenuBarModelTest> {
 protected:
-    struct Status : MenuBarTests::MenuBarModelTest {
-        void TestBody() override {}
-        using MenuBarModelTest::finishRefresh;
-        using MenuBarModelTest::m_defaults;
-        using MenuBarModelTest::m_first;
-        using MenuBarModelTest::m_machine;
-        using MenuBarModelTest::m_model;
-        using MenuBarModelTest::make;
-        using MenuBarModelTest::refreshNow;
-    };
-
     void open(const KarvelloMenuBarStatusSnapshot& machine, AppLanguage language = AppLanguage::english)
     {
-        m_status.m_first = machine;
-        m_status.make();
+        m_first = machine;
+        make();
         ASSERT_TRUE(m_preferences.setLanguage(language));
-        m_popover = std::make_unique<StatusPopoverModel>(*m_status.m_model, m_preferences);
-        show("Item { width: 1; height: 1 }");
-        m_window->resize(360, 540);
-        QQmlComponent component(&m_engine);
-        component.setData("import QtQuick\nimport Karvello.Screens.Popover\n"
-                          "StatusPopover { anchors.fill: parent }",
-            {});
-        ASSERT_TRUE(component.isReady()) << component.errorString().toStdString();
-        auto* const item = qobject_cast<QQuickItem*>(
-            component.createWithInitialProperties({{QStringLiteral("popover"), QVariant::fromValue(m_popover.get())},
-                {QStringLiteral("parent"), QVariant::fromValue(m_window->contentItem())}}));
-        ASSERT_NE(item, nullptr);
-        item->setParent(m_window.get());
-        item->forceActiveFocus();
-        QTest::qWait(50);
+        m_popover = std::make_unique<StatusPopoverModel>(*m_model, m_preferences);
+        showWindow("import Karvello.Screens.Popover\n"
+                   "Window { id: window; required property var popover; width: 360; height: 540; visible: true\n"
+                   "StatusPopover { anchors.fill: parent; focus: true; popover: window.popover } }",
+            {{QStringLiteral("popover"), QVariant::fromValue(m_popover.get())}});
+        layOut();
     }
     /// The window goes before what it shows.
     ~StatusPopover() override { m_window.reset(); }
-    [[nodiscard]] QObject* focused() const { return m_window->activeFocusItem(); }
-    void photograph(const char* name)
-    {
-        if (const QString folder = qEnvironmentVariable("KARVELLO_PHOTOGRAPHS"); !folder.isEmpty()) {
-            QTest::qWait(200);
-            ASSERT_TRUE(m_window->grabWindow().save(folder + QLatin1Char('/') + QLatin1String(name)));
-        }
-    }
 
-    Status m_status;
-    DashboardPreferences m_preferences{m_status.m_defaults, {"en"}};
+    DashboardPreferences m_preferences{m_defaults, {"en"}};
     std::unique_ptr<StatusPopoverModel> m_popover;
 };
 
@@ -123,9 +96,9 @@ TEST_F(StatusPopover, KeepsTheKeyboardOnARowThroughAPoll)
     key(Qt::Key_Tab);
     QObject* const memory = focused();
     ASSERT_EQ(nameOf(memory), "Open Memory Analysis");
-    m_status.m_machine = MenuBarTests::strained();
-    m_status.m_machine.diskFreeBytes = 500;
-    m_status.refreshNow();
+    m_machine = MenuBarTests::strained();
+    m_machine.diskFreeBytes = 500;
+    refreshNow();
     EXPECT_EQ(m_popover->triage()->rowCount(), 2);
     EXPECT_EQ(focused(), memory);
 }
@@ -160,9 +133,8 @@ TEST_F(StatusPopover, FitsItsWordsInEveryLanguageAndScale)
                                   << item->property("text").toString().toStdString();
                 }
             }
-            photograph((std::string("popover-") + std::string(Platform::rawValue(language)) + "-"
-                + std::string(Platform::rawValue(scale)) + ".png")
-                    .c_str());
+            photograph(
+                "popover-" + std::string(Platform::rawValue(language)) + "-" + std::string(Platform::rawValue(scale)));
         }
     }
 }
@@ -175,7 +147,7 @@ TEST_F(StatusPopover, IsPhotographedInBothSchemes)
         const QImage picture = m_window->grabWindow();
         EXPECT_EQ(picture.size(), QSize(360, 540));
         EXPECT_EQ(QColor(picture.pixel(4, 300)), m_design.elevated1());
-        photograph((std::string("popover-") + std::string(Platform::rawValue(mode)) + ".png").c_str());
+        photograph("popover-" + std::string(Platform::rawValue(mode)));
     }
 }
 

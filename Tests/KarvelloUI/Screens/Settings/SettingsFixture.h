@@ -2,6 +2,7 @@
 
 #include "KarvelloUI/Screens/Settings/SettingsScreenModel.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 #include "Tests/KarvelloUI/Sessions/CandidateSamples.h"
 
 #include <QVariantMap>

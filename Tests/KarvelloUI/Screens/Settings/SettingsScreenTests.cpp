@@ -1,4 +1,5 @@
-#include "Tests/KarvelloUI/Controls/ControlsFixture.h"
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
+#include "Tests/KarvelloUI/Controls/WindowTest.h"
 #include "Tests/KarvelloUI/Screens/Settings/SettingsFixture.h"
 
 #include <gmock/gmock.h>
@@ -8,62 +9,34 @@ namespace KarvelloUI {
 namespace {
 
 /// The screen in a window as wide as the content of the smallest window.
-class SettingsScreen : public Controls {
+class SettingsScreen : public WindowTest<DashboardTests::SettingsTest> {
 protected:
-    struct Settings : DashboardTests::SettingsTest {
-        void TestBody() override {}
-        using SettingsTest::addFolder;
-        using SettingsTest::dashboard;
-        using SettingsTest::defaults;
-        using SettingsTest::ignore;
-        using SettingsTest::isDirectDistribution;
-        using SettingsTest::preferences;
-        using SettingsTest::screen;
-        using SettingsTest::skipFolders;
-        using SettingsTest::tree;
-    };
-
     /// The window goes before what it shows.
     ~SettingsScreen() override { m_window.reset(); }
 
     void open(int width = 956, int height = 780)
     {
-        show("Item { width: 1; height: 1 }");
-        m_window->resize(width, height);
-        m_window->setColor(m_design.background());
-        QQmlComponent component(&m_engine);
-        component.setData("import QtQuick\nimport Karvello.Screens.Settings\n"
-                          "SettingsScreen { anchors.fill: parent }",
-            {});
-        ASSERT_TRUE(component.isReady()) << component.errorString().toStdString();
-        m_item = qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-            {{QStringLiteral("screen"), QVariant::fromValue(m_settings.screen.get())},
-                {QStringLiteral("parent"), QVariant::fromValue(m_window->contentItem())}}));
-        ASSERT_NE(m_item, nullptr);
-        m_item->setParent(m_window.get());
-        m_item->forceActiveFocus();
-        QTest::qWait(50);
+        showWindow("import Karvello.Screens.Settings\n"
+                   "Window { id: window; required property var screen; visible: true\n"
+                   "color: KarvelloDesign.background\n"
+                   "SettingsScreen { objectName: 'page'; anchors.fill: parent; focus: true; screen: window.screen } }",
+            {{QStringLiteral("screen"), QVariant::fromValue(screen.get())}, {QStringLiteral("width"), width},
+                {QStringLiteral("height"), height}});
+        m_item = find("page");
+        layOut();
     }
     void fill()
     {
-        m_settings.ignore("home/.cache/mesa_shader_cache", CleanupIgnoreDuration::untilShownAgain, 688'000'000);
-        m_settings.ignore("home/.cache/bazel", CleanupIgnoreDuration::oneDay, 2'200'000'000);
-        m_settings.tree.add("home/Projects/\n");
-        m_settings.addFolder("home/Projects/");
-        m_settings.skipFolders(2);
+        ignore("home/.cache/mesa_shader_cache", CleanupIgnoreDuration::untilShownAgain, 688'000'000);
+        ignore("home/.cache/bazel", CleanupIgnoreDuration::oneDay, 2'200'000'000);
+        tree.add("home/Projects/\n");
+        addFolder("home/Projects/");
+        skipFolders(2);
     }
-    void photograph(const std::string& name)
-    {
-        if (const QString folder = qEnvironmentVariable("KARVELLO_PHOTOGRAPHS"); !folder.isEmpty()) {
-            m_window->setColor(m_design.background());
-            QTest::qWait(200);
-            ASSERT_TRUE(m_window->grabWindow().save(folder + QLatin1Char('/') + QString::fromStdString(name)));
-        }
-    }
-    [[nodiscard]] QQuickItem* focused() const { return m_window->activeFocusItem(); }
     /// Every text that is on show lies within the width of the page, and none is cut off.
     void expectFits() const
     {
+        EXPECT_THAT(Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty());
         for (auto* const item : m_item->findChildren<QQuickItem*>()) {
             if (!item->isVisible() || !item->inherits("QQuickText") || item->property("text").toString().isEmpty()) {
                 continue;
@@ -76,7 +49,6 @@ protected:
         }
     }
 
-    Settings m_settings;
     QQuickItem* m_item = nullptr;
 };
 
@@ -134,24 +106,54 @@ TEST_F(SettingsScreen, MovesInAListByArrowsAndKeepsThePlaceWhenARowGoes)
     EXPECT_EQ(nameOf(focused()), "Show Again, ~/.cache/bazel");
     key(Qt::Key_Space);
     QTest::qWait(20);
-    EXPECT_EQ(m_settings.screen->ignoreList()->count(), 1);
+    EXPECT_EQ(screen->ignoreList()->count(), 1);
     EXPECT_EQ(nameOf(focused()), "Show Again, ~/.cache/mesa_shader_cache");
 }
 
 TEST_F(SettingsScreen, ShowsWhatIsStoredAfterAChoiceThatWasNot)
 {
     open();
-    m_settings.defaults.failAllSaves();
+    defaults.failAllSaves();
     key(Qt::Key_Tab);
     key(Qt::Key_Down);
     key(Qt::Key_Tab);
     key(Qt::Key_Right);
-    EXPECT_EQ(m_settings.defaults.failureCount(), 2U);
+    EXPECT_EQ(defaults.failureCount(), 2U);
     EXPECT_EQ(find("language")->property("currentIndex").toInt(), 1);
     EXPECT_EQ(find("appearance")->property("currentIndex").toInt(), 0);
-    m_settings.defaults.failNoSave();
+    defaults.failNoSave();
     key(Qt::Key_Right);
-    EXPECT_EQ(m_settings.preferences->appearanceMode(), KarvelloAppearanceMode::light);
+    EXPECT_EQ(preferences->appearanceMode(), KarvelloAppearanceMode::light);
+}
+
+TEST_F(SettingsScreen, TellsOneFailureAtATimeTheWorstFirst)
+{
+    fill();
+    open();
+    const auto told = [this] {
+        std::vector<std::string> names;
+        for (const char* const name : {"accessFailure", "ignoreFailure", "foldersFailure"}) {
+            if (find(name)->isVisible()) {
+                names.emplace_back(name);
+            }
+        }
+        return names;
+    };
+    EXPECT_THAT(told(), testing::IsEmpty());
+    defaults.failAllSaves();
+    screen->customFolders()->remove(0);
+    EXPECT_THAT(told(), testing::ElementsAre("foldersFailure"));
+    screen->ignoreList()->clear();
+    EXPECT_THAT(told(), testing::ElementsAre("ignoreFailure"));
+    screen->scan()->grant();
+    fileDialogs.answer(tree.url("home/Projects/"));
+    EXPECT_THAT(told(), testing::ElementsAre("accessFailure"));
+    screen->scan()->dismissError();
+    EXPECT_THAT(told(), testing::ElementsAre("ignoreFailure"));
+    screen->ignoreList()->dismissError();
+    EXPECT_THAT(told(), testing::ElementsAre("foldersFailure"));
+    screen->customFolders()->dismissError();
+    EXPECT_THAT(told(), testing::IsEmpty());
 }
 
 TEST_F(SettingsScreen, StandsInOneColumnWithLargeTexts)
@@ -172,7 +174,7 @@ TEST_F(SettingsScreen, FitsItsWordsInEveryLanguageAndScale)
         m_design.setTextEnvironment({.scale = scale});
         m_window->resize(scale == KarvelloTextScale::extraLarge ? 916 : 956, 780);
         for (const auto language : Platform::allCases<AppLanguage>()) {
-            ASSERT_TRUE(m_settings.preferences->setLanguage(language));
+            ASSERT_TRUE(preferences->setLanguage(language));
             QTest::qWait(30);
             SCOPED_TRACE(std::string(Platform::rawValue(language)) + " " + std::string(Platform::rawValue(scale)));
             expectFits();
@@ -184,21 +186,21 @@ TEST_F(SettingsScreen, LooksAsItShould)
 {
     fill();
     open(1016, 1500);
-    photograph("settings-light.png");
+    photograph("settings-light");
     m_design.setAppearanceMode(KarvelloAppearanceMode::dark);
-    photograph("settings-dark.png");
+    photograph("settings-dark");
     m_design.setAppearanceMode(KarvelloAppearanceMode::light);
     m_window->resize(956, 1600);
     for (const auto language : {AppLanguage::german, AppLanguage::japanese}) {
-        ASSERT_TRUE(m_settings.preferences->setLanguage(language));
-        photograph("settings-" + std::string(Platform::rawValue(language)) + ".png");
+        ASSERT_TRUE(preferences->setLanguage(language));
+        photograph("settings-" + std::string(Platform::rawValue(language)));
     }
     m_design.setTextEnvironment({.scale = KarvelloTextScale::extraLarge});
     m_window->resize(916, 780);
-    ASSERT_TRUE(m_settings.preferences->setLanguage(AppLanguage::german));
-    photograph("settings-xl-window.png");
+    ASSERT_TRUE(preferences->setLanguage(AppLanguage::german));
+    photograph("settings-xl-window");
     m_window->resize(916, 3200);
-    photograph("settings-xl.png");
+    photograph("settings-xl");
     EXPECT_TRUE(m_item->isVisible());
 }
 

@@ -59,6 +59,29 @@ TEST_F(StorageMapScreenTest, HasACellForEachFolderWithASizeAndARowForEach)
     EXPECT_TRUE(screen.tableSummary().endsWith(QStringLiteral("· 6 areas")));
 }
 
+/// The folder of the downloads, as the user has set it up: one line of a file names it.
+class StorageMapScreenOfAHostileName : public StorageMapScreenTest {
+protected:
+    StorageMapScreenOfAHostileName()
+        : StorageMapScreenTest("home/\"\\xE2\\x80\\xAEa\\xE2\\x80\\x8B<b>&amp;\\xFF\"/film size=128K age=40d\n"
+                               "home/.config/user-dirs.dirs text=\"XDG_DOWNLOAD_DIR=\\\"$HOME/"
+                               "\\xE2\\x80\\xAEa\\xE2\\x80\\x8B<b>&amp;\\xFF\\\"\"\n")
+    {
+    }
+};
+
+TEST_F(StorageMapScreenOfAHostileName, ShowsItWithEscapesAndOpensTheFolder)
+{
+    StorageMapScreenModel screen(*dashboard);
+    scan();
+    const auto areas = read(screen.areas());
+    ASSERT_GE(areas.size(), 1U);
+    EXPECT_EQ(areas[0].name.toStdString(), "\\u202ea\\u200b<b>&amp;\\xFF");
+    EXPECT_EQ(areas[0].path.toStdString(), "~/\\u202ea\\u200b<b>&amp;\\xFF");
+    screen.reveal(0);
+    EXPECT_THAT(fileViewer.selected, ElementsAre(tree.path("home/\u202Ea\u200B<b>&amp;\xFF")));
+}
+
 TEST_F(StorageMapScreenTest, HasTheColoursOfTheSchemeOnShow)
 {
     StorageMapScreenModel screen(*dashboard);
@@ -151,9 +174,15 @@ TEST_F(StorageMapScreenTest, TellsAssistantsNameSizeCountAndShare)
     focus("table");
     key(Qt::Key_End);
     const auto* const row = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    comeAgainAsAssistant();
     EXPECT_EQ(row->role(), QAccessible::ListItem);
     EXPECT_TRUE(row->state().selected);
     EXPECT_EQ(nameOf(m_window->activeFocusItem()), "Music, 0 bytes, 0 items, 0% of the largest area, ~/Music");
+    focus("map");
+    key(Qt::Key_Home);
+    const auto* const cell = QAccessible::queryAccessibleInterface(m_window->activeFocusItem());
+    EXPECT_EQ(cell->role(), QAccessible::ListItem);
+    EXPECT_TRUE(cell->state().selected);
 }
 
 TEST_F(StorageMapScreenTest, HasRoomForAllTexts)

@@ -102,8 +102,7 @@ TEST_F(SystemScreenModel, SaysHowThingsStandInAPill)
         KarvelloPillKind kind;
     };
     for (const auto& [heat, kind] : {Case{"Nominal", KarvelloPillKind::safe}, Case{"Fair", KarvelloPillKind::caution},
-             Case{"Serious", KarvelloPillKind::review}, Case{"Critical", KarvelloPillKind::review},
-             Case{"Unknown", KarvelloPillKind::neutral}}) {
+             Case{"Serious", KarvelloPillKind::review}, Case{"Critical", KarvelloPillKind::review}}) {
         auto snapshot = machine();
         snapshot.thermalState = heat;
         sample(snapshot);
@@ -116,6 +115,18 @@ TEST_F(SystemScreenModel, SaysHowThingsStandInAPill)
     sample(machine(0.1, 0.9));
     EXPECT_EQ(plain(screen->memory().pillText), "High");
     EXPECT_EQ(screen->memory().pillKind, static_cast<int>(KarvelloPillKind::review));
+}
+
+TEST_F(SystemScreenModel, ShowsADashForAStateThatNobodyKnows)
+{
+    open();
+    auto snapshot = machine();
+    snapshot.thermalState = "Unknown";
+    snapshot.memoryPressure = "Unknown";
+    sample(snapshot);
+    EXPECT_EQ(plain(screen->thermal().figure), "—");
+    EXPECT_EQ(plain(screen->thermal().pillText), "");
+    EXPECT_EQ(plain(screen->memory().pillText), "");
 }
 
 TEST_F(SystemScreenModel, ShowsTheDiskAndWhetherItIsLow)

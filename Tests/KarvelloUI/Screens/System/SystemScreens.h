@@ -2,6 +2,7 @@
 
 #include "KarvelloUI/Design/KarvelloPill.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
+#include "Tests/KarvelloUI/Dashboard/HostileName.h"
 
 #include <cstdint>
 #include <string>

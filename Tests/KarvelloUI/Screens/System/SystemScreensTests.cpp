@@ -1,10 +1,9 @@
 #include "KarvelloUI/Screens/System/ReliefScreenModel.h"
 #include "KarvelloUI/Screens/System/SystemScreenModel.h"
-#include "Tests/KarvelloUI/Controls/ControlsFixture.h"
+#include "Tests/KarvelloUI/Controls/Tidiness.h"
+#include "Tests/KarvelloUI/Controls/WindowTest.h"
 #include "Tests/KarvelloUI/Screens/System/SystemScreens.h"
 
-#include <QImage>
-#include <array>
 #include <cmath>
 #include <gmock/gmock.h>
 
@@ -17,66 +16,40 @@ constexpr int kWidth = 1180 - 224;
 constexpr int kHeight = 780;
 
 /// A screen in a window of the smallest size.
-class SystemScreens : public Controls {
+class SystemScreens : public WindowTest<SystemScreenTests::SystemScreensTest> {
 protected:
-    struct Machine : SystemScreenTests::SystemScreensTest {
-        void TestBody() override {}
-        using DashboardTest::applications;
-        using DashboardTest::capability;
-        using DashboardTest::dashboard;
-        using DashboardTest::disk;
-        using DashboardTest::preferences;
-        using DashboardTest::quitRequests;
-        using DashboardTest::systemSnapshotsTaken;
-        using DashboardTest::tools;
-        using SessionTest::loop;
-        using SessionTest::settle;
-        using SystemScreensTest::refreshApplications;
-        using SystemScreensTest::sample;
-        using SystemScreensTest::startApplications;
-    };
-
     ~SystemScreens() override { m_window.reset(); }
 
     void live()
     {
-        m_machine.disk = {.totalBytes = std::int64_t{476} << 30, .freeBytes = std::int64_t{186} << 30};
-        m_machine.dashboard->refreshDiskSnapshot();
+        disk = {.totalBytes = std::int64_t{476} << 30, .freeBytes = std::int64_t{186} << 30};
+        dashboard->refreshDiskSnapshot();
         for (int step = 0; step < 24; ++step) {
             const double wave = std::sin(step * 0.9) + std::sin(step * 0.37);
-            m_machine.sample(SystemScreenTests::machine(0.35 + 0.15 * wave, 0.7 + 0.01 * wave));
+            sample(SystemScreenTests::machine(0.35 + 0.15 * wave, 0.7 + 0.01 * wave));
         }
-        m_machine.startApplications();
+        startApplications();
     }
     void place(const char* type, QObject* model)
     {
-        show("Item { width: 1; height: 1 }");
-        m_window->resize(kWidth, kHeight);
-        QQmlComponent component(&m_engine);
-        component.setData(QByteArray("import QtQuick\nimport Karvello.Design\nimport Karvello.Screens.System\n"
-                                     "Rectangle { id: root; anchors.fill: parent; color: KarvelloDesign.background\n"
-                                     "required property var model\n")
-                + type + " { objectName: 'screen'; anchors.fill: parent; screen: root.model } }",
-            {});
-        ASSERT_TRUE(component.isReady()) << component.errorString().toStdString();
-        auto* const item = qobject_cast<QQuickItem*>(
-            component.createWithInitialProperties({{QStringLiteral("model"), QVariant::fromValue(model)},
-                {QStringLiteral("parent"), QVariant::fromValue(m_window->contentItem())}}));
-        ASSERT_NE(item, nullptr);
-        item->setParent(m_window.get());
-        QTest::qWait(50);
+        showWindow(QByteArray("import Karvello.Screens.System\n"
+                              "Window { id: window; required property var model; visible: true\n"
+                              "color: KarvelloDesign.background\n")
+                + type + " { objectName: 'screen'; anchors.fill: parent; screen: window.model } }",
+            {{QStringLiteral("model"), QVariant::fromValue(model)}, {QStringLiteral("width"), kWidth},
+                {QStringLiteral("height"), kHeight}});
+        layOut();
     }
     void placePulse()
     {
-        m_pulse = std::make_unique<SystemScreenModel>(*m_machine.dashboard);
+        m_pulse = std::make_unique<SystemScreenModel>(*dashboard);
         place("SystemScreen", m_pulse.get());
     }
     void placeRelief(ResourceReliefMetric metric)
     {
-        m_relief = std::make_unique<ReliefScreenModel>(*m_machine.dashboard, metric);
+        m_relief = std::make_unique<ReliefScreenModel>(*dashboard, metric);
         place("ReliefScreen", m_relief.get());
     }
-    [[nodiscard]] QObject* focused() const { return m_window->activeFocusItem(); }
     void setScale(KarvelloTextScale scale)
     {
         m_design.setTextEnvironment({.scale = scale});
@@ -86,6 +59,8 @@ protected:
     /// Nothing is cut without a way to read it, and nothing is wider than the window.
     void expectThatAllFits(const std::string& which)
     {
+        EXPECT_THAT(Tidiness::faultsOf(*m_window->contentItem()), testing::IsEmpty()) << which;
+        EXPECT_GT(Tidiness::countTexts(*m_window->contentItem()), 8U);
         for (const auto* item : m_window->findChildren<QQuickItem*>()) {
             if (!item->isVisible() || item->width() <= 0) {
                 continue;
@@ -100,34 +75,26 @@ protected:
             }
         }
     }
-    void photograph(const std::string& name)
-    {
-        if (const QString folder = qEnvironmentVariable("KARVELLO_PHOTOGRAPHS"); !folder.isEmpty()) {
-            QTest::qWait(100);
-            ASSERT_TRUE(m_window->grabWindow().save(folder + QLatin1Char('/') + QString::fromStdString(name)));
-        }
-    }
     void lookAtAll(const std::string& name)
     {
         for (const auto language : Platform::allCases<AppLanguage>()) {
-            ASSERT_TRUE(m_machine.preferences->setLanguage(language));
-            m_machine.loop.handleEvents();
+            ASSERT_TRUE(preferences->setLanguage(language));
+            loop.handleEvents();
             for (const auto scale : {KarvelloTextScale::standard, KarvelloTextScale::extraLarge}) {
                 setScale(scale);
                 const std::string which = name + "-" + std::string(Platform::rawValue(language)) + "-"
                     + std::string(Platform::rawValue(scale));
                 expectThatAllFits(which);
-                photograph(which + ".png");
+                photograph(which);
             }
         }
-        ASSERT_TRUE(m_machine.preferences->setLanguage(AppLanguage::english));
-        m_machine.loop.handleEvents();
+        ASSERT_TRUE(preferences->setLanguage(AppLanguage::english));
+        loop.handleEvents();
         setScale(KarvelloTextScale::standard);
         m_design.setAppearanceMode(KarvelloAppearanceMode::dark);
-        photograph(name + "-dark.png");
+        photograph(name + "-dark");
     }
 
-    Machine m_machine;
     std::unique_ptr<SystemScreenModel> m_pulse;
     std::unique_ptr<ReliefScreenModel> m_relief;
 };
@@ -142,8 +109,7 @@ TEST_F(SystemScreens, FitThePulseInEveryLanguageAndScale)
 TEST_F(SystemScreens, FitTheAnalysesInEveryLanguageAndScale)
 {
     live();
-    m_machine.dashboard->resourceRelief().setSelected(
-        m_machine.dashboard->resourceRelief().memorySortedCandidates().front(), true);
+    dashboard->resourceRelief().setSelected(dashboard->resourceRelief().memorySortedCandidates().front(), true);
     placeRelief(ResourceReliefMetric::memory);
     lookAtAll("memory");
     m_window.reset();
@@ -158,26 +124,26 @@ TEST_F(SystemScreens, FitWhatBecameOfARequestAndWhatIsNotPossible)
     m_relief->toggle(0);
     m_relief->toggle(1);
     m_relief->requestQuit();
-    m_machine.dashboard->quitSelected();
-    m_machine.settle();
+    dashboard->quitSelected();
+    settle();
     QTest::qWait(50);
     EXPECT_TRUE(find("results")->isVisible());
     expectThatAllFits("results");
-    photograph("memory-results.png");
+    photograph("memory-results");
     press(find("dismiss"));
     EXPECT_FALSE(find("results")->isVisible());
-    m_machine.capability = CleanerCore::ResourceReliefCapability::appSandbox();
-    m_machine.refreshApplications();
+    capability = CleanerCore::ResourceReliefCapability::appSandbox();
+    refreshApplications();
     QTest::qWait(50);
     EXPECT_TRUE(find("limit")->isVisible());
     expectThatAllFits("sandbox");
-    photograph("memory-sandbox.png");
-    m_machine.applications.clear();
-    m_machine.capability = CleanerCore::ResourceReliefCapability::supported();
-    m_machine.refreshApplications();
+    photograph("memory-sandbox");
+    applications.clear();
+    capability = CleanerCore::ResourceReliefCapability::supported();
+    refreshApplications();
     QTest::qWait(50);
     EXPECT_TRUE(find("empty")->isVisible());
-    photograph("memory-empty.png");
+    photograph("memory-empty");
 }
 
 TEST_F(SystemScreens, SelectByKeyboardInsideOneStopForTheList)
@@ -193,13 +159,13 @@ TEST_F(SystemScreens, SelectByKeyboardInsideOneStopForTheList)
     key(Qt::Key_Space);
     key(Qt::Key_Down);
     key(Qt::Key_Space);
-    EXPECT_EQ(m_machine.dashboard->resourceRelief().selectedCount(), 2);
+    EXPECT_EQ(dashboard->resourceRelief().selectedCount(), 2);
     EXPECT_TRUE(spoken(focused())->state().checked);
     key(Qt::Key_End);
     EXPECT_EQ(nameOf(focused()).substr(0, 13), "Karvello uses");
     EXPECT_FALSE(spoken(focused())->state().checkable) << "a lock is no box";
     key(Qt::Key_Space);
-    EXPECT_EQ(m_machine.dashboard->resourceRelief().selectedCount(), 2);
+    EXPECT_EQ(dashboard->resourceRelief().selectedCount(), 2);
     key(Qt::Key_Tab);
     EXPECT_EQ(focused(), find("requestQuit")) << "the list is one stop";
     key(Qt::Key_Backtab);
@@ -214,8 +180,8 @@ TEST_F(SystemScreens, KeepTheKeyboardOnAnApplicationThatMovesInTheList)
     list->forceActiveFocus(Qt::TabFocusReason);
     key(Qt::Key_Down);
     ASSERT_EQ(nameOf(focused()).substr(0, 10), "Krita uses");
-    m_machine.applications[0].usage.memoryFractionOfPhysicalMemory = 0.5;
-    m_machine.refreshApplications();
+    applications[0].usage.memoryFractionOfPhysicalMemory = 0.5;
+    refreshApplications();
     QTest::qWait(20);
     EXPECT_EQ(nameOf(focused()), "Krita uses 50% of total physical memory, org.kde.krita · 1.92 GB");
     EXPECT_EQ(list->property("currentIndex").toInt(), 0);
@@ -226,19 +192,19 @@ TEST_F(SystemScreens, ActByTheirShortcuts)
     live();
     placeRelief(ResourceReliefMetric::cpu);
     key(Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_FALSE(m_machine.dashboard->isShowingResourceReliefConfirmation());
+    EXPECT_FALSE(dashboard->isShowingResourceReliefConfirmation());
     m_relief->toggle(0);
     key(Qt::Key_Return, Qt::ControlModifier);
-    EXPECT_TRUE(m_machine.dashboard->isShowingResourceReliefConfirmation());
-    EXPECT_TRUE(m_machine.quitRequests.empty());
-    m_machine.dashboard->cancelConfirmation();
+    EXPECT_TRUE(dashboard->isShowingResourceReliefConfirmation());
+    EXPECT_TRUE(quitRequests.empty());
+    dashboard->cancelConfirmation();
     key(Qt::Key_A, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(m_machine.dashboard->resourceRelief().selectedCount(), 0);
-    const int before = m_machine.systemSnapshotsTaken;
+    EXPECT_EQ(dashboard->resourceRelief().selectedCount(), 0);
+    const int before = systemSnapshotsTaken;
     key(Qt::Key_R, Qt::ControlModifier);
     EXPECT_TRUE(m_relief->isRefreshing());
-    m_machine.settle();
-    EXPECT_EQ(m_machine.systemSnapshotsTaken, before + 1);
+    settle();
+    EXPECT_EQ(systemSnapshotsTaken, before + 1);
 }
 
 TEST_F(SystemScreens, LeaveTheirShortcutsToOthersWhileHidden)
@@ -255,7 +221,7 @@ TEST_F(SystemScreens, OpenTheSystemMonitor)
     live();
     placePulse();
     press(find("monitor"));
-    EXPECT_EQ(m_machine.tools.systemMonitorRequests, 1);
+    EXPECT_EQ(tools.systemMonitorRequests, 1);
 }
 
 TEST_F(SystemScreens, SpeakEachFigureWithItsCourse)
@@ -276,8 +242,12 @@ TEST_F(SystemScreens, SelectByAnAssistant)
     placeRelief(ResourceReliefMetric::memory);
     auto* const list = find("candidates");
     list->forceActiveFocus(Qt::TabFocusReason);
+    QAccessible::setActive(false);
+    QAccessible::setActive(true);
+    EXPECT_EQ(spoken(focused())->role(), QAccessible::CheckBox);
     toggle(focused());
-    EXPECT_EQ(m_machine.dashboard->resourceRelief().selectedCount(), 1);
+    EXPECT_EQ(dashboard->resourceRelief().selectedCount(), 1);
+    EXPECT_TRUE(spoken(focused())->state().checked);
 }
 
 } // namespace

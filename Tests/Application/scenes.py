@@ -225,7 +225,8 @@ class Studio:
             application.press("Down")
         # The mark of the keyboard goes with the focus, and a click brings that back.
         item = application.shown.wait_for(lambda name: True, "list item", ["selected"])
-        x, y, width, height = item.place()
+        # Assistants are told places in the window's own pixels.
+        x, y, width, height = (self._options.factor * length for length in item.place())
         x += width // 2
         y += height // 2
         neighbour = y + height if section in ("dashboard", "map", "system") else y - height

@@ -31,7 +31,7 @@ Rectangle {
             id: disk
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredWidth: control.isWide ? Math.max(control.leastDiskWidth, 0.4 * control.width) : control.width
+            Layout.preferredWidth: control.isWide ? Math.max(control.leastDiskWidth, 0.36 * control.width) : control.width
             hero: control.hero
         }
         RowLayout {

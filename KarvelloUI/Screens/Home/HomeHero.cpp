@@ -13,6 +13,14 @@ namespace {
 
 constexpr const char* kNoFigure = "—";
 
+/// "3 / 16 GB": a unit that both have is said once, so that the text stays beside its figure as that changes.
+std::string shareText(const std::string& part, const std::string& whole)
+{
+    const auto space = part.rfind(' ');
+    const bool hasOneUnit = space != std::string::npos && whole.ends_with(std::string_view(part).substr(space));
+    return fmt::format("{} / {}", hasOneUnit ? std::string_view(part).substr(0, space) : part, whole);
+}
+
 /// What all three have in common.
 MetricTile metric(
     QString iconName, const std::string& name, std::span<const double> samples, const DashboardWords& words)
@@ -68,7 +76,7 @@ std::vector<MetricTile> metrics(const CleanerCore::SystemResourceSnapshot& snaps
     if (snapshot.physicalMemoryBytes > 0) {
         memory.figure = shown(percentText(
             static_cast<double>(snapshot.usedMemoryBytes) / static_cast<double>(snapshot.physicalMemoryBytes)));
-        memory.unit = shown(fmt::format("{} / {}", words.byteSize(static_cast<std::int64_t>(snapshot.usedMemoryBytes)),
+        memory.unit = shown(shareText(words.byteSize(static_cast<std::int64_t>(snapshot.usedMemoryBytes)),
             words.byteSize(static_cast<std::int64_t>(snapshot.physicalMemoryBytes))));
         memory.text =
             isKnownState(snapshot.memoryPressure) ? shown(words.localizedPressure(snapshot.memoryPressure)) : QString();

@@ -53,7 +53,7 @@ TEST(HomeMetrics, AMachineWithoutSensorsHasEverythingElse)
         historyOf({0.1, 0.1}), kEnglish);
     EXPECT_EQ(shown.at(0).figure, QStringLiteral("25%"));
     EXPECT_EQ(shown.at(1).figure, QStringLiteral("50%"));
-    EXPECT_EQ(shown.at(1).unit, QStringLiteral("8 GB / 16 GB"));
+    EXPECT_EQ(shown.at(1).unit, QStringLiteral("8 / 16 GB"));
     EXPECT_EQ(shown.at(1).text, QString());
     EXPECT_EQ(shown.at(2).figure, QStringLiteral("—"));
     EXPECT_EQ(shown.at(2).text, QStringLiteral("No reading"));
@@ -61,6 +61,13 @@ TEST(HomeMetrics, AMachineWithoutSensorsHasEverythingElse)
     // No curve of what nobody measured.
     EXPECT_EQ(shown.at(2).samples.size(), 0);
     EXPECT_EQ(shown.at(2).emptyText, QStringLiteral("No samples"));
+}
+
+TEST(HomeMetrics, DifferentUnitsAreBothSaid)
+{
+    const auto shown =
+        metrics({.physicalMemoryBytes = 1ULL << 30, .usedMemoryBytes = 512ULL << 20}, historyOf({}), kEnglish);
+    EXPECT_EQ(shown.at(1).unit, QStringLiteral("512 MB / 1 GB"));
 }
 
 TEST(HomeMetrics, ALoadThatIsNoNumberIsNotShownAsOne)

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Karvello.Design
 
 // Areas as large as what they hold. The cells are a list of { id, name, sizeText, countText, partialText, shareText, tint,
@@ -70,8 +71,10 @@ FocusScope {
             return
         selected(cells[index].id)
         currentIndex = index
-        const item = repeater.itemAt(index) as Item
+        const item = repeater.itemAt(index) as T.Control
         item.forceActiveFocus(Qt.TabFocusReason)
+        // The selection may have given it the focus already, and then nobody would see it.
+        item.focusReason = Qt.TabFocusReason
     }
 
     implicitWidth: 480

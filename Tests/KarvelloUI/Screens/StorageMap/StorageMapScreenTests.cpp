@@ -142,6 +142,7 @@ TEST_F(StorageMapScreenTest, IsOneSelectionForMapAndTable)
     EXPECT_EQ(find("table")->property("currentIndex").toInt(), 0);
     key(Qt::Key_Right);
     ASSERT_GT(screen.selectedId(), 0);
+    EXPECT_TRUE(focused("visualFocus").toBool());
     const auto cells = read(screen.cells());
     const auto& reached = cells[static_cast<std::size_t>(screen.selectedId())];
     EXPECT_GE(reached.x, cells[0].x + cells[0].width) << "it lies at the right";
@@ -164,6 +165,26 @@ TEST_F(StorageMapScreenTest, MarksInTheTableWhatThePointerIsOverOnTheMap)
         }
     }
     EXPECT_EQ(marked, 2);
+}
+
+TEST_F(StorageMapScreenTest, TellsOfTheAreaUnderThePointerOrElseOfTheSelectedOne)
+{
+    auto& screen = show<StorageMapScreenModel>("Karvello.Screens.StorageMap", "StorageMapScreen");
+    scan();
+    m_window->grabWindow();
+    const auto shows = [this](const QString& text) {
+        const auto texts = find("told")->childItems();
+        return std::ranges::any_of(texts,
+            [&](const QQuickItem* item) { return item->isVisible() && item->property("text").toString() == text; });
+    };
+    EXPECT_TRUE(shows(screen.detailHint()));
+    screen.select(1);
+    EXPECT_TRUE(shows(read(screen.areas())[1].name));
+    EXPECT_TRUE(shows(read(screen.areas())[1].detailText));
+    QMetaObject::invokeMethod(find("map"), "hovered", Q_ARG(QVariant, 2));
+    EXPECT_TRUE(shows(read(screen.areas())[2].name));
+    EXPECT_FALSE(shows(read(screen.areas())[1].name));
+    EXPECT_FALSE(shows(screen.detailHint()));
 }
 
 TEST_F(StorageMapScreenTest, TellsAssistantsNameSizeCountAndShare)

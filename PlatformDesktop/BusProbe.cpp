@@ -14,6 +14,7 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
+#include <utility>
 
 namespace PlatformDesktop::BusProbe {
 
@@ -87,35 +88,79 @@ std::string hello()
     return message;
 }
 
-/// Everything that a client has to say before it hears the first message.
-std::string greeting()
+std::string authentication()
 {
     std::string user;
     for (const char digit : std::to_string(geteuid())) {
         user += fmt::format("{:02x}", static_cast<unsigned>(digit));
     }
-    return std::string(1, '\0') + "AUTH EXTERNAL " + user + "\r\nBEGIN\r\n" + hello();
+    return std::string(1, '\0') + "AUTH EXTERNAL " + user + "\r\n";
 }
 
-/// The line that lets one in, and the answer to the call behind it; nothing while there is too little to tell.
-std::optional<bool> isWelcome(std::string_view heard)
+/// Whether the line that lets one in was heard; nothing while there is too little to tell.
+std::optional<bool> isLetIn(std::string_view heard)
 {
     constexpr std::string_view kOK = "OK ";
     constexpr std::size_t kLongestLine = 16'384;
-    const auto end = heard.find("\r\n");
-    if (!kOK.starts_with(heard.substr(0, kOK.size()))) {
+    if (!kOK.starts_with(heard.substr(0, kOK.size())) || heard.size() > kLongestLine) {
         return false;
     }
-    if (end == std::string_view::npos) {
-        return heard.size() > kLongestLine ? std::optional(false) : std::nullopt;
-    }
-    const auto message = heard.substr(end + 2);
-    if (message.size() < 2) {
+    return heard.ends_with("\r\n") ? std::optional(true) : std::nullopt;
+}
+
+std::optional<bool> isReply(std::string_view heard)
+{
+    if (heard.size() < 2) {
         return std::nullopt;
     }
     constexpr char kReply = 2;
-    return (message[0] == 'l' || message[0] == 'B') && message[1] == kReply;
+    return (heard[0] == 'l' || heard[0] == 'B') && heard[1] == kReply;
 }
+
+class Conversation {
+public:
+    Conversation(Platform::FileDescriptor connection, Clock::time_point end)
+        : m_connection(std::move(connection))
+        , m_end(end)
+    {
+    }
+
+    /// Whether what is heard upon these words is right; false if it does not come in time.
+    bool succeeds(const std::string& words, std::optional<bool> (*isRight)(std::string_view))
+    {
+        if (!m_connection.isOpen()
+            || ::send(m_connection.get(), words.data(), words.size(), MSG_NOSIGNAL) != std::ssize(words)) {
+            return false;
+        }
+        std::string heard;
+        std::optional<bool> answer;
+        while (!answer) {
+            std::array<char, 1024> buffer{};
+            const auto count = waitForWords() ? ::read(m_connection.get(), buffer.data(), buffer.size()) : 0;
+            if (count <= 0) {
+                return false;
+            }
+            heard.append(buffer.data(), static_cast<std::size_t>(count));
+            answer = isRight(heard);
+        }
+        return *answer;
+    }
+
+private:
+    [[nodiscard]] bool waitForWords() const
+    {
+        pollfd readable{.fd = m_connection.get(), .events = POLLIN, .revents = 0};
+        int found = -1;
+        do {
+            const auto left = std::chrono::ceil<std::chrono::milliseconds>(m_end - Clock::now()).count();
+            found = ::poll(&readable, 1, static_cast<int>(std::max<decltype(left)>(left, 0)));
+        } while (found < 0 && errno == EINTR);
+        return found > 0;
+    }
+
+    Platform::FileDescriptor m_connection;
+    Clock::time_point m_end;
+};
 
 } // namespace
 
@@ -126,30 +171,8 @@ bool mayAnswer(std::string_view address, std::chrono::milliseconds patience)
     if (!name) {
         return true;
     }
-    const auto connection = connectTo(*name, !name->starts_with('\0'));
-    const auto words = greeting();
-    if (!connection.isOpen()
-        || ::send(connection.get(), words.data(), words.size(), MSG_NOSIGNAL) != std::ssize(words)) {
-        return false;
-    }
-    std::string heard;
-    while (true) {
-        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
-        pollfd readable{.fd = connection.get(), .events = POLLIN, .revents = 0};
-        const int found = left > 0 ? ::poll(&readable, 1, static_cast<int>(left)) : 0;
-        if (found == 0 || (found < 0 && errno != EINTR)) {
-            return false;
-        }
-        std::array<char, 1024> buffer{};
-        const auto count = found > 0 ? ::read(connection.get(), buffer.data(), buffer.size()) : 0;
-        if (found > 0 && count <= 0) {
-            return false;
-        }
-        heard.append(buffer.data(), static_cast<std::size_t>(count));
-        if (const auto answer = isWelcome(heard)) {
-            return *answer;
-        }
-    }
+    Conversation conversation(connectTo(*name, !name->starts_with('\0')), end);
+    return conversation.succeeds(authentication(), isLetIn) && conversation.succeeds("BEGIN\r\n" + hello(), isReply);
 }
 
 } // namespace PlatformDesktop::BusProbe

@@ -4,11 +4,13 @@
 #include "Tests/Support/TemporaryTree.h"
 
 #include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -16,22 +18,26 @@ using namespace std::chrono_literals;
 using DesktopTestSupport::PrivateBus;
 using PlatformDesktop::BusProbe::mayAnswer;
 
-/// A socket with an address of buses. It takes one connection and says its words; without words it takes none, which a
-/// client sees as silence.
+/// A socket with an address of buses. It takes one connection, and answers each time that it is spoken to with the next of
+/// its sentences; without any it takes none, which a client sees as silence.
 class FalseBus {
 public:
-    explicit FalseBus(std::string words = {})
-        : m_words(std::move(words))
+    explicit FalseBus(std::vector<std::string> sentences = {})
+        : m_sentences(std::move(sentences))
     {
         sockaddr_un place{};
         place.sun_family = AF_UNIX;
         std::ranges::copy(m_tree.path("bus"), place.sun_path);
         EXPECT_EQ(bind(m_socket.get(), reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
         EXPECT_EQ(listen(m_socket.get(), 1), 0);
-        if (!m_words.empty()) {
+        if (!m_sentences.empty()) {
             m_speaker = std::jthread([this] {
                 const Platform::FileDescriptor taken(accept(m_socket.get(), nullptr, nullptr));
-                EXPECT_EQ(send(taken.get(), m_words.data(), m_words.size(), MSG_NOSIGNAL), std::ssize(m_words));
+                for (const auto& sentence : m_sentences) {
+                    std::array<char, 1024> heard{};
+                    EXPECT_GT(recv(taken.get(), heard.data(), heard.size(), 0), 0);
+                    EXPECT_EQ(send(taken.get(), sentence.data(), sentence.size(), MSG_NOSIGNAL), std::ssize(sentence));
+                }
             });
         }
     }
@@ -39,7 +45,7 @@ public:
     [[nodiscard]] std::string address() const { return "unix:path=" + m_tree.path("bus"); }
 
 private:
-    const std::string m_words;
+    const std::vector<std::string> m_sentences;
     TestSupport::TemporaryTree m_tree{""};
     Platform::FileDescriptor m_socket{socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)};
     std::jthread m_speaker;
@@ -67,18 +73,18 @@ TEST(BusProbe, GivesUpOnSilence)
 
 TEST(BusProbe, KnowsNonsense)
 {
-    for (const std::string words : {"HTTP/1.1 400 Bad Request\r\n\r\n", "REJECTED EXTERNAL\r\n",
-             "OK and \xff\xfe\r\nmore\r\n", "OK 0123\r\nl\3", "OK", "\n"}) {
-        const FalseBus bus(words);
-        EXPECT_FALSE(mayAnswer(bus.address(), 10s)) << words;
+    const std::vector<std::vector<std::string>> conversations{{"HTTP/1.1 400 Bad Request\r\n\r\n"},
+        {"REJECTED EXTERNAL\r\n"}, {"OK"}, {"\n"}, {"OK " + std::string(20'000, 'x')},
+        {"OK 0123\r\n", "ERROR \xff\xfe\r\n"}, {"OK 0123\r\n", "l\3"}, {"OK 0123\r\n", "l"}};
+    for (const auto& sentences : conversations) {
+        const FalseBus bus(sentences);
+        EXPECT_FALSE(mayAnswer(bus.address(), 10s)) << sentences.back();
     }
-    const FalseBus endless(std::string("OK ") + std::string(20'000, 'x'));
-    EXPECT_FALSE(mayAnswer(endless.address(), 10s));
 }
 
 TEST(BusProbe, HearsTheAnswerOfAnotherKindOfMachine)
 {
-    const FalseBus bus("OK 0123\r\nB\2");
+    const FalseBus bus({"OK 0123\r\n", "B\2"});
     EXPECT_TRUE(mayAnswer(bus.address(), 10s));
 }
 

@@ -151,15 +151,12 @@ class NoBus(ApplicationTest):
                 server = FalseBus(address, behaviour) if behaviour != "absent" else None
                 application = self.start(DBUS_SESSION_BUS_ADDRESS=f"unix:path={address}")
                 application.wait_for_window()
-                print(behaviour, "window after", time.monotonic() - application.started)
                 wait_until(lambda: self.is_drawn(application), "the window is drawn")
                 shown = self.picture(application).rows
                 application.press("ctrl+2")
                 wait_until(lambda: self.picture(application).rows != shown, "another section")
-                print(behaviour, "reacts after", time.monotonic() - application.started)
                 application.close_window()
                 self.assertEqual(application.wait_for_end(), 0)
-                print(behaviour, "ended after", time.monotonic() - application.started)
                 if server:
                     self.assertTrue(server.was_asked())
                     server.close()

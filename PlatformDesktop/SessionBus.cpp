@@ -62,10 +62,19 @@ SessionBus::~SessionBus()
 
 bool SessionBus::isOffered(const Platform::Environment& environment)
 {
+    const auto address = addressIn(environment);
+    return address && *address != kNoBus;
+}
+
+std::optional<std::string> SessionBus::addressIn(const Platform::Environment& environment)
+{
+    if (auto address = environment.value(kAddressVariable)) {
+        return address;
+    }
     struct stat socket{};
     const auto runtime = environment.value("XDG_RUNTIME_DIR");
-    const bool hasUserBus = runtime && stat((*runtime + "/bus").c_str(), &socket) == 0;
-    return hasUserBus || environment.value("DBUS_SESSION_BUS_ADDRESS").has_value();
+    const auto place = runtime.value_or("") + "/bus";
+    return runtime && stat(place.c_str(), &socket) == 0 ? std::optional("unix:path=" + place) : std::nullopt;
 }
 
 // Desktop Entry Specification, "D-Bus Activation".

@@ -28,6 +28,10 @@ public:
         std::int32_t process = 0;
     };
 
+    static constexpr const char* kAddressVariable = "DBUS_SESSION_BUS_ADDRESS";
+    /// An address that no library connects to.
+    static constexpr const char* kNoBus = "disabled:";
+
     SessionBus();
     SessionBus(const SessionBus&) = delete;
     SessionBus& operator=(const SessionBus&) = delete;
@@ -35,6 +39,8 @@ public:
 
     /// Without one, the library would look for a bus, and start one.
     [[nodiscard]] static bool isOffered(const Platform::Environment& environment);
+    /// Where libraries look for it.
+    [[nodiscard]] static std::optional<std::string> addressIn(const Platform::Environment& environment);
 
     /// Where an application whose name on the bus is `identifier` puts its objects.
     [[nodiscard]] static QString objectPathOf(const std::string& identifier);

@@ -2,10 +2,12 @@
 #include "KarvelloMac/KarvelloMacAppDelegate.h"
 #include "KarvelloMac/MacOptions.h"
 #include "KarvelloMac/TerminationSignals.h"
+#include "PlatformDesktop/BusProbe.h"
 #include "PlatformDesktop/SessionBus.h"
 #include "PlatformDesktop/SingleInstance.h"
 
 #include <QApplication>
+#include <chrono>
 #include <cstdio>
 #include <fmt/format.h>
 #include <memory>
@@ -17,6 +19,17 @@ namespace {
 bool hasDisplay(const Platform::Environment& environment)
 {
     return environment.value("DISPLAY") || environment.value("WAYLAND_DISPLAY") || environment.value("QT_QPA_PLATFORM");
+}
+
+/// Before there is a window Qt talks to the session bus on this thread, and waits for whoever is behind the address as long
+/// as that one likes. Without an answer there is no bus for this process. To be called before the first thread.
+void leaveDeafBus()
+{
+    constexpr std::chrono::seconds kPatience(3);
+    const auto address = PlatformDesktop::SessionBus::addressIn(Platform::Environment::current());
+    if (address && !PlatformDesktop::BusProbe::mayAnswer(*address, kPatience)) {
+        qputenv(PlatformDesktop::SessionBus::kAddressVariable, PlatformDesktop::SessionBus::kNoBus);
+    }
 }
 
 int runApplication(int& argc, char** argv, const MacOptions& options, const Platform::Environment& environment)
@@ -58,7 +71,6 @@ int main(int argc, char** argv)
     for (int index = 0; index < argc; ++index) {
         arguments.append(QString::fromLocal8Bit(argv[index]));
     }
-    const auto environment = Platform::Environment::current();
     // Those that Qt knows are taken out of the way by itself, once there is a display.
     const auto options = MacOptions::parse(arguments);
     if (!options) {
@@ -69,6 +81,8 @@ int main(int argc, char** argv)
         fmt::print("{}", *options->information);
         return 0;
     }
+    leaveDeafBus();
+    const auto environment = Platform::Environment::current();
     if (!hasDisplay(environment)) {
         fmt::print(
             stderr, "karvello: there is no display to show a window on. 'karvello-cli' does the same in a terminal.\n");

@@ -25,6 +25,10 @@ class Lifetime(ApplicationTest):
                 self.assertEqual(self.start("--open", name).wait_for_end(), 0)
                 first.shown.wait_for(section, "heading")
                 first.shown.wait_for(section, "list item", ["selected"])
+        first.open("Settings")
+        # The same once more is another request.
+        self.assertEqual(self.start("--open", "cleanupReview").wait_for_end(), 0)
+        first.shown.wait_for("Cleanup Review", "heading")
 
     def test_a_first_start_opens_where_it_was_asked_to(self):
         application = self.start_after_first_run("--open", "memoryReview")

@@ -5,6 +5,7 @@ import time
 
 from case import MOVE, ApplicationTest
 from home import Home
+from services import FalseBus
 from session import owner_of, wait_until
 
 READY = {"karvello.macOnboardingCompleted.v1": True, "karvello.language": "en", "karvello.appearanceMode": "light"}
@@ -140,3 +141,22 @@ class NoBus(ApplicationTest):
 
     def dialogs(self):
         return self.session.output("xdotool", "search", "--onlyvisible", "--name", "^Add user-selected folders").split()
+
+    def test_a_bus_that_is_none_holds_up_nothing_for_ever(self):
+        """Nobody behind the address, somebody who says nothing, and somebody who talks nonsense."""
+        self.home.set_preferences(**READY)
+        for behaviour in ("absent", "silent", "lies"):
+            with self.subTest(behaviour):
+                address = self.folder / f"{behaviour}.socket"
+                server = FalseBus(address, behaviour) if behaviour != "absent" else None
+                application = self.start(DBUS_SESSION_BUS_ADDRESS=f"unix:path={address}")
+                application.wait_for_window()
+                wait_until(lambda: self.is_drawn(application), "the window is drawn")
+                shown = self.picture(application).rows
+                application.press("ctrl+2")
+                wait_until(lambda: self.picture(application).rows != shown, "another section")
+                application.close_window()
+                self.assertEqual(application.wait_for_end(), 0)
+                if server:
+                    self.assertTrue(server.was_asked())
+                    server.close()

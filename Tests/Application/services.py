@@ -3,6 +3,7 @@
 import json
 import pathlib
 import queue
+import socket
 import subprocess
 import threading
 
@@ -53,3 +54,33 @@ class Service:
         sessions.end(self._process, keep_pipes=True)
         self._reader.join()
         self._process.stdout.close()
+
+
+class FalseBus:
+    """Takes connections as a bus does, and then is "silent" or "lies"."""
+
+    def __init__(self, address, behaviour):
+        self._lies = behaviour == "lies"
+        self._taken = []
+        self._socket = socket.socket(socket.AF_UNIX)
+        self._socket.bind(str(address))
+        self._socket.listen(64)
+        threading.Thread(target=self._serve, daemon=True).start()
+
+    def _serve(self):
+        try:
+            while True:
+                connection, _ = self._socket.accept()
+                self._taken.append(connection)
+                if self._lies:
+                    connection.sendall(b"OK and \xff\xfe nothing more\r\n" * 50)
+        except OSError:
+            return
+
+    def was_asked(self):
+        return bool(self._taken)
+
+    def close(self):
+        self._socket.shutdown(socket.SHUT_RDWR)
+        for each in (self._socket, *self._taken):
+            each.close()

@@ -16,7 +16,8 @@ RowLayout {
         || !hasSegments && groupings.dropDownWidth > widthForGroupings
     readonly property int leastSearchWidth: 144
     // A long choice is shown in full by the list that drops down.
-    readonly property int mostFilterWidth: 152
+    readonly property real mostFilterWidth: Math.max(104, Math.min(152,
+        Math.floor((width - modes.implicitWidth - leastSearchWidth - 4 * spacing) / 3)))
 
     // Escape on an empty field.
     signal leaveRequested()

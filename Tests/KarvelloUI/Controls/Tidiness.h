@@ -84,7 +84,8 @@ private:
         if (!ink.intersects(window)) {
             return;
         }
-        m_texts.push_back({.item = &text, .ink = ink.intersected(window)});
+        const QRectF seen = ink.intersected(window);
+        m_texts.push_back({.item = &text, .ink = seen});
         const QRectF page = placeOf(m_root);
         if (ink.left() < page.left() - kTolerance || ink.right() > page.right() + kTolerance) {
             m_faults.push_back(described(text) + " reaches over the side of the page");
@@ -99,7 +100,8 @@ private:
         for (const auto* ground = text.parentItem(); ground != nullptr && ground != &m_root;
             ground = ground->parentItem()) {
             const bool isSheet = ground->inherits("QQuickRectangle") || ground->inherits("QQuickControl");
-            if (isSheet && !placeOf(*ground).adjusted(-kTolerance, -kTolerance, kTolerance, kTolerance).contains(ink)) {
+            if (isSheet
+                && !placeOf(*ground).adjusted(-kTolerance, -kTolerance, kTolerance, kTolerance).contains(seen)) {
                 m_faults.push_back(described(text) + " reaches out of its " + ground->metaObject()->className());
             }
         }

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Screens/Onboarding/OnboardingScreenModel.h"
 
 #include "KarvelloUI/Sessions/ShownText.h"
+
 namespace KarvelloUI {
 
 OnboardingScreenModel::OnboardingScreenModel(MacCleanerDashboardModel& dashboard, QObject* parent)

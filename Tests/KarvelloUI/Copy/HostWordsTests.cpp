@@ -99,7 +99,7 @@ TEST(HostWords, NoTextThatTheApplicationShowsNamesTheOtherHost)
             }
         }
     }
-    EXPECT_GT(shown, 400U);
+    EXPECT_GT(shown, 300U);
 }
 
 TEST(HostWords, KnowsTheNamesOfTheOtherHost)
@@ -149,7 +149,7 @@ TEST(HostWords, TheSentencesThatScreensLookUpNameNone)
             EXPECT_EQ(otherHostIn(text), "") << text;
         }
     }
-    EXPECT_GT(sentences, 200U);
+    EXPECT_GT(sentences, 150U);
 }
 
 TEST(HostWords, TheOtherHostKeepsItsOwn)

@@ -119,8 +119,9 @@ TEST(CleanupCopy, SaysInOwnTextsWhatTheTablesDoNotHave)
     EXPECT_EQ(kGerman.cleanupPreviewCategoryLine(preview.categorySummaries.front()),
         "DerivedData von Xcode · 2 Objekte · 3 KB");
     EXPECT_EQ(kGerman.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 2048)),
-        "Vorher-nachher-Bericht, Bereinigungs-Dashboard, Erwartete Menge 2 KB, In den Papierkorb gelegt 1.5 KB, Noch "
-        "nicht zurückgewonnen 1.5 KB, 75%, erfolgreich: 5, fehlgeschlagen: 1, abgebrochen");
+        "Vorher-nachher-Bericht, Bereinigungs-Dashboard, Erwartet im Papierkorb 2 KB, In den Papierkorb gelegt 1.5 KB, "
+        "Noch "
+        "nicht zurückgewonnen 1.5 KB, 75%, erfolgreich: 5, fehlgeschlagen: 1, abgebrochener Vorgang");
 }
 
 TEST(CleanupCopy, ClaimsRecoveryOnlyForADeletion)

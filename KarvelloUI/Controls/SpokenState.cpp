@@ -88,6 +88,9 @@ void SpokenState::setExpanded(bool isExpanded)
 
 QAccessible::State SpokenState::stateOver(QAccessible::State known) const
 {
+    if (m_isFocusable) {
+        known.focusable = *m_isFocusable;
+    }
     if (m_isCheckable) {
         known.checkable = *m_isCheckable;
     }

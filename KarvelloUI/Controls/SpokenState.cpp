@@ -60,6 +60,10 @@ QAccessibleInterface* makeSpokenItem(const QString& /*className*/, QObject* obje
 
 SpokenState* SpokenState::qmlAttachedProperties(QObject* item)
 {
+    // A text that was set before has been told of already, by what would be asked again then.
+    if (auto* const early = QAccessible::queryAccessibleInterface(item)) {
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
+    }
     return new SpokenState(item);
 }
 

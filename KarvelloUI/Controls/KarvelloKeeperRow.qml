@@ -47,7 +47,7 @@ T.CheckDelegate {
 
     Accessible.name: accessibleName
     Accessible.description: isSelectable ? "" : disabledReason
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: isKeeper ? Accessible.ListItem : Accessible.CheckBox
     KarvelloSpoken.checkable: isSelectable
     KarvelloSpoken.checked: isSelectable && isChecked

@@ -73,7 +73,7 @@ T.CheckDelegate {
 
     Accessible.name: accessibleName
     Accessible.description: isSelectable ? "" : disabledReason
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: hasCheckBox ? Accessible.CheckBox : Accessible.ListItem
     KarvelloSpoken.expandable: details !== null
     KarvelloSpoken.expanded: isOpen

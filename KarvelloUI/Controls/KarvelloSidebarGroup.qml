@@ -24,7 +24,7 @@ T.AbstractButton {
     hoverEnabled: canToggle
     focusPolicy: canToggle || activeFocus ? Qt.StrongFocus : Qt.NoFocus
 
-    Accessible.focusable: isCollapsible
+    KarvelloSpoken.focusable: isCollapsible
     KarvelloSpoken.role: isCollapsible ? Accessible.Button : Accessible.Heading
     KarvelloSpoken.expandable: isCollapsible
     KarvelloSpoken.expanded: isOpen

@@ -26,7 +26,7 @@ T.ItemDelegate {
     focusPolicy: isStop || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.name: accessibleName
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: isSelected

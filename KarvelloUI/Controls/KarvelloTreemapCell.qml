@@ -27,7 +27,7 @@ T.AbstractButton {
     verticalPadding: isLarge ? 12 : isMedium ? 6 : 3
 
     Accessible.name: spokenName
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: isSelected

@@ -60,6 +60,10 @@ QAccessibleInterface* makeSpokenItem(const QString& /*className*/, QObject* obje
 
 SpokenState* SpokenState::qmlAttachedProperties(QObject* item)
 {
+    // A text that was set before has been told of already, by what would be asked again then.
+    if (auto* const early = QAccessible::queryAccessibleInterface(item)) {
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
+    }
     return new SpokenState(item);
 }
 
@@ -88,6 +92,9 @@ void SpokenState::setExpanded(bool isExpanded)
 
 QAccessible::State SpokenState::stateOver(QAccessible::State known) const
 {
+    if (m_isFocusable) {
+        known.focusable = *m_isFocusable;
+    }
     if (m_isCheckable) {
         known.checkable = *m_isCheckable;
     }

@@ -7,8 +7,8 @@
 
 namespace KarvelloUI {
 
-/// `KarvelloSpoken.role`, `.checkable`, `.checked`, `.expandable` and `.expanded`: what an item is for assistants, whatever
-/// template it is made of. For Qt 6.4 the template decides on the role, writes its own state over what is declared as
+/// `KarvelloSpoken.role`, `.focusable`, `.checkable`, `.checked`, `.expandable` and `.expanded`: what an item is for
+/// assistants, whatever template it is made of. For Qt 6.4 the template decides on the role, writes its own state over what is declared as
 /// `Accessible` when an assistant comes, and there is no state of things that fold away.
 class SpokenState : public QObject {
     Q_OBJECT
@@ -18,6 +18,8 @@ class SpokenState : public QObject {
 
     /// Of `Accessible`.
     Q_PROPERTY(int role READ role WRITE setRole FINAL)
+    /// Also of a row that is no stop of Tab, since the arrows lead to it.
+    Q_PROPERTY(bool focusable READ isFocusable WRITE setFocusable FINAL)
     Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable FINAL)
     Q_PROPERTY(bool checked READ isChecked WRITE setChecked FINAL)
     Q_PROPERTY(bool expandable READ isExpandable WRITE setExpandable FINAL)
@@ -31,11 +33,13 @@ public:
     static void install();
 
     [[nodiscard]] int role() const { return m_role.value_or(QAccessible::NoRole); }
+    [[nodiscard]] bool isFocusable() const { return m_isFocusable.value_or(false); }
     [[nodiscard]] bool isCheckable() const { return m_isCheckable.value_or(false); }
     [[nodiscard]] bool isChecked() const { return m_isChecked.value_or(false); }
     [[nodiscard]] bool isExpandable() const { return m_isExpandable; }
     [[nodiscard]] bool isExpanded() const { return m_isExpanded; }
     void setRole(int role) { m_role = static_cast<QAccessible::Role>(role); }
+    void setFocusable(bool isFocusable) { m_isFocusable = isFocusable; }
     void setCheckable(bool isCheckable) { m_isCheckable = isCheckable; }
     void setChecked(bool isChecked);
     void setExpandable(bool isExpandable) { m_isExpandable = isExpandable; }
@@ -49,6 +53,7 @@ private:
     void tell(QAccessible::State changed);
 
     std::optional<QAccessible::Role> m_role;
+    std::optional<bool> m_isFocusable;
     std::optional<bool> m_isCheckable;
     std::optional<bool> m_isChecked;
     bool m_isExpandable = false;

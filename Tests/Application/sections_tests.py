@@ -7,7 +7,7 @@ SECTIONS = ("Live Dashboard", "Cleanup Review", "Review & Evidence", "Storage Ma
 
 # What somebody presses, toggles, chooses, or types into.
 ACTING = ("push button", "check box", "radio button", "list item", "combo box", "text", "entry", "menu item", "link",
-          "popup menu")
+          "button menu", "popup menu")
 # What takes the focus on behalf of what is in it.
 CONTAINERS = ("frame", "list", "dialog")
 

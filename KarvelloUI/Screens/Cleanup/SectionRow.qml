@@ -15,7 +15,7 @@ T.Control {
     focusPolicy: Qt.ClickFocus
 
     Accessible.name: KarvelloDesign.spoken([head.name, head.count, head.total, head.note, head.selection])
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     Accessible.description: head.openText
     KarvelloSpoken.role: Accessible.CheckBox
     KarvelloSpoken.checkable: true

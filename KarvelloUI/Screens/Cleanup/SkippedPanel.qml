@@ -31,7 +31,7 @@ SidePanel {
         focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
         KarvelloSpoken.role: Accessible.ListItem
         Accessible.name: KarvelloDesign.spoken([path, reason])
-        Accessible.focusable: true
+        KarvelloSpoken.focusable: true
 
         contentItem: RowLayout {
             spacing: KarvelloDesign.spacing12

@@ -33,7 +33,7 @@ T.CheckDelegate {
 
     Accessible.name: KarvelloDesign.spoken([title, stateText, bytesText])
     Accessible.description: isLocked ? disabledReason : ""
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: Accessible.CheckBox
     KarvelloSpoken.checkable: !isLocked
     KarvelloSpoken.checked: groupState === Qt.Checked

@@ -34,7 +34,7 @@ T.ItemDelegate {
     hoverEnabled: true
     onClicked: if (hasDetails) openRequested(!isOpen)
 
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: Accessible.ListItem
     KarvelloSpoken.expandable: hasDetails
     KarvelloSpoken.expanded: isOpen

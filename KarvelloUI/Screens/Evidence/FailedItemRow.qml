@@ -20,7 +20,7 @@ T.ItemDelegate {
     verticalPadding: KarvelloDesign.spacing8
     focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
 
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: Accessible.ListItem
     Accessible.name: KarvelloDesign.spoken([name, path, reason])
 

@@ -23,7 +23,7 @@ T.ItemDelegate {
     focusPolicy: isCurrent ? Qt.StrongFocus : Qt.ClickFocus
 
     Accessible.name: spokenName
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: isSelected

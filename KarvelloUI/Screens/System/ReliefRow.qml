@@ -45,7 +45,7 @@ T.CheckDelegate {
     onClicked: toggleIfSelectable()
 
     Accessible.name: accessibleName
-    Accessible.focusable: true
+    KarvelloSpoken.focusable: true
     KarvelloSpoken.role: Accessible.CheckBox
     KarvelloSpoken.checkable: isSelectable
     KarvelloSpoken.checked: isSelectable && isSelected

@@ -91,6 +91,9 @@ TEST_P(KarvelloSpoken, SaysWhichSectionIsSelected)
         EXPECT_TRUE(stateOf(find(name)).focusable);
         EXPECT_FALSE(stateOf(find(name)).checkable);
     }
+    // What assistants do with an item by default is the first of what can be done.
+    EXPECT_EQ(
+        spoken(find("two"))->actionInterface()->actionNames().value(0), QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(stateOf(find("one")).selected);
     EXPECT_FALSE(stateOf(find("two")).selected);
 }

@@ -122,7 +122,7 @@ TEST(HostWords, TheTextsOfTheScreensNameNone)
         }
         std::ifstream file(entry.path());
         for (std::string line; std::getline(file, line);) {
-            texts += line.starts_with("en:") ? 1 : 0;
+            texts += line.starts_with("en:") ? 1U : 0U;
             if (!line.starts_with("#")) {
                 EXPECT_EQ(otherHostIn(line), "") << entry.path().filename() << ": " << line;
             }

@@ -64,7 +64,7 @@ const CatalogueTheme kCleanupImpact("CleanupImpact",
             SampleCoverage::assembled},
         {"cleanupImpactSummary unknown cancelled without a percentage",
             [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 0, true)); },
-            SampleCoverage::assembled, SampleCoverage::own},
+            SampleCoverage::own},
         {"cleanupImpactAccessibilityLabel",
             [](const KarvelloCopy& copy) {
                 return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 4096, false));

@@ -248,20 +248,20 @@ TEST_F(CleanupScreenTest, HasOneStopInThePanelOfWhatIsHidden)
     screen->snooze(1, QStringLiteral("oneDay"));
     QMetaObject::invokeMethod(find("page"), "showPanel", Q_ARG(QString, QStringLiteral("ignored")));
     layOut();
-    const std::string first = focused();
+    const std::string first = focusedName();
     EXPECT_THAT(first, StartsWith("Show Again, "));
     key(Qt::Key_Down);
-    const std::string second = focused();
+    const std::string second = focusedName();
     EXPECT_THAT(second, testing::AllOf(StartsWith("Show Again, "), testing::Ne(first)));
     key(Qt::Key_Home);
-    EXPECT_EQ(focused(), first);
+    EXPECT_EQ(focusedName(), first);
     key(Qt::Key_Tab);
-    EXPECT_THAT(focused(), testing::Not(StartsWith("Show Again")));
+    EXPECT_THAT(focusedName(), testing::Not(StartsWith("Show Again")));
     key(Qt::Key_Tab, Qt::ShiftModifier);
-    EXPECT_EQ(focused(), first);
+    EXPECT_EQ(focusedName(), first);
     key(Qt::Key_Space);
     layOut();
-    EXPECT_EQ(focused(), second) << "the place stays when its row goes";
+    EXPECT_EQ(focusedName(), second) << "the place stays when its row goes";
 }
 
 TEST_F(CleanupScreenTest, IsOneStopForTab)

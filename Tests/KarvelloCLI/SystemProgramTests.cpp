@@ -18,6 +18,9 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
+/// Its own for each process: tests that run at the same time see the companions of each other.
+const std::string kApplication = "org.example.Notes" + std::to_string(getpid());
+
 /// A process of its own that runs until the test ends, with a variable that says whose it is.
 class Companion {
 public:
@@ -61,8 +64,9 @@ class SystemProgram : public ScanProgram {
 protected:
     void addDesktopFile()
     {
-        m_tree.add("home/.local/share/applications/org.example.Notes.desktop "
-                   "text=\"[Desktop Entry]\\nType=Application\\nName=Notes\\n\"");
+        m_tree.add("home/.local/share/applications/" + kApplication
+            + ".desktop "
+              "text=\"[Desktop Entry]\\nType=Application\\nName=Notes\\n\"");
     }
     /// What a run writes that is interrupted as soon as there are three lines.
     std::string watched(const std::vector<std::string>& arguments)
@@ -86,7 +90,7 @@ protected:
     }
     std::string hint() const
     {
-        return "BAMF_DESKTOP_FILE_HINT=" + path("home/.local/share/applications/org.example.Notes.desktop");
+        return "BAMF_DESKTOP_FILE_HINT=" + path("home/.local/share/applications/" + kApplication + ".desktop");
     }
 };
 
@@ -170,14 +174,15 @@ TEST_F(SystemProgram, AppsListsWhoRunsAndAsksNobody)
     EXPECT_THAT(result.output, HasSubstr("  Notes"));
     EXPECT_THAT(result.output, HasSubstr("  not from here\n"));
     EXPECT_THAT(result.output, HasSubstr("karvello-cli  this program\n"));
-    EXPECT_THAT(run({"apps", "--format", "json"}).output, HasSubstr("\"bundleIdentifier\" : \"org.example.Notes\""));
+    EXPECT_THAT(run({"apps", "--format", "json"}).output, HasSubstr("\"bundleIdentifier\" : \"" + kApplication + "\""));
 }
 
 TEST_F(SystemProgram, AScanTellsThatTheOwnerOfACacheRuns)
 {
     addDesktopFile();
-    m_tree.add("home/.var/app/org.example.Notes/cache/blob size=64K\n"
-               "home/.var/app/org.example.Other/cache/blob size=64K\n");
+    m_tree.add("home/.var/app/" + kApplication
+        + "/cache/blob size=64K\n"
+          "home/.var/app/org.example.Other/cache/blob size=64K\n");
     const std::string words = "Notes is running and may be using it";
     EXPECT_THAT(run({"scan", "--mode", "aggressive"}).output, Not(HasSubstr("is running")));
     const Companion notes(hint());
@@ -188,7 +193,7 @@ TEST_F(SystemProgram, AScanTellsThatTheOwnerOfACacheRuns)
     EXPECT_THAT(redacted, HasSubstr("its application is running and may be using it"));
     EXPECT_THAT(redacted, Not(HasSubstr("Notes")));
     EXPECT_THAT(run({"clean", "--mode", "aggressive", "--all"}).messages, HasSubstr("no terminal to ask on"));
-    m_tree.add("other/.var/app/org.example.Notes/cache/blob size=64K");
+    m_tree.add("other/.var/app/" + kApplication + "/cache/blob size=64K");
     EXPECT_THAT(run({"scan", "--mode", "aggressive", "--home", "other"}).output, Not(HasSubstr("is running")))
         << "of another home nobody knows";
 }

@@ -137,11 +137,17 @@ def mutating_calls(files):
             yield f'{file.path}:{line}: fopen(..., "{match[1]}") changes the disk by a path'
 
 
+# Listens to the socket of the desktop's own bus, which is a file of this machine.
+LOCAL_SOCKETS = ("PlatformDesktop/BusProbe.cpp",)
+
+
 def network_calls(files):
     names = ("socket", "socketpair", "accept4", "getaddrinfo", "gethostbyname", "sendto", "recvfrom")
     reason = "reaches for a network"
     patterns = (r"\bQ(?:Network|Tcp|Udp|Ssl|Local(?!e))\w+", r"\bcurl_\w+")
-    product = [file for file in files if file.is_product]
+    local = [file for file in files if file.path in LOCAL_SOCKETS]
+    yield from _offences(local, ("getaddrinfo", "gethostbyname"), (r"\b[AP]F_(?!UNIX\b)\w+", r"\bsockaddr_(?!un\b)\w+"), reason)
+    product = [file for file in files if file.is_product and file not in local]
     with_qt = [file for file in product if not file.path.startswith(WITHOUT_QT)]
     without_qt = [file for file in product if file.path.startswith(WITHOUT_QT)]
     # Qt's own `connect` is never called through the global namespace.

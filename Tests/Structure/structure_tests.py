@@ -161,6 +161,11 @@ class Outside(StructureTest):
         self.assert_allows(rules.network_calls, "KarvelloUI/Sessions/Session.cpp", "QLocale l;")
         self.assert_allows(rules.network_calls, self.path, "std::bind(f)", "values.socket(1)", "bool socket = true;")
 
+    def test_the_socket_of_the_bus_is_of_this_machine(self):
+        self.assert_allows(rules.network_calls, "PlatformDesktop/BusProbe.cpp", "x = ::socket(AF_UNIX, SOCK_STREAM, 0);")
+        self.assert_finds(rules.network_calls, "PlatformDesktop/BusProbe.cpp", "x = ::socket(AF_INET, SOCK_STREAM, 0);",
+                          "sockaddr_in6 place;", "getaddrinfo(a, b, c, d);")
+
     def test_no_signal_is_sent(self):
         self.assert_none(rules.signal_calls(self.files))
 

@@ -143,6 +143,9 @@ TEST(HostWords, TheSentencesThatScreensLookUpNameNone)
         const std::string korean = std::regex_replace((*match)[1].str(), seam, "");
         std::string english = std::regex_replace((*match)[2].str(), seam, "");
         EXPECT_EQ(otherHostIn(korean), "") << korean;
+        if (english.empty()) {
+            continue; // a sentence that only Korean has
+        }
         english = english.substr(1, english.rfind('"') - 1);
         for (const AppLanguage language : Platform::allCases<AppLanguage>()) {
             const std::string text = localizedEnglishCopy(language, english);

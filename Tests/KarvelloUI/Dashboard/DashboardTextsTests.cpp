@@ -10,7 +10,7 @@ using namespace KarvelloUI;
 /// Names of keys are what stands on the keyboard, which in most countries is English.
 bool namesKeys(std::string_view english)
 {
-    return english.starts_with("Ctrl+") || english.starts_with("Tab, ");
+    return english.starts_with("Ctrl+") || english.starts_with("Tab, ") || english == "F1";
 }
 
 /// Words that are the same in the language.

@@ -286,7 +286,8 @@ TEST_F(CleanupIgnoreStoreTest, SpeaksTheLanguageOfTheMoment)
     m_defaults.failAllSaves();
     m_language = AppLanguage::korean;
     EXPECT_FALSE(store->ignore(candidate("/h/a"), Duration::oneDay, kNow));
-    EXPECT_EQ(store->lastErrorMessage(), "무시한 정리 항목을 저장하지 못했습니다: " + std::string(kDiskFull));
+    EXPECT_EQ(store->lastErrorMessage(),
+        "무시한 정리 항목을 저장하지 못했습니다: ‘preferences.json’ 파일을 저장할 수 없음: 볼륨에 공간이 없음");
     m_language = AppLanguage::japanese;
     EXPECT_FALSE(store->ignore(candidate("/h/a"), Duration::oneDay, kNow));
     EXPECT_EQ(

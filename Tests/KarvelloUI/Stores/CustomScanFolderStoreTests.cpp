@@ -244,12 +244,13 @@ TEST_F(CustomScanFolderStoreTest, SpeaksTheLanguageOfTheMoment)
     m_language = AppLanguage::korean;
     EXPECT_FALSE(add(*store, "home/file"));
     EXPECT_EQ(store->lastErrorMessage(),
-        "사용자 지정 스캔 폴더를 저장하지 못했습니다: "
-            + (CustomScanFolderError{Kind::notDirectory, m_tree.path("home/file")}.errorDescription()));
+        "사용자 지정 스캔 폴더를 저장하지 못했습니다: 선택한 항목은 접근할 수 있는 폴더가 아님: "
+            + m_tree.path("home/file"));
     seed(kKey, "damaged");
     EXPECT_EQ(makeStore()->lastErrorMessage(),
-        "사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: "
-            + std::string(kUnreadable));
+        "사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: 데이터 형식이 "
+        "올바르지 않아 읽을 "
+        "수 없습니다.");
 }
 
 TEST_F(CustomScanFolderStoreTest, LosesNothingToAnotherStore)

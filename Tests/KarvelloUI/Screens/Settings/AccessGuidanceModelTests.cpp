@@ -19,7 +19,7 @@ TEST_F(AccessGuidanceModelTest, HasNoStepsWithoutADiagnosis)
     tree.add("home/Projects/");
     addFolder("home/Projects/");
     EXPECT_TRUE(group().steps().isEmpty());
-    EXPECT_THAT(group().text().toStdString(), StartsWith("Custom folders depend on stored"));
+    EXPECT_THAT(group().text().toStdString(), StartsWith("Custom folders depend on saved permissions"));
 }
 
 TEST_F(AccessGuidanceModelTest, GuidesStepByStepPastWhatAScanCouldNotRead)
@@ -30,7 +30,7 @@ TEST_F(AccessGuidanceModelTest, GuidesStepByStepPastWhatAScanCouldNotRead)
     ASSERT_EQ(group().steps().size(), 4);
     EXPECT_EQ(step(0).label.toStdString(), "Step 1 of 4");
     EXPECT_EQ(step(0).title.toStdString(), "Review skipped items");
-    EXPECT_EQ(step(0).diagnosis.toStdString(), "Security-scoped bookmark needs review · 4");
+    EXPECT_EQ(step(0).diagnosis.toStdString(), "Saved folder permission needs review · 4");
     EXPECT_EQ(step(0).samplesTitle.toStdString(), "Sample paths (3)");
     EXPECT_EQ(step(0).samples, QStringList({QStringLiteral("~/f1"), QStringLiteral("~/f2"), QStringLiteral("~/f3")}));
     EXPECT_EQ(step(1).title.toStdString(), "Refresh custom folders");

@@ -28,7 +28,7 @@ TEST_F(SettingsFoldersModelTest, AddsAFolderOfTheUsersChoice)
     addFolder("home/Render/");
     addFolder("home/Projects/");
     EXPECT_EQ(fileDialogs.folderRequests.back().message,
-        "Add user-selected folders to the cleanup scan. Access is persisted with security-scoped bookmarks.");
+        "Add user-selected folders to the cleanup scan. Karvello remembers that it may read them.");
     EXPECT_EQ(fileDialogs.folderRequests.back().prompt, "Add Folder");
     ASSERT_EQ(group().count(), 2);
     EXPECT_EQ(text(0, Role::pathRole), "~/Projects");
@@ -120,7 +120,7 @@ TEST_F(SettingsFoldersModelTest, SaysWhatToDoAboutAFolderThatTheScanSkipped)
     std::filesystem::create_directory(tree.path("home/Projects"));
     dashboard->scanCleanup();
     settle();
-    EXPECT_EQ(text(0, Role::problemRole), "Re-add the custom folder to refresh an expired or invalid bookmark.");
+    EXPECT_EQ(text(0, Role::problemRole), "Re-add the custom folder to renew its saved permission.");
     addFolder("home/Projects/");
     dashboard->scanCleanup();
     settle();

@@ -132,7 +132,7 @@ TEST_F(SettingsScreen, TellsOneFailureAtATimeTheWorstFirst)
     open();
     const auto told = [this] {
         std::vector<std::string> names;
-        for (const char* const name : {"accessFailure", "ignoreFailure", "foldersFailure"}) {
+        for (const char* const name : {"accessFailure", "ignoreListFailure", "foldersFailure"}) {
             if (find(name)->isVisible()) {
                 names.emplace_back(name);
             }
@@ -144,12 +144,12 @@ TEST_F(SettingsScreen, TellsOneFailureAtATimeTheWorstFirst)
     screen->customFolders()->remove(0);
     EXPECT_THAT(told(), testing::ElementsAre("foldersFailure"));
     screen->ignoreList()->clear();
-    EXPECT_THAT(told(), testing::ElementsAre("ignoreFailure"));
+    EXPECT_THAT(told(), testing::ElementsAre("ignoreListFailure"));
     screen->scan()->grant();
     fileDialogs.answer(tree.url("home/Projects/"));
     EXPECT_THAT(told(), testing::ElementsAre("accessFailure"));
     screen->scan()->dismissError();
-    EXPECT_THAT(told(), testing::ElementsAre("ignoreFailure"));
+    EXPECT_THAT(told(), testing::ElementsAre("ignoreListFailure"));
     screen->ignoreList()->dismissError();
     EXPECT_THAT(told(), testing::ElementsAre("foldersFailure"));
     screen->customFolders()->dismissError();

@@ -10,7 +10,7 @@ from services import DESKTOP_SERVICE
 from session import owner_of, wait_until
 
 REVEAL = "Show in File Manager"
-FAILED = "Could Not Open in Finder"
+FAILED = "Could Not Open in the File Manager"
 ADDED = "karvello.customScanFolders.v1"
 MANAGER = "org.freedesktop.FileManager1"
 # Its name is acted on byte by byte.
@@ -40,7 +40,7 @@ class Folders(ApplicationTest):
 
     def wait_for_failure(self, application):
         alert = application.shown.wait_for(FAILED, "dialog")
-        self.assertIn("Finder could not open this item.", alert.description)
+        self.assertIn("The file manager could not open this item.", alert.description)
         self.assertNotIn("\n\n", alert.description)
         application.press_button("OK")
         application.shown.wait_without(FAILED, "dialog")

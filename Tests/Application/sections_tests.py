@@ -8,8 +8,8 @@ SECTIONS = ("Live Dashboard", "Cleanup Review", "Review & Evidence", "Storage Ma
 # What somebody presses, toggles, chooses, or types into.
 ACTING = ("push button", "check box", "radio button", "list item", "combo box", "text", "entry", "menu item", "link",
           "button menu", "popup menu")
-# What takes the focus on behalf of what is in it.
-CONTAINERS = ("frame", "list", "dialog")
+# What takes the focus on behalf of what is in it; and labels, since Qt 6.4 says of each that the focus goes there.
+OTHERS = ("frame", "list", "dialog", "label")
 
 
 class Sections(ApplicationTest):
@@ -49,7 +49,7 @@ class Sections(ApplicationTest):
         application = self.start_after_first_run()
         self.scan(application)
         application.open("Storage Map")
-        application.press_button("Start New Scan")
+        application.press_button("Start Insight Scan")
         application.shown.wait_for(lambda name: "of the largest area" in name, "list item")
         for section in SECTIONS:
             with self.subTest(section):
@@ -61,7 +61,7 @@ class Sections(ApplicationTest):
         faults = []
         for element in application.shown.elements():
             role, name = element.role, element.name
-            reached = "focusable" in element.states and role not in CONTAINERS
+            reached = "focusable" in element.states and role not in OTHERS
             if reached and role not in ACTING or (reached or role in ACTING) and not name:
                 faults.append((role, name, element.place()))
         return faults

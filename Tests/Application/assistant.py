@@ -5,7 +5,8 @@ from gi.repository import Gio, GLib
 from session import wait_until
 
 _PREFIX = "org.a11y.atspi."
-_STATES = {"active": 1, "checked": 4, "enabled": 8, "focusable": 11, "focused": 12, "modal": 16, "selected": 23, "showing": 25}
+_STATES = {"active": 1, "checked": 4, "enabled": 8, "focusable": 11, "focused": 12, "modal": 16, "selected": 23, "showing": 25,
+           "checkable": 41}
 _CALL_LIMIT = 30_000
 
 

@@ -40,8 +40,10 @@ class Faults(ApplicationTest):
             "karvello.macScanMode": {"unknown": []}})
         self.scan(application)
         application.open("Settings")
-        for words in ("Could not load home folder access bookmark.", "Could not load custom scan folders."):
-            application.shown.wait_for(lambda name: name.startswith(words), "alert message")
+        # One at a time, the worst first.
+        application.shown.wait_for(lambda name: name.startswith("Could not load home folder access bookmark."), "alert message")
+        application.press_button("Close")
+        application.shown.wait_for(lambda name: name.startswith("Could not load ignored cleanup items."), "alert message")
         kept = self.home.preferences()
         for store in stores:
             with self.subTest(store):

@@ -54,7 +54,6 @@ KarvelloDialog {
 
         Rule {}
         Column {
-            id: lines
             Layout.fillWidth: true
 
             Repeater {
@@ -62,7 +61,7 @@ KarvelloDialog {
                 ColumnLayout {
                     id: line
                     required property var modelData
-                    width: lines.width
+                    width: parent ? parent.width : 0
                     spacing: 0
 
                     RowLayout {

@@ -106,13 +106,12 @@ T.ItemDelegate {
             visible: active
             // No layout: one that is hidden while its items go keeps looking at them, and the program crashes (Qt 6.4).
             sourceComponent: Column {
-                id: list
                 spacing: 2
                 Repeater {
                     model: control.details
                     KarvelloText {
                         required property string modelData
-                        width: list.width
+                        width: parent ? parent.width : 0
                         text: modelData
                         textStyle: KarvelloDesign.small
                         wrapMode: Text.WrapAtWordBoundaryOrAnywhere

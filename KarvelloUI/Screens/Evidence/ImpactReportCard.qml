@@ -22,7 +22,6 @@ KarvelloCard {
     }
     // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
     Column {
-        id: list
         Layout.fillWidth: true
         spacing: KarvelloDesign.spacing12
 
@@ -32,7 +31,7 @@ KarvelloCard {
                 id: bar
                 required property var entry
 
-                width: list.width
+                width: parent ? parent.width : 0
                 spacing: KarvelloDesign.spacing4
 
                 RowLayout {

@@ -10,7 +10,6 @@ KarvelloCard {
 
     // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
     Column {
-        id: list
         Layout.fillWidth: true
         spacing: KarvelloDesign.spacing12
 
@@ -20,7 +19,7 @@ KarvelloCard {
                 id: line
                 required property string modelData
 
-                width: list.width
+                width: parent ? parent.width : 0
                 spacing: KarvelloDesign.spacing12
 
                 KarvelloIcon {

@@ -54,13 +54,12 @@ KarvelloCard {
     }
     // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
     Column {
-        id: projects
         Layout.fillWidth: true
         visible: control.panel.hasProjects
 
         Repeater {
             model: control.panel.projects
-            ProjectRowItem { width: projects.width }
+            ProjectRowItem { width: parent ? parent.width : 0 }
         }
     }
     RowLayout {

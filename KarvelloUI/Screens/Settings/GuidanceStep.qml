@@ -107,7 +107,7 @@ Item {
                     model: control.step.samples
                     KarvelloText {
                         required property string modelData
-                        width: samples.width
+                        width: parent ? parent.width : 0
                         text: modelData
                         textStyle: KarvelloDesign.small
                         color: KarvelloDesign.ink2

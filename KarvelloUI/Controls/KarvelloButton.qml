@@ -45,6 +45,7 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     opacity: down ? 0.92 : 1
 
+    KarvelloSpoken.role: Accessible.Button
     Accessible.name: accessibleName
     Accessible.description: enabled ? "" : disabledReason
     Accessible.onPressAction: {

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Controls/SpokenState.h"
 
 #include <QAccessibleObject>
+#include <QQuickItem>
 #include <QScopedValueRollback>
 #include <utility>
 
@@ -64,7 +65,15 @@ SpokenState* SpokenState::qmlAttachedProperties(QObject* item)
     if (auto* const early = QAccessible::queryAccessibleInterface(item)) {
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
     }
-    return new SpokenState(item);
+    auto* const spoken = new SpokenState(item);
+    if (const auto* const shown = qobject_cast<QQuickItem*>(item)) {
+        connect(shown, &QQuickItem::enabledChanged, spoken, [spoken] {
+            QAccessible::State changed;
+            changed.disabled = true;
+            spoken->tell(changed);
+        });
+    }
+    return spoken;
 }
 
 void SpokenState::install()
@@ -101,6 +110,8 @@ QAccessible::State SpokenState::stateOver(QAccessible::State known) const
     if (m_isChecked) {
         known.checked = *m_isChecked;
     }
+    const auto* const item = qobject_cast<const QQuickItem*>(parent());
+    known.disabled = item != nullptr && !item->isEnabled();
     known.expandable = m_isExpandable;
     known.expanded = m_isExpandable && m_isExpanded;
     known.collapsed = m_isExpandable && !m_isExpanded;

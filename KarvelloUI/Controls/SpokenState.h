@@ -8,8 +8,9 @@
 namespace KarvelloUI {
 
 /// `KarvelloSpoken.role`, `.focusable`, `.checkable`, `.checked`, `.expandable` and `.expanded`: what an item is for
-/// assistants, whatever template it is made of. For Qt 6.4 the template decides on the role, writes its own state over what is declared as
-/// `Accessible` when an assistant comes, and there is no state of things that fold away.
+/// assistants, whatever template it is made of. For Qt 6.4 the template decides on the role, writes its own state over
+/// what is declared as `Accessible` when an assistant comes, there is no state of things that fold away, and all is enabled:
+/// each item with one of these tells also that it is disabled.
 class SpokenState : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(KarvelloSpoken)

@@ -108,7 +108,7 @@ class Application:
         self.shown.wait_for(section, "heading")
 
     def ready(self, name, role="push button"):
-        """It, if it can be used now. Qt 6.4 says of nothing that it is disabled; but what is disabled takes no focus."""
+        """It, if it can be used now: what is disabled takes no focus."""
         element = self.shown.find(name, role)
         if element:
             try:

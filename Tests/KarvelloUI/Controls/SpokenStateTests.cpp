@@ -36,6 +36,16 @@ TEST_P(KarvelloSpoken, SaysOfEachPartOfASegmentedControlWhetherItIsChosen)
     EXPECT_FALSE(group->child(1)->state().checked);
 }
 
+TEST_P(KarvelloSpoken, SaysOfAButtonWhetherItCanBePressed)
+{
+    listen("KarvelloButton { objectName: 'button'; text: 'Scan'; enabled: false }");
+    auto* const button = find("button");
+    EXPECT_EQ(roleOf(button), QAccessible::Button);
+    EXPECT_TRUE(stateOf(button).disabled);
+    button->setEnabled(true);
+    EXPECT_FALSE(stateOf(button).disabled);
+}
+
 TEST_P(KarvelloSpoken, SaysOfARowWithABoxThatItIsCheckedAndTogglesIt)
 {
     listen("KarvelloListRow { objectName: 'row'; name: 'pip'; menuName: 'Actions'; isChecked: true;"

@@ -20,6 +20,7 @@ from session import wait_until
 SECTIONS = ["dashboard", "cleanup", "evidence", "map", "large-files", "downloads", "duplicates", "installers", "system", "cpu",
             "memory", "settings"]
 # These are longer than the window.
+_WHEEL_UP, _WHEEL_DOWN = 4, 5
 SCROLLED = ["dashboard", "evidence", "system", "settings"]
 MOVE = "Move Selected to Trash"
 
@@ -83,6 +84,7 @@ class Studio:
                 self._take_sections("", *(section for section in SECTIONS if section not in ("cleanup", "evidence")))
             if self._wants("ios-guide"):
                 self._open("settings")
+                self._scroll(_WHEEL_DOWN)
                 application.press_button("iOS Guide")
                 for _ in self._variants("ios-guide"):
                     self._take("ios-guide")
@@ -271,12 +273,15 @@ class Studio:
             self._open(section)
             self._take(name)
             if suffix == "" and section in SCROLLED and self._wants(name + "-end"):
-                width, height = (self._options.factor * length for length in self._options.size)
-                for end, wheel in ((name + "-end", 5), (None, 4)):
-                    self._session.output("xdotool", "mousemove", width - 10, height // 2, "click", "--repeat", 40, wheel)
-                    self._leave()
-                    if end:
-                        self._take(end)
+                self._scroll(_WHEEL_DOWN)
+                self._take(name + "-end")
+                self._scroll(_WHEEL_UP)
+
+    def _scroll(self, wheel):
+        """To that end of the page."""
+        width, height = (self._options.factor * length for length in self._options.size)
+        self._session.output("xdotool", "mousemove", width - 10, height // 2, "click", "--repeat", 40, wheel)
+        self._leave()
 
     def _take(self, name, window=None):
         """Once it does not change any more. Figures that change by the second do not keep the picture for ever."""

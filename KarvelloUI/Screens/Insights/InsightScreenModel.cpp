@@ -278,7 +278,7 @@ QString InsightScreenModel::noticeText() const
         return {};
     }
     const auto& skipped = insights().report().skippedItems;
-    const QString aboutSkipped = skipped.empty() ? QString() : shown(words().insightSkippedBody(std::ssize(skipped)));
+    QString aboutSkipped = skipped.empty() ? QString() : shown(words().insightSkippedBody(std::ssize(skipped)));
     if (content() == Nothing) {
         return aboutSkipped;
     }

@@ -30,20 +30,23 @@ Item {
         width: parent.width - 2 * KarvelloDesign.spacing8
         spacing: KarvelloDesign.spacing4
 
-        RowLayout {
-            spacing: KarvelloDesign.spacing8
+        // Placed by hand: a layout would keep the width of another figure.
+        Item {
+            Layout.fillWidth: true
+            implicitHeight: free.implicitHeight
+
             KarvelloText {
-                Layout.fillWidth: true
-                // What the figure beside it leaves.
-                Layout.preferredWidth: 1
+                width: Math.max(0, free.x - KarvelloDesign.spacing8)
+                anchors.baseline: free.baseline
                 text: control.title
                 textStyle: KarvelloDesign.small
                 color: KarvelloDesign.ink3
                 Accessible.ignored: true
             }
             KarvelloText {
-                Layout.fillWidth: true
-                Layout.maximumWidth: Math.ceil(implicitWidth)
+                id: free
+                anchors.right: parent.right
+                width: Math.min(Math.ceil(implicitWidth), parent.width)
                 text: control.freeText
                 emphasis: KarvelloText.Strong
                 color: KarvelloDesign.ink

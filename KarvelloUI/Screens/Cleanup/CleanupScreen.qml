@@ -143,6 +143,11 @@ KarvelloPage {
         visible: control.face === "scanning"
         text: control.screen.texts.scanHint
     }
+    // Else the parts of a scan would spread over the page.
+    Item {
+        Layout.fillHeight: true
+        visible: control.face === "scanning"
+    }
     // Nothing to list: why, and what to do about it.
     Rectangle {
         Layout.fillWidth: true
@@ -234,12 +239,12 @@ KarvelloPage {
             checkState: control.screen.selectionState
             checkBoxName: KarvelloDesign.spoken([control.screen.texts.selectAll, control.screen.selectionValue])
             clearText: control.screen.texts.clear
-            canClear: control.screen.hasSelection
+            canClear: control.screen.hasSelection && !control.screen.isBusy
             selectAllText: control.screen.texts.selectAll
             canSelectAll: control.screen.canSelectAll
             moreName: control.screen.texts.more
             primaryText: control.screen.texts.moveToTrash
-            canAct: control.screen.hasSelection
+            canAct: control.screen.hasSelection && !control.screen.isBusy
             isBusy: control.screen.isMoving
             onClearRequested: control.screen.clearSelection()
             onSelectAllRequested: control.screen.selectAll()

@@ -190,6 +190,21 @@ TEST_F(CleanupScreenTest, AClosedQuestionLeavesNoDialogBehind)
     EXPECT_FALSE(find<QObject>("dialog")->property("visible").toBool());
 }
 
+TEST_F(CleanupScreenTest, NothingIsToBeMovedWhileAScanRuns)
+{
+    showReview();
+    EXPECT_TRUE(find("footer")->property("canAct").toBool());
+    screen->scan();
+    layOut();
+    EXPECT_FALSE(find("footer")->property("canAct").toBool());
+    EXPECT_FALSE(find("footer")->property("canClear").toBool());
+    // The parts of the progress stand together.
+    EXPECT_LT(find("progress")->mapToScene({}).y(), 240);
+    settle();
+    layOut();
+    EXPECT_TRUE(find("footer")->property("canAct").toBool());
+}
+
 TEST_F(CleanupScreenTest, EscapeGoesToCancelWhileAScanRuns)
 {
     dashboard->selectSection(MacDashboardSection::cleanup);

@@ -134,6 +134,7 @@ KarvelloPage {
         onCancelRequested: control.screen.cancel()
     }
     ScanFlow {
+        objectName: "scanFlow"
         Layout.fillWidth: true
         visible: control.face === "scanning"
         screen: control.screen

@@ -199,7 +199,8 @@ TEST_F(CleanupScreenTest, NothingIsToBeMovedWhileAScanRuns)
     EXPECT_FALSE(find("footer")->property("canAct").toBool());
     EXPECT_FALSE(find("footer")->property("canClear").toBool());
     // The parts of the progress stand together.
-    EXPECT_LT(find("progress")->mapToScene({}).y(), 240);
+    const auto* const progress = find("progress");
+    EXPECT_LT(find("scanFlow")->y() - progress->y() - progress->height(), 24);
     settle();
     layOut();
     EXPECT_TRUE(find("footer")->property("canAct").toBool());

@@ -3,6 +3,7 @@
 #include "KarvelloUI/Shell/DashboardScreens.h"
 #include "Tests/KarvelloUI/Controls/Tidiness.h"
 #include "Tests/KarvelloUI/Dashboard/ScreenWindow.h"
+#include "Tests/KarvelloUI/Dashboard/SmallFileInsights.h"
 
 #include <QUrl>
 #include <cstdint>
@@ -56,17 +57,7 @@ protected:
     WindowLayout()
         : ScreenWindowTest(kHome)
     {
-        insightConfiguration = CleanerCore::InsightConfiguration({
-            .minimumLargeFileBytes = 48 << 10,
-            .minimumDuplicateFileBytes = 16 << 10,
-            .minimumReviewFileAge = 86'400,
-            .maximumVisitedItemsPerRoot = 1000,
-            .maximumResultCount = 100,
-            .maximumRecentReviewSkippedItems = 10,
-            .maximumDuplicateHashFiles = 100,
-            .maximumDuplicateFullHashBytesPerFile = 1 << 20,
-            .maximumDuplicateHashBytes = 16 << 20,
-        });
+        insightConfiguration = DashboardTests::insightsOfSmallFiles();
         systemSnapshot = {.capturedAt = now,
             .physicalMemoryBytes = 16ULL << 30,
             .usedMemoryBytes = 9ULL << 30,

@@ -2,6 +2,7 @@
 
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
 #include "Tests/KarvelloUI/Dashboard/HostileName.h"
+#include "Tests/KarvelloUI/Dashboard/SmallFileInsights.h"
 
 #include <QSignalSpy>
 #include <string>
@@ -41,17 +42,7 @@ protected:
     explicit InsightScreenTest(std::string_view layoutOfHome = kHome)
         : DashboardTest(layoutOfHome)
     {
-        insightConfiguration = CleanerCore::InsightConfiguration({
-            .minimumLargeFileBytes = 48 << 10,
-            .minimumDuplicateFileBytes = 16 << 10,
-            .minimumReviewFileAge = 86'400,
-            .maximumVisitedItemsPerRoot = 1000,
-            .maximumResultCount = 100,
-            .maximumRecentReviewSkippedItems = 10,
-            .maximumDuplicateHashFiles = 100,
-            .maximumDuplicateFullHashBytesPerFile = 1 << 20,
-            .maximumDuplicateHashBytes = 16 << 20,
-        });
+        insightConfiguration = DashboardTests::insightsOfSmallFiles();
         restart();
     }
 

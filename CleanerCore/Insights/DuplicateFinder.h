@@ -30,7 +30,7 @@ struct DuplicateSearchResult {
 /// turns out to be like no other, the rest is not read, so it is not told if that rest could not have been read.
 class DuplicateFinder {
 public:
-    /// Told the number of bytes read so far, a few times a second, on the thread that called `find`.
+    /// Told the number of bytes read so far, a few times a second and at the end, on the thread that called `find`.
     using ProgressHandler = std::function<void(std::int64_t)>;
 
     /// `fileManager` must outlive the finder. `jobs` is the number of threads, at least one, that read files.

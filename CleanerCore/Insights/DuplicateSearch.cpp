@@ -59,6 +59,8 @@ DuplicateSearchResult DuplicateSearch::run(
             finishFirst(skipped);
         }
     }
+    // What was read since the last report may have been all that there was to read.
+    reportProgress(onProgress);
     keepMostWasteful();
     return std::move(m_result);
 }

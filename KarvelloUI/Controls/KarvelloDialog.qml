@@ -46,7 +46,11 @@ T.Dialog {
         contentItem.parent.Accessible.name = title
         contentItem.parent.Accessible.description = message
     }
-    onOpened: cancelButton.forceActiveFocus(Qt.TabFocusReason)
+    // While it still comes into sight, no key may reach what it covers.
+    onVisibleChanged: {
+        if (visible)
+            cancelButton.forceActiveFocus(Qt.TabFocusReason)
+    }
 
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: KarvelloDesign.expandDuration }

@@ -31,7 +31,11 @@ T.Dialog {
         contentItem.parent.Accessible.name = messages.alertTitle
         contentItem.parent.Accessible.description = messages.alertText
     }
-    onOpened: okButton.forceActiveFocus(Qt.TabFocusReason)
+    // While it still comes into sight, no key may reach what it covers.
+    onVisibleChanged: {
+        if (visible)
+            okButton.forceActiveFocus(Qt.TabFocusReason)
+    }
     onClosed: {
         // Else it would have the focus at the next opening before it is given, and not show it.
         okButton.focus = false

@@ -5,7 +5,7 @@ namespace KarvelloUI {
 /// A button that opens a dialog.
 class KarvelloDialog : public Controls {
 protected:
-    void open()
+    void beginToOpen()
     {
         show("KarvelloButton { objectName: 'opener'; text: 'Move'; onClicked: dialog.open();"
              " KarvelloDialog { id: dialog; objectName: 'dialog'; title: 'Move selected items to Trash?';"
@@ -16,6 +16,10 @@ protected:
         m_rejected = std::make_unique<QSignalSpy>(m_dialog, SIGNAL(rejected()));
         find("opener")->forceActiveFocus(Qt::TabFocusReason);
         key(Qt::Key_Return);
+    }
+    void open()
+    {
+        beginToOpen();
         ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->property("opened").toBool(); }));
     }
 
@@ -42,6 +46,19 @@ TEST_F(KarvelloDialog, HasTheFocusOnCancelWhereItCanBeSeen)
     ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->property("opened").toBool(); }));
     EXPECT_EQ(focused(), "Cancel");
     EXPECT_TRUE(m_window->activeFocusItem()->property("visualFocus").toBool());
+}
+
+TEST_F(KarvelloDialog, HasTheKeyboardBeforeItIsWhollyInSight)
+{
+    beginToOpen();
+    ASSERT_TRUE(isOpen());
+    ASSERT_FALSE(m_dialog->property("opened").toBool());
+    EXPECT_EQ(focused(), "Cancel");
+    key(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+    EXPECT_EQ(m_accepted->count(), 0);
+    EXPECT_EQ(m_rejected->count(), 1);
+    EXPECT_TRUE(find("opener")->hasActiveFocus());
 }
 
 TEST_F(KarvelloDialog, MovesNothingByAStrayReturn)

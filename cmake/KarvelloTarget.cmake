@@ -2,7 +2,7 @@
 
 option(KARVELLO_WERROR "Treat warnings as errors" OFF)
 option(KARVELLO_LTO "Optimise across source files" OFF)
-option(KARVELLO_TIDY "Run clang-tidy beside the compiler" OFF)
+option(KARVELLO_TOGETHER "Compile tests, and what is generated from screens, several files at once" ON)
 option(KARVELLO_FUZZ "Build the fuzzers; needs clang" OFF)
 set(KARVELLO_SANITIZE "" CACHE STRING "Comma-separated sanitizers, for example address,undefined")
 
@@ -39,18 +39,20 @@ endif()
 if(KARVELLO_FUZZ)
   target_compile_options(karvello_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
-if(KARVELLO_TIDY)
-  find_program(KARVELLO_CLANG_TIDY NAMES clang-tidy-19 clang-tidy REQUIRED)
-  set(CMAKE_CXX_CLANG_TIDY "${KARVELLO_CLANG_TIDY}" --quiet --warnings-as-errors=*)
-endif()
 
-# The builds that only run under a sanitizer compile what the development build has compiled: they take common headers
-# ready-made, which would hide a missing include there.
-function(karvello_precompile name)
+# The builds that only run under a sanitizer compile what the development build has compiled file by file: they take
+# several source files at once and common headers ready-made, which would hide a missing include there.
+function(karvello_compile_quickly name)
   if(KARVELLO_SANITIZE)
+    karvello_compile_together(${name})
     target_precompile_headers(${name} PRIVATE ${ARGN}
       <algorithm> <chrono> <expected> <functional> <map> <memory> <mutex> <optional> <string> <thread> <vector>)
   endif()
+endfunction()
+
+# Much of the time of a compiler goes into headers and templates that the files of one target share.
+function(karvello_compile_together name)
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ${KARVELLO_TOGETHER} UNITY_BUILD_BATCH_SIZE 8)
 endfunction()
 
 # A layer: every source file below the given folders, as one static library that sees only what it links.
@@ -63,7 +65,7 @@ function(karvello_layer name)
   endforeach()
   add_library(${name} STATIC ${sources})
   target_link_libraries(${name} PUBLIC karvello_options ${LAYER_LINKS})
-  karvello_precompile(${name} <fmt/format.h>)
+  karvello_compile_quickly(${name} <fmt/format.h>)
 endfunction()
 
 # A layer of objects that screens observe.
@@ -85,6 +87,9 @@ function(karvello_qml_module name)
     set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${alias}")
   endforeach()
   string(REPLACE "." "/" path "${MODULE_URI}")
+  # For the library that Qt makes of the compiled screens.
+  set(CMAKE_UNITY_BUILD ${KARVELLO_TOGETHER})
+  set(CMAKE_UNITY_BUILD_BATCH_SIZE 16)
   qt_add_qml_module(${name}
     URI ${MODULE_URI}
     VERSION 1.0

@@ -173,6 +173,15 @@ def threads_left_behind(files):
                 yield f"{file.path}:{file.line_of(match.start())}: a thread would outlive the call that started it"
 
 
+def unused_names(files):
+    """Names that a source file takes from a namespace and never uses."""
+    for file in files:
+        if file.path.endswith(".cpp"):
+            for match in re.finditer(r"^using (?:\w+::)+(\w+);", file.code, re.MULTILINE):
+                if len(re.findall(rf"\b{match[1]}\b", file.code)) == 1:
+                    yield f"{file.path}:{file.line_of(match.start())}: {match[1]} is not used"
+
+
 def long_files(texts):
     for path, text in texts:
         lines = text.count("\n")

@@ -189,6 +189,13 @@ class Files(StructureTest):
         self.assertEqual(len(list(rules.long_files([("A/B.cpp", "x\n" * 401)]))), 1)
         self.assertEqual(list(rules.long_files([("A/B.cpp", "x\n" * 400)])), [])
 
+    def test_use_the_names_that_they_take(self):
+        self.assert_none(rules.unused_names(self.files))
+
+    def test_an_unused_name_is_found(self):
+        self.assert_finds(rules.unused_names, "CleanerCore/Scan/A.cpp", "using std::string;\nvoid f();")
+        self.assert_allows(rules.unused_names, "CleanerCore/Scan/A.cpp", "using std::string;\nvoid f(string);")
+
     def test_hold_finished_work(self):
         self.assert_none(rules.unfinished_work(self.texts))
 

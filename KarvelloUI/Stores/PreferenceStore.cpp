@@ -20,11 +20,6 @@ PreferenceStore::PreferenceStore(
     });
 }
 
-QString PreferenceStore::lastErrorText() const
-{
-    return QString::fromStdString(m_lastErrorMessage.value_or(std::string()));
-}
-
 void PreferenceStore::clearError()
 {
     setLastErrorMessage(std::nullopt);

@@ -5,7 +5,6 @@
 #include "Platform/Services/UserDefaults.h"
 
 #include <QObject>
-#include <QString>
 #include <functional>
 #include <optional>
 #include <string>
@@ -21,12 +20,9 @@ class PreferenceStore : public QObject {
     Q_OBJECT
 
 public:
-    Q_PROPERTY(QString lastErrorMessage READ lastErrorText NOTIFY lastErrorMessageChanged)
     [[nodiscard]] const std::optional<std::string>& lastErrorMessage() const { return m_lastErrorMessage; }
-    /// Empty for none.
-    [[nodiscard]] QString lastErrorText() const;
     Q_SIGNAL void lastErrorMessageChanged();
-    Q_INVOKABLE void clearError();
+    void clearError();
 
     /// Takes over what somebody else has stored. It is called for each change that the preferences tell of, and by the
     /// stores before they change anything, so that no change is lost to an older list.

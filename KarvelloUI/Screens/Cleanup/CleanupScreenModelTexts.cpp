@@ -71,8 +71,8 @@ QVariantMap CleanupScreenModel::texts() const
             copy.text("넓은 범위를 스캔하기 전에 권한과 범위를 확인합니다.",
                 "Permission and scope check before scanning broad roots.")},
         {"flowScan",
-            copy.text("보호된 항목은 건너뜁니다. iCloud, 사진, 키체인은 후보가 아니라 차단 기록이 됩니다.",
-                "Scan with protected skips: iCloud, Photos, and Keychain become block logs, not candidates.")},
+            copy.say(
+                "Scan with protected skips: synced folders, mail, and keyrings become block logs, not candidates.")},
         {"flowReview",
             copy.text("검토 화면에 크기, 최근 사용, 안전 이유, 휴지통 우선 동작이 표시됩니다.",
                 "Review preview shows size, recency, safety reason, and Trash-first behavior.")},

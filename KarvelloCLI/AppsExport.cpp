@@ -18,7 +18,7 @@ using CleanerCore::ReportExportText;
 
 constexpr std::string_view kLabel = "application";
 
-constexpr std::array<std::string_view, 11> kColumns{"id", "display_name", "bundle_identifier", "process_identifier",
+constexpr std::array<std::string_view, 11> kAppsColumns{"id", "display_name", "bundle_identifier", "process_identifier",
     "process_count", "launched_at", "cpu_fraction_of_total_capacity", "resident_memory_bytes",
     "memory_fraction_of_physical_memory", "is_actionable", "reason"};
 
@@ -103,19 +103,19 @@ std::expected<std::string, Platform::JSONError> appsJSON(
 
 std::string appsCSV(std::span<const AppsRow> rows, ReportExportPrivacyMode privacy)
 {
-    CleanerCore::CSVWriter writer(kColumns, privacy);
+    CleanerCore::CSVWriter writer(kAppsColumns, privacy);
     ReportExportText text(privacy);
     for (const AppsRow& row : rows) {
         const auto app = exported(row, text);
         const auto& [isActionable, reason] = row.candidate.eligibility;
         const auto& usage = row.candidate.usage;
-        const std::array<std::string, kColumns.size()> cells{app.id, app.displayName, app.bundleIdentifier.value_or(""),
-            std::to_string(row.candidate.processIdentifier), std::to_string(row.processCount),
-            app.launchedAt.value_or(""), decimal(usage.cpuFractionOfTotalCapacity),
+        const std::array<std::string, kAppsColumns.size()> cells{app.id, app.displayName,
+            app.bundleIdentifier.value_or(""), std::to_string(row.candidate.processIdentifier),
+            std::to_string(row.processCount), app.launchedAt.value_or(""), decimal(usage.cpuFractionOfTotalCapacity),
             usage.residentMemoryBytes ? std::to_string(*usage.residentMemoryBytes) : std::string(),
             decimal(usage.memoryFractionOfPhysicalMemory), isActionable ? "true" : "false",
             std::string(reason ? Platform::rawValue(*reason) : std::string_view())};
-        std::array<std::string_view, kColumns.size()> views{};
+        std::array<std::string_view, kAppsColumns.size()> views{};
         std::ranges::copy(cells, views.begin());
         writer.addRow(views);
     }

@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Export/ReportExportText.h"
 #include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TableLayout.h"
 #include "KarvelloCLI/Words.h"
 
 #include <algorithm>
@@ -14,33 +15,30 @@ namespace {
 using CleanerCore::ReportExportPrivacyMode;
 using CleanerCore::ResourceReliefProtectionReason;
 
-constexpr std::string_view kGap = "  ";
-/// There is room for the number of the process, and for all that there is to tell.
-constexpr std::size_t kWide = 76;
-constexpr std::size_t kVeryWide = 120;
 constexpr std::size_t kNarrowestText = 10;
 
-enum Column : std::size_t { cpu, memory, share, process, processes, running, quit, name, identifier, columnCount };
+/// The columns, by their places in a row.
+struct AppsColumn {
+    enum Place : std::size_t { cpu, memory, share, process, processes, running, quit, name, identifier, count };
 
-using Row = std::array<TerminalText, columnCount>;
+    static bool isNumber(std::size_t column) { return column <= running; }
+};
+
+using AppsCells = std::array<TerminalText, AppsColumn::count>;
 
 bool isBackground(const AppsRow& row)
 {
     return row.candidate.eligibility.reason == ResourceReliefProtectionReason::notUserVisible;
 }
 
-bool isNumber(std::size_t column)
-{
-    return column <= running;
-}
-
 std::vector<std::size_t> columnsFor(std::size_t width)
 {
-    if (width >= kVeryWide) {
+    using enum AppsColumn::Place;
+    if (width >= kVeryWideTable) {
         return {cpu, memory, share, process, processes, running, name, identifier, quit};
     }
-    return width >= kWide ? std::vector<std::size_t>{cpu, memory, process, running, name, quit}
-                          : std::vector<std::size_t>{cpu, memory, name, quit};
+    return width >= kWideTable ? std::vector<std::size_t>{cpu, memory, process, running, name, quit}
+                               : std::vector<std::size_t>{cpu, memory, name, quit};
 }
 
 std::string sizeOf(std::optional<std::uint64_t> bytes, const TextStyle& style)
@@ -48,14 +46,14 @@ std::string sizeOf(std::optional<std::uint64_t> bytes, const TextStyle& style)
     return bytes ? style.size(*bytes) : "-";
 }
 
-Row titles()
+AppsCells titles()
 {
     return {TerminalText(say("CPU")), TerminalText(say("Memory")), TerminalText(say("Share")), TerminalText("PID"),
         TerminalText(say("Processes")), TerminalText(say("Running")), TerminalText(say("Quit")),
         TerminalText(say("Name")), TerminalText(say("Identifier"))};
 }
 
-Row rowOf(const AppsRow& row, Platform::Date now, CleanerCore::ReportExportText& words, const TextStyle& style)
+AppsCells rowOf(const AppsRow& row, Platform::Date now, CleanerCore::ReportExportText& words, const TextStyle& style)
 {
     const auto& candidate = row.candidate;
     const bool isRedacted = words.privacyMode() == ReportExportPrivacyMode::redacted;
@@ -72,21 +70,21 @@ Row rowOf(const AppsRow& row, Platform::Date now, CleanerCore::ReportExportText&
         TerminalText(quitWords(candidate.eligibility)), TerminalText(shownName), TerminalText(shownIdentifier)};
 }
 
-std::string tableOf(const std::vector<Row>& rows, const TextStyle& style)
+std::string tableOf(const std::vector<AppsCells>& rows, const TextStyle& style)
 {
     const auto columns = columnsFor(style.columns);
-    const Row heads = titles();
-    std::array<std::size_t, columnCount> widths{};
-    std::size_t taken = kGap.size() * (columns.size() - 1);
+    const AppsCells heads = titles();
+    std::array<std::size_t, AppsColumn::count> widths{};
+    std::size_t taken = kColumnGap.size() * (columns.size() - 1);
     for (const auto column : columns) {
         widths[column] = heads[column].columns();
-        for (const Row& row : rows) {
+        for (const AppsCells& row : rows) {
             widths[column] = std::max(widths[column], row[column].columns());
         }
         taken += widths[column];
     }
     // Names give way first, then the identifiers, and in the narrowest of windows the words.
-    for (const std::size_t column : {name, identifier, quit}) {
+    for (const std::size_t column : {AppsColumn::name, AppsColumn::identifier, AppsColumn::quit}) {
         const bool isShown = std::ranges::find(columns, column) != columns.end();
         const std::size_t excess = taken > style.columns ? taken - style.columns : 0;
         if (isShown && widths[column] > kNarrowestText) {
@@ -95,17 +93,17 @@ std::string tableOf(const std::vector<Row>& rows, const TextStyle& style)
             taken -= cut;
         }
     }
-    const auto line = [&](const Row& row) {
+    const auto line = [&](const AppsCells& row) {
         std::string text;
         for (const auto column : columns) {
             const auto cell = row[column].elidedInMiddle(widths[column]);
-            text += text.empty() ? "" : kGap;
-            text += isNumber(column) ? cell.paddedLeft(widths[column]) : cell.paddedRight(widths[column]);
+            text += text.empty() ? "" : kColumnGap;
+            text += AppsColumn::isNumber(column) ? cell.paddedLeft(widths[column]) : cell.paddedRight(widths[column]);
         }
         return text.substr(0, text.find_last_not_of(' ') + 1);
     };
     std::string text = style.painter(Ink::quiet, line(heads)) + "\n";
-    for (const Row& row : rows) {
+    for (const AppsCells& row : rows) {
         text += line(row) + "\n";
     }
     return text;
@@ -128,7 +126,7 @@ std::string appsTable(std::span<const AppsRow> rows, Platform::Date now, bool is
         [](const AppsRow* row) { return row->candidate.usage.residentMemoryBytes.value_or(0); });
 
     CleanerCore::ReportExportText words(isRedacted ? ReportExportPrivacyMode::redacted : ReportExportPrivacyMode::full);
-    std::vector<Row> cells;
+    std::vector<AppsCells> cells;
     cells.reserve(shown.size());
     for (const AppsRow* const row : shown) {
         cells.push_back(rowOf(*row, now, words, style));

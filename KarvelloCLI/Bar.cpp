@@ -10,7 +10,7 @@ namespace KarvelloCLI {
 namespace {
 
 /// From one eighth to a whole column.
-constexpr std::array<std::string_view, 8> kBlocks{"▏", "▎", "▍", "▌", "▋", "▊", "▉", "█"};
+constexpr std::array<std::string_view, 8> kBarBlocks{"▏", "▎", "▍", "▌", "▋", "▊", "▉", "█"};
 
 } // namespace
 
@@ -19,7 +19,7 @@ std::string bar(std::int64_t part, std::int64_t largest, std::size_t columns, Ba
     if (part <= 0 || largest <= 0 || columns == 0) {
         return {};
     }
-    const std::size_t steps = glyphs == BarGlyphs::blocks ? kBlocks.size() : 1;
+    const std::size_t steps = glyphs == BarGlyphs::blocks ? kBarBlocks.size() : 1;
     const std::size_t longest = columns * steps;
     const double share = std::min(static_cast<double>(part) / static_cast<double>(largest), 1.0);
     const auto rounded = static_cast<std::size_t>(std::lround(share * static_cast<double>(longest)));
@@ -29,10 +29,10 @@ std::string bar(std::int64_t part, std::int64_t largest, std::size_t columns, Ba
     }
     std::string text;
     for (std::size_t column = 0; column < length / steps; ++column) {
-        text += kBlocks.back();
+        text += kBarBlocks.back();
     }
     if (const std::size_t rest = length % steps; rest > 0) {
-        text += kBlocks[rest - 1];
+        text += kBarBlocks[rest - 1];
     }
     return text;
 }

@@ -1,16 +1,13 @@
 #include "KarvelloCLI/CandidateRows.h"
 
 #include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TableLayout.h"
 
 #include <algorithm>
 
 namespace KarvelloCLI {
 
 namespace {
-
-constexpr std::size_t kWide = 76;
-constexpr std::size_t kVeryWide = 120;
-constexpr std::string_view kGap = "  ";
 
 TerminalText sizeTitle()
 {
@@ -57,20 +54,20 @@ CandidateColumns::CandidateColumns(
     , m_sizeWidth(widest(rows, &CandidateRow::size, sizeTitle()))
     , m_ageWidth(widest(rows, &CandidateRow::age, ageTitle()))
 {
-    const std::size_t taken = 2 + m_sizeWidth + kGap.size() + m_ageWidth + kGap.size();
+    const std::size_t taken = kMarkWidth + m_sizeWidth + kColumnGap.size() + m_ageWidth + kColumnGap.size();
     std::size_t left = columns > taken ? columns - taken : 1;
-    if (columns < kWide) {
+    if (columns < kWideTable) {
         m_placeWidth = left;
         return;
     }
     const bool hasKinds = std::ranges::any_of(rows, [](const CandidateRow* row) { return row->kind.columns() > 0; });
-    if (columns >= kVeryWide && hasKinds) {
+    if (columns >= kVeryWideTable && hasKinds) {
         m_kindWidth = widest(rows, &CandidateRow::kind, kindTitle());
-        left -= m_kindWidth + kGap.size();
+        left -= m_kindWidth + kColumnGap.size();
     }
     const std::size_t longestName = widest(rows, &CandidateRow::name, nameTitle());
     const std::size_t longestPlace = widest(rows, &CandidateRow::place, m_placeTitle);
-    left -= kGap.size();
+    left -= kColumnGap.size();
     // Half of the room is each one's own; what one does not need goes to the other.
     const std::size_t roomBesidePlace = left - std::min(longestPlace, left / 2);
     m_nameWidth = std::min(longestName, roomBesidePlace);
@@ -83,17 +80,17 @@ std::string CandidateColumns::join(std::string_view mark, const TerminalText& si
     std::string line(mark);
     line += ' ';
     line += size.paddedLeft(m_sizeWidth);
-    line += kGap;
+    line += kColumnGap;
     line += age.paddedLeft(m_ageWidth);
-    line += kGap;
+    line += kColumnGap;
     if (m_nameWidth == 0) {
         return line + path.elidedInMiddle(m_placeWidth).string();
     }
     line += name.elidedInMiddle(m_nameWidth).paddedRight(m_nameWidth);
-    line += kGap;
+    line += kColumnGap;
     if (m_kindWidth != 0) {
         line += kind.paddedRight(m_kindWidth);
-        line += kGap;
+        line += kColumnGap;
     }
     return line + place.elidedInMiddle(m_placeWidth).string();
 }
@@ -114,8 +111,8 @@ std::string CandidateColumns::summaryLine(const TerminalText& size, const Termin
 {
     std::string line = "  ";
     line += size.paddedLeft(m_sizeWidth);
-    line += kGap;
-    const std::size_t taken = 2 + std::max(m_sizeWidth, size.columns()) + kGap.size();
+    line += kColumnGap;
+    const std::size_t taken = kMarkWidth + std::max(m_sizeWidth, size.columns()) + kColumnGap.size();
     line += words.elidedInMiddle(m_columns > taken ? m_columns - taken : 1).string();
     return m_painter(Ink::quiet, line);
 }

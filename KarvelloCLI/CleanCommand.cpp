@@ -6,6 +6,7 @@
 #include "KarvelloCLI/CleanTexts.h"
 #include "KarvelloCLI/CommandOutput.h"
 #include "KarvelloCLI/Errand.h"
+#include "KarvelloCLI/ErrandOutcome.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/Say.h"
@@ -13,7 +14,6 @@
 #include "KarvelloCLI/SelectedCandidates.h"
 #include "Platform/Files/FileError.h"
 
-#include <algorithm>
 #include <optional>
 #include <span>
 #include <string>
@@ -26,8 +26,6 @@ using CleanerCore::CleanResult;
 using CleanerCore::CleanupAuditEntry;
 using CleanerCore::FailedCleanItem;
 
-/// How many entries a folder may hold to be looked through once more before it moves.
-constexpr std::int64_t kMostValidatedDescendants = 100'000;
 constexpr auto kMode = CleanerCore::CleaningMode::moveToTrash;
 
 ExitCode nothingToMove(const CleanOptions& options, const ScanRun& run, const SelectedCandidates& selected)
@@ -47,7 +45,7 @@ ExitCode nothingToMove(const CleanOptions& options, const ScanRun& run, const Se
 }
 
 /// Of an item that did not move as it should, whether something did move all the same.
-bool mayHaveMoved(const FailedCleanItem& item)
+bool mayHaveMovedToTrash(const FailedCleanItem& item)
 {
     const std::string& path = item.candidate.url.path();
     using ErrorKind = CleanerCore::CleaningError::Kind;
@@ -102,14 +100,7 @@ private:
 
 ExitCode exitCodeOf(const CleanResult& result)
 {
-    if (result.wasCancelled) {
-        return ExitCode::interrupted;
-    }
-    if (result.failedItems.empty()) {
-        return ExitCode::done;
-    }
-    const bool somethingMoved = !result.cleanedItems.empty() || std::ranges::any_of(result.failedItems, mayHaveMoved);
-    return somethingMoved ? ExitCode::partial : ExitCode::refused;
+    return exitCodeOfMoves(result, result.cleanedItems, mayHaveMovedToTrash);
 }
 
 ExitCode CleanCommand::run(const CleanOptions& options) const

@@ -1,6 +1,7 @@
 #include "KarvelloCLI/DuplicateLines.h"
 
 #include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TableLayout.h"
 #include "Platform/Base/CheckedMath.h"
 
 #include <fmt/format.h>
@@ -15,8 +16,7 @@ namespace {
 using CleanerCore::DuplicateFileGroup;
 using CleanerCore::DuplicateKeeperRecommendationReason;
 
-constexpr std::size_t kIndent = 4;
-constexpr std::size_t kGap = 2;
+constexpr std::size_t kCopyIndent = 4;
 
 std::string clause(DuplicateKeeperRecommendationReason reason)
 {
@@ -34,7 +34,7 @@ std::string clause(DuplicateKeeperRecommendationReason reason)
 /// A size in its column, then words that go on below themselves.
 std::string sizedWords(std::int64_t bytes, std::string_view words, std::size_t sizeWidth, const TextStyle& style)
 {
-    const std::size_t indent = kGap + sizeWidth + kGap;
+    const std::size_t indent = kMarkWidth + sizeWidth + kColumnGap.size();
     std::string text = style.paragraph(words, indent);
     text.replace(0, indent, "  " + TerminalText(style.size(bytes)).paddedLeft(sizeWidth) + "  ");
     return text;
@@ -46,12 +46,12 @@ std::string copies(
     const TerminalText keep(say("keep"));
     const TerminalText extra(say("extra"));
     const std::size_t markWidth = std::max(keep.columns(), extra.columns());
-    const std::size_t indent = kIndent + markWidth + kGap + ageWidth + kGap;
+    const std::size_t indent = kCopyIndent + markWidth + kColumnGap.size() + ageWidth + kColumnGap.size();
     const std::size_t room = style.columns > indent ? style.columns - indent : 1;
     std::string text;
     for (const CandidateRow& row : rows) {
         const bool isKeeper = &row == &rows.front();
-        text += fmt::format("{:{}}{}  {}  {}\n", "", kIndent,
+        text += fmt::format("{:{}}{}  {}  {}\n", "", kCopyIndent,
             isKeeper ? style.painter(Ink::safe, keep.paddedRight(markWidth)) : extra.paddedRight(markWidth),
             row.age.paddedLeft(ageWidth), row.path.elidedInMiddle(room).string());
         const auto recommendation = isKeeper ? group.keeperRecommendation() : std::nullopt;

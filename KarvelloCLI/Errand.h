@@ -19,6 +19,9 @@
 
 namespace KarvelloCLI {
 
+/// How many entries a folder may hold to be looked through once more before it moves.
+inline constexpr std::int64_t kMostValidatedDescendants = 100'000;
+
 enum class ErrandKind : std::uint8_t { clean, restore };
 
 /// Something that moves items of the user, and so wants consent, a truthful account and an entry in the log.

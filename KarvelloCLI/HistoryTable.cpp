@@ -1,6 +1,7 @@
 #include "KarvelloCLI/HistoryTable.h"
 
 #include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TableLayout.h"
 #include "KarvelloCLI/Words.h"
 
 #include <fmt/format.h>
@@ -18,19 +19,17 @@ namespace {
 using CleanerCore::CleanupAuditEntry;
 using CleanerCore::CleanupAuditSource;
 
-constexpr std::size_t kWide = 80;
-/// There is room for the ids of entries.
-constexpr std::size_t kVeryWide = 120;
-constexpr std::string_view kGap = "  ";
+/// On fewer columns each entry takes two lines.
+constexpr std::size_t kLeastColumnsForHistory = 80;
 
-enum Column : std::size_t { date, operation, source, asked, done, failed, size, end, entryId, columnCount };
+/// The columns, by their places in a row.
+struct HistoryColumn {
+    enum Place : std::size_t { date, operation, source, asked, done, failed, size, end, entryId, count };
 
-using Row = std::array<std::string, columnCount>;
+    static bool isNumber(std::size_t column) { return column >= asked && column <= size; }
+};
 
-bool isNumber(std::size_t column)
-{
-    return column >= asked && column <= size;
-}
+using HistoryRow = std::array<std::string, HistoryColumn::count>;
 
 std::string nameOf(CleanupAuditSource source)
 {
@@ -45,7 +44,7 @@ std::string nameOf(CleanupAuditSource source)
     return say("sandbox");
 }
 
-Row rowOf(const CleanupAuditEntry& entry, const TextStyle& style)
+HistoryRow rowOf(const CleanupAuditEntry& entry, const TextStyle& style)
 {
     return {localTime(entry.occurredAt), catalogue().auditOperationName(entry.operation), nameOf(entry.source),
         std::to_string(entry.requestedItemCount), std::to_string(entry.succeededItemCount),
@@ -53,45 +52,48 @@ Row rowOf(const CleanupAuditEntry& entry, const TextStyle& style)
         entry.wasCancelled ? say("cancelled") : std::string(), entry.id.string()};
 }
 
-std::string wideTable(const std::vector<Row>& rows, const TextStyle& style)
+std::string wideTable(const std::vector<HistoryRow>& rows, const TextStyle& style)
 {
-    const Row titles{say("Date"), say("Operation"), say("Source"), say("Asked"), say("Done"), say("Failed"),
+    const HistoryRow titles{say("Date"), say("Operation"), say("Source"), say("Asked"), say("Done"), say("Failed"),
         say("Size"), "", say("Entry")};
-    const std::size_t shown = style.columns >= kVeryWide ? std::size_t{columnCount} : std::size_t{entryId};
-    std::array<std::size_t, columnCount> widths{};
+    const std::size_t shown =
+        style.columns >= kVeryWideTable ? std::size_t{HistoryColumn::count} : std::size_t{HistoryColumn::entryId};
+    std::array<std::size_t, HistoryColumn::count> widths{};
     for (std::size_t column = 0; column < shown; ++column) {
         widths[column] = columnsOf(titles[column]);
-        for (const Row& row : rows) {
+        for (const HistoryRow& row : rows) {
             widths[column] = std::max(widths[column], columnsOf(row[column]));
         }
     }
-    const auto line = [&](const Row& row) {
+    const auto line = [&](const HistoryRow& row) {
         std::string text;
         for (std::size_t column = 0; column < shown; ++column) {
             if (widths[column] == 0) {
                 continue;
             }
-            text += text.empty() ? "" : kGap;
+            text += text.empty() ? "" : kColumnGap;
             const TerminalText cell(row[column]);
-            text += isNumber(column) ? cell.paddedLeft(widths[column]) : cell.paddedRight(widths[column]);
+            text +=
+                HistoryColumn::isNumber(column) ? cell.paddedLeft(widths[column]) : cell.paddedRight(widths[column]);
         }
         return text.substr(0, text.find_last_not_of(' ') + 1);
     };
     std::string text = style.painter(Ink::quiet, line(titles)) + "\n";
-    for (const Row& row : rows) {
+    for (const HistoryRow& row : rows) {
         text += line(row);
         text += '\n';
     }
     return text;
 }
 
-std::string narrowTable(const std::vector<Row>& rows)
+std::string narrowTable(const std::vector<HistoryRow>& rows)
 {
     std::string text;
-    for (const Row& row : rows) {
-        text +=
-            fmt::format("{}  {}  {}{}{}\n  {}\n", row[date], row[operation], row[source], row[end].empty() ? "" : kGap,
-                row[end], say("{} asked, {} done, {} failed, {}", row[asked], row[done], row[failed], row[size]));
+    for (const HistoryRow& row : rows) {
+        text += fmt::format("{}  {}  {}{}{}\n  {}\n", row[HistoryColumn::date], row[HistoryColumn::operation],
+            row[HistoryColumn::source], row[HistoryColumn::end].empty() ? "" : kColumnGap, row[HistoryColumn::end],
+            say("{} asked, {} done, {} failed, {}", row[HistoryColumn::asked], row[HistoryColumn::done],
+                row[HistoryColumn::failed], row[HistoryColumn::size]));
     }
     return text;
 }
@@ -103,11 +105,11 @@ std::string historyTable(std::span<const CleanupAuditEntry> entries, const TextS
     if (entries.empty()) {
         return style.paragraph(say("Nothing has been cleaned or restored yet."));
     }
-    std::vector<Row> rows;
+    std::vector<HistoryRow> rows;
     for (const CleanupAuditEntry& entry : entries) {
         rows.push_back(rowOf(entry, style));
     }
-    return style.columns >= kWide ? wideTable(rows, style) : narrowTable(rows);
+    return style.columns >= kLeastColumnsForHistory ? wideTable(rows, style) : narrowTable(rows);
 }
 
 } // namespace KarvelloCLI

@@ -24,7 +24,7 @@ constexpr std::size_t kShownReasons = 12;
 constexpr std::size_t kShownFindings = 10;
 
 template <typename Items>
-std::int64_t totalBytes(const Items& items)
+std::int64_t saturatingTotal(const Items& items)
 {
     std::int64_t sum = 0;
     for (const auto& item : items) {
@@ -151,7 +151,7 @@ std::string InsightTable::map() const
         return title(say("Size map"), say("no folder was looked at"));
     }
     const bool isLowerBound = std::ranges::any_of(folders, &CleanerCore::StorageMapItem::isTruncated);
-    const std::string bytes = size(totalBytes(folders));
+    const std::string bytes = size(saturatingTotal(folders));
     return title(say("Size map"),
                say("{}, {}", counted(folders.size(), "{} folder", "{} folders"),
                    isLowerBound ? say("at least {}", bytes) : bytes))
@@ -176,13 +176,13 @@ std::string InsightTable::fileList(std::string_view words, Files files, Rows row
         return title(words, say("none"));
     }
     std::string text =
-        title(words, say("{}, {}", fileCount(files.size()), size(totalBytes(files)))) + m_columns.header() + '\n';
+        title(words, say("{}, {}", fileCount(files.size()), size(saturatingTotal(files)))) + m_columns.header() + '\n';
     for (const CandidateRow& row : rows) {
         text += m_columns.line(row) + '\n';
     }
     const Files more = files.subspan(rows.size());
     return text
-        + rest(totalBytes(more), more.empty() ? "" : counted(more.size(), "in {} more file", "in {} more files"));
+        + rest(saturatingTotal(more), more.empty() ? "" : counted(more.size(), "in {} more file", "in {} more files"));
 }
 
 std::string InsightTable::rest(std::int64_t bytes, std::string_view words) const
@@ -215,7 +215,7 @@ std::string InsightTable::findings() const
         return title(words, say("none"));
     }
     std::string text =
-        title(words, say("{}, {}, by name alone", itemCount(findings.size()), size(totalBytes(findings))))
+        title(words, say("{}, {}, by name alone", itemCount(findings.size()), size(saturatingTotal(findings))))
         + m_columns.header() + '\n';
     for (const Sort& sort : sortsOf(findings)) {
         const std::size_t shown =

@@ -1,6 +1,7 @@
 #include "KarvelloCLI/ItemLines.h"
 
 #include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TableLayout.h"
 #include "KarvelloCLI/TerminalText.h"
 
 #include <fmt/format.h>
@@ -9,13 +10,6 @@
 #include <utility>
 
 namespace KarvelloCLI {
-
-namespace {
-
-constexpr std::size_t kMarkWidth = 2;
-constexpr std::size_t kGap = 2;
-
-} // namespace
 
 ItemLines::ItemLines(std::vector<Item> items)
     : m_items(std::move(items))
@@ -28,7 +22,7 @@ ItemLines::ItemLines(std::vector<Item> items)
 
 std::size_t ItemLines::indent() const
 {
-    return kMarkWidth + m_sizeWidth + kGap + (m_ageWidth > 0 ? m_ageWidth + kGap : 0);
+    return kMarkWidth + m_sizeWidth + kColumnGap.size() + (m_ageWidth > 0 ? m_ageWidth + kColumnGap.size() : 0);
 }
 
 std::string ItemLines::text() const

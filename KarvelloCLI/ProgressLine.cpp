@@ -16,7 +16,6 @@ namespace {
 
 /// Below this a path tells nothing any more.
 constexpr std::size_t kLeastColumnsForPath = 12;
-constexpr std::string_view kEraseLine = "\r\x1b[K";
 
 /// The facts that fit, and the place behind them if there is room for it.
 std::string lineOf(std::string_view facts, std::string_view brief, const Platform::FileURL* place, std::size_t columns,

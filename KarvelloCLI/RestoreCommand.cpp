@@ -5,6 +5,7 @@
 #include "KarvelloCLI/AuditLog.h"
 #include "KarvelloCLI/CommandOutput.h"
 #include "KarvelloCLI/Errand.h"
+#include "KarvelloCLI/ErrandOutcome.h"
 #include "KarvelloCLI/Interruption.h"
 #include "KarvelloCLI/Messages.h"
 #include "KarvelloCLI/RestoreCatalog.h"
@@ -17,7 +18,6 @@
 #include "Platform/Files/FileError.h"
 #include "Platform/Services/HomeDirectory.h"
 
-#include <algorithm>
 #include <optional>
 #include <span>
 #include <string>
@@ -32,9 +32,6 @@ using CleanerCore::CleanupAuditEntry;
 using CleanerCore::RestoreResult;
 using CleanerCore::ScanLocation;
 using Platform::FileURL;
-
-/// Nothing is looked through on the way back; the policy only wants a number.
-constexpr std::int64_t kMostValidatedDescendants = 100'000;
 
 /// The places that every mode knows.
 std::vector<ScanLocation> knownLocations(
@@ -58,6 +55,7 @@ struct RestorePlaces {
     RestorePlaces(std::span<const CleanedItem> items, std::span<const ScanLocation> known, const FileURL& homeFolder,
         const Platform::FileManager& fileManager)
         : locations(restoreLocations(items, known))
+        // Nothing is looked through on the way back; the policy only wants a number.
         , eligibility(locations, fileManager, kMostValidatedDescendants, homeFolder)
         , home(homeFolder)
     {
@@ -73,7 +71,7 @@ struct RestorePlaces {
 };
 
 /// Of an item that did not go back as it should, whether something was put there all the same.
-bool mayHaveMoved(const CleanerCore::FailedRestoreItem& item)
+bool mayHaveGoneBack(const CleanerCore::FailedRestoreItem& item)
 {
     const Platform::FileError stranger{.kind = Platform::FileErrorKind::restoredUnconfirmed,
         .operation = Platform::FileOperation::restore,
@@ -120,14 +118,7 @@ private:
 
 ExitCode exitCodeOf(const RestoreResult& result)
 {
-    if (result.wasCancelled) {
-        return ExitCode::interrupted;
-    }
-    if (result.failedItems.empty()) {
-        return ExitCode::done;
-    }
-    const bool somethingMoved = !result.restoredItems.empty() || std::ranges::any_of(result.failedItems, mayHaveMoved);
-    return somethingMoved ? ExitCode::partial : ExitCode::refused;
+    return exitCodeOfMoves(result, result.restoredItems, mayHaveGoneBack);
 }
 
 ExitCode RestoreCommand::run(const RestoreOptions& options) const

@@ -23,7 +23,7 @@ using CleanerCore::CleanupSafety;
 
 constexpr std::string_view kCandidateLabel = "cleanup-candidate";
 
-std::int64_t totalBytes(std::span<const CleanupCandidate> candidates)
+std::int64_t checkedTotal(std::span<const CleanupCandidate> candidates)
 {
     std::int64_t sum = 0;
     for (const CleanupCandidate& candidate : candidates) {
@@ -165,7 +165,7 @@ std::string ScanTable::lines(const Group& group, const CandidateColumns& columns
     const std::span candidates = std::span(m_report.candidates).subspan(group.first, group.last - group.first);
     const CleanupSafety safety = candidates.front().safety;
     std::string text = say("{}: {}", m_painter(inkOf(safety), sayReason(displayName(safety))),
-                           say("{}, {}", itemCount(candidates.size()), size(totalBytes(candidates))))
+                           say("{}, {}", itemCount(candidates.size()), size(checkedTotal(candidates))))
         + '\n';
     for (const CandidateRow& row : group.rows) {
         text += columns.line(row);
@@ -186,7 +186,7 @@ std::string ScanTable::rest(std::span<const CleanupCandidate> candidates, const 
     const auto line = [&](std::int64_t bytes, std::string_view words) {
         return columns.summaryLine(TerminalText(size(bytes)), TerminalText(words)) + '\n';
     };
-    const std::int64_t bytes = totalBytes(candidates);
+    const std::int64_t bytes = checkedTotal(candidates);
     std::string text = line(bytes, counted(candidates.size(), "in {} more item", "in {} more items"));
     if (m_settings.isRedacted) {
         return text;

@@ -1,6 +1,7 @@
 #include "KarvelloCLI/SizeMapChart.h"
 
 #include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TableLayout.h"
 
 #include <fmt/format.h>
 
@@ -10,8 +11,6 @@ namespace KarvelloCLI {
 
 namespace {
 
-constexpr std::size_t kMarkWidth = 2;
-constexpr std::size_t kGap = 2;
 /// A shorter bar tells nothing, and a longer one nothing more.
 constexpr std::size_t kShortestBar = 8;
 constexpr std::size_t kLongestBar = 60;
@@ -35,12 +34,12 @@ std::string sizeMapChart(std::span<const CleanerCore::StorageMapItem> folders, s
         longestName = std::max(longestName, names[index].columns());
         largest = std::max(largest, folders[index].sizeBytes);
     }
-    const std::size_t taken = kMarkWidth + sizeWidth + kGap + itemsWidth + kGap;
+    const std::size_t taken = kMarkWidth + sizeWidth + kColumnGap.size() + itemsWidth + kColumnGap.size();
     const std::size_t left = style.columns > taken ? style.columns - taken : 1;
-    const std::size_t forBar = kShortestBar + kGap;
+    const std::size_t forBar = kShortestBar + kColumnGap.size();
     const bool hasBars = left >= kShortestName + forBar || left >= longestName + forBar;
     const std::size_t nameWidth = std::min(longestName, hasBars ? std::max(left / 2, kShortestName) : left);
-    const std::size_t barWidth = hasBars ? std::min(left - nameWidth - kGap, kLongestBar) : 0;
+    const std::size_t barWidth = hasBars ? std::min(left - nameWidth - kColumnGap.size(), kLongestBar) : 0;
 
     std::string text = style.painter(Ink::quiet,
                            fmt::format("{:{}}{}  {}  {}", "", kMarkWidth, sizeTitle.paddedLeft(sizeWidth),
@@ -53,7 +52,7 @@ std::string sizeMapChart(std::span<const CleanerCore::StorageMapItem> folders, s
             folder.itemCount, itemsWidth);
         const TerminalText name = names[index].elidedInMiddle(nameWidth);
         const std::string itsBar = bar(folder.sizeBytes, largest, barWidth, glyphs);
-        text += itsBar.empty() ? name.string() : name.paddedRight(nameWidth + kGap) + itsBar;
+        text += itsBar.empty() ? name.string() : name.paddedRight(nameWidth + kColumnGap.size()) + itsBar;
         text += '\n';
     }
     return text;

@@ -13,7 +13,7 @@ namespace KarvelloCLI {
 
 namespace {
 
-constexpr std::size_t kIndent = 2;
+constexpr std::size_t kCountIndent = 2;
 constexpr std::string_view kOpeningQuote = "“";
 constexpr std::string_view kClosingQuote = "”";
 
@@ -36,8 +36,8 @@ std::size_t digits(std::size_t number)
 /// A count and what it counts, which goes on under itself where it is long.
 std::string countedLine(std::size_t count, const TerminalText& words, std::size_t countWidth, std::size_t columns)
 {
-    const std::size_t taken = kIndent + countWidth + 2;
-    std::string text = fmt::format("{:{}}{:>{}}  ", "", kIndent, count, countWidth);
+    const std::size_t taken = kCountIndent + countWidth + 2;
+    std::string text = fmt::format("{:{}}{:>{}}  ", "", kCountIndent, count, countWidth);
     std::string separator;
     for (const TerminalText& line : words.wrapped(columns - taken)) {
         text += separator + line.string();
@@ -114,7 +114,7 @@ std::string SkippedSummary::countsByReason(std::size_t columns, std::size_t most
 std::string SkippedSummary::everyItem(std::size_t columns) const
 {
     const std::size_t width = m_groups.empty() ? 0 : digits(m_groups.front().rows.size());
-    const std::string indent(kIndent + width + 2, ' ');
+    const std::string indent(kCountIndent + width + 2, ' ');
     std::string text;
     for (const Group& group : m_groups) {
         text += countedLine(group.rows.size(), group.reason, width, columns);

@@ -14,7 +14,6 @@ namespace KarvelloCLI {
 namespace {
 
 constexpr std::chrono::milliseconds kFirstLook{350};
-constexpr std::string_view kEraseLine = "\r\x1b[K";
 
 StatusReading read()
 {

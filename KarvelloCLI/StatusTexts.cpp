@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Export/CSVWriter.h"
 #include "KarvelloCLI/Say.h"
+#include "KarvelloCLI/TableLayout.h"
 #include "KarvelloCLI/Words.h"
 #include "Platform/Base/DateFormat.h"
 #include "Platform/Base/DecimalForm.h"
@@ -52,11 +53,10 @@ using CleanerCore::CSVWriter;
 using CleanerCore::ReportExportPrivacyMode;
 using CleanerCore::SystemResourceSnapshot;
 
-constexpr std::string_view kGap = "  ";
 constexpr std::size_t kLongestTrend = 24;
 constexpr std::size_t kShortestTrend = 4;
 
-constexpr std::array<std::string_view, 13> kColumns{"captured_at", "physical_memory_bytes", "used_memory_bytes",
+constexpr std::array<std::string_view, 13> kStatusColumns{"captured_at", "physical_memory_bytes", "used_memory_bytes",
     "free_memory_bytes", "memory_pressure", "cpu_load_average", "normalized_cpu_load", "processor_count",
     "active_processor_count", "thermal_state", "uptime_seconds", "home_volume_total_bytes",
     "home_volume_available_bytes"};
@@ -156,7 +156,7 @@ std::string statusTable(const StatusReading& reading, const TextStyle& style)
     };
     std::size_t labelWidth = 0;
     for (const Fact& fact : facts) {
-        labelWidth = std::max(labelWidth, fact.label.columns() + kGap.size());
+        labelWidth = std::max(labelWidth, fact.label.columns() + kColumnGap.size());
     }
     for (const Fact& fact : facts) {
         auto lines =
@@ -194,13 +194,13 @@ std::expected<std::string, Platform::JSONError> statusJSON(const StatusReading& 
 
 std::string statusCSVHeader(ReportExportPrivacyMode privacy)
 {
-    return CSVWriter(kColumns, privacy).finish();
+    return CSVWriter(kStatusColumns, privacy).finish();
 }
 
 std::string statusCSVRow(const StatusReading& reading)
 {
     const auto& snapshot = reading.snapshot;
-    const std::array<std::string, kColumns.size()> cells{Platform::DateFormat::iso8601(snapshot.capturedAt),
+    const std::array<std::string, kStatusColumns.size()> cells{Platform::DateFormat::iso8601(snapshot.capturedAt),
         std::to_string(snapshot.physicalMemoryBytes), std::to_string(snapshot.usedMemoryBytes),
         std::to_string(snapshot.freeMemoryBytes()), snapshot.memoryPressure,
         Platform::shortestDecimalForm(snapshot.cpuLoadAverage),
@@ -209,9 +209,9 @@ std::string statusCSVRow(const StatusReading& reading)
         Platform::shortestDecimalForm(snapshot.uptime),
         cell(reading.disk ? std::optional(reading.disk->total) : std::nullopt),
         cell(reading.disk ? std::optional(reading.disk->available) : std::nullopt)};
-    std::array<std::string_view, kColumns.size()> views{};
+    std::array<std::string_view, kStatusColumns.size()> views{};
     std::ranges::copy(cells, views.begin());
-    CSVWriter writer(kColumns, ReportExportPrivacyMode::full);
+    CSVWriter writer(kStatusColumns, ReportExportPrivacyMode::full);
     writer.addRow(views);
     return std::move(writer).finish().substr(statusCSVHeader(ReportExportPrivacyMode::full).size());
 }
@@ -243,12 +243,12 @@ std::string StatusTrend::line(const StatusReading& reading, const TextStyle& sty
         facts.push_back(say("{} free", style.size(reading.disk->available)));
     }
     for (const std::string& fact : facts) {
-        const std::size_t width = kGap.size() + columnsOf(fact);
+        const std::size_t width = kColumnGap.size() + columnsOf(fact);
         if (taken + width + 2 * kShortestTrend > style.columns) {
             break;
         }
         taken += width;
-        rest += kGap;
+        rest += kColumnGap;
         rest += fact;
     }
     const std::size_t room = style.columns > taken ? (style.columns - taken) / 2 : 0;

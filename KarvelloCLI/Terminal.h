@@ -5,8 +5,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace KarvelloCLI {
+
+/// Back to the start of the line, and nothing stands there any more.
+inline constexpr std::string_view kEraseLine = "\r\x1b[K";
 
 /// A choice that a user may leave to the program.
 enum class When : std::uint8_t { automatic, always, never };

@@ -13,7 +13,7 @@ namespace {
 namespace JSONReader = Platform::JSONReader;
 
 // A sound entry may hold anything under keys that this version does not know; only what is dropped has a tighter bound.
-constexpr std::size_t kMaximumDepth = 512;
+constexpr std::size_t kMaximumJSONDepth = 512;
 // Of an element of the array: the one index that leads to it.
 constexpr std::size_t kElementDepth = 1;
 
@@ -22,10 +22,10 @@ constexpr std::size_t kElementDepth = 1;
 std::expected<LossyCleanupAuditEntryList, Platform::JSONError> LossyCleanupAuditEntryList::read(std::string_view bytes)
 {
     LossyCleanupAuditEntryList list;
-    auto document = JSONReader::parse(bytes, kMaximumDepth);
+    auto document = JSONReader::parse(bytes, kMaximumJSONDepth);
     if (!document) {
         list.completeness = Completeness::lossy;
-        document = JSONReader::parse(bytes, kMaximumDepth, JSONReader::RepeatedKeys::makeTheObjectNull);
+        document = JSONReader::parse(bytes, kMaximumJSONDepth, JSONReader::RepeatedKeys::makeTheObjectNull);
     }
     if (!document) {
         return std::unexpected(document.error());

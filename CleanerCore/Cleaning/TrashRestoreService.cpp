@@ -15,9 +15,9 @@ using Kind = CleaningError::Kind;
 using Platform::FileErrorKind;
 using Platform::FileURL;
 
-using Verdict = std::expected<void, CleaningFailure>;
+using RestoreVerdict = std::expected<void, CleaningFailure>;
 
-Verdict verdictOf(const std::expected<void, CleaningError>& verdict)
+RestoreVerdict verdictOf(const std::expected<void, CleaningError>& verdict)
 {
     if (!verdict) {
         return CleaningFailure::refused(verdict.error());
@@ -57,13 +57,13 @@ public:
     }
 
     /// The checks come in a fixed order: the first that fails gives the reason.
-    [[nodiscard]] Verdict restore(const CleanedItem& item) const;
+    [[nodiscard]] RestoreVerdict restore(const CleanedItem& item) const;
 
 private:
-    [[nodiscard]] Verdict validateRestoreSource(const FileURL& trashed, const FileURL& original) const;
-    [[nodiscard]] Verdict validateRestoreSourceIdentity(
+    [[nodiscard]] RestoreVerdict validateRestoreSource(const FileURL& trashed, const FileURL& original) const;
+    [[nodiscard]] RestoreVerdict validateRestoreSourceIdentity(
         const std::optional<FileResourceIdentity>& expected, const FileURL& trashed) const;
-    [[nodiscard]] Verdict putBack(const Platform::RestoreAnchor& anchor) const;
+    [[nodiscard]] RestoreVerdict putBack(const Platform::RestoreAnchor& anchor) const;
 
     const Platform::FileManager& m_fileManager;
     Platform::Trash& m_trash;
@@ -74,7 +74,7 @@ private:
     const std::optional<FileURL>& m_homeDirectory;
 };
 
-Verdict Restore::restore(const CleanedItem& item) const
+RestoreVerdict Restore::restore(const CleanedItem& item) const
 {
     const auto& original = item.candidate.url;
     if (!item.destinationURL) {
@@ -111,7 +111,7 @@ Verdict Restore::restore(const CleanedItem& item) const
     });
 }
 
-Verdict Restore::validateRestoreSource(const FileURL& trashed, const FileURL& original) const
+RestoreVerdict Restore::validateRestoreSource(const FileURL& trashed, const FileURL& original) const
 {
     const auto roots = restoreSourceRootURLs(original, m_allowedTrashRootURLs, m_trash, m_fileManager, m_homeDirectory);
     if (roots.empty()) {
@@ -121,7 +121,7 @@ Verdict Restore::validateRestoreSource(const FileURL& trashed, const FileURL& or
     return verdictOf(policy.validate(trashed, m_fileManager));
 }
 
-Verdict Restore::validateRestoreSourceIdentity(
+RestoreVerdict Restore::validateRestoreSourceIdentity(
     const std::optional<FileResourceIdentity>& expected, const FileURL& trashed) const
 {
     if (!expected) {
@@ -137,7 +137,7 @@ Verdict Restore::validateRestoreSourceIdentity(
     return {};
 }
 
-Verdict Restore::putBack(const Platform::RestoreAnchor& anchor) const
+RestoreVerdict Restore::putBack(const Platform::RestoreAnchor& anchor) const
 {
     const auto restored = m_trash.restoreItem(anchor);
     if (restored) {

@@ -8,7 +8,7 @@ namespace CleanerCore {
 namespace {
 
 // A task deeper than this gives no folders away: each open folder that others wait for costs a descriptor.
-constexpr std::size_t kMaximumDepth = 64;
+constexpr std::size_t kMaximumSharedDepth = 64;
 
 std::int64_t visitsOf(const WalkSegment& segment)
 {
@@ -26,7 +26,7 @@ public:
 
     [[nodiscard]] bool wantsSubfolders() override
     {
-        return m_task.place.size() < kMaximumDepth && m_pool.hasIdleThreads();
+        return m_task.place.size() < kMaximumSharedDepth && m_pool.hasIdleThreads();
     }
 
     [[nodiscard]] std::shared_ptr<WalkTask> addSubfolder(Platform::ItemReference folder) override

@@ -10,7 +10,7 @@ namespace CleanerCore {
 namespace {
 
 using Kind = CleaningError::Kind;
-using Verdict = std::expected<void, CleaningError>;
+using PathVerdict = std::expected<void, CleaningError>;
 
 NameComparison comparisonOf(bool isCaseInsensitive)
 {
@@ -28,7 +28,7 @@ std::vector<std::string> comparisonForms(const std::vector<std::string>& paths, 
 }
 
 /// No link stands in the root's own path, and none between the root and `url`.
-Verdict rejectLinksBelow(
+PathVerdict rejectLinksBelow(
     const SafePathPolicy::AllowedRoot& root, const Platform::FileURL& url, const Platform::FileManager& fileManager)
 {
     const auto comparison = comparisonOf(root.usesCaseInsensitivePathComparison);
@@ -91,7 +91,7 @@ const SafePathPolicy::AllowedRoot* SafePathPolicy::allowedRoot(std::string_view 
     return found == m_allowedRoots.end() ? nullptr : &*found;
 }
 
-Verdict SafePathPolicy::validate(const Platform::FileURL& url, const Platform::FileManager& fileManager) const
+PathVerdict SafePathPolicy::validate(const Platform::FileURL& url, const Platform::FileManager& fileManager) const
 {
     const auto resolved = resolvedPath(url, fileManager);
     const auto key = homeKey(resolved);
@@ -111,7 +111,7 @@ Verdict SafePathPolicy::validate(const Platform::FileURL& url, const Platform::F
     return rejectLinksBelow(*root, url, fileManager);
 }
 
-Verdict SafePathPolicy::validateRestoreDestination(
+PathVerdict SafePathPolicy::validateRestoreDestination(
     const Platform::FileURL& url, const Platform::FileManager& fileManager) const
 {
     const auto resolved = resolvedPath(url, fileManager);
@@ -131,7 +131,7 @@ Verdict SafePathPolicy::validateRestoreDestination(
     return rejectLinksBelow(*root, parent, fileManager);
 }
 
-Verdict SafePathPolicy::validateScanRoot(const Platform::FileURL& url,
+PathVerdict SafePathPolicy::validateScanRoot(const Platform::FileURL& url,
     const std::optional<Platform::FileURL>& homeDirectory, const Platform::FileManager& fileManager)
 {
     if (!ScanRootSafety(homeDirectory, fileManager).isScanRootSafe(url, fileManager)) {

@@ -15,7 +15,7 @@ namespace Platform {
 namespace {
 
 constexpr mode_t kNewFileMode = 0666; // less what the process's mask takes away
-constexpr int kNameAttempts = 32;
+constexpr int kTemporaryNameAttempts = 32;
 
 /// A file that goes away again unless it takes its final name.
 class TemporaryFile {
@@ -24,7 +24,7 @@ public:
     static std::expected<TemporaryFile, int> make(int folder, const char* replacedName)
     {
         std::random_device random;
-        for (int attempt = 0; attempt < kNameAttempts; ++attempt) {
+        for (int attempt = 0; attempt < kTemporaryNameAttempts; ++attempt) {
             auto name = fmt::format(".karvello-{:08x}{:08x}.tmp", random(), random());
             FileDescriptor descriptor(
                 openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kNewFileMode));

@@ -5,6 +5,9 @@
 
 namespace Platform {
 
+/// A call on a descriptor that is interrupted more often than this is one that fails.
+inline constexpr int kMaximumInterruptions = 100;
+
 /// Owns an open file descriptor, or none.
 class FileDescriptor {
 public:

@@ -15,8 +15,6 @@ namespace Platform {
 namespace {
 
 constexpr std::size_t kReadBytes = std::size_t{64} * 1024;
-// A call that is interrupted again and again is one that fails.
-constexpr int kMaximumInterruptions = 100;
 constexpr std::string_view kUnfinishedPrefix = ".karvello-";
 constexpr std::string_view kUnfinishedSuffix = ".tmp";
 

@@ -33,7 +33,7 @@ std::string_view controlGroupPath(std::string_view text)
 }
 
 /// systemd.unit(5): a byte that cannot stand in a name is written as "\x2d".
-std::string unescaped(std::string_view text)
+std::string unescapedUnitName(std::string_view text)
 {
     std::string result;
     while (!text.empty()) {
@@ -71,7 +71,7 @@ bool removeSuffix(std::string_view& text, std::string_view suffix)
 
 void add(std::vector<std::string>& identifiers, std::string_view escaped)
 {
-    auto identifier = unescaped(escaped);
+    auto identifier = unescapedUnitName(escaped);
     // A name that leaves the folder of desktop files is none.
     const bool isName = !identifier.empty() && identifier.find('/') == std::string::npos && identifier.front() != '.';
     if (isName && std::ranges::find(identifiers, identifier) == identifiers.end()) {

@@ -34,7 +34,7 @@ bool isInterpreter(std::string_view program)
 }
 
 /// The escapes that every string of a desktop file may have.
-std::string unescaped(std::string_view value)
+std::string unescapedString(std::string_view value)
 {
     std::string text;
     for (std::size_t index = 0; index < value.size(); ++index) {
@@ -119,17 +119,17 @@ std::optional<DesktopEntry> DesktopEntry::parse(
         } else if (key == "Terminal") {
             entry.runsInTerminal = value == "true";
         } else if (key == "Exec") {
-            entry.commandLine = unescaped(value);
+            entry.commandLine = unescapedString(value);
             entry.program = programOf(entry.commandLine);
         } else if (key == "DBusActivatable") {
             entry.isDBusActivatable = value == "true";
         } else if (key == "Name" && !nameRank) {
-            entry.name = unescaped(value);
+            entry.name = unescapedString(value);
         } else if (key.starts_with("Name[") && key.ends_with(']')) {
             const auto rank = rankOf(key.substr(5, key.size() - 6), languages);
             if (rank && *rank < nameRank.value_or(languages.size())) {
                 nameRank = rank;
-                entry.name = unescaped(value);
+                entry.name = unescapedString(value);
             }
         }
     }

@@ -8,7 +8,7 @@ namespace Platform {
 
 namespace {
 
-ListedType typeOf(unsigned char type)
+ListedType listedTypeOf(unsigned char type)
 {
     if (type == DT_UNKNOWN) {
         return ListedType::unknown;
@@ -64,7 +64,7 @@ std::expected<std::optional<FolderListing::Entry>, int> FolderListing::next()
         const auto* const entry = reinterpret_cast<const dirent64*>(record);
         m_position += entry->d_reclen;
         if (!isDotOrDotDot(entry->d_name)) {
-            return Entry{.name = entry->d_name, .type = typeOf(entry->d_type)};
+            return Entry{.name = entry->d_name, .type = listedTypeOf(entry->d_type)};
         }
     }
 }

@@ -15,7 +15,7 @@ namespace {
 constexpr unsigned kWalkFields = STATX_TYPE | STATX_SIZE | STATX_BLOCKS | STATX_MTIME | STATX_INO | STATX_MNT_ID;
 constexpr std::int64_t kBytesPerBlock = 512; // statx(2): stx_blocks counts blocks of 512 bytes
 
-FileType typeOf(unsigned mode)
+FileType fileTypeOf(unsigned mode)
 {
     switch (mode & S_IFMT) {
     case S_IFREG:
@@ -40,7 +40,7 @@ std::expected<ItemStatus, int> readItemStatus(int folderDescriptor, const char* 
         return std::unexpected(errno);
     }
     ItemStatus status;
-    status.type = typeOf(found.stx_mode);
+    status.type = fileTypeOf(found.stx_mode);
     status.size = static_cast<std::int64_t>(found.stx_size);
     status.allocatedSize = static_cast<std::int64_t>(found.stx_blocks) * kBytesPerBlock;
     status.modificationDate = Date::fromUnixTime(found.stx_mtime.tv_sec, found.stx_mtime.tv_nsec);

@@ -18,7 +18,7 @@ namespace {
 
 // Names are numbered from 2 up; where many are taken, numbers at random find a free one sooner.
 constexpr std::size_t kNumberedNames = 8;
-constexpr std::size_t kNameAttempts = 64;
+constexpr std::size_t kTrashNameAttempts = 64;
 
 int moveWithoutReplacing(int fromFolder, const std::string& from, int toFolder, const std::string& to)
 {
@@ -161,7 +161,7 @@ std::expected<std::string, int> LinuxTrash::moveUnderFreeName(
     const FolderHandle& folder, const FileURL& item, const TrashFolder& trash) const
 {
     const std::string itemName(item.lastPathComponent());
-    for (std::size_t attempt = 0; attempt < kNameAttempts; ++attempt) {
+    for (std::size_t attempt = 0; attempt < kTrashNameAttempts; ++attempt) {
         auto name = trashedName(itemName, attempt < kNumberedNames ? attempt : std::random_device()());
         const int recordError = trash.addRecord(name, item);
         if (recordError == EEXIST) {

@@ -14,8 +14,6 @@ namespace Platform {
 
 namespace {
 
-// A call that is interrupted again and again is one that fails.
-constexpr int kMaximumInterruptions = 100;
 // A file of no more than this is wholly read by one sample.
 constexpr std::int64_t kSmallFileBytes = std::int64_t{64} * 1024;
 constexpr std::int64_t kReadAheadBytes = std::int64_t{2} * 1024 * 1024;
@@ -23,7 +21,7 @@ constexpr std::int64_t kReadAheadBytes = std::int64_t{2} * 1024 * 1024;
 constexpr std::int64_t kReleaseStrideBytes = std::int64_t{8} * 1024 * 1024;
 constexpr std::int64_t kCacheProbes = 4;
 
-ContentState stateOf(const struct stat& found)
+ContentState contentStateOf(const struct stat& found)
 {
     return {
         .fileNumber = found.st_ino,
@@ -79,7 +77,7 @@ public:
         if (found.st_nlink == 0) {
             return std::unexpected(error(ENOENT));
         }
-        return stateOf(found);
+        return contentStateOf(found);
     }
 
     [[nodiscard]] std::expected<std::size_t, FileError> read(std::int64_t offset, std::span<std::byte> buffer) override
@@ -211,7 +209,7 @@ std::expected<std::unique_ptr<ReadableFile>, FileError> openRegularFile(const Fi
     if (fstat(file.get(), &found) != 0) {
         return failure(errno);
     }
-    return std::make_unique<RegularFile>(std::move(file), stateOf(found), url.path(), plan);
+    return std::make_unique<RegularFile>(std::move(file), contentStateOf(found), url.path(), plan);
 }
 
 } // namespace Platform

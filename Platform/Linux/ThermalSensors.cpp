@@ -118,7 +118,7 @@ void readProcessorSensors(const std::string& device, std::vector<Sensor>& sensor
     }
 }
 
-std::optional<ThermalState> stateOf(const Sensor& sensor)
+std::optional<ThermalState> thermalStateOf(const Sensor& sensor)
 {
     if (!sensor.serious && !sensor.critical) {
         return std::nullopt;
@@ -153,7 +153,7 @@ ThermalState thermalStateOfSensors(const std::string& sysRoot)
 
     std::optional<ThermalState> warmest;
     for (const auto& sensor : sensors) {
-        if (const auto state = stateOf(sensor)) {
+        if (const auto state = thermalStateOf(sensor)) {
             warmest = std::max(warmest.value_or(*state), *state);
         }
     }

@@ -35,7 +35,7 @@ using TestSupport::contentsOf;
 
 using Entries = std::vector<CleanupAuditEntry>;
 
-inline CleanupCandidate candidate(std::string_view path, std::int64_t sizeBytes = 10)
+inline CleanupCandidate loggedCandidate(std::string_view path, std::int64_t sizeBytes = 10)
 {
     return CleanupCandidate({
         .url = FileURL::folder(path),
@@ -52,7 +52,7 @@ inline CleanupCandidate candidate(std::string_view path, std::int64_t sizeBytes 
 inline CleanedItem trashedItem(std::string_view path, std::int64_t sizeBytes = 10)
 {
     const auto trash = FileURL::folder("/home/ada/.local/share/Trash/files");
-    auto item = CleanedItem{.candidate = candidate(path, sizeBytes),
+    auto item = CleanedItem{.candidate = loggedCandidate(path, sizeBytes),
         .destinationURL = {},
         .restoreSourceRootURL = trash,
         .restoreSourceIdentity = FileResourceIdentity{.fileResourceIdentifier = "0a1b"}};

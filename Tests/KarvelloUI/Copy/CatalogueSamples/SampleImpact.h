@@ -2,6 +2,9 @@
 
 #include "CleanerCore/Cleaning/CleanupStorageImpactReport.h"
 
+#include <cstdint>
+#include <optional>
+
 namespace KarvelloUI {
 
 /// A clean of which one item failed.

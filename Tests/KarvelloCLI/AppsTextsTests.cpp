@@ -1,5 +1,7 @@
 #include "KarvelloCLI/AppsTexts.h"
 
+#include "Tests/KarvelloCLI/TableSamples.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -8,20 +10,14 @@
 
 using namespace KarvelloCLI;
 using CleanerCore::ReportExportPrivacyMode;
+using KarvelloCLITests::homeStyle;
 using Platform::RunningApplication;
 using testing::HasSubstr;
 using testing::Not;
 
 namespace {
 
-constexpr Platform::Date kNow{10'000};
-
-TextStyle style(std::size_t columns, bool isVerbose = false)
-{
-    return {.columns = columns,
-        .isVerbose = isVerbose,
-        .paths = HomePathAbbreviation(Platform::FileURL::folder("/home/ada"))};
-}
+constexpr Platform::Date kReadAt{10'000};
 
 std::vector<AppsRow> rows()
 {
@@ -55,7 +51,7 @@ std::vector<AppsRow> rows()
 
 std::string table(std::size_t columns, bool isVerbose = false)
 {
-    return appsTable(rows(), kNow, false, style(columns, isVerbose));
+    return appsTable(rows(), kReadAt, false, homeStyle(columns, isVerbose));
 }
 
 } // namespace
@@ -97,7 +93,7 @@ TEST(AppsTexts, NoLineIsWiderThanTheTerminal)
     long_[0].candidate.displayName = std::string(200, 'n');
     long_[0].candidate.bundleIdentifier = std::string(200, 'i');
     for (std::size_t columns = 40; columns <= 160; columns += 5) {
-        const auto text = appsTable(long_, kNow, false, style(columns, true));
+        const auto text = appsTable(long_, kReadAt, false, homeStyle(columns, true));
         for (std::size_t begin = 0; begin < text.size();) {
             const auto end = text.find('\n', begin);
             const TerminalText line(text.substr(begin, end - begin), TerminalText::Kind::sentence);
@@ -110,14 +106,14 @@ TEST(AppsTexts, NoLineIsWiderThanTheTerminal)
 TEST(AppsTexts, NobodyRunningIsSaid)
 {
     EXPECT_THAT(
-        appsTable({}, kNow, false, style(80)), HasSubstr("No application that the desktop knows is running.\n"));
+        appsTable({}, kReadAt, false, homeStyle(80)), HasSubstr("No application that the desktop knows is running.\n"));
 }
 
 TEST(AppsTexts, ARedactedListNamesNobody)
 {
-    for (const auto& text :
-        {appsTable(rows(), kNow, true, style(140, true)), *appsJSON(rows(), kNow, ReportExportPrivacyMode::redacted),
-            appsCSV(rows(), ReportExportPrivacyMode::redacted)}) {
+    for (const auto& text : {appsTable(rows(), kReadAt, true, homeStyle(140, true)),
+             *appsJSON(rows(), kReadAt, ReportExportPrivacyMode::redacted),
+             appsCSV(rows(), ReportExportPrivacyMode::redacted)}) {
         for (const auto* const name : {"Notes", "Editor", "editor", "GNOME", "syncd", "org."}) {
             EXPECT_THAT(text, Not(HasSubstr(name)));
         }
@@ -126,7 +122,7 @@ TEST(AppsTexts, ARedactedListNamesNobody)
 
 TEST(AppsTexts, JSONTellsTheTruthOfTheCommandLine)
 {
-    const auto json = appsJSON(rows(), kNow, ReportExportPrivacyMode::full);
+    const auto json = appsJSON(rows(), kReadAt, ReportExportPrivacyMode::full);
     ASSERT_TRUE(json);
     for (const auto* const member : {"\"canRequestQuitOtherApplications\" : false", "\"reason\" : \"unknown\"",
              "\"reason\" : \"sandboxUnavailable\"", "\"reason\" : \"protectedSystemApplication\"",

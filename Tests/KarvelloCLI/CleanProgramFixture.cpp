@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <utility>
 
 namespace KarvelloCLITests {
@@ -29,12 +28,6 @@ std::vector<std::string> namesIn(const std::string& folder)
 }
 
 } // namespace
-
-std::string contentsOf(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 void writeFile(const std::string& path, std::string_view bytes)
 {

@@ -2,6 +2,7 @@
 
 #include "Tests/KarvelloCLI/RunningProgram.h"
 #include "Tests/KarvelloCLI/ScanProgramFixture.h"
+#include "Tests/Support/FileContents.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +16,8 @@
 #include <vector>
 
 namespace KarvelloCLITests {
+
+using TestSupport::contentsOf;
 
 /// The built program, cleaning a home of its own: its Trash, its log and its environment lie in a temporary folder.
 class CleanProgram : public testing::Test {
@@ -57,7 +60,6 @@ home/
     TestSupport::TemporaryTree m_tree{kHome};
 };
 
-[[nodiscard]] std::string contentsOf(const std::string& path);
 void writeFile(const std::string& path, std::string_view bytes);
 
 } // namespace KarvelloCLITests

@@ -3,6 +3,7 @@
 #include "CleanerCore/Safety/CleaningError.h"
 #include "KarvelloCLI/CleanCommand.h"
 #include "Platform/Files/FileError.h"
+#include "Tests/KarvelloCLI/TableSamples.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,14 +16,13 @@ using CleanerCore::CleanResult;
 using CleanerCore::CleanupCandidate;
 using CleanerCore::CleanupCategory;
 using CleanerCore::CleanupSafety;
-using Platform::Date;
+using KarvelloCLITests::homeStyle;
+using KarvelloCLITests::kNow;
 using Platform::FileURL;
 using testing::HasSubstr;
 using testing::Not;
 
 namespace {
-
-constexpr Date kNow{800'000'000};
 
 CleanupCandidate candidate(const std::string& name, CleanupSafety safety, std::int64_t bytes, CleanupCategory category)
 {
@@ -42,16 +42,11 @@ std::vector<CleanupCandidate> threeCandidates()
         candidate("Downloads/c\n", CleanupSafety::manualReview, 1024, CleanupCategory::customFolder)};
 }
 
-TextStyle style()
-{
-    return {.columns = 80, .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
-}
-
 } // namespace
 
 TEST(CleanTexts, ThePreviewShowsHowMuchOfWhatAndEachPath)
 {
-    EXPECT_EQ(cleanPreview(threeCandidates(), kNow, style()),
+    EXPECT_EQ(cleanPreview(threeCandidates(), kNow, homeStyle(80)),
         "To the Trash: 3 items, 4 KB\n"
         "  3 KB  User Caches: 2 items\n"
         "  1 KB  Custom Folder: 1 item\n"
@@ -64,14 +59,14 @@ TEST(CleanTexts, ThePreviewShowsHowMuchOfWhatAndEachPath)
         "! 1 KB  3 d  ~/Downloads/c\\n\n"
         "\n"
         "! 1 item needs your own review: only you can tell whether it may go.\n");
-    EXPECT_EQ(cleanQuestion(threeCandidates(), style()), "Move 3 items (4 KB) to the Trash?");
+    EXPECT_EQ(cleanQuestion(threeCandidates(), homeStyle(80)), "Move 3 items (4 KB) to the Trash?");
 }
 
 TEST(CleanTexts, APathIsNeverCut)
 {
     const std::string deep = std::string(300, 'x');
     const std::vector all{candidate(deep, CleanupSafety::safe, 1024, CleanupCategory::userCaches)};
-    EXPECT_THAT(cleanPreview(all, kNow, style()), HasSubstr("  ~/" + deep + "\n"));
+    EXPECT_THAT(cleanPreview(all, kNow, homeStyle(80)), HasSubstr("  ~/" + deep + "\n"));
 }
 
 TEST(CleanTexts, ThePreviewNamesEveryItem)
@@ -81,7 +76,7 @@ TEST(CleanTexts, ThePreviewNamesEveryItem)
         many.push_back(candidate(
             "i" + std::to_string(number) + "/", CleanupSafety::caution, 1024, CleanupCategory::developerToolCaches));
     }
-    const std::string text = cleanPreview(many, kNow, style());
+    const std::string text = cleanPreview(many, kNow, homeStyle(80));
     for (const CleanupCandidate& each : many) {
         EXPECT_THAT(text, HasSubstr("  ~/" + std::string(each.url.lastPathComponent()) + "\n"));
     }
@@ -97,7 +92,7 @@ TEST(CleanTexts, TheAccountTellsOfEachItem)
         .restoreSourceIdentity = {}});
     result.failedItems.push_back({all[1], "because of \x1b[2J"});
     result.wasCancelled = true;
-    const std::string text = cleanAccount(all, result, style());
+    const std::string text = cleanAccount(all, result, homeStyle(80));
     EXPECT_EQ(text,
         "Moved to the Trash: 1 item, 2 KB\n"
         "  2 KB  ~/.cache/a\n"
@@ -111,7 +106,7 @@ TEST(CleanTexts, TheAccountTellsOfEachItem)
         "\n"
         "The space returns when the Trash is emptied. Until then, karvello-cli restore\n"
         "puts things back.\n");
-    TextStyle verbose = style();
+    TextStyle verbose = homeStyle(80);
     verbose.isVerbose = true;
     EXPECT_THAT(cleanAccount(all, result, verbose), HasSubstr("        now at ~/.local/share/Trash/files/a\n"));
 }
@@ -121,7 +116,7 @@ TEST(CleanTexts, AnAccountOfNothingClaimsNothing)
     const auto all = threeCandidates();
     CleanResult result;
     result.failedItems.push_back({all[0], "no"});
-    const std::string text = cleanAccount(all, result, style());
+    const std::string text = cleanAccount(all, result, homeStyle(80));
     EXPECT_THAT(text, HasSubstr("\nNothing was moved to the Trash.\n"));
     EXPECT_THAT(text, Not(HasSubstr("space returns")));
 }
@@ -135,11 +130,11 @@ TEST(CleanTexts, WhatTheLogDoesNotKeepIsTold)
         result.cleanedItems.push_back(
             {.candidate = many.back(), .destinationURL = {}, .restoreSourceRootURL = {}, .restoreSourceIdentity = {}});
     }
-    const std::string text = cleanAccount(many, result, style());
+    const std::string text = cleanAccount(many, result, homeStyle(80));
     EXPECT_THAT(text, HasSubstr("The log keeps the first 20 items of a clean"));
     EXPECT_THAT(text, HasSubstr("and 1 more item; --verbose names each."));
     result.cleanedItems.pop_back();
-    EXPECT_THAT(cleanAccount(many, result, style()), Not(HasSubstr("The log keeps")));
+    EXPECT_THAT(cleanAccount(many, result, homeStyle(80)), Not(HasSubstr("The log keeps")));
 }
 
 TEST(CleanCommand, TellsTheShellWhatWasDone)

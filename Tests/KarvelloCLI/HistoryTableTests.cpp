@@ -1,5 +1,7 @@
 #include "KarvelloCLI/HistoryTable.h"
 
+#include "Tests/KarvelloCLI/TableSamples.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -11,15 +13,10 @@ using namespace KarvelloCLI;
 using CleanerCore::CleanupAuditEntry;
 using CleanerCore::CleanupAuditOperation;
 using CleanerCore::CleanupAuditSource;
-using Platform::FileURL;
+using KarvelloCLITests::homeStyle;
 using testing::HasSubstr;
 
 namespace {
-
-TextStyle style(std::size_t columns)
-{
-    return {.columns = columns, .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))};
-}
 
 std::vector<CleanupAuditEntry> entries()
 {
@@ -51,7 +48,7 @@ std::size_t widestLine(const std::string& text)
 
 TEST(HistoryTable, HasAnEntryALineWhereThereIsRoom)
 {
-    const std::string text = historyTable(entries(), style(90));
+    const std::string text = historyTable(entries(), homeStyle(90));
     EXPECT_THAT(text, HasSubstr("Operation  Source    Asked  Done  Failed     Size\n"));
     EXPECT_THAT(text, HasSubstr("  Clean      cleanup    1200     7       1     2 KB  cancelled\n"));
     EXPECT_THAT(text, HasSubstr("  Restore    insights      0     0       0  0 bytes\n"));
@@ -60,18 +57,19 @@ TEST(HistoryTable, HasAnEntryALineWhereThereIsRoom)
 
 TEST(HistoryTable, HasTheIdsWhereThereIsMuchRoom)
 {
-    EXPECT_THAT(historyTable(entries(), style(120)), HasSubstr("cancelled  9B6C2D0E-7A41-4E53-8E11-0C6E7C5A2F10\n"));
-    EXPECT_LE(widestLine(historyTable(entries(), style(120))), 120U);
+    EXPECT_THAT(
+        historyTable(entries(), homeStyle(120)), HasSubstr("cancelled  9B6C2D0E-7A41-4E53-8E11-0C6E7C5A2F10\n"));
+    EXPECT_LE(widestLine(historyTable(entries(), homeStyle(120))), 120U);
 }
 
 TEST(HistoryTable, HasTwoLinesAnEntryWhereItIsNarrow)
 {
-    const std::string text = historyTable(entries(), style(60));
+    const std::string text = historyTable(entries(), homeStyle(60));
     EXPECT_THAT(text, HasSubstr("  Clean  cleanup  cancelled\n  1200 asked, 7 done, 1 failed, 2 KB\n"));
     EXPECT_LE(widestLine(text), 60U);
 }
 
 TEST(HistoryTable, SaysThatThereIsNothing)
 {
-    EXPECT_EQ(historyTable({}, style(80)), "Nothing has been cleaned or restored yet.\n");
+    EXPECT_EQ(historyTable({}, homeStyle(80)), "Nothing has been cleaned or restored yet.\n");
 }

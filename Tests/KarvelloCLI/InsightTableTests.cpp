@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Export/ScanResultExporter.h"
 
+#include "Tests/KarvelloCLI/TableSamples.h"
 #include "Tests/KarvelloCLI/TextLines.h"
 
 #include <gmock/gmock.h>
@@ -17,6 +18,9 @@ using CleanerCore::FileInsight;
 using CleanerCore::FileInsightKind;
 using CleanerCore::MacStorageInsightReport;
 using CleanerCore::StorageMapItem;
+using KarvelloCLITests::homeStyle;
+using KarvelloCLITests::kMegabyte;
+using KarvelloCLITests::kNow;
 using KarvelloCLITests::linesOf;
 using KarvelloCLITests::plain;
 using Platform::Date;
@@ -26,9 +30,6 @@ using testing::Not;
 using testing::StartsWith;
 
 namespace {
-
-constexpr std::int64_t kMegabyte = 1'048'576;
-const Date kNow = Date::fromUnixTime(1'795'000'000);
 
 FileInsight file(FileInsightKind kind, std::string_view path, std::int64_t size, std::string detail = "Large file",
     double ageInDays = 3)
@@ -94,26 +95,23 @@ MacStorageInsightReport::Fields ordinaryFields()
     };
 }
 
-MacStorageInsightReport ordinaryReport()
+MacStorageInsightReport ordinaryInsights()
 {
     return MacStorageInsightReport(ordinaryFields());
 }
 
-InsightSubject homeSubject()
+InsightSubject homeInsightSubject()
 {
     return {.home = FileURL::folder("/home/ada")};
 }
 
 InsightTable::Settings settings(std::size_t columns, bool isVerbose = false)
 {
-    return {.style = {.columns = columns,
-                .isVerbose = isVerbose,
-                .paths = HomePathAbbreviation(FileURL::folder("/home/ada"))},
-        .glyphs = BarGlyphs::ascii};
+    return {.style = homeStyle(columns, isVerbose), .glyphs = BarGlyphs::ascii};
 }
 
 std::string table(const MacStorageInsightReport& report, const InsightTable::Settings& settings,
-    const InsightSubject& subject = homeSubject())
+    const InsightSubject& subject = homeInsightSubject())
 {
     return InsightTable(report, subject, settings).text();
 }
@@ -140,7 +138,7 @@ MacStorageInsightReport hostileReport()
 
 InsightSubject cutSubject()
 {
-    InsightSubject subject = homeSubject();
+    InsightSubject subject = homeInsightSubject();
     subject.folders = {FileURL::folder("/home/ada/" + std::string(120, 'f')), FileURL::folder("/srv/\x1b[2J")};
     subject.isIncomplete = true;
     subject.cuts = {.visits = true, .recentFiles = true, .duplicates = true};
@@ -151,7 +149,7 @@ InsightSubject cutSubject()
 
 TEST(InsightTable, ShowsEverySectionOfAReport)
 {
-    const std::vector<std::string> lines = linesOf(table(ordinaryReport(), settings(80)));
+    const std::vector<std::string> lines = linesOf(table(ordinaryInsights(), settings(80)));
     EXPECT_THAT(lines[0], StartsWith("Insights of /home/ada: 20"));
     const std::vector<std::string> rest(lines.begin() + 1, lines.end());
     EXPECT_EQ(rest,
@@ -229,7 +227,7 @@ TEST(InsightTable, NoNameCanMoveTheCursorOrReorderALine)
 
 TEST(InsightTable, ShowsThePathAloneWhereItIsNarrow)
 {
-    EXPECT_THAT(table(ordinaryReport(), settings(60)), HasSubstr("     300 MB   3 d  ~/Downloads/big.iso\n"));
+    EXPECT_THAT(table(ordinaryInsights(), settings(60)), HasSubstr("     300 MB   3 d  ~/Downloads/big.iso\n"));
 }
 
 TEST(InsightTable, MarksFoldersThatAreALowerBound)
@@ -237,7 +235,7 @@ TEST(InsightTable, MarksFoldersThatAreALowerBound)
     auto fields = ordinaryFields();
     fields.heatmapItems[1].isTruncated = true;
     fields.isTruncated = true;
-    InsightSubject subject = homeSubject();
+    InsightSubject subject = homeInsightSubject();
     subject.cuts.visits = true;
     const std::string text = table(MacStorageInsightReport(std::move(fields)), settings(100), subject);
     EXPECT_THAT(text, HasSubstr("Size map: 3 folders, at least 500 MB\n"));
@@ -246,7 +244,7 @@ TEST(InsightTable, MarksFoldersThatAreALowerBound)
     EXPECT_THAT(
         text, HasSubstr("\nCut short\n  Not every item was visited, so there may be more of everything in the "));
     EXPECT_THAT(text, HasSubstr("--max-visits"));
-    EXPECT_THAT(table(ordinaryReport(), settings(100)), Not(HasSubstr("Cut short")));
+    EXPECT_THAT(table(ordinaryInsights(), settings(100)), Not(HasSubstr("Cut short")));
 }
 
 TEST(InsightTable, ShowsTheFirstOfEachListAndSumsUpTheRest)
@@ -282,9 +280,9 @@ TEST(InsightTable, ShowsThePartAloneThatWasAskedFor)
         {InsightPart::large, "Large files, "}, {InsightPart::downloads, "Older downloads:"},
         {InsightPart::duplicates, "Duplicates, "}, {InsightPart::security, "Installers and scripts:"}};
     for (const auto& [only, itsTitle] : titles) {
-        InsightSubject subject = homeSubject();
+        InsightSubject subject = homeInsightSubject();
         subject.only = only;
-        const std::string text = table(ordinaryReport(), settings(80), subject);
+        const std::string text = table(ordinaryInsights(), settings(80), subject);
         for (const auto& [part, title] : titles) {
             EXPECT_EQ(text.find("\n" + title) != std::string::npos, part == only) << title;
         }
@@ -304,7 +302,7 @@ TEST(InsightTable, SaysWhatIsNotThere)
     EXPECT_THAT(text, HasSubstr("Installers and scripts: none\n"));
     EXPECT_THAT(text, HasSubstr("memory unknown; "));
 
-    InsightSubject subject = homeSubject();
+    InsightSubject subject = homeInsightSubject();
     subject.hasNothingToLookAt = true;
     const MacStorageInsightReport nothing({.scannedAt = kNow});
     EXPECT_THAT(table(nothing, settings(80), subject), HasSubstr("This home has none of the usual folders"));
@@ -315,9 +313,9 @@ TEST(InsightTable, SaysWhatIsNotThere)
 
 TEST(InsightTable, NamesDownloadsOldOnlyWhereAgeCounts)
 {
-    InsightSubject subject = homeSubject();
+    InsightSubject subject = homeInsightSubject();
     subject.configuration.minimumReviewFileAge = 0;
-    EXPECT_THAT(table(ordinaryReport(), settings(80), subject), HasSubstr("\nDownloads: 2 files"));
+    EXPECT_THAT(table(ordinaryInsights(), settings(80), subject), HasSubstr("\nDownloads: 2 files"));
 }
 
 TEST(InsightTable, UsesColourOnlyWhenToldAndForNothingElse)
@@ -333,9 +331,9 @@ TEST(InsightTable, RedactsWithTheTokensOfTheExport)
 {
     auto chosen = settings(120, true);
     chosen.isRedacted = true;
-    InsightSubject subject = homeSubject();
+    InsightSubject subject = homeInsightSubject();
     subject.folders = {FileURL::folder("/home/ada/secret")};
-    const auto report = ordinaryReport();
+    const auto report = ordinaryInsights();
     const std::string text = table(report, chosen, subject);
     for (const char* const secret : {"ada", "big", "setup", "raw", "Pictures", "~/", "secret", "new"}) {
         EXPECT_THAT(text, Not(HasSubstr(secret)));
@@ -360,14 +358,14 @@ TEST(InsightTable, TellsOfEachLimitAndItsOption)
         const std::size_t begin = text.find("Cut short");
         return begin == std::string::npos ? std::string() : text.substr(begin, text.find("\n\n", begin) - begin);
     };
-    InsightSubject subject = homeSubject();
-    EXPECT_EQ(cutShort(ordinaryReport(), subject), "");
+    InsightSubject subject = homeInsightSubject();
+    EXPECT_EQ(cutShort(ordinaryInsights(), subject), "");
     subject.cuts.recentFiles = true;
-    EXPECT_EQ(cutShort(ordinaryReport(), subject),
+    EXPECT_EQ(cutShort(ordinaryInsights(), subject),
         "Cut short\n  More files changed too lately to be listed than the 250 that are named. --max-recent names more, "
         "and --min-age 0 lists them all.");
     subject.cuts = {.duplicates = true};
-    EXPECT_THAT(cutShort(ordinaryReport(), subject),
+    EXPECT_THAT(cutShort(ordinaryInsights(), subject),
         HasSubstr("The search for duplicates ended before the smallest files: it reads at most 500 files and 1 GB "));
     auto fields = ordinaryFields();
     fields.skippedItems.assign(2, {FileURL("/home/ada/x"), "Duplicate hash budget exceeded"});
@@ -375,9 +373,9 @@ TEST(InsightTable, TellsOfEachLimitAndItsOption)
         HasSubstr(
             "2 files above 512 MB of the same size as others were not read, and no smaller files were compared. "));
 
-    subject = homeSubject();
+    subject = homeInsightSubject();
     subject.configuration.maximumResultCount = 3;
-    EXPECT_EQ(cutShort(ordinaryReport(), subject),
+    EXPECT_EQ(cutShort(ordinaryInsights(), subject),
         "Cut short\n  No list gets longer than 3; there may be more installers and scripts. --max-results goes "
         "further.");
 }

@@ -3,6 +3,7 @@
 #include "Platform/Files/FileDescriptor.h"
 #include "Platform/Files/PosixFileManager.h"
 #include "Tests/Support/FaultyFileManager.h"
+#include "Tests/Support/FileContents.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <gtest/gtest.h>
@@ -15,25 +16,16 @@
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <thread>
 
 using KarvelloCLI::OutputFile;
 using KarvelloCLI::writeWholly;
 using Platform::FileDescriptor;
+using TestSupport::contentsOf;
 using TestSupport::TemporaryTree;
 
 namespace {
-
-std::string contents(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
 
 struct Pipe {
     Pipe()
@@ -71,7 +63,7 @@ TEST(OutputFile, ReplacesAFileWholly)
     EXPECT_TRUE(output->isReplacedAtomically());
     EXPECT_EQ(output->descriptor(), -1);
     ASSERT_TRUE(output->write("new", kFiles));
-    EXPECT_EQ(contents(tree.path("old.json")), "new");
+    EXPECT_EQ(contentsOf(tree.path("old.json")), "new");
 }
 
 TEST(OutputFile, MakesAFileThatIsNotThere)
@@ -80,7 +72,7 @@ TEST(OutputFile, MakesAFileThatIsNotThere)
     const auto output = OutputFile::named(tree.path("new.csv"), kFiles);
     ASSERT_TRUE(output);
     ASSERT_TRUE(output->write("a,b\n", kFiles));
-    EXPECT_EQ(contents(tree.path("new.csv")), "a,b\n");
+    EXPECT_EQ(contentsOf(tree.path("new.csv")), "a,b\n");
 }
 
 TEST(OutputFile, AFailureLeavesTheOldFile)
@@ -93,7 +85,7 @@ TEST(OutputFile, AFailureLeavesTheOldFile)
     const auto written = output->write("new", faulty);
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().systemError, ENOSPC);
-    EXPECT_EQ(contents(tree.path("old")), "kept");
+    EXPECT_EQ(contentsOf(tree.path("old")), "kept");
 }
 
 TEST(OutputFile, WritesBehindALinkAndKeepsIt)
@@ -103,7 +95,7 @@ TEST(OutputFile, WritesBehindALinkAndKeepsIt)
     ASSERT_TRUE(output);
     ASSERT_TRUE(output->write("new", kFiles));
     EXPECT_TRUE(std::filesystem::is_symlink(tree.path("link")));
-    EXPECT_EQ(contents(tree.path("there/real")), "new");
+    EXPECT_EQ(contentsOf(tree.path("there/real")), "new");
 }
 
 TEST(OutputFile, ADeviceIsWrittenToAndNeverReplaced)
@@ -128,7 +120,7 @@ TEST(OutputFile, ANamedPipeIsWrittenTo)
     ASSERT_TRUE(output);
     EXPECT_FALSE(output->isReplacedAtomically());
     std::string received;
-    std::thread reader([&] { received = contents(tree.path("pipe")); });
+    std::thread reader([&] { received = contentsOf(tree.path("pipe")); });
     EXPECT_TRUE(output->write("through", kFiles));
     reader.join();
     EXPECT_EQ(received, "through");
@@ -144,7 +136,7 @@ TEST(OutputFile, ADescriptorIsWrittenToWhateverLiesBehindIt)
     EXPECT_EQ(output->descriptor(), log.get());
     EXPECT_FALSE(output->isReplacedAtomically());
     ASSERT_TRUE(output->write("after", kFiles));
-    EXPECT_EQ(contents(tree.path("log")), "before,after");
+    EXPECT_EQ(contentsOf(tree.path("log")), "before,after");
     EXPECT_EQ(OutputFile::named("/dev/stdout", kFiles)->descriptor(), STDOUT_FILENO);
     EXPECT_EQ(OutputFile::named("/dev/stderr", kFiles)->descriptor(), STDERR_FILENO);
 }

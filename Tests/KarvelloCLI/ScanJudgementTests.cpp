@@ -23,14 +23,14 @@ ScanReport reportOf(std::vector<SkippedItem> skipped)
     return ScanReport(Platform::Date{}, {}, std::move(skipped));
 }
 
-SkippedItem skipped(const char* path, std::string_view reason)
+SkippedItem skippedFolder(const char* path, std::string_view reason)
 {
     return {FileURL::folder(path), std::string(reason)};
 }
 
 SkippedItem notAllowed(const char* path)
 {
-    return skipped(path, CleaningError{CleaningError::Kind::pathNotAllowed, path}.errorDescription());
+    return skippedFolder(path, CleaningError{CleaningError::Kind::pathNotAllowed, path}.errorDescription());
 }
 
 ScanPlan planOf(const std::vector<const char*>& roots)
@@ -55,19 +55,20 @@ ScanPlan planOfHome()
 TEST(ScanJudgement, ProtectionIsNoFailure)
 {
     const ScanReport report = reportOf({
-        skipped("/h/a", Reason::recentlyModified),
-        skipped("/h/b", Reason::noTouchPath),
-        skipped("/h/c", Reason::noTouchDescendant),
-        skipped("/h/d", Reason::emptyItem),
-        skipped("/h/e", Reason::symbolicLink),
-        skipped("/h/f", Reason::inventoryItemLimitExceeded),
+        skippedFolder("/h/a", Reason::recentlyModified),
+        skippedFolder("/h/b", Reason::noTouchPath),
+        skippedFolder("/h/c", Reason::noTouchDescendant),
+        skippedFolder("/h/d", Reason::emptyItem),
+        skippedFolder("/h/e", Reason::symbolicLink),
+        skippedFolder("/h/f", Reason::inventoryItemLimitExceeded),
     });
     EXPECT_EQ(ScanJudgement::of(report, planOfHome()).exitCode, ExitCode::done);
 }
 
 TEST(ScanJudgement, AMissingLocationOfTheHomeIsNoFailure)
 {
-    const ScanReport report = reportOf({skipped("/h/Library/Logs", Reason::folderDoesNotExist), notAllowed("/h/x")});
+    const ScanReport report =
+        reportOf({skippedFolder("/h/Library/Logs", Reason::folderDoesNotExist), notAllowed("/h/x")});
     const ScanJudgement judgement = ScanJudgement::of(report, planOfHome());
     EXPECT_EQ(judgement.exitCode, ExitCode::done);
     EXPECT_TRUE(judgement.refusals.empty());
@@ -76,8 +77,8 @@ TEST(ScanJudgement, AMissingLocationOfTheHomeIsNoFailure)
 TEST(ScanJudgement, WhatCouldNotBeReadMakesItPartial)
 {
     const ScanReport report = reportOf({
-        skipped("/h/a", "The file “a” couldn’t be opened because you don’t have permission to view it."),
-        skipped("/h/b", Reason::couldNotEnumerateFolder),
+        skippedFolder("/h/a", "The file “a” couldn’t be opened because you don’t have permission to view it."),
+        skippedFolder("/h/b", Reason::couldNotEnumerateFolder),
     });
     const ScanJudgement judgement = ScanJudgement::of(report, planOfHome());
     EXPECT_EQ(judgement.exitCode, ExitCode::partial);
@@ -86,7 +87,7 @@ TEST(ScanJudgement, WhatCouldNotBeReadMakesItPartial)
 
 TEST(ScanJudgement, IsRefusedOnlyWhenEveryGivenFolderIs)
 {
-    const ScanReport report = reportOf({notAllowed("/a"), skipped("/b", Reason::folderDoesNotExist)});
+    const ScanReport report = reportOf({notAllowed("/a"), skippedFolder("/b", Reason::folderDoesNotExist)});
     EXPECT_EQ(ScanJudgement::of(report, planOf({"/a", "/b"})).exitCode, ExitCode::refused);
     EXPECT_EQ(ScanJudgement::of(report, planOf({"/a", "/b", "/c"})).exitCode, ExitCode::partial);
 
@@ -99,7 +100,7 @@ TEST(ScanJudgement, CountsTheFoldersThatThePlanRefused)
 {
     ScanPlan plan;
     plan.subject.folders = {FileURL::folder("/")};
-    plan.refusedFolders = {skipped("/", "Selected folder is too broad")};
+    plan.refusedFolders = {skippedFolder("/", "Selected folder is too broad")};
     const ScanJudgement judgement = ScanJudgement::of(reportOf({}), plan);
     EXPECT_EQ(judgement.exitCode, ExitCode::refused);
     EXPECT_EQ(judgement.refusals.size(), 1U);

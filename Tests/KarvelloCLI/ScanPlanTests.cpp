@@ -16,16 +16,15 @@ using TestSupport::TemporaryTree;
 
 namespace {
 
-const Platform::PosixFileManager kFiles;
-
 struct ScanPlanTest : testing::Test {
     ScanPlan plan(const ScanOptions& options) const
     {
-        auto made = ScanPlan::make(options, tree.root(), tree.url("home/"), {}, kFiles);
+        auto made = ScanPlan::make(options, tree.root(), tree.url("home/"), {}, files);
         EXPECT_TRUE(made) << made.error();
         return made.value_or(ScanPlan{});
     }
 
+    Platform::PosixFileManager files;
     TemporaryTree tree{
         "home/\n    .cache/pip/http-v2/\n        blob size=1K\n    Downloads/\nother/\nreal/\n    .cache/pip/x/\n"
         "link -> real"};
@@ -120,7 +119,7 @@ TEST_F(ScanPlanTest, AHomeThatIsNoFolderIsAnError)
 {
     ScanOptions options;
     options.home = "missing";
-    const auto made = ScanPlan::make(options, tree.root(), tree.url("home/"), {}, kFiles);
+    const auto made = ScanPlan::make(options, tree.root(), tree.url("home/"), {}, files);
     ASSERT_FALSE(made);
     EXPECT_THAT(made.error(), testing::HasSubstr(tree.path("missing")));
 }

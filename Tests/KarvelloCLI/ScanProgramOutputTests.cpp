@@ -3,6 +3,7 @@
 #include "KarvelloCLI/ScanPlan.h"
 #include "Platform/Files/PosixFileManager.h"
 #include "Tests/KarvelloCLI/ScanProgramFixture.h"
+#include "Tests/Support/FileContents.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,7 +12,6 @@
 
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <tuple>
@@ -21,18 +21,6 @@ using namespace KarvelloCLITests;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-namespace {
-
-std::string contents(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-} // namespace
 
 class ScanProgramExport : public ScanProgram, public testing::WithParamInterface<std::tuple<std::string, bool>> {};
 
@@ -99,7 +87,7 @@ TEST_F(ScanProgram, WritesToAFileWholly)
     const ProgramResult result = run({"scan", "--format", "json", "--output", "old.json"});
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.output, IsEmpty());
-    EXPECT_EQ(nlohmann::json::parse(contents(path("old.json"))).at("kind"), "cleanup");
+    EXPECT_EQ(nlohmann::json::parse(TestSupport::contentsOf(path("old.json"))).at("kind"), "cleanup");
     EXPECT_EQ(run({"scan", "--output", "/dev/null"}).status, 0);
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
     EXPECT_THAT(run({"scan", "--output", "/dev/stdout"}).output, HasSubstr("http-v2"));

@@ -3,6 +3,7 @@
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 
 #include "Tests/KarvelloCLI/SpokenLanguage.h"
+#include "Tests/KarvelloCLI/TableSamples.h"
 #include "Tests/KarvelloCLI/TextLines.h"
 
 #include <gmock/gmock.h>
@@ -19,6 +20,8 @@ using CleanerCore::CleanupSafety;
 using CleanerCore::CleanupScanMode;
 using CleanerCore::ScanReport;
 using CleanerCore::SkippedItem;
+using KarvelloCLITests::kMegabyte;
+using KarvelloCLITests::kNow;
 using KarvelloCLITests::linesOf;
 using KarvelloCLITests::plain;
 using Platform::Date;
@@ -29,9 +32,6 @@ using testing::Not;
 namespace Reason = CleanerCore::StorageScannerSkipReason;
 
 namespace {
-
-constexpr std::int64_t kMegabyte = 1'048'576;
-const Date kNow = Date::fromUnixTime(1'795'000'000);
 
 CleanupCandidate candidate(std::string_view path, std::int64_t size, CleanupSafety safety, double ageInDays = 3)
 {
@@ -50,12 +50,12 @@ SkippedItem skipped(std::string_view path, std::string_view reason)
     return {FileURL(path), std::string(reason)};
 }
 
-ScanSubject homeSubject()
+ScanSubject homeScanSubject()
 {
     return {.home = FileURL::folder("/home/ada"), .mode = CleanupScanMode::standard, .folders = {}};
 }
 
-ScanReport ordinaryReport()
+ScanReport ordinaryScan()
 {
     return ScanReport(kNow,
         {
@@ -71,7 +71,8 @@ ScanReport ordinaryReport()
         });
 }
 
-std::string table(const ScanReport& report, ScanTable::Settings settings, const ScanSubject& subject = homeSubject())
+std::string table(
+    const ScanReport& report, ScanTable::Settings settings, const ScanSubject& subject = homeScanSubject())
 {
     return ScanTable(report, subject, std::move(settings)).text();
 }
@@ -80,7 +81,7 @@ std::string table(const ScanReport& report, ScanTable::Settings settings, const 
 
 TEST(ScanTable, GroupsBySafetyWithTheLargestFirst)
 {
-    const std::vector<std::string> lines = linesOf(table(ordinaryReport(), {.columns = 80}));
+    const std::vector<std::string> lines = linesOf(table(ordinaryScan(), {.columns = 80}));
     EXPECT_THAT(lines[0], testing::StartsWith("Scan of /home/ada (mode standard): 20"));
     const std::vector<std::string> rest(lines.begin() + 1, lines.end());
     EXPECT_EQ(rest,
@@ -111,16 +112,16 @@ TEST(ScanTable, GroupsBySafetyWithTheLargestFirst)
 
 TEST(ScanTable, ShowsThePathAloneWhereItIsNarrowAndTheKindWhereItIsWide)
 {
-    const std::string narrow = table(ordinaryReport(), {.columns = 60});
+    const std::string narrow = table(ordinaryScan(), {.columns = 60});
     EXPECT_THAT(narrow, HasSubstr("* 60 MB   3 d  ~/.cache/pip/http-v2\n"));
     EXPECT_THAT(narrow, Not(HasSubstr("Folder")));
-    const std::string wide = table(ordinaryReport(), {.columns = 140});
+    const std::string wide = table(ordinaryScan(), {.columns = 140});
     EXPECT_THAT(wide, HasSubstr("* 60 MB   3 d  http-v2        Package Manager Caches  ~/.cache/pip\n"));
 }
 
 TEST(ScanTable, FitsEveryWidthFromForty)
 {
-    ScanReport report = ordinaryReport();
+    ScanReport report = ordinaryScan();
     report.candidates.push_back(
         candidate("/home/ada/" + std::string(200, 'n') + "/한국어 이름이 아주 긴 파일 이름입니다 정말로", 1023,
             CleanupSafety::manualReview, 4000));
@@ -128,7 +129,7 @@ TEST(ScanTable, FitsEveryWidthFromForty)
         candidate("/srv/" + std::string(255, '\x1b'), 123'456'789'012, CleanupSafety::manualReview));
     report.skippedItems.push_back(skipped("/home/ada/" + std::string(300, 's'),
         "The file “" + std::string(90, 'w') + "” couldn’t be opened because you don’t have permission to view it."));
-    ScanSubject subject = homeSubject();
+    ScanSubject subject = homeScanSubject();
     subject.folders = {FileURL::folder("/home/ada/" + std::string(120, 'f')), FileURL::folder("/srv/x")};
     subject.isIncomplete = true;
     for (std::size_t columns = 40; columns <= 170; ++columns) {
@@ -162,7 +163,7 @@ TEST(ScanTable, NoNameCanMoveTheCursorOrReorderALine)
     const std::string hostile = "/home/ada/\x1b[2J\nSafe: 9 items\r\u202egpj.exe\xff";
     const ScanReport report(
         kNow, {candidate(hostile, 1, CleanupSafety::safe)}, {skipped(hostile, "odd \x1b[31mreason\n")});
-    ScanSubject subject = homeSubject();
+    ScanSubject subject = homeScanSubject();
     subject.folders = {FileURL::folder(hostile)};
     for (const std::size_t columns : {40U, 100U, 160U}) {
         const std::string text = table(report, {.columns = columns, .isVerbose = true}, subject);
@@ -208,7 +209,7 @@ TEST(ScanTable, AnUnknownAgeIsADash)
 
 TEST(ScanTable, ListsSkippedItemsWhenVerbose)
 {
-    const std::string text = table(ordinaryReport(), {.isVerbose = true});
+    const std::string text = table(ordinaryScan(), {.isVerbose = true});
     EXPECT_THAT(text,
         HasSubstr("Skipped: 3 items\n"
                   "  2  Recently modified\n"
@@ -234,7 +235,7 @@ TEST(ScanTable, GathersReasonsThatDifferInTheQuotedNameOnly)
 
 TEST(ScanTable, ShowsTheMostFrequentReasonsAndCountsTheRest)
 {
-    ScanReport report = ordinaryReport();
+    ScanReport report = ordinaryScan();
     for (int index = 0; index < 40; ++index) {
         report.skippedItems.push_back(skipped("/home/ada/x", "Reason " + std::to_string(index)));
     }
@@ -246,23 +247,23 @@ TEST(ScanTable, ShowsTheMostFrequentReasonsAndCountsTheRest)
 
 TEST(ScanTable, UsesColourOnlyWhenTold)
 {
-    EXPECT_THAT(table(ordinaryReport(), {}), Not(HasSubstr("\x1b")));
-    const std::string text = table(ordinaryReport(), {.usesColor = true});
+    EXPECT_THAT(table(ordinaryScan(), {}), Not(HasSubstr("\x1b")));
+    const std::string text = table(ordinaryScan(), {.usesColor = true});
     EXPECT_THAT(text, HasSubstr("\x1b[1;32mSafe\x1b[0m: 2 items, 65 MB\n"));
-    EXPECT_EQ(plain(text), table(ordinaryReport(), {})) << "colour changes no column";
+    EXPECT_EQ(plain(text), table(ordinaryScan(), {})) << "colour changes no column";
 }
 
 TEST(ScanTable, SizesFollowTheLanguage)
 {
     const SpokenLanguage spoken(KarvelloUI::AppLanguage::korean);
-    EXPECT_THAT(table(ordinaryReport(), {}), HasSubstr("안전: 항목 2개, 65MB\n"));
+    EXPECT_THAT(table(ordinaryScan(), {}), HasSubstr("안전: 항목 2개, 65MB\n"));
 }
 
 TEST(ScanTable, RedactsPathsAndNamesEverywhere)
 {
-    ScanReport report = ordinaryReport();
+    ScanReport report = ordinaryScan();
     report.skippedItems.push_back(skipped("/home/ada/x", "Path is outside the active scan scope: /home/ada/x"));
-    ScanSubject subject = homeSubject();
+    ScanSubject subject = homeScanSubject();
     subject.folders = {FileURL::folder("/home/ada/Downloads")};
     for (const std::size_t columns : {40U, 100U, 160U}) {
         const std::string text = table(report, {.columns = columns, .isVerbose = true, .isRedacted = true}, subject);
@@ -288,7 +289,7 @@ TEST(ScanTable, SaysKindlyThatNothingWasFound)
     EXPECT_THAT(text, HasSubstr("--mode direct"));
     EXPECT_THAT(text, Not(HasSubstr("Reclaimable")));
 
-    ScanSubject direct = homeSubject();
+    ScanSubject direct = homeScanSubject();
     direct.mode = CleanupScanMode::direct;
     EXPECT_THAT(table(report, {}, direct), Not(HasSubstr("--mode direct")));
 }
@@ -306,11 +307,11 @@ TEST(ScanTable, DoesNotSpeakOfFindingsWhereNothingWasScanned)
 
 TEST(ScanTable, MarksAnAccountThatIsIncomplete)
 {
-    ScanSubject subject = homeSubject();
+    ScanSubject subject = homeScanSubject();
     subject.isIncomplete = true;
-    const std::vector<std::string> lines = linesOf(table(ordinaryReport(), {}, subject));
+    const std::vector<std::string> lines = linesOf(table(ordinaryScan(), {}, subject));
     EXPECT_THAT(lines[1], testing::StartsWith("Incomplete"));
-    EXPECT_THAT(table(ordinaryReport(), {}), Not(HasSubstr("Incomplete")));
+    EXPECT_THAT(table(ordinaryScan(), {}), Not(HasSubstr("Incomplete")));
 }
 
 TEST(ScanTable, NamesTheFoldersThatWereGiven)
@@ -320,5 +321,5 @@ TEST(ScanTable, NamesTheFoldersThatWereGiven)
         subject.folders.push_back(FileURL::folder(path));
     }
     EXPECT_THAT(
-        table(ordinaryReport(), {}, subject), testing::StartsWith("Scan of ~/a, /srv/b, /c, /d, 2 more folders: "));
+        table(ordinaryScan(), {}, subject), testing::StartsWith("Scan of ~/a, /srv/b, /c, /d, 2 more folders: "));
 }

@@ -1,11 +1,14 @@
 #include "KarvelloCLI/StatusTexts.h"
 
+#include "Tests/KarvelloCLI/TableSamples.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
 using namespace KarvelloCLI;
+using KarvelloCLITests::homeStyle;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -13,11 +16,11 @@ namespace {
 
 constexpr std::uint64_t kGigabyte = std::uint64_t{1} << 30U;
 
-TextStyle style(std::size_t columns, bool usesColor = false)
+TextStyle colouredStyle()
 {
-    return {.columns = columns,
-        .painter = Painter(usesColor),
-        .paths = HomePathAbbreviation(Platform::FileURL::folder("/home/ada"))};
+    auto style = homeStyle(80);
+    style.painter = Painter(true);
+    return style;
 }
 
 StatusReading reading()
@@ -41,7 +44,7 @@ StatusReading reading()
 
 TEST(StatusTexts, TheTableTellsEachFigure)
 {
-    const auto text = statusTable(reading(), style(80));
+    const auto text = statusTable(reading(), homeStyle(80));
     EXPECT_THAT(text, HasSubstr("\nProcessors  23% busy, load 1.50 on 8 processors\n"));
     EXPECT_THAT(text, HasSubstr("\nMemory      4 GB of 16 GB used (25%), pressure normal\n"));
     EXPECT_THAT(text, HasSubstr("\nThermal     nominal\n"));
@@ -58,13 +61,13 @@ TEST(StatusTexts, UnknownIsSaidAsUnknown)
     unknown.snapshot.thermalState = "Unknown";
     unknown.snapshot.uptime = 0;
     unknown.disk = std::nullopt;
-    const auto text = statusTable(unknown, style(80));
+    const auto text = statusTable(unknown, homeStyle(80));
     for (const auto* const line :
         {"Memory      unknown\n", "Thermal     unknown\n", "Uptime      unknown\n", "Disk        unknown\n"}) {
         EXPECT_THAT(text, HasSubstr(line));
     }
     EXPECT_THAT(
-        statusLine(unknown, style(80)), HasSubstr("memory - unknown  load 1.50  thermal unknown  disk unknown\n"));
+        statusLine(unknown, homeStyle(80)), HasSubstr("memory - unknown  load 1.50  thermal unknown  disk unknown\n"));
     EXPECT_THAT(*statusJSON(unknown), Not(HasSubstr("homeVolume")));
 }
 
@@ -72,21 +75,21 @@ TEST(StatusTexts, TheTableTellsOfProcessorsThatRest)
 {
     auto resting = reading();
     resting.snapshot.activeProcessorCount = 6;
-    EXPECT_THAT(statusTable(resting, style(80)), HasSubstr("on 6 of 8 processors\n"));
+    EXPECT_THAT(statusTable(resting, homeStyle(80)), HasSubstr("on 6 of 8 processors\n"));
 }
 
 TEST(StatusTexts, TheTableFitsNarrowTerminals)
 {
-    const auto text = statusTable(reading(), style(40));
+    const auto text = statusTable(reading(), homeStyle(40));
     EXPECT_THAT(text, HasSubstr("\nMemory      4 GB of 16 GB used (25%),\n            pressure normal\n"));
 }
 
 TEST(StatusTexts, WhatWantsAttentionHasAColour)
 {
     auto pressed = reading();
-    EXPECT_THAT(statusTable(pressed, style(80, true)), Not(HasSubstr("\x1b[1;33m")));
+    EXPECT_THAT(statusTable(pressed, colouredStyle()), Not(HasSubstr("\x1b[1;33m")));
     pressed.snapshot.memoryPressure = "High";
-    EXPECT_THAT(statusTable(pressed, style(80, true)), HasSubstr("\x1b[1;33m4 GB of 16 GB"));
+    EXPECT_THAT(statusTable(pressed, colouredStyle()), HasSubstr("\x1b[1;33m4 GB of 16 GB"));
 }
 
 TEST(StatusTexts, JSONHasEveryField)
@@ -116,9 +119,9 @@ TEST(StatusTrend, ShowsTheCourseOfTheLastReadings)
     StatusTrend trend(SparkGlyphs::blocks);
     auto now = reading();
     now.snapshot.normalizedCPULoad = 0;
-    (void)trend.line(now, style(140));
+    (void)trend.line(now, homeStyle(140));
     now.snapshot.normalizedCPULoad = 1;
-    const auto line = trend.line(now, style(140));
+    const auto line = trend.line(now, homeStyle(140));
     EXPECT_THAT(line, HasSubstr(" ▁█ 100%  memory "));
     EXPECT_THAT(line, HasSubstr(" ▃▃  25% normal  load 1.50  thermal nominal  50 GB free"));
 }
@@ -129,7 +132,7 @@ TEST(StatusTrend, FitsEveryWidthAndKeepsTheNumbers)
         StatusTrend trend(SparkGlyphs::blocks);
         std::string line;
         for (int round = 0; round < 40; ++round) {
-            line = trend.line(reading(), style(columns));
+            line = trend.line(reading(), homeStyle(columns));
         }
         EXPECT_LE(TerminalText(line, TerminalText::Kind::sentence).columns(), columns) << line;
         EXPECT_THAT(line, HasSubstr("23%")) << columns;

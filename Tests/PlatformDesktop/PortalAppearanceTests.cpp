@@ -12,7 +12,7 @@ using PlatformDesktop::PortalAppearance;
 using testing::ElementsAre;
 using Spaces = QMap<QString, QVariantMap>;
 
-constexpr auto kName = "org.freedesktop.portal.Desktop";
+constexpr auto kPortalName = "org.freedesktop.portal.Desktop";
 constexpr const char* kAppearance = "org.freedesktop.appearance";
 constexpr const char* kGnome = "org.gnome.desktop.interface";
 
@@ -57,7 +57,7 @@ protected:
     };
     Preferred preferredFor(const FakeBusService::Answering& answering)
     {
-        const FakeBusService portal(kName, answering);
+        const FakeBusService portal(kPortalName, answering);
         const auto appearance = this->appearance();
         EXPECT_TRUE(m_loop.runUntil([&portal] { return !portal.calls().empty(); }));
         letTimePass(80ms);
@@ -70,7 +70,7 @@ protected:
 
 TEST_F(PortalAppearanceTest, ThePortalIsAskedWithoutWaiting)
 {
-    const FakeBusService portal(kName, telling(m_dark));
+    const FakeBusService portal(kPortalName, telling(m_dark));
     const auto appearance = this->appearance();
     EXPECT_FALSE(appearance->prefersDark());
     EXPECT_TRUE(becomesDark(*appearance));
@@ -135,7 +135,7 @@ TEST_F(PortalAppearanceTest, AnAnswerInAnotherFormIsNone)
 
 TEST_F(PortalAppearanceTest, ChangesAreToldOnceEach)
 {
-    const FakeBusService portal(kName, telling(m_dark));
+    const FakeBusService portal(kPortalName, telling(m_dark));
     const auto appearance = this->appearance();
     std::vector<std::pair<bool, bool>> told;
     appearance->setObserver([&] { told.emplace_back(appearance->prefersDark(), appearance->prefersReducedMotion()); });
@@ -155,7 +155,7 @@ TEST_F(PortalAppearanceTest, ChangesAreToldOnceEach)
 
 TEST_F(PortalAppearanceTest, AChangeInAnotherFormIsNone)
 {
-    const FakeBusService portal(kName, telling(m_dark));
+    const FakeBusService portal(kPortalName, telling(m_dark));
     const auto appearance = this->appearance();
     EXPECT_TRUE(becomesDark(*appearance));
     tellChange(portal, kAppearance, "color-scheme", QStringLiteral("0"));
@@ -168,7 +168,7 @@ TEST_F(PortalAppearanceTest, AChangeInAnotherFormIsNone)
 
 TEST_F(PortalAppearanceTest, NobodyElseTellsOfChanges)
 {
-    const FakeBusService portal(kName, telling({}));
+    const FakeBusService portal(kPortalName, telling({}));
     const FakeBusService other("org.example.Other", telling({}));
     const auto appearance = this->appearance();
     EXPECT_TRUE(m_loop.runUntil([&portal] { return !portal.calls().empty(); }));
@@ -184,12 +184,12 @@ TEST_F(PortalAppearanceTest, APortalThatComesLaterAndOneThatComesBackAreAsked)
 {
     const auto appearance = this->appearance();
     letTimePass();
-    auto portal = std::make_unique<FakeBusService>(kName, telling(m_dark));
+    auto portal = std::make_unique<FakeBusService>(kPortalName, telling(m_dark));
     EXPECT_TRUE(becomesDark(*appearance));
     portal.reset();
     letTimePass();
     EXPECT_TRUE(appearance->prefersDark());
-    portal = std::make_unique<FakeBusService>(kName, telling(spaces(kAppearance, "color-scheme", 2U)));
+    portal = std::make_unique<FakeBusService>(kPortalName, telling(spaces(kAppearance, "color-scheme", 2U)));
     EXPECT_TRUE(m_loop.runUntil([&appearance] { return !appearance->prefersDark(); }));
     tellChange(*portal, kAppearance, "color-scheme", 1U);
     EXPECT_TRUE(becomesDark(*appearance));
@@ -198,7 +198,7 @@ TEST_F(PortalAppearanceTest, APortalThatComesLaterAndOneThatComesBackAreAsked)
 
 TEST_F(PortalAppearanceTest, NothingIsToldAfterItsEndAndAnObserverMayBeIt)
 {
-    const FakeBusService portal(kName, telling(m_dark));
+    const FakeBusService portal(kPortalName, telling(m_dark));
     bool isCalled = false;
     {
         const auto ended = appearance();

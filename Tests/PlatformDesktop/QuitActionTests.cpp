@@ -11,7 +11,7 @@ using namespace PlatformDesktopTests;
 using DesktopTestSupport::PrivateBus;
 using DesktopTestSupport::PrivateDisplay;
 
-constexpr auto kName = "org.example.Text-Editor";
+constexpr auto kEditorName = "org.example.Text-Editor";
 
 class QuitActionTest : public DesktopApplicationsTest {
 protected:
@@ -23,9 +23,9 @@ protected:
 
     std::unique_ptr<OwnedProgram> started(const std::string& behaviour) const
     {
-        auto program =
-            std::make_unique<OwnedProgram>(KARVELLO_TEST_BUS_APPLICATION, std::vector<std::string>{kName, behaviour},
-                std::map<std::string, std::string>{{"DBUS_SESSION_BUS_ADDRESS", m_bus.address()}});
+        auto program = std::make_unique<OwnedProgram>(KARVELLO_TEST_BUS_APPLICATION,
+            std::vector<std::string>{kEditorName, behaviour},
+            std::map<std::string, std::string>{{"DBUS_SESSION_BUS_ADDRESS", m_bus.address()}});
         EXPECT_EQ(numberIn(program->line()), program->process());
         return program;
     }
@@ -33,7 +33,7 @@ protected:
     void expectNotActivated(const std::string& behaviour)
     {
         const auto program = started(behaviour);
-        EXPECT_FALSE(requestQuit(applicationOf(*program, kName))) << behaviour;
+        EXPECT_FALSE(requestQuit(applicationOf(*program, kEditorName))) << behaviour;
         EXPECT_TRUE(program->staysQuiet()) << behaviour;
     }
 
@@ -44,7 +44,7 @@ TEST_F(QuitActionTest, TheActionOfTheApplicationIsCalled)
 {
     const auto program = started("quits");
     EXPECT_TRUE(LinuxDesktopApplications(m_settings).canRequestQuit());
-    EXPECT_TRUE(requestQuit(applicationOf(*program, kName)));
+    EXPECT_TRUE(requestQuit(applicationOf(*program, kEditorName)));
     EXPECT_TRUE(program->says("quit"));
     EXPECT_TRUE(program->ends());
 }
@@ -52,7 +52,7 @@ TEST_F(QuitActionTest, TheActionOfTheApplicationIsCalled)
 TEST_F(QuitActionTest, AnApplicationThatAsksItsUserFirstHasBeenAsked)
 {
     const auto program = started("asks");
-    EXPECT_TRUE(requestQuit(applicationOf(*program, kName)));
+    EXPECT_TRUE(requestQuit(applicationOf(*program, kEditorName)));
     EXPECT_TRUE(program->says("quit"));
     EXPECT_TRUE(program->staysQuiet());
     program->tell("save");
@@ -73,10 +73,10 @@ TEST_F(QuitActionTest, OnlyAnActionThatCanBeCalledAsItIsCountsAsOffered)
         std::map<std::string, bool>{{"quits", true}, {"disabled", false}, {"parameter", false}, {"none", false}}) {
         const auto program = started(behaviour);
         const PlatformDesktop::SessionBus bus;
-        const auto owner = bus.ownerOf(kName);
+        const auto owner = bus.ownerOf(kEditorName);
         ASSERT_TRUE(owner);
         EXPECT_EQ(owner->process, program->process());
-        EXPECT_EQ(bus.offersQuit(*owner, kName), isOffered) << behaviour;
+        EXPECT_EQ(bus.offersQuit(*owner, kEditorName), isOffered) << behaviour;
     }
 }
 
@@ -92,14 +92,14 @@ TEST_F(QuitActionTest, TheNameMustBelongToAProcessOfTheApplication)
 {
     const auto program = started("quits");
     OwnedProgram other("sleep", {"1000"});
-    EXPECT_FALSE(requestQuit(applicationOf(other, kName)));
+    EXPECT_FALSE(requestQuit(applicationOf(other, kEditorName)));
     EXPECT_FALSE(requestQuit(applicationOf(*program, "org.example.Absent")));
     EXPECT_FALSE(requestQuit(applicationOf(*program, "no name\n")));
     auto identity = identityOf(program->process());
     --identity.startTicks;
-    EXPECT_FALSE(requestQuit(applicationOf({identity}, kName)));
+    EXPECT_FALSE(requestQuit(applicationOf({identity}, kEditorName)));
     EXPECT_TRUE(program->staysQuiet());
-    EXPECT_TRUE(requestQuit(applicationOf({identityOf(other.process()), identityOf(program->process())}, kName)));
+    EXPECT_TRUE(requestQuit(applicationOf({identityOf(other.process()), identityOf(program->process())}, kEditorName)));
     EXPECT_TRUE(program->says("quit"));
 }
 
@@ -110,7 +110,7 @@ TEST_F(QuitActionTest, WithoutTheActionTheWindowsAreAsked)
     const auto program = started("disabled");
     OwnedProgram window(KARVELLO_TEST_WINDOW, {"closes"}, {{"DISPLAY", display.name()}});
     const auto shown = numberIn(window.line());
-    EXPECT_TRUE(requestQuit(applicationOf({identityOf(program->process()), identityOf(shown)}, kName)));
+    EXPECT_TRUE(requestQuit(applicationOf({identityOf(program->process()), identityOf(shown)}, kEditorName)));
     EXPECT_TRUE(window.says("asked"));
     EXPECT_TRUE(program->staysQuiet());
 }
@@ -122,7 +122,7 @@ TEST_F(QuitActionTest, WithTheActionTheWindowsAreNotAsked)
     const auto program = started("quits");
     OwnedProgram window(KARVELLO_TEST_WINDOW, {"closes"}, {{"DISPLAY", display.name()}});
     const auto shown = numberIn(window.line());
-    EXPECT_TRUE(requestQuit(applicationOf({identityOf(program->process()), identityOf(shown)}, kName)));
+    EXPECT_TRUE(requestQuit(applicationOf({identityOf(program->process()), identityOf(shown)}, kEditorName)));
     EXPECT_TRUE(program->says("quit"));
     EXPECT_TRUE(window.staysQuiet());
 }
@@ -132,7 +132,7 @@ TEST_F(QuitActionTest, ASessionWithoutABusOffersNoAction)
     const auto program = started("quits");
     m_settings.hasSessionBus = false;
     EXPECT_FALSE(LinuxDesktopApplications(m_settings).canRequestQuit());
-    EXPECT_FALSE(requestQuit(applicationOf(*program, kName)));
+    EXPECT_FALSE(requestQuit(applicationOf(*program, kEditorName)));
     EXPECT_TRUE(program->staysQuiet());
 }
 

@@ -12,7 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Role = SingleInstance::Role;
 
-constexpr auto kName = "io.github.karvello.Karvello";
+constexpr auto kOwnName = "io.github.karvello.Karvello";
 
 class SingleInstanceTest : public DesktopServicesTest {
 protected:
@@ -48,7 +48,7 @@ protected:
     {
         return elsewhere([=] {
             auto message =
-                QDBusMessage::createMethodCall(QLatin1String(kName), QStringLiteral("/io/github/karvello/Karvello"),
+                QDBusMessage::createMethodCall(QLatin1String(kOwnName), QStringLiteral("/io/github/karvello/Karvello"),
                     QStringLiteral("org.freedesktop.Application"), QLatin1String(method));
             message.setArguments(arguments);
             return SessionBus().call(message, 5s);
@@ -170,14 +170,14 @@ TEST_F(SingleInstanceTest, ATokenThatIsNoneIsLeftOut)
 
 TEST_F(SingleInstanceTest, OneThatDoesNotAnswerIsGivenUp)
 {
-    const FakeBusService hung(kName, [](const QDBusMessage&) { return std::nullopt; });
+    const FakeBusService hung(kOwnName, [](const QDBusMessage&) { return std::nullopt; });
     EXPECT_FALSE(activatedElsewhere(std::nullopt));
     EXPECT_THAT(hung.methods(), ElementsAre("Activate"));
 }
 
 TEST_F(SingleInstanceTest, OneThatRefusesIsNotActivated)
 {
-    const FakeBusService other(kName, [](const QDBusMessage& message) {
+    const FakeBusService other(kOwnName, [](const QDBusMessage& message) {
         return message.createErrorReply(QDBusError::UnknownMethod, QStringLiteral("no"));
     });
     EXPECT_FALSE(activatedElsewhere("open-memory"));

@@ -17,7 +17,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 /// Entries are told apart by their counts of items.
-CleanupAuditEntry entry(int number, double date, std::int64_t count = 0)
+CleanupAuditEntry numberedEntry(int number, double date, std::int64_t count = 0)
 {
     return {.id = *Platform::UUID::fromString(fmt::format("00000000-0000-4000-8000-{:012X}", number)),
         .occurredAt = Platform::Date{date},
@@ -37,14 +37,16 @@ std::vector<std::string> lastDigits(const std::vector<CleanupAuditEntry>& entrie
 
 TEST(AuditEntryRetention, PutsTheNewestFirstAndEqualDatesByDescendingId)
 {
-    const auto entries =
-        AuditEntryRetention::limited({entry(1, 5), entry(10, 7), entry(11, 7), entry(9, 7), entry(2, 9)}, 100);
+    const auto entries = AuditEntryRetention::limited(
+        {numberedEntry(1, 5), numberedEntry(10, 7), numberedEntry(11, 7), numberedEntry(9, 7), numberedEntry(2, 9)},
+        100);
     EXPECT_THAT(lastDigits(entries), ElementsAre("02", "0B", "0A", "09", "01"));
 }
 
 TEST(AuditEntryRetention, KeepsOfAnIdWhatStandsFirst)
 {
-    const auto entries = AuditEntryRetention::limited({entry(1, 5, 1), entry(2, 6), entry(1, 9, 2)}, 100);
+    const auto entries =
+        AuditEntryRetention::limited({numberedEntry(1, 5, 1), numberedEntry(2, 6), numberedEntry(1, 9, 2)}, 100);
     EXPECT_THAT(lastDigits(entries), ElementsAre("02", "01"));
     EXPECT_EQ(entries.back().requestedItemCount, 1);
 }
@@ -52,16 +54,19 @@ TEST(AuditEntryRetention, KeepsOfAnIdWhatStandsFirst)
 TEST(AuditEntryRetention, DropsTheOldestBeyondTheLimit)
 {
     EXPECT_THAT(
-        lastDigits(AuditEntryRetention::limited({entry(1, 5), entry(2, 6), entry(3, 4)}, 2)), ElementsAre("02", "01"));
-    EXPECT_THAT(AuditEntryRetention::limited({entry(1, 5)}, 0), IsEmpty());
-    EXPECT_THAT(AuditEntryRetention::limited({entry(1, 5)}, -1), IsEmpty());
+        lastDigits(AuditEntryRetention::limited({numberedEntry(1, 5), numberedEntry(2, 6), numberedEntry(3, 4)}, 2)),
+        ElementsAre("02", "01"));
+    EXPECT_THAT(AuditEntryRetention::limited({numberedEntry(1, 5)}, 0), IsEmpty());
+    EXPECT_THAT(AuditEntryRetention::limited({numberedEntry(1, 5)}, -1), IsEmpty());
 }
 
 TEST(AuditEntryRetention, KeepsWhatWasRecordedWhileTheWriteWasUnderWay)
 {
-    const auto appended = entry(2, 6, 1);
-    const std::vector<CleanupAuditEntry> current{entry(4, 8), entry(3, 6), appended, entry(7, 5), entry(1, 4)};
-    const auto entries = AuditEntryRetention::reconciledAfterAppend({entry(2, 6, 2), entry(1, 4)}, current, appended);
+    const auto appended = numberedEntry(2, 6, 1);
+    const std::vector<CleanupAuditEntry> current{
+        numberedEntry(4, 8), numberedEntry(3, 6), appended, numberedEntry(7, 5), numberedEntry(1, 4)};
+    const auto entries =
+        AuditEntryRetention::reconciledAfterAppend({numberedEntry(2, 6, 2), numberedEntry(1, 4)}, current, appended);
     // The seventh is older than the appended one, so the log had dropped it; the third came in the same moment.
     EXPECT_THAT(lastDigits(entries), ElementsAre("04", "03", "02", "01"));
     EXPECT_EQ(entries[2].requestedItemCount, 2);
@@ -69,16 +74,17 @@ TEST(AuditEntryRetention, KeepsWhatWasRecordedWhileTheWriteWasUnderWay)
 
 TEST(AuditEntryRetention, TakesFromTheLogWhatBothHave)
 {
-    const auto appended = entry(1, 1);
-    const std::vector<CleanupAuditEntry> current{entry(2, 2, 1), appended};
-    const auto entries = AuditEntryRetention::reconciledAfterAppend({entry(2, 2, 5), appended}, current, appended);
+    const auto appended = numberedEntry(1, 1);
+    const std::vector<CleanupAuditEntry> current{numberedEntry(2, 2, 1), appended};
+    const auto entries =
+        AuditEntryRetention::reconciledAfterAppend({numberedEntry(2, 2, 5), appended}, current, appended);
     EXPECT_THAT(lastDigits(entries), ElementsAre("02", "01"));
     EXPECT_EQ(entries.front().requestedItemCount, 5);
 }
 
 TEST(AuditEntryRetention, ShowsNothingOfAnAppendedEntryThatTheLogDidNotTake)
 {
-    const auto appended = entry(1, 1);
+    const auto appended = numberedEntry(1, 1);
     EXPECT_THAT(AuditEntryRetention::reconciledAfterAppend({}, std::vector{appended}, appended), IsEmpty());
 }
 
@@ -86,9 +92,9 @@ TEST(AuditEntryRetention, NeverShowsMoreThanAHundred)
 {
     std::vector<CleanupAuditEntry> persisted;
     for (int number = 1; number <= 100; ++number) {
-        persisted.push_back(entry(number, number));
+        persisted.push_back(numberedEntry(number, number));
     }
-    const std::vector<CleanupAuditEntry> current{entry(200, 200)};
+    const std::vector<CleanupAuditEntry> current{numberedEntry(200, 200)};
     const auto entries = AuditEntryRetention::reconciledAfterAppend(persisted, current, persisted.back());
     ASSERT_THAT(entries, SizeIs(100));
     EXPECT_EQ(lastDigits(entries).front(), "C8");

@@ -3,6 +3,7 @@
 #include "CleanerCore/Audit/CleanupAuditCoding.h"
 #include "CleanerCore/Audit/CleanupAuditStore.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/FileContents.h"
 #include "Tests/Support/ForwardingFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 
@@ -11,7 +12,6 @@
 #include <fmt/format.h>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,10 +31,11 @@ using CleanerCore::FileResourceIdentity;
 using Platform::Date;
 using Platform::FileURL;
 using Platform::UUID;
+using TestSupport::contentsOf;
 
 using Entries = std::vector<CleanupAuditEntry>;
 
-inline CleanupCandidate candidate(std::string_view path, std::int64_t sizeBytes = 10)
+inline CleanupCandidate loggedCandidate(std::string_view path, std::int64_t sizeBytes = 10)
 {
     return CleanupCandidate({
         .url = FileURL::folder(path),
@@ -51,7 +52,7 @@ inline CleanupCandidate candidate(std::string_view path, std::int64_t sizeBytes 
 inline CleanedItem trashedItem(std::string_view path, std::int64_t sizeBytes = 10)
 {
     const auto trash = FileURL::folder("/home/ada/.local/share/Trash/files");
-    auto item = CleanedItem{.candidate = candidate(path, sizeBytes),
+    auto item = CleanedItem{.candidate = loggedCandidate(path, sizeBytes),
         .destinationURL = {},
         .restoreSourceRootURL = trash,
         .restoreSourceIdentity = FileResourceIdentity{.fileResourceIdentifier = "0a1b"}};
@@ -81,13 +82,6 @@ inline std::vector<std::string> ids(const Entries& entries)
         texts.push_back(each.id.string());
     }
     return texts;
-}
-
-inline std::string content(const FileURL& url)
-{
-    std::ostringstream bytes;
-    bytes << std::ifstream(url.path(), std::ios::binary).rdbuf();
-    return bytes.str();
 }
 
 inline void setContent(const FileURL& url, std::string_view bytes)
@@ -169,7 +163,7 @@ protected:
     }
 
     void setLog(std::string_view bytes) const { setContent(m_log, bytes); }
-    [[nodiscard]] std::string log() const { return content(m_log); }
+    [[nodiscard]] std::string log() const { return contentsOf(m_log.path()); }
 
     TestSupport::TemporaryTree m_tree{"Karvello/"};
     Platform::PosixFileManager m_posix;

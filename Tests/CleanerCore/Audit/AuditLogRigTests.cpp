@@ -168,7 +168,7 @@ protected:
             return;
         }
         const auto aside = movedAside("undecodable");
-        ASSERT_EQ(content(aside), bytes);
+        ASSERT_EQ(contentsOf(aside.path()), bytes);
         std::filesystem::remove(aside.path());
         ++tally.movedAside;
         tally.salvaged += kept.size() > 1 ? 1U : 0U;
@@ -325,7 +325,7 @@ TEST_F(AuditLogRig, KeepsALinkInPlaceOfTheLogAsideAndDoesNotFollowIt)
     setContent(target, bytes);
     expectIsKeptAside([&](const std::string& path) { std::filesystem::create_symlink(target.path(), path); },
         std::filesystem::file_type::symlink);
-    EXPECT_EQ(content(target), bytes);
+    EXPECT_EQ(contentsOf(target.path()), bytes);
 }
 
 TEST_F(AuditLogRig, KeepsALinkThatLeadsNowhereAside)
@@ -362,7 +362,7 @@ TEST_F(AuditLogRig, KeepsAFileWithoutPermissionToReadAside)
     });
     const auto aside = movedAside("unreadable");
     ASSERT_EQ(chmod(aside.path().c_str(), 0600), 0);
-    EXPECT_EQ(content(aside), bytes);
+    EXPECT_EQ(contentsOf(aside.path()), bytes);
     EXPECT_EQ(strictEntries(log()).size(), 1);
 }
 

@@ -18,7 +18,8 @@ CleanResult resultOf(int cleaned, int failed)
         result.cleanedItems.push_back(trashedItem(fmt::format("/home/ada/c{}", index), index + 1));
     }
     for (int index = 0; index < failed; ++index) {
-        result.failedItems.push_back({candidate(fmt::format("/home/ada/f{}", index)), fmt::format("reason {}", index)});
+        result.failedItems.push_back(
+            {loggedCandidate(fmt::format("/home/ada/f{}", index)), fmt::format("reason {}", index)});
     }
     return result;
 }
@@ -39,7 +40,7 @@ TEST(CleanupAuditEntry, TellsOfAClean)
     auto result = resultOf(2, 1);
     result.wasCancelled = true;
     const std::vector requested{
-        candidate("/home/ada/c0", 1), candidate("/home/ada/c1", 2), candidate("/home/ada/f0", 40)};
+        loggedCandidate("/home/ada/c0", 1), loggedCandidate("/home/ada/c1", 2), loggedCandidate("/home/ada/f0", 40)};
     const auto made = CleanupAuditEntry::clean(
         result, CleaningMode::moveToTrash, requested, CleanupAuditSource::macInsights, Date{5});
     EXPECT_EQ(made.occurredAt, Date{5});
@@ -106,7 +107,7 @@ TEST(CleanupAuditEntry, GetsAnIdOfItsOwn)
 
 TEST(CleanupAuditEntryDeathTest, EndsTheProgramWhereSizesOverflow)
 {
-    const std::vector huge{candidate("/a", std::numeric_limits<std::int64_t>::max()), candidate("/b", 1)};
+    const std::vector huge{loggedCandidate("/a", std::numeric_limits<std::int64_t>::max()), loggedCandidate("/b", 1)};
     EXPECT_DEATH((void)CleanupAuditEntry::clean(
                      {}, CleaningMode::moveToTrash, huge, CleanupAuditSource::cleanupDashboard, Date{}),
         "overflowed");

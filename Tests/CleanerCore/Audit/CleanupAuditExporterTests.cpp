@@ -12,10 +12,11 @@ namespace CleanerCore {
 namespace {
 
 using namespace AuditTests;
+using TestSupport::golden;
 using Format = ScanResultExportFormat;
 using Mode = ReportExportPrivacyMode;
 
-const Date kExportedAt = Date::fromUnixTime(1'794'780'245, 123'000'000);
+const Date kHistoryExportedAt = Date::fromUnixTime(1'794'780'245, 123'000'000);
 
 /// One entry for each thing that an export can get wrong, in no order.
 Entries history()
@@ -54,14 +55,9 @@ Entries history()
 
 std::string exported(const Entries& entries, Format format, Mode privacyMode)
 {
-    const auto data = CleanupAuditExporter::data(entries, format, privacyMode, kExportedAt);
+    const auto data = CleanupAuditExporter::data(entries, format, privacyMode, kHistoryExportedAt);
     EXPECT_TRUE(data);
     return data.value_or("");
-}
-
-std::string golden(std::string_view name)
-{
-    return content(FileURL(std::string(KARVELLO_SOURCE_DIR "/Tests/Golden/").append(name)));
 }
 
 /// What stands in a full JSON export under `key`.
@@ -82,14 +78,14 @@ std::vector<Platform::JSONValue> exportedRows(const Entries& entries)
     return rows.array() != nullptr ? *rows.array() : std::vector<Platform::JSONValue>();
 }
 
-std::optional<std::int64_t> summaryNumber(const Entries& entries, std::string_view key)
+std::optional<std::int64_t> historySummaryNumber(const Entries& entries, std::string_view key)
 {
     const auto summary = exportedMember(entries, "summary");
     const auto* const number = summary.member(key);
     return number != nullptr ? number->integer() : std::nullopt;
 }
 
-constexpr std::string_view kHeader =
+constexpr std::string_view kHistoryHeader =
     "audit_id,occurred_at,operation,source,mode,requested_item_count,requested_bytes,succeeded_item_count,"
     "failed_item_count,affected_bytes,was_cancelled,sample_paths,failure_reasons,cleaned_item_count,"
     "cleaned_item_original_paths,cleaned_item_trash_paths,cleaned_item_restore_details_recorded_count\n";
@@ -98,17 +94,17 @@ constexpr std::string_view kHeader =
 std::string rowsOf(const Entries& entries)
 {
     const auto text = exported(entries, Format::csv, Mode::full);
-    EXPECT_TRUE(text.starts_with(kHeader));
-    return text.substr(std::min(kHeader.size(), text.size()));
+    EXPECT_TRUE(text.starts_with(kHistoryHeader));
+    return text.substr(std::min(kHistoryHeader.size(), text.size()));
 }
 
 } // namespace
 
 TEST(CleanupAuditExporter, NamesTheFileByTheDateOfTheExport)
 {
-    EXPECT_EQ(CleanupAuditExporter::defaultFilename(kExportedAt, Format::json, Mode::full),
+    EXPECT_EQ(CleanupAuditExporter::defaultFilename(kHistoryExportedAt, Format::json, Mode::full),
         "karvello-cleanup-history-20261115-220405.json");
-    EXPECT_EQ(CleanupAuditExporter::defaultFilename(kExportedAt, Format::csv, Mode::redacted),
+    EXPECT_EQ(CleanupAuditExporter::defaultFilename(kHistoryExportedAt, Format::csv, Mode::redacted),
         "karvello-cleanup-history-redacted-20261115-220405.csv");
 }
 
@@ -145,16 +141,16 @@ TEST(CleanupAuditExporter, LetsATokenOfTheStoreThrough)
 
 TEST(CleanupAuditExporter, SumsUpTheWholeHistory)
 {
-    EXPECT_EQ(summaryNumber(history(), "entryCount"), 3);
-    EXPECT_EQ(summaryNumber(history(), "cleanCount"), 2);
-    EXPECT_EQ(summaryNumber(history(), "restoreCount"), 1);
-    EXPECT_EQ(summaryNumber(history(), "requestedBytes"), 1'234'567'890'143);
-    EXPECT_EQ(summaryNumber(history(), "affectedBytes"), 1'000'000'000'010);
-    EXPECT_EQ(summaryNumber(history(), "failedItemCount"), 6);
-    EXPECT_EQ(summaryNumber(history(), "cancelledCount"), 1);
-    EXPECT_EQ(summaryNumber(history(), "cleanedItemCount"), 25);
-    EXPECT_EQ(summaryNumber(history(), "trashMovedItemCount"), 2);
-    EXPECT_EQ(summaryNumber(history(), "trashMovedBytes"), 20);
+    EXPECT_EQ(historySummaryNumber(history(), "entryCount"), 3);
+    EXPECT_EQ(historySummaryNumber(history(), "cleanCount"), 2);
+    EXPECT_EQ(historySummaryNumber(history(), "restoreCount"), 1);
+    EXPECT_EQ(historySummaryNumber(history(), "requestedBytes"), 1'234'567'890'143);
+    EXPECT_EQ(historySummaryNumber(history(), "affectedBytes"), 1'000'000'000'010);
+    EXPECT_EQ(historySummaryNumber(history(), "failedItemCount"), 6);
+    EXPECT_EQ(historySummaryNumber(history(), "cancelledCount"), 1);
+    EXPECT_EQ(historySummaryNumber(history(), "cleanedItemCount"), 25);
+    EXPECT_EQ(historySummaryNumber(history(), "trashMovedItemCount"), 2);
+    EXPECT_EQ(historySummaryNumber(history(), "trashMovedBytes"), 20);
 }
 
 TEST(CleanupAuditExporter, IsNotFelledByTheFiguresOfAForgedLog)
@@ -165,14 +161,14 @@ TEST(CleanupAuditExporter, IsNotFelledByTheFiguresOfAForgedLog)
         each.requestedBytes = limit;
         each.failedItemCount = -limit;
     }
-    EXPECT_EQ(summaryNumber(forged, "requestedBytes"), limit);
-    EXPECT_EQ(summaryNumber(forged, "failedItemCount"), std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(historySummaryNumber(forged, "requestedBytes"), limit);
+    EXPECT_EQ(historySummaryNumber(forged, "failedItemCount"), std::numeric_limits<std::int64_t>::min());
 }
 
 TEST(CleanupAuditExporter, WritesAnEmptyHistory)
 {
-    EXPECT_EQ(exported({}, Format::csv, Mode::full), kHeader);
-    EXPECT_EQ(exported({}, Format::csv, Mode::redacted), "privacy_mode,redacted\n" + std::string(kHeader));
+    EXPECT_EQ(exported({}, Format::csv, Mode::full), kHistoryHeader);
+    EXPECT_EQ(exported({}, Format::csv, Mode::redacted), "privacy_mode,redacted\n" + std::string(kHistoryHeader));
     EXPECT_TRUE(exportedRows({}).empty());
     const auto summary = exportedMember({}, "summary");
     const auto* const sums = summary.object();
@@ -254,8 +250,8 @@ TEST(CleanupAuditExporter, WritesTheFile)
     const TestSupport::TemporaryTree tree;
     const Platform::PosixFileManager fileManager;
     const auto url = tree.url("history.json");
-    ASSERT_TRUE(CleanupAuditExporter::write(history(), Format::json, Mode::full, url, kExportedAt, fileManager));
-    EXPECT_EQ(content(url), exported(history(), Format::json, Mode::full));
+    ASSERT_TRUE(CleanupAuditExporter::write(history(), Format::json, Mode::full, url, kHistoryExportedAt, fileManager));
+    EXPECT_EQ(contentsOf(url.path()), exported(history(), Format::json, Mode::full));
 }
 
 TEST(CleanupAuditExporter, TellsWhyItCannotWrite)
@@ -264,8 +260,8 @@ TEST(CleanupAuditExporter, TellsWhyItCannotWrite)
     const Platform::PosixFileManager posix;
     TestSupport::FaultyFileManager faulty(posix);
     faulty.fail({.call = TestSupport::FileManagerCall::writeAtomically, .systemError = ENOSPC});
-    const auto written =
-        CleanupAuditExporter::write(history(), Format::csv, Mode::full, tree.url("history.csv"), kExportedAt, faulty);
+    const auto written = CleanupAuditExporter::write(
+        history(), Format::csv, Mode::full, tree.url("history.csv"), kHistoryExportedAt, faulty);
     ASSERT_FALSE(written);
     EXPECT_EQ(std::get<Platform::FileError>(written.error().cause).kind, Platform::FileErrorKind::outOfSpace);
 }

@@ -26,7 +26,7 @@ protected:
         const auto first = entry();
         EXPECT_EQ(m_store.append(first), Entries{first});
         EXPECT_EQ(strictEntries(log()), Entries{first});
-        EXPECT_EQ(content(movedAside(reason)), bytes);
+        EXPECT_EQ(contentsOf(movedAside(reason).path()), bytes);
     }
 
     /// A store whose file manager fails.
@@ -91,7 +91,7 @@ TEST_F(CleanupAuditStoreDamageTest, MovesAsideAFileThatGrewAfterTheLookAtIt)
     setLog("[]");
     m_faulty.fail({.call = readFile, .systemError = EFBIG});
     EXPECT_EQ(appendWith(m_faulty, entry()).size(), 1);
-    EXPECT_EQ(content(movedAside("oversized")), "[]");
+    EXPECT_EQ(contentsOf(movedAside("oversized").path()), "[]");
 }
 
 TEST_F(CleanupAuditStoreDamageTest, DoesNotReadAHugeSparseFile)
@@ -113,7 +113,7 @@ TEST_F(CleanupAuditStoreDamageTest, MovesAsideAFileWhoseAttributesCannotBeRead)
     EXPECT_TRUE(CleanupAuditStore(m_faulty, m_log).loadEntries().empty());
     EXPECT_EQ(log(), before);
     EXPECT_EQ(appendWith(m_faulty, entry()).size(), 1);
-    EXPECT_EQ(content(movedAside("unreadable")), before);
+    EXPECT_EQ(contentsOf(movedAside("unreadable").path()), before);
 }
 
 TEST_F(CleanupAuditStoreDamageTest, MovesAsideAFileThatCannotBeRead)
@@ -126,7 +126,7 @@ TEST_F(CleanupAuditStoreDamageTest, MovesAsideAFileThatCannotBeRead)
         EXPECT_TRUE(CleanupAuditStore(faulty, m_log).loadEntries().empty());
         EXPECT_EQ(log(), before);
         EXPECT_EQ(appendWith(faulty, entry()).size(), 1);
-        EXPECT_EQ(content(movedAside("unreadable")), before);
+        EXPECT_EQ(contentsOf(movedAside("unreadable").path()), before);
         m_tree.remove("Karvello");
         m_tree.add("Karvello/");
     }
@@ -149,7 +149,7 @@ TEST_F(CleanupAuditStoreDamageTest, SavesTheGoodEntriesOnAnAppendAndKeepsTheOldF
     const auto added = entry(0);
     EXPECT_EQ(m_store.append(added), (Entries{added, good}));
     EXPECT_EQ(strictEntries(log()), (Entries{added, good}));
-    EXPECT_EQ(content(movedAside("undecodable")), bytes);
+    EXPECT_EQ(contentsOf(movedAside("undecodable").path()), bytes);
 }
 
 TEST_F(CleanupAuditStoreDamageTest, KeepsALogOfANewerVersionAsideBeforeItWritesItsOwn)
@@ -161,7 +161,7 @@ TEST_F(CleanupAuditStoreDamageTest, KeepsALogOfANewerVersionAsideBeforeItWritesI
     setLog(bytes);
     const auto added = entry(-1);
     EXPECT_EQ(m_store.append(added), (Entries{added, good}));
-    EXPECT_EQ(content(movedAside("undecodable")), bytes);
+    EXPECT_EQ(contentsOf(movedAside("undecodable").path()), bytes);
 }
 
 TEST_F(CleanupAuditStoreDamageTest, MovesAsideNothingForCleanedItemsOfAWrongType)

@@ -218,7 +218,7 @@ TEST_F(CleanupAuditStoreTest, EmptiesTheLogWhenAppendingWithALimitBelowOne)
     }
     const CleanupAuditStore store(m_fileManager, m_tree.url("a/log.json"));
     EXPECT_TRUE(store.append(entry(), 0).empty());
-    EXPECT_EQ(content(store.fileURL()), "[\n\n]");
+    EXPECT_EQ(contentsOf(store.fileURL().path()), "[\n\n]");
 }
 
 TEST_F(CleanupAuditStoreTest, ReplacesAllEntries)
@@ -315,7 +315,7 @@ TEST_F(CleanupAuditStoreTest, NamesAFileThatItMovesAside)
     ASSERT_TRUE(std::regex_match(name, parts, form)) << name;
     EXPECT_GE(std::stoll(parts[1]), before);
     EXPECT_LE(std::stoll(parts[1]), after);
-    EXPECT_EQ(content(aside), "no log");
+    EXPECT_EQ(contentsOf(aside.path()), "no log");
 }
 
 TEST_F(CleanupAuditStoreTest, LiesInTheUsersDataFolder)

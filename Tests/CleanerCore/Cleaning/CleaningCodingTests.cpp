@@ -25,8 +25,9 @@ using Keys = std::vector<std::string>;
 TEST(CleaningCoding, ReadsBackACleanResult)
 {
     CleanResult result;
-    result.cleanedItems = {trashedItem("/home/ada/a b"), CleanedItem{.candidate = candidate("/home/ada/deleted")}};
-    result.failedItems = {{candidate("/home/ada/busy"), "Access denied"}};
+    result.cleanedItems = {
+        trashedItem("/home/ada/a b"), CleanedItem{.candidate = loggedCandidate("/home/ada/deleted")}};
+    result.failedItems = {{loggedCandidate("/home/ada/busy"), "Access denied"}};
     result.wasCancelled = true;
     EXPECT_EQ(decodeJSON<CleanResult>(encoded(result)), result);
 }
@@ -43,7 +44,7 @@ TEST(CleaningCoding, NamesTheKeysAfterTheFields)
 {
     EXPECT_EQ(keysOf(trashedItem("/a")),
         (Keys{"candidate", "destinationURL", "restoreSourceIdentity", "restoreSourceRootURL"}));
-    EXPECT_EQ(keysOf(FailedCleanItem{candidate("/a"), ""}), (Keys{"candidate", "reason"}));
+    EXPECT_EQ(keysOf(FailedCleanItem{loggedCandidate("/a"), ""}), (Keys{"candidate", "reason"}));
     EXPECT_EQ(keysOf(CleanResult{}), (Keys{"cleanedItems", "failedItems", "wasCancelled"}));
     EXPECT_EQ(keysOf(RestoredCleanedItem{trashedItem("/a"), {}}), (Keys{"cleanedItem", "restoredURL"}));
     EXPECT_EQ(keysOf(FailedRestoreItem{trashedItem("/a"), ""}), (Keys{"cleanedItem", "reason"}));
@@ -52,7 +53,7 @@ TEST(CleaningCoding, NamesTheKeysAfterTheFields)
 
 TEST(CleaningCoding, LeavesOutWhatACleanedItemDoesNotHave)
 {
-    const CleanedItem bare{.candidate = candidate("/a")};
+    const CleanedItem bare{.candidate = loggedCandidate("/a")};
     EXPECT_EQ(keysOf(bare), Keys{"candidate"});
     EXPECT_EQ(decodeJSON<CleanedItem>(encoded(bare)), bare);
 }
@@ -64,7 +65,7 @@ TEST(CleaningCoding, RefusesACleanedItemWithoutItsCandidate)
 
 TEST(CleaningCoding, WritesAReasonThatIsNotUTF8Escaped)
 {
-    const auto read = decodeJSON<FailedCleanItem>(encoded(FailedCleanItem{candidate("/a"), "caf\xE9"}));
+    const auto read = decodeJSON<FailedCleanItem>(encoded(FailedCleanItem{loggedCandidate("/a"), "caf\xE9"}));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->reason, "caf\\xE9");
 }
@@ -74,7 +75,7 @@ TEST(CleanResult, SumsUpWhatWasCleanedAndNothingElse)
     CleanResult result;
     EXPECT_EQ(result.reclaimedBytes(), 0);
     result.cleanedItems = {trashedItem("/a", 3), trashedItem("/b", 4)};
-    result.failedItems = {{candidate("/c", 100), ""}};
+    result.failedItems = {{loggedCandidate("/c", 100), ""}};
     EXPECT_EQ(result.reclaimedBytes(), 7);
 }
 

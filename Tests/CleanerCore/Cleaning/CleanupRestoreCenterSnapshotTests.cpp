@@ -37,7 +37,7 @@ TEST(CleanupRestoreCenterSnapshot, IsEmptyWithoutAResult)
 
 TEST(CleanupRestoreCenterSnapshot, ShowsAResultAndOffersARestore)
 {
-    CleanResult result{.cleanedItems = items(), .failedItems = {{candidate("/f"), "busy"}}, .wasCancelled = true};
+    CleanResult result{.cleanedItems = items(), .failedItems = {{loggedCandidate("/f"), "busy"}}, .wasCancelled = true};
     const CleanupRestoreCenterSnapshot snapshot(std::optional{result});
     EXPECT_EQ(snapshot.recentItems, items());
     EXPECT_EQ(snapshot.trashMovedItems, (std::vector{items()[0], items()[1], items()[3]}));
@@ -83,7 +83,7 @@ TEST(CleanupRestoreCenterSnapshot, CountsAnItemWithoutIdentityAsMovedButNotAsRes
 
 TEST(CleanupRestoreCenterSnapshot, ShowsAPermanentDeletionAmongTheRecentItemsOnly)
 {
-    const CleanedItem deleted{.candidate = candidate("/a", 5)};
+    const CleanedItem deleted{.candidate = loggedCandidate("/a", 5)};
     const CleanupRestoreCenterSnapshot snapshot(std::optional<CleanResult>(CleanResult{.cleanedItems = {deleted}}));
     EXPECT_EQ(snapshot.recentItems, std::vector{deleted});
     EXPECT_TRUE(snapshot.trashMovedItems.empty());

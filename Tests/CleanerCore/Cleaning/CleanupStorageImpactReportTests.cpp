@@ -8,7 +8,7 @@ namespace {
 
 using namespace AuditTests;
 
-CleanupStorageImpactReport report(std::optional<CleaningMode> mode, std::int64_t expected, std::int64_t affected)
+CleanupStorageImpactReport impact(std::optional<CleaningMode> mode, std::int64_t expected, std::int64_t affected)
 {
     return CleanupStorageImpactReport({.mode = mode, .expectedBytes = expected, .affectedBytes = affected});
 }
@@ -61,7 +61,7 @@ TEST(CleanupStorageImpactReport, RaisesNegativeFiguresToNothing)
 
 TEST(CleanupStorageImpactReport, ClaimsNoRecoveryForAMoveToTheTrash)
 {
-    const auto moved = report(CleaningMode::moveToTrash, 100, 60);
+    const auto moved = impact(CleaningMode::moveToTrash, 100, 60);
     EXPECT_EQ(moved.outcomeBytes(), 60);
     EXPECT_EQ(moved.movedToTrashBytes(), 60);
     EXPECT_EQ(moved.pendingRecoveryBytes(), moved.movedToTrashBytes());
@@ -71,7 +71,7 @@ TEST(CleanupStorageImpactReport, ClaimsNoRecoveryForAMoveToTheTrash)
 
 TEST(CleanupStorageImpactReport, ClaimsTheBytesOfAPermanentDeletion)
 {
-    const auto deleted = report(CleaningMode::deletePermanently, 100, 60);
+    const auto deleted = impact(CleaningMode::deletePermanently, 100, 60);
     EXPECT_EQ(deleted.movedToTrashBytes(), 0);
     EXPECT_EQ(deleted.pendingRecoveryBytes(), 0);
     EXPECT_EQ(deleted.storageRecoveredBytes(), 60);
@@ -80,7 +80,7 @@ TEST(CleanupStorageImpactReport, ClaimsTheBytesOfAPermanentDeletion)
 
 TEST(CleanupStorageImpactReport, ClaimsNothingWithoutAMode)
 {
-    const auto unknown = report(std::nullopt, 100, 60);
+    const auto unknown = impact(std::nullopt, 100, 60);
     EXPECT_EQ(unknown.outcomeBytes(), 60);
     EXPECT_EQ(unknown.movedToTrashBytes(), 0);
     EXPECT_EQ(unknown.pendingRecoveryBytes(), 0);
@@ -90,19 +90,19 @@ TEST(CleanupStorageImpactReport, ClaimsNothingWithoutAMode)
 
 TEST(CleanupStorageImpactReport, TellsHowMuchOfTheExpectedCame)
 {
-    EXPECT_EQ(report(CleaningMode::moveToTrash, 100, 60).remainingExpectedBytes(), 40);
-    EXPECT_EQ(report(CleaningMode::moveToTrash, 100, 25).outcomeFraction(), 0.25);
-    EXPECT_EQ(report(CleaningMode::moveToTrash, 100, 0).outcomeFraction(), 0.0);
+    EXPECT_EQ(impact(CleaningMode::moveToTrash, 100, 60).remainingExpectedBytes(), 40);
+    EXPECT_EQ(impact(CleaningMode::moveToTrash, 100, 25).outcomeFraction(), 0.25);
+    EXPECT_EQ(impact(CleaningMode::moveToTrash, 100, 0).outcomeFraction(), 0.0);
 }
 
 TEST(CleanupStorageImpactReport, HasNoFractionOfNothing)
 {
-    EXPECT_EQ(report(CleaningMode::moveToTrash, 0, 60).outcomeFraction(), std::nullopt);
+    EXPECT_EQ(impact(CleaningMode::moveToTrash, 0, 60).outcomeFraction(), std::nullopt);
 }
 
 TEST(CleanupStorageImpactReport, DoesNotPassTheWhole)
 {
-    const auto more = report(CleaningMode::moveToTrash, 100, 160);
+    const auto more = impact(CleaningMode::moveToTrash, 100, 160);
     EXPECT_EQ(more.outcomeFraction(), 1.0);
     EXPECT_EQ(more.remainingExpectedBytes(), 0);
 }

@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Export/ScanResultExporter.h"
 #include "Platform/Base/JSONReader.h"
+#include "Tests/Support/FileContents.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -16,6 +17,8 @@ namespace CleanerCore::ExportFixture {
 using Format = ScanResultExportFormat;
 using Mode = ReportExportPrivacyMode;
 using SelectedIDs = std::unordered_set<std::string>;
+using TestSupport::contentsOf;
+using TestSupport::golden;
 
 inline const Platform::Date kScannedAt = Platform::Date::fromUnixTime(1'794'780'245, 123'000'000);
 inline const Platform::Date kExportedAt = Platform::Date::fromUnixTime(1'794'866'645, 0);
@@ -27,10 +30,6 @@ std::string exported(const Report& scanReport, const SelectedIDs& ids, Format fo
     EXPECT_TRUE(data);
     return data ? *data : "";
 }
-
-std::string content(const std::string& path);
-/// A file of Tests/Golden.
-std::string golden(std::string_view name);
 
 inline Platform::JSONValue parsed(const std::string& text)
 {

@@ -20,9 +20,9 @@ using namespace ExportFixture;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr std::string_view kHeader = "export_kind,record_type,section,path,display_name,category,insight_kind,"
-                                     "size_bytes,last_modified,safety,selected_by_default,selected,"
-                                     "manual_review_required,reason,detail,duplicate_group_id,duplicate_role\n";
+constexpr std::string_view kInsightHeader = "export_kind,record_type,section,path,display_name,category,insight_kind,"
+                                            "size_bytes,last_modified,safety,selected_by_default,selected,"
+                                            "manual_review_required,reason,detail,duplicate_group_id,duplicate_role\n";
 
 MacStorageInsightReport emptyReport()
 {
@@ -71,7 +71,7 @@ TEST(ScanResultExporter, WritesTheSameBytesOfInsightsAgain)
 TEST(ScanResultExporter, WritesAnEmptyInsightReport)
 {
     const auto csv = exported(emptyReport(), {}, Format::csv, Mode::full);
-    EXPECT_THAT(csv, testing::StartsWith(std::string(kHeader) + "macInsights,system_snapshot,system,,"));
+    EXPECT_THAT(csv, testing::StartsWith(std::string(kInsightHeader) + "macInsights,system_snapshot,system,,"));
     EXPECT_EQ(std::ranges::count(csv, '\n'), 2) << "the machine has its row in any case";
     EXPECT_EQ(exported(emptyReport(), {}, Format::csv, Mode::redacted), "privacy_mode,redacted\n" + csv);
 
@@ -249,9 +249,9 @@ TEST(ScanResultExporter, WritesTheFileOfInsights)
     ASSERT_FALSE(failed);
     EXPECT_EQ(failed.error().localizedDescription(),
         "The file “old.json” couldn’t be saved because the volume is out of space.");
-    EXPECT_EQ(content(tree.path("old.json")), "before");
+    EXPECT_EQ(contentsOf(tree.path("old.json")), "before");
     ASSERT_TRUE(write(real));
-    EXPECT_EQ(content(tree.path("old.json")), golden("insights-full.json"));
+    EXPECT_EQ(contentsOf(tree.path("old.json")), golden("insights-full.json"));
 }
 
 } // namespace CleanerCore

@@ -19,7 +19,7 @@ using Platform::Date;
 using Platform::FileURL;
 
 /// One candidate for each thing that an export can get wrong.
-ScanReport report()
+ScanReport scanReport()
 {
     const auto home = FileURL::folder("/home/ada");
     return {
@@ -66,20 +66,20 @@ SelectedIDs selectedIDs()
 
 TEST(ScanResultExporter, WritesAFullCleanupExport)
 {
-    EXPECT_EQ(exported(report(), selectedIDs(), Format::json, Mode::full), golden("cleanup-full.json"));
-    EXPECT_EQ(exported(report(), selectedIDs(), Format::csv, Mode::full), golden("cleanup-full.csv"));
+    EXPECT_EQ(exported(scanReport(), selectedIDs(), Format::json, Mode::full), golden("cleanup-full.json"));
+    EXPECT_EQ(exported(scanReport(), selectedIDs(), Format::csv, Mode::full), golden("cleanup-full.csv"));
 }
 
 TEST(ScanResultExporter, WritesARedactedCleanupExport)
 {
-    EXPECT_EQ(exported(report(), selectedIDs(), Format::json, Mode::redacted), golden("cleanup-redacted.json"));
-    EXPECT_EQ(exported(report(), selectedIDs(), Format::csv, Mode::redacted), golden("cleanup-redacted.csv"));
+    EXPECT_EQ(exported(scanReport(), selectedIDs(), Format::json, Mode::redacted), golden("cleanup-redacted.json"));
+    EXPECT_EQ(exported(scanReport(), selectedIDs(), Format::csv, Mode::redacted), golden("cleanup-redacted.csv"));
 }
 
 TEST(ScanResultExporter, TellsNeitherPathsNorNamesInARedactedExport)
 {
     for (const auto format : {Format::json, Format::csv}) {
-        const auto text = exported(report(), selectedIDs(), format, Mode::redacted);
+        const auto text = exported(scanReport(), selectedIDs(), format, Mode::redacted);
         for (const std::string_view secret : {"ada", "home", "pip", "SUM", "caf", "busy", ".cache"}) {
             EXPECT_EQ(text.find(secret), std::string::npos) << secret;
         }
@@ -91,8 +91,8 @@ TEST(ScanResultExporter, TellsNeitherPathsNorNamesInARedactedExport)
 TEST(ScanResultExporter, WritesTheSameBytesAgain)
 {
     for (const auto format : {Format::json, Format::csv}) {
-        EXPECT_EQ(exported(report(), selectedIDs(), format, Mode::redacted),
-            exported(report(), selectedIDs(), format, Mode::redacted));
+        EXPECT_EQ(exported(scanReport(), selectedIDs(), format, Mode::redacted),
+            exported(scanReport(), selectedIDs(), format, Mode::redacted));
     }
 }
 
@@ -122,22 +122,22 @@ TEST(ScanResultExporter, WritesAnEmptyReport)
 
 TEST(ScanResultExporter, CountsAllCandidatesAsReclaimableWhateverIsSelected)
 {
-    const auto nothing = exported(report(), {}, Format::json, Mode::full);
+    const auto nothing = exported(scanReport(), {}, Format::json, Mode::full);
     EXPECT_EQ(summaryNumber(nothing, "reclaimableBytes"), 1'234'567'890'133);
     EXPECT_EQ(summaryNumber(nothing, "candidateCount"), 3);
     EXPECT_EQ(summaryNumber(nothing, "skippedCount"), 2);
     EXPECT_EQ(summaryNumber(nothing, "selectedCount"), 0);
-    EXPECT_EQ(summaryNumber(exported(report(), selectedIDs(), Format::json, Mode::full), "selectedCount"), 1);
+    EXPECT_EQ(summaryNumber(exported(scanReport(), selectedIDs(), Format::json, Mode::full), "selectedCount"), 1);
 }
 
 TEST(ScanResultExporter, WritesUTF8WhateverTheNames)
 {
     for (const auto format : {Format::json, Format::csv}) {
         for (const auto mode : {Mode::full, Mode::redacted}) {
-            EXPECT_TRUE(Platform::Text::isValidUTF8(exported(report(), selectedIDs(), format, mode)));
+            EXPECT_TRUE(Platform::Text::isValidUTF8(exported(scanReport(), selectedIDs(), format, mode)));
         }
     }
-    EXPECT_NE(exported(report(), {}, Format::csv, Mode::full).find("/home/ada/caf\\xE9/"), std::string::npos);
+    EXPECT_NE(exported(scanReport(), {}, Format::csv, Mode::full).find("/home/ada/caf\\xE9/"), std::string::npos);
 
     const ScanReport oddReason(kScannedAt, {}, {SkippedItem{FileURL("/a"), "caf\xE9"}});
     EXPECT_NE(exported(oddReason, {}, Format::json, Mode::redacted).find("caf\\\\xE9"), std::string::npos);
@@ -158,16 +158,16 @@ TEST(ScanResultExporter, WritesTheFile)
     const Platform::PosixFileManager fileManager;
     for (const std::string_view name : {"new.csv", "old.csv"}) {
         ASSERT_TRUE(ScanResultExporter::write(
-            report(), selectedIDs(), Format::csv, Mode::full, tree.url(name), kExportedAt, fileManager));
-        EXPECT_EQ(content(tree.path(name)), golden("cleanup-full.csv"));
+            scanReport(), selectedIDs(), Format::csv, Mode::full, tree.url(name), kExportedAt, fileManager));
+        EXPECT_EQ(contentsOf(tree.path(name)), golden("cleanup-full.csv"));
     }
 }
 
 TEST(ScanResultExporter, MakesNoFolder)
 {
     const TestSupport::TemporaryTree tree;
-    const auto written = ScanResultExporter::write(
-        report(), {}, Format::json, Mode::full, tree.url("missing/x.json"), kExportedAt, Platform::PosixFileManager());
+    const auto written = ScanResultExporter::write(scanReport(), {}, Format::json, Mode::full,
+        tree.url("missing/x.json"), kExportedAt, Platform::PosixFileManager());
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().localizedDescription(),
         "The file “x.json” couldn’t be saved because its folder doesn’t exist.");
@@ -179,12 +179,12 @@ TEST(ScanResultExporter, TellsWhyAFileCouldNotBeWritten)
     const Platform::PosixFileManager real;
     TestSupport::FaultyFileManager fileManager(real);
     fileManager.fail({.call = TestSupport::FileManagerCall::writeAtomically, .systemError = ENOSPC});
-    const auto written =
-        ScanResultExporter::write(report(), {}, Format::json, Mode::full, tree.url("x.json"), kExportedAt, fileManager);
+    const auto written = ScanResultExporter::write(
+        scanReport(), {}, Format::json, Mode::full, tree.url("x.json"), kExportedAt, fileManager);
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().localizedDescription(),
         "The file “x.json” couldn’t be saved because the volume is out of space.");
-    EXPECT_EQ(content(tree.path("x.json")), "before");
+    EXPECT_EQ(contentsOf(tree.path("x.json")), "before");
 }
 
 TEST(ScanResultExportFormat, HasTheExtensionOfItsFiles)

@@ -2,6 +2,7 @@
 
 #include "CleanerCore/Insights/MacStorageInsightScanner.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/Days.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <algorithm>
@@ -25,7 +26,6 @@ using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 using TestSupport::TemporaryTree;
 
-inline constexpr double kOneDay = 86'400;
 inline constexpr std::int64_t kPage = 4'096;
 
 /// Limits under which small files count.
@@ -34,7 +34,7 @@ inline InsightConfiguration::Fields smallLimits()
     return {
         .minimumLargeFileBytes = kPage,
         .minimumDuplicateFileBytes = std::int64_t{1} << 40,
-        .minimumReviewFileAge = kOneDay,
+        .minimumReviewFileAge = TestSupport::kDay,
         .maximumVisitedItemsPerRoot = 8'000,
         .maximumResultCount = 250,
         .maximumRecentReviewSkippedItems = 250,

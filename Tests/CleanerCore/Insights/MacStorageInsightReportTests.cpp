@@ -23,7 +23,7 @@ StorageMapItem bar(std::string_view path, std::int64_t size)
     return StorageMapItem({.url = FileURL::folder(path), .displayName = std::string(path), .sizeBytes = size});
 }
 
-std::vector<std::string> ids(const auto& items)
+std::vector<std::string> idsOf(const auto& items)
 {
     std::vector<std::string> ids;
     for (const auto& item : items) {
@@ -32,7 +32,7 @@ std::vector<std::string> ids(const auto& items)
     return ids;
 }
 
-MacStorageInsightReport report()
+MacStorageInsightReport unsortedReport()
 {
     const auto duplicate = FileInsightKind::duplicate;
     SystemResourceSnapshot snapshot;
@@ -57,20 +57,21 @@ MacStorageInsightReport report()
 
 TEST(MacStorageInsightReport, PutsEachListIntoItsOrder)
 {
-    const auto sorted = report();
-    EXPECT_EQ(ids(sorted.heatmapItems), (std::vector<std::string>{"/c", "/b", "/a"}));
-    EXPECT_EQ(ids(sorted.largeFiles),
+    const auto sorted = unsortedReport();
+    EXPECT_EQ(idsOf(sorted.heatmapItems), (std::vector<std::string>{"/c", "/b", "/a"}));
+    EXPECT_EQ(idsOf(sorted.largeFiles),
         (std::vector<std::string>{"largeFile:/c", "largeFile:/a", "largeFile:/b", "largeFile:/d"}));
-    EXPECT_EQ(ids(sorted.downloadFiles), (std::vector<std::string>{"largeFile:/z", "largeFile:/y"}));
-    EXPECT_EQ(ids(sorted.duplicateGroups), (std::vector<std::string>{"bb", "aa"}));
-    EXPECT_EQ(ids(sorted.securityFindings), (std::vector<std::string>{"largeFile:/t", "largeFile:/s", "largeFile:/r"}));
+    EXPECT_EQ(idsOf(sorted.downloadFiles), (std::vector<std::string>{"largeFile:/z", "largeFile:/y"}));
+    EXPECT_EQ(idsOf(sorted.duplicateGroups), (std::vector<std::string>{"bb", "aa"}));
+    EXPECT_EQ(
+        idsOf(sorted.securityFindings), (std::vector<std::string>{"largeFile:/t", "largeFile:/s", "largeFile:/r"}));
     EXPECT_EQ(sorted.skippedItems.front().reason, "why");
 }
 
 TEST(MacStorageInsightReport, AddsUpWhatDuplicatesWaste)
 {
-    const auto made = report();
-    EXPECT_EQ(ids(made.duplicateFiles()), (std::vector<std::string>{"duplicate:/d", "duplicate:/b"}));
+    const auto made = unsortedReport();
+    EXPECT_EQ(idsOf(made.duplicateFiles()), (std::vector<std::string>{"duplicate:/d", "duplicate:/b"}));
     EXPECT_EQ(made.duplicateWastedBytes(), 5);
 }
 
@@ -86,10 +87,10 @@ TEST(MacStorageInsightReport, TakesAnotherSnapshotAndKeepsTheRest)
 {
     SystemResourceSnapshot snapshot;
     snapshot.processorCount = 99;
-    auto replaced = report().replacingSystemSnapshot(snapshot);
+    auto replaced = unsortedReport().replacingSystemSnapshot(snapshot);
     EXPECT_EQ(replaced.systemSnapshot, snapshot);
-    replaced.systemSnapshot = report().systemSnapshot;
-    EXPECT_EQ(replaced, report());
+    replaced.systemSnapshot = unsortedReport().systemSnapshot;
+    EXPECT_EQ(replaced, unsortedReport());
 }
 
 TEST(MacStorageInsightReport, OfNothingHasNothingButThePresent)
@@ -105,7 +106,7 @@ TEST(MacStorageInsightReport, OfNothingHasNothingButThePresent)
 
 TEST(MacStorageInsightReport, ReadsWhatItWrote)
 {
-    auto made = report();
+    auto made = unsortedReport();
     made.skippedItems.pop_back(); // a path that is no text is escaped in its reason's place, not read back as bytes
     const auto text = Platform::encodeJSON(made);
     ASSERT_TRUE(text);
@@ -116,7 +117,7 @@ TEST(MacStorageInsightReport, ReadsWhatItWrote)
 
 TEST(MacStorageInsightReport, NeedsEachOfItsFields)
 {
-    const auto text = *Platform::encodeJSON(report());
+    const auto text = *Platform::encodeJSON(unsortedReport());
     const auto whole = Platform::JSONReader::parse(text);
     ASSERT_TRUE(whole);
     for (const auto* const key : {"scannedAt", "heatmapItems", "largeFiles", "downloadFiles", "duplicateGroups",
@@ -131,13 +132,13 @@ TEST(MacStorageInsightReport, NeedsEachOfItsFields)
 
 TEST(MacStorageInsightReport, BringsWhatItReadsIntoOrder)
 {
-    auto made = report();
+    auto made = unsortedReport();
     std::ranges::reverse(made.heatmapItems);
     std::ranges::reverse(made.largeFiles);
     made.heatmapItems.front().sizeBytes = -7;
     const auto read = Platform::decodeJSON<MacStorageInsightReport>(*Platform::encodeJSON(made));
     ASSERT_TRUE(read);
-    EXPECT_EQ(read->largeFiles, report().largeFiles);
+    EXPECT_EQ(read->largeFiles, unsortedReport().largeFiles);
     EXPECT_EQ(read->heatmapItems.back().sizeBytes, 0);
 }
 

@@ -25,7 +25,7 @@ FileInsight copy(std::string_view path, std::int64_t size)
     return file(path, size, FileInsightKind::duplicate);
 }
 
-StorageMapItem bar(std::string_view path, std::int64_t size, std::int64_t count)
+StorageMapItem truncatedBar(std::string_view path, std::int64_t size, std::int64_t count)
 {
     return StorageMapItem({.url = FileURL::folder(path),
         .displayName = std::string(path),
@@ -34,10 +34,11 @@ StorageMapItem bar(std::string_view path, std::int64_t size, std::int64_t count)
         .isTruncated = true});
 }
 
-MacStorageInsightReport report()
+MacStorageInsightReport reportBefore()
 {
     return MacStorageInsightReport({.scannedAt = Date{7},
-        .heatmapItems = {bar("/h/Documents", 100, 10), bar("/h/Documents2", 80, 9), bar("/h/one", 60, 1)},
+        .heatmapItems = {truncatedBar("/h/Documents", 100, 10), truncatedBar("/h/Documents2", 80, 9),
+            truncatedBar("/h/one", 60, 1)},
         .largeFiles = {file("/h/Documents/a", 40), file("/h/Documents/b", 30)},
         .downloadFiles = {file("/h/Documents/a", 40), file("/h/one", 60)},
         .duplicateGroups = {DuplicateFileGroup("aa", 5, {copy("/h/Documents/a", 40), copy("/h/x", 40)}),
@@ -60,12 +61,12 @@ std::vector<std::string> paths(const auto& items)
 
 TEST(RemovedFiles, LeaveTheReportAsItIsWithoutPaths)
 {
-    EXPECT_EQ(removingFiles(report(), {}), report());
+    EXPECT_EQ(removingFiles(reportBefore(), {}), reportBefore());
 }
 
 TEST(RemovedFiles, GoFromEveryListAndAreCountedOnce)
 {
-    const auto after = removingFiles(report(), {"/h/Documents/a"});
+    const auto after = removingFiles(reportBefore(), {"/h/Documents/a"});
     EXPECT_THAT(paths(after.largeFiles), ElementsAre("/h/Documents/b"));
     EXPECT_THAT(paths(after.downloadFiles), ElementsAre("/h/one"));
     ASSERT_THAT(after.duplicateGroups, SizeIs(1));
@@ -81,17 +82,17 @@ TEST(RemovedFiles, GoFromEveryListAndAreCountedOnce)
 
 TEST(RemovedFiles, LeaveAGroupOfTwoOrMore)
 {
-    const auto after = removingFiles(report(), {"/h/b"});
+    const auto after = removingFiles(reportBefore(), {"/h/b"});
     ASSERT_THAT(after.duplicateGroups, SizeIs(2));
     const auto left = std::ranges::find(after.duplicateGroups, "bb", &DuplicateFileGroup::id);
     EXPECT_THAT(paths(left->files), ElementsAre("/h/c", "/h/d"));
     EXPECT_EQ(left->sizeBytes, 5);
-    EXPECT_THAT(removingFiles(report(), {"/h/b", "/h/c", "/h/x"}).duplicateGroups, IsEmpty());
+    EXPECT_THAT(removingFiles(reportBefore(), {"/h/b", "/h/c", "/h/x"}).duplicateGroups, IsEmpty());
 }
 
 TEST(RemovedFiles, LeaveABarAtNothingInItsPlace)
 {
-    auto before = report();
+    auto before = reportBefore();
     before.largeFiles.push_back(file("/h/Documents/huge", 1'000));
     const auto after = removingFiles(before, {"/h/Documents/a", "/h/Documents/huge"});
     EXPECT_THAT(paths(after.heatmapItems), ElementsAre("/h/Documents", "/h/Documents2", "/h/one"));
@@ -101,7 +102,7 @@ TEST(RemovedFiles, LeaveABarAtNothingInItsPlace)
 
 TEST(RemovedFiles, TakeNothingFromABarThatIsTheFileItself)
 {
-    const auto after = removingFiles(report(), {"/h/one"});
+    const auto after = removingFiles(reportBefore(), {"/h/one"});
     EXPECT_EQ(after.heatmapItems.back().sizeBytes, 60);
     EXPECT_EQ(after.heatmapItems.back().itemCount, 1);
     EXPECT_THAT(paths(after.downloadFiles), ElementsAre("/h/Documents/a"));
@@ -109,7 +110,7 @@ TEST(RemovedFiles, TakeNothingFromABarThatIsTheFileItself)
 
 TEST(RemovedFiles, TakeNothingFromTheFolderWithALongerName)
 {
-    const auto after = removingFiles(report(), {"/h/Documents/s"});
+    const auto after = removingFiles(reportBefore(), {"/h/Documents/s"});
     EXPECT_EQ(after.heatmapItems[0].sizeBytes, 80);
     EXPECT_EQ(after.heatmapItems[1].sizeBytes, 80);
     EXPECT_THAT(after.securityFindings, IsEmpty());
@@ -117,7 +118,7 @@ TEST(RemovedFiles, TakeNothingFromTheFolderWithALongerName)
 
 TEST(RemovedFiles, AreThoseThatTheReportShows)
 {
-    EXPECT_EQ(removingFiles(report(), {"/h/Documents/unknown"}), report());
+    EXPECT_EQ(removingFiles(reportBefore(), {"/h/Documents/unknown"}), reportBefore());
 }
 
 } // namespace CleanerCore

@@ -7,14 +7,14 @@
 namespace CleanerCore {
 namespace {
 
-using Kind = AppCacheContainerKind;
+using ContainerKind = AppCacheContainerKind;
 using Source = AppCacheIdentitySource;
 using State = AppCacheRunningState;
 
 TEST(AppCacheContext, SeedsAGroupContainerWithTheIdentifierThatItsNameSuggests)
 {
-    const auto context = AppCacheContext::seed(Kind::groupContainer, "group.com.example.shared");
-    EXPECT_EQ(context.containerKind, Kind::groupContainer);
+    const auto context = AppCacheContext::seed(ContainerKind::groupContainer, "group.com.example.shared");
+    EXPECT_EQ(context.containerKind, ContainerKind::groupContainer);
     EXPECT_EQ(context.containerIdentifier, "group.com.example.shared");
     EXPECT_EQ(context.possibleBundleIdentifier, "com.example.shared");
     EXPECT_EQ(context.identitySource, Source::groupContainerPossibleMatch);
@@ -30,19 +30,19 @@ TEST(AppCacheContext, SuggestsNothingForAGroupThatIsNoIdentifier)
             "group.com.example.", "group.com.exa_mple.app", "group.com.example.a b", "Group.com.example.app",
             "com.example.app", "", "group.", "group.co-m.example.app", "group.漢.example.app"}) {
         EXPECT_EQ(AppCacheContext::possibleBundleIdentifierForGroup(group), std::nullopt) << group;
-        EXPECT_EQ(AppCacheContext::seed(Kind::groupContainer, group).identitySource, Source::unknown) << group;
+        EXPECT_EQ(AppCacheContext::seed(ContainerKind::groupContainer, group).identitySource, Source::unknown) << group;
     }
     EXPECT_EQ(AppCacheContext::possibleBundleIdentifierForGroup("group.com2.Example-1.App"), "com2.Example-1.App");
 }
 
 TEST(AppCacheContext, SeedsAnAppContainerWithItsTrimmedName)
 {
-    const auto context = AppCacheContext::seed(Kind::appContainer, " com.example.Notes\n");
+    const auto context = AppCacheContext::seed(ContainerKind::appContainer, " com.example.Notes\n");
     EXPECT_EQ(context.containerIdentifier, "com.example.Notes");
     EXPECT_EQ(context.possibleBundleIdentifier, "com.example.Notes");
     EXPECT_EQ(context.identitySource, Source::appContainerPath);
 
-    const auto blank = AppCacheContext::seed(Kind::appContainer, " \t");
+    const auto blank = AppCacheContext::seed(ContainerKind::appContainer, " \t");
     EXPECT_EQ(blank.possibleBundleIdentifier, std::nullopt);
     EXPECT_EQ(blank.identitySource, Source::unknown);
 }
@@ -50,7 +50,7 @@ TEST(AppCacheContext, SeedsAnAppContainerWithItsTrimmedName)
 TEST(AppCacheContext, KnowsARunningApplication)
 {
     const AppCacheRunningApplicationIdentity app({.displayName = " Notes ", .bundleIdentifier = "com.example.Notes "});
-    for (const auto kind : {Kind::appContainer, Kind::groupContainer}) {
+    for (const auto kind : {ContainerKind::appContainer, ContainerKind::groupContainer}) {
         auto context = AppCacheContext::seed(kind, "group.com.example.notes");
         context.possibleBundleIdentifier = " com.example.notes ";
         const auto enriched = context.enriched(&app);
@@ -66,12 +66,13 @@ TEST(AppCacheContext, KnowsARunningApplication)
 
 TEST(AppCacheContext, ClaimsOnlyOfAnAppContainerThatItsApplicationDoesNotRun)
 {
-    const auto app = AppCacheContext::seed(Kind::appContainer, "com.example.notes").enriched(nullptr);
+    const auto app = AppCacheContext::seed(ContainerKind::appContainer, "com.example.notes").enriched(nullptr);
     EXPECT_EQ(app.runningState, State::notRunning);
     EXPECT_EQ(app.identitySource, Source::appContainerPath);
     EXPECT_EQ(app.possibleBundleIdentifier, "com.example.notes");
 
-    const auto group = AppCacheContext::seed(Kind::groupContainer, "group.com.example.notes").enriched(nullptr);
+    const auto group =
+        AppCacheContext::seed(ContainerKind::groupContainer, "group.com.example.notes").enriched(nullptr);
     EXPECT_EQ(group.runningState, State::unknown);
     EXPECT_EQ(group.identitySource, Source::groupContainerPossibleMatch);
 }
@@ -79,7 +80,7 @@ TEST(AppCacheContext, ClaimsOnlyOfAnAppContainerThatItsApplicationDoesNotRun)
 TEST(AppCacheContext, ForgetsAMatchThatNoLongerHolds)
 {
     const AppCacheRunningApplicationIdentity app({.displayName = "Notes", .bundleIdentifier = "com.example.notes"});
-    const auto matched = AppCacheContext::seed(Kind::appContainer, "com.example.notes").enriched(&app);
+    const auto matched = AppCacheContext::seed(ContainerKind::appContainer, "com.example.notes").enriched(&app);
     const auto after = matched.enriched(nullptr);
     EXPECT_EQ(after.matchedRunningDisplayName, std::nullopt);
     EXPECT_EQ(after.matchedRunningBundleIdentifier, std::nullopt);
@@ -88,7 +89,7 @@ TEST(AppCacheContext, ForgetsAMatchThatNoLongerHolds)
 TEST(AppCacheContext, KnowsNothingWithoutAnIdentifier)
 {
     const AppCacheRunningApplicationIdentity app({.displayName = "Notes", .bundleIdentifier = "com.example.notes"});
-    const auto context = AppCacheContext::seed(Kind::groupContainer, "group.foo").enriched(&app);
+    const auto context = AppCacheContext::seed(ContainerKind::groupContainer, "group.foo").enriched(&app);
     EXPECT_EQ(context.runningState, State::unknown);
     EXPECT_EQ(context.identitySource, Source::unknown);
     EXPECT_EQ(context.matchedRunningDisplayName, std::nullopt);
@@ -98,7 +99,7 @@ TEST(AppCacheContext, KnowsNothingWithoutAnIdentifier)
 TEST(AppCacheContext, NamesAnAppContainerByTheLastPartOfItsIdentifier)
 {
     const auto name = [](std::string_view identifier) {
-        return AppCacheContext::seed(Kind::appContainer, identifier).displayNameForAppContainerFallback();
+        return AppCacheContext::seed(ContainerKind::appContainer, identifier).displayNameForAppContainerFallback();
     };
     EXPECT_EQ(name("com.example.Notes"), "Notes");
     EXPECT_EQ(name("com.example.Notes.."), "Notes");
@@ -107,7 +108,8 @@ TEST(AppCacheContext, NamesAnAppContainerByTheLastPartOfItsIdentifier)
     EXPECT_EQ(name("..."), std::nullopt);
     EXPECT_EQ(name("com. ."), std::nullopt);
     EXPECT_EQ(name(""), std::nullopt);
-    EXPECT_EQ(AppCacheContext::seed(Kind::groupContainer, "group.com.example.x").displayNameForAppContainerFallback(),
+    EXPECT_EQ(AppCacheContext::seed(ContainerKind::groupContainer, "group.com.example.x")
+                  .displayNameForAppContainerFallback(),
         std::nullopt);
 }
 

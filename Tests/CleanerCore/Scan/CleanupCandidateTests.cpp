@@ -10,7 +10,7 @@ namespace {
 
 using Platform::FileURL;
 
-CleanupCandidate fullCandidate()
+CleanupCandidate appCandidate()
 {
     return CleanupCandidate({
         .url = FileURL::folder("/home/u/.cache/app"),
@@ -68,7 +68,7 @@ TEST(CleanupCandidate, StoresANegativeSizeAsZero)
 
 TEST(CleanupCandidate, KeepsWhatItIsGiven)
 {
-    const auto candidate = fullCandidate();
+    const auto candidate = appCandidate();
     EXPECT_EQ(candidate.id, "userCaches:/home/u/.cache/app");
     EXPECT_EQ(candidate.displayName, "App");
     EXPECT_EQ(candidate.lastModified, Platform::Date{5});
@@ -82,7 +82,7 @@ TEST(CleanupCandidate, KeepsWhatItIsGiven)
 
 TEST(CleanupCandidate, ChangesNothingButTheContext)
 {
-    auto expected = fullCandidate();
+    auto expected = appCandidate();
     EXPECT_EQ(expected.withAppCacheContext(expected.appCacheContext), expected);
     const auto changed = expected.withAppCacheContext(std::nullopt);
     EXPECT_NE(changed, expected);
@@ -92,7 +92,7 @@ TEST(CleanupCandidate, ChangesNothingButTheContext)
 
 TEST(CleanupCandidate, IsRebuiltByTheRulesOfTheConstructor)
 {
-    auto candidate = fullCandidate();
+    auto candidate = appCandidate();
     candidate.id = "stored";
     candidate.sizeBytes = -1;
     const auto rebuilt = candidate.withAppCacheContext(std::nullopt);

@@ -2,6 +2,7 @@
 
 #include "Platform/Files/PosixFileManager.h"
 #include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/Days.h"
 #include "Tests/Support/FaultyFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 
@@ -11,7 +12,7 @@
 namespace CleanerCore {
 namespace {
 
-using Kind = CustomScanFolderError::Kind;
+using FolderErrorKind = CustomScanFolderError::Kind;
 
 class CustomFolderLocationTest : public testing::Test {
 protected:
@@ -20,7 +21,7 @@ protected:
         return customFolderLocation(tree.url(path), "Mine", files, tree.url("home/"));
     }
 
-    void expectRefused(std::string_view path, Kind kind) const
+    void expectRefused(std::string_view path, FolderErrorKind kind) const
     {
         const auto made = make(path);
         ASSERT_FALSE(made.has_value()) << path;
@@ -43,7 +44,7 @@ TEST_F(CustomFolderLocationTest, IsReviewedByHandAndNeverSelected)
             .depth = ScanDepth::immediateChildren,
             .isSelectedByDefault = false,
             .safety = CleanupSafety::manualReview,
-            .minimumModificationAge = 86'400,
+            .minimumModificationAge = TestSupport::kDay,
             .includesHiddenFiles = false,
             .includesPackageDescendants = false,
         }));
@@ -51,19 +52,19 @@ TEST_F(CustomFolderLocationTest, IsReviewedByHandAndNeverSelected)
 
 TEST_F(CustomFolderLocationTest, RefusesAFileAndWhatIsMissing)
 {
-    expectRefused("home/file", Kind::notDirectory);
-    expectRefused("home/nothing", Kind::notDirectory);
+    expectRefused("home/file", FolderErrorKind::notDirectory);
+    expectRefused("home/nothing", FolderErrorKind::notDirectory);
 }
 
 TEST_F(CustomFolderLocationTest, RefusesTheHomeUserDataLinksAndTheSystem)
 {
-    expectRefused("home/", Kind::unsafeRoot);
-    expectRefused("home/.ssh/", Kind::unsafeRoot);
-    expectRefused("home/linked", Kind::unsafeRoot);
+    expectRefused("home/", FolderErrorKind::unsafeRoot);
+    expectRefused("home/.ssh/", FolderErrorKind::unsafeRoot);
+    expectRefused("home/linked", FolderErrorKind::unsafeRoot);
     for (const std::string_view path : {"/", "/usr", "/etc", "/tmp", "/proc/self"}) {
         const auto made = customFolderLocation(Platform::FileURL::folder(path), "x", files, tree.url("home/"));
         ASSERT_FALSE(made.has_value()) << path;
-        EXPECT_EQ(made.error().kind, Kind::unsafeRoot) << path;
+        EXPECT_EQ(made.error().kind, FolderErrorKind::unsafeRoot) << path;
     }
 }
 
@@ -71,7 +72,7 @@ TEST_F(CustomFolderLocationTest, RefusesTheRootOfAVolumeWhereverItIsMounted)
 {
     TestSupport::inMountNamespace([this] {
         TestSupport::mountTemporaryFileSystem(tree.path("home/Projects"));
-        expectRefused("home/Projects/", Kind::unsafeRoot);
+        expectRefused("home/Projects/", FolderErrorKind::unsafeRoot);
     });
     EXPECT_TRUE(make("home/Projects/"));
 }
@@ -86,15 +87,15 @@ TEST_F(CustomFolderLocationTest, RefusesWhatCannotBeLookedAt)
         .path = tree.path("home/Projects")});
     const auto allowed = validateCustomFolder(tree.url("home/Projects/"), faulty, tree.url("home/"));
     ASSERT_FALSE(allowed.has_value());
-    EXPECT_EQ(allowed.error().kind, Kind::unsafeRoot);
+    EXPECT_EQ(allowed.error().kind, FolderErrorKind::unsafeRoot);
     EXPECT_EQ(faulty.failureCount(), 1);
 }
 
 TEST(CustomScanFolderError, HasTheWordsOfItsKindAndThePath)
 {
-    EXPECT_EQ((CustomScanFolderError{Kind::notDirectory, "/a\xFF"}.errorDescription()),
+    EXPECT_EQ((CustomScanFolderError{FolderErrorKind::notDirectory, "/a\xFF"}.errorDescription()),
         "Selected item is not an accessible folder: /a\\xFF");
-    EXPECT_EQ((CustomScanFolderError{Kind::unsafeRoot, "/a"}.errorDescription()),
+    EXPECT_EQ((CustomScanFolderError{FolderErrorKind::unsafeRoot, "/a"}.errorDescription()),
         "Selected folder is too broad or protected for cleanup scanning: /a");
 }
 

@@ -3,6 +3,7 @@
 #include "CleanerCore/Scan/StorageScanner.h"
 #include "CleanerCore/Scan/StorageScannerSkipReason.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/Days.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <algorithm>
@@ -20,14 +21,13 @@ using CleanerCore::ScanLocation;
 using CleanerCore::ScanReport;
 using CleanerCore::StorageScanner;
 using CleanerCore::StorageScanProgress;
+using TestSupport::kDay;
 using TestSupport::TemporaryTree;
 namespace SkipReason = CleanerCore::StorageScannerSkipReason;
 
-inline constexpr double kOneDay = 86'400;
-
 /// What a test says of a location beside its root.
 struct LocationRules {
-    double minimumModificationAge = kOneDay;
+    double minimumModificationAge = kDay;
     bool includesHiddenFiles = false;
     bool includesPackageDescendants = false;
     ScanDepth depth = ScanDepth::immediateChildren;

@@ -1,6 +1,7 @@
 #include "CleanerCore/Scan/StorageProfiles.h"
 
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/Days.h"
 #include "Tests/Support/FaultyFileManager.h"
 #include "Tests/Support/TemporaryTree.h"
 
@@ -16,8 +17,7 @@ using Platform::FileURL;
 using testing::ElementsAre;
 using testing::IsSupersetOf;
 using testing::UnorderedElementsAre;
-
-constexpr double kDay = 86'400;
+using TestSupport::kDay;
 
 /// A home of macOS.
 class StorageProfilesTest : public testing::Test {

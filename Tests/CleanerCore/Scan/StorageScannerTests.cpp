@@ -39,7 +39,7 @@ TEST_F(StorageScanner, MakesACandidateOfAnOldFolder)
     };
     EXPECT_EQ(candidate.sizeBytes,
         allocated("home/Caches/com.example.app/deep/data") + allocated("home/Caches/com.example.app/more"));
-    EXPECT_NEAR(m_tree.now().secondsSince(*candidate.lastModified), 5 * kOneDay, 0.001);
+    EXPECT_NEAR(m_tree.now().secondsSince(*candidate.lastModified), 5 * kDay, 0.001);
     const auto identity = CleanerCore::FileResourceIdentity::captureIfAvailable(candidate.url, m_posix);
     ASSERT_TRUE(identity.has_value());
     EXPECT_EQ(candidate.resourceIdentity, identity);
@@ -103,7 +103,7 @@ TEST_F(StorageScanner, SkipsAFolderWithOneYoungFileDeepInside)
         home/Caches/old/data size=10000
         home/Caches/old/a/b/c/young size=5000 age=23h
     )");
-    m_tree.setAge("home/Caches/old/a/b/c", 30 * kOneDay);
+    m_tree.setAge("home/Caches/old/a/b/c", 30 * kDay);
     EXPECT_EQ(reason(scan(), "old"), "Recently modified");
 }
 

@@ -4,6 +4,7 @@
 #include "CleanerCore/Scan/StorageProfiles.h"
 #include "CleanerCore/Scan/XDGLocationTable.h"
 #include "Platform/Files/PosixFileManager.h"
+#include "Tests/Support/Days.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <algorithm>
@@ -20,8 +21,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
-
-constexpr double kDay = 86'400;
+using TestSupport::kDay;
 
 /// A home with the XDG base directories. "~" in a layout stands for its folder.
 class XDGLocationsTest : public testing::Test {

@@ -11,8 +11,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr Platform::Date kNow{800'000'000};
-
 /// Each text is there in every language, and English in English alone.
 void expectTextsOfEachLanguage(const std::function<Texts(const KarvelloCopy& copy)>& texts)
 {
@@ -78,16 +76,17 @@ TEST(AdvisorTexts, TellOfEachStepOfTheGuide)
 
 TEST(AdvisorTexts, TellOfEachOpportunity)
 {
+    constexpr Platform::Date now{800'000'000};
     std::vector<CleanerCore::CleanupCandidate> candidates;
     for (const char* const name :
         {"node_modules", ".build", ".dart_tool", "Pods", ".next", ".turbo", "build", "dist", "target"}) {
         for (const auto age : {std::optional(100), std::optional(40), std::optional(1), std::optional<int>()}) {
             candidates.emplace_back(
                 CleanerCore::CleanupCandidate::Fields{.url = Platform::FileURL("/p").appending(name),
-                    .lastModified = age ? std::optional(kNow.addingSeconds(-86'400.0 * *age)) : std::nullopt});
+                    .lastModified = age ? std::optional(now.addingSeconds(-86'400.0 * *age)) : std::nullopt});
         }
     }
-    const auto summary = DeveloperProjectAdvisoryAnalyzer::summary(candidates, kNow);
+    const auto summary = DeveloperProjectAdvisoryAnalyzer::summary(candidates, now);
     ASSERT_EQ(summary.opportunities.size(), 36U);
     expectTextsOfEachLanguage([&](const KarvelloCopy& copy) {
         Texts texts;

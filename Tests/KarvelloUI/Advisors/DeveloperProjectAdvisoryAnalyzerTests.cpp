@@ -1,5 +1,7 @@
 #include "KarvelloUI/Advisors/DeveloperProjectAdvisoryAnalyzer.h"
 
+#include "Tests/Support/Days.h"
+
 #include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,11 +17,11 @@ using Platform::Date;
 using Platform::FileURL;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using TestSupport::kDay;
 using Artifact = DeveloperProjectArtifact;
 using Level = DeveloperProjectActivityLevel;
 
 constexpr Date kNow{800'000'000};
-constexpr double kDay = 86'400;
 
 CleanupCandidate candidate(std::string_view path, std::int64_t sizeBytes = 1, std::optional<double> age = {},
     CleanupCategory category = CleanupCategory::customFolder)

@@ -10,7 +10,7 @@ namespace KarvelloUI {
 namespace {
 
 using CleanerCore::ScanReport;
-using Kind = StorageRecommendationKind;
+using RecommendationKind = StorageRecommendationKind;
 
 /// What the coach is told, with access to the home folder and half of the disk free where nothing else is said.
 struct Situation {
@@ -35,7 +35,7 @@ constexpr DiskCapacitySnapshot kLowDisk{.totalBytes = 100 * kGiB, .freeBytes = 1
 constexpr MacAccessPolicy kNoAccess{};
 
 /// Kinds and priorities, the best first.
-using Ranks = std::vector<std::pair<Kind, int>>;
+using Ranks = std::vector<std::pair<RecommendationKind, int>>;
 
 Ranks ranksIn(const Situation& situation)
 {
@@ -56,24 +56,24 @@ StorageRecommendation onlyOne(const Situation& situation, AppLanguage language =
 TEST(SmartCleanupCoach, SpeaksOfALowDiskAtExactlyTwelvePercentIfThereIsSomethingToReview)
 {
     EXPECT_EQ(ranksIn({.candidates = {1}, .disk = {.totalBytes = 100, .freeBytes = 12}}),
-        (Ranks{{Kind::lowDiskReview, 900}, {Kind::cleanupReview, 830}}));
+        (Ranks{{RecommendationKind::lowDiskReview, 900}, {RecommendationKind::cleanupReview, 830}}));
     EXPECT_EQ(ranksIn({.candidates = {1}, .disk = {.totalBytes = 100, .freeBytes = 13}}),
-        (Ranks{{Kind::cleanupReview, 830}}));
-    EXPECT_EQ(ranksIn({.disk = {.totalBytes = 100, .freeBytes = 12}}), (Ranks{{Kind::scanPrimer, 500}}));
-    EXPECT_EQ(
-        ranksIn({.candidates = {0}, .disk = {.totalBytes = 100, .freeBytes = 12}}), (Ranks{{Kind::scanPrimer, 500}}));
+        (Ranks{{RecommendationKind::cleanupReview, 830}}));
+    EXPECT_EQ(ranksIn({.disk = {.totalBytes = 100, .freeBytes = 12}}), (Ranks{{RecommendationKind::scanPrimer, 500}}));
+    EXPECT_EQ(ranksIn({.candidates = {0}, .disk = {.totalBytes = 100, .freeBytes = 12}}),
+        (Ranks{{RecommendationKind::scanPrimer, 500}}));
 }
 
 TEST(SmartCleanupCoach, SaysNothingOfADiskWithoutAReading)
 {
-    EXPECT_EQ(ranksIn({.candidates = {1}, .disk = {}}), (Ranks{{Kind::cleanupReview, 830}}));
+    EXPECT_EQ(ranksIn({.candidates = {1}, .disk = {}}), (Ranks{{RecommendationKind::cleanupReview, 830}}));
 }
 
 TEST(SmartCleanupCoach, RaisesDuplicatesFrom512MiB)
 {
-    EXPECT_EQ(ranksIn({.insights = {.duplicates = {511 * kMiB}}}), (Ranks{{Kind::scanPrimer, 500}}));
-    EXPECT_EQ(ranksIn({.insights = {.duplicates = {512 * kMiB - 1}}}), (Ranks{{Kind::scanPrimer, 500}}));
-    EXPECT_EQ(ranksIn({.insights = {.duplicates = {512 * kMiB}}}), (Ranks{{Kind::duplicateReview, 930}}));
+    EXPECT_EQ(ranksIn({.insights = {.duplicates = {511 * kMiB}}}), (Ranks{{RecommendationKind::scanPrimer, 500}}));
+    EXPECT_EQ(ranksIn({.insights = {.duplicates = {512 * kMiB - 1}}}), (Ranks{{RecommendationKind::scanPrimer, 500}}));
+    EXPECT_EQ(ranksIn({.insights = {.duplicates = {512 * kMiB}}}), (Ranks{{RecommendationKind::duplicateReview, 930}}));
 }
 
 TEST(SmartCleanupCoach, CountsWholeGibibytesUpToTwenty)
@@ -81,14 +81,17 @@ TEST(SmartCleanupCoach, CountsWholeGibibytesUpToTwenty)
     const std::vector<std::pair<std::int64_t, int>> priorities{{kGiB - 1, 930}, {kGiB, 931},
         {20 * kGiB - kGiB / 10, 949}, {20 * kGiB - 1, 949}, {20 * kGiB, 950}, {500 * kGiB, 950}};
     for (const auto& [bytes, priority] : priorities) {
-        EXPECT_EQ(ranksIn({.insights = {.duplicates = {bytes}}}), (Ranks{{Kind::duplicateReview, priority}})) << bytes;
+        EXPECT_EQ(
+            ranksIn({.insights = {.duplicates = {bytes}}}), (Ranks{{RecommendationKind::duplicateReview, priority}}))
+            << bytes;
     }
 }
 
 TEST(SmartCleanupCoach, CountsBlockedItemsUpToTwenty)
 {
     for (const auto& [blocked, priority] : {std::pair{1, 881}, {19, 899}, {20, 900}, {25, 900}}) {
-        EXPECT_EQ(ranksIn({.blockedInCleanup = blocked}), (Ranks{{Kind::permissionGuide, priority}})) << blocked;
+        EXPECT_EQ(ranksIn({.blockedInCleanup = blocked}), (Ranks{{RecommendationKind::permissionGuide, priority}}))
+            << blocked;
     }
 }
 
@@ -103,7 +106,7 @@ TEST(SmartCleanupCoach, SuggestsAScanAloneWithoutAnyFindingButWithAccess)
 {
     const auto primer = onlyOne({});
     EXPECT_EQ(primer,
-        (StorageRecommendation{.kind = Kind::scanPrimer,
+        (StorageRecommendation{.kind = RecommendationKind::scanPrimer,
             .title = "Scan to unlock recommendations",
             .body = "Run cleanup or insight scans to prioritize the safest review screens.",
             .detail = "Review-first · Trash-first",
@@ -111,14 +114,15 @@ TEST(SmartCleanupCoach, SuggestsAScanAloneWithoutAnyFindingButWithAccess)
             .systemImage = "sparkles",
             .priority = 500,
             .action = {MacDashboardSection::cleanup}}));
-    EXPECT_EQ(ranksIn({.access = {.supportsDirectDistributionScans = true}}), (Ranks{{Kind::scanPrimer, 500}}));
+    EXPECT_EQ(
+        ranksIn({.access = {.supportsDirectDistributionScans = true}}), (Ranks{{RecommendationKind::scanPrimer, 500}}));
 }
 
 TEST(SmartCleanupCoach, AsksForAccessAndNotForAScanWithoutReportsAndWithoutAccess)
 {
     const Situation situation{.disk = {}, .access = kNoAccess};
     EXPECT_EQ(onlyOne(situation),
-        (StorageRecommendation{.kind = Kind::permissionGuide,
+        (StorageRecommendation{.kind = RecommendationKind::permissionGuide,
             .title = "Review access-limited paths",
             .body = "Home folder access is needed for complete scan results. Review access status in Settings.",
             .detail = "Access check needed",
@@ -126,26 +130,28 @@ TEST(SmartCleanupCoach, AsksForAccessAndNotForAScanWithoutReportsAndWithoutAcces
             .systemImage = "lock.fill",
             .priority = 880,
             .action = {MacDashboardSection::settings}}));
-    EXPECT_EQ(ranksIn({.access = {.isBusy = true}}), (Ranks{{Kind::permissionGuide, 880}}));
+    EXPECT_EQ(ranksIn({.access = {.isBusy = true}}), (Ranks{{RecommendationKind::permissionGuide, 880}}));
 }
 
 TEST(SmartCleanupCoach, RaisesLargeFilesAndDownloadsFrom256MiBAndCleanupFromOneByte)
 {
-    EXPECT_EQ(ranksIn({.insights = {.largeFiles = {256 * kMiB - 1}}}), (Ranks{{Kind::scanPrimer, 500}}));
-    EXPECT_EQ(ranksIn({.insights = {.largeFiles = {128 * kMiB, 128 * kMiB}}}), (Ranks{{Kind::largeFileReview, 780}}));
-    EXPECT_EQ(ranksIn({.insights = {.downloads = {256 * kMiB - 1}}}), (Ranks{{Kind::scanPrimer, 500}}));
-    EXPECT_EQ(ranksIn({.insights = {.downloads = {256 * kMiB}}}), (Ranks{{Kind::downloadsReview, 740}}));
-    EXPECT_EQ(ranksIn({.candidates = {0}}), (Ranks{{Kind::scanPrimer, 500}}));
-    EXPECT_EQ(ranksIn({.candidates = {1}}), (Ranks{{Kind::cleanupReview, 830}}));
+    EXPECT_EQ(ranksIn({.insights = {.largeFiles = {256 * kMiB - 1}}}), (Ranks{{RecommendationKind::scanPrimer, 500}}));
+    EXPECT_EQ(ranksIn({.insights = {.largeFiles = {128 * kMiB, 128 * kMiB}}}),
+        (Ranks{{RecommendationKind::largeFileReview, 780}}));
+    EXPECT_EQ(ranksIn({.insights = {.downloads = {256 * kMiB - 1}}}), (Ranks{{RecommendationKind::scanPrimer, 500}}));
+    EXPECT_EQ(ranksIn({.insights = {.downloads = {256 * kMiB}}}), (Ranks{{RecommendationKind::downloadsReview, 740}}));
+    EXPECT_EQ(ranksIn({.candidates = {0}}), (Ranks{{RecommendationKind::scanPrimer, 500}}));
+    EXPECT_EQ(ranksIn({.candidates = {1}}), (Ranks{{RecommendationKind::cleanupReview, 830}}));
 }
 
 TEST(SmartCleanupCoach, EndsEachBandAtTwentyGibibytes)
 {
-    EXPECT_EQ(ranksIn({.candidates = {20 * kGiB - 1}}), (Ranks{{Kind::cleanupReview, 849}}));
-    EXPECT_EQ(ranksIn({.candidates = {900 * kGiB}}), (Ranks{{Kind::cleanupReview, 850}}));
-    EXPECT_EQ(ranksIn({.insights = {.largeFiles = {900 * kGiB}}}), (Ranks{{Kind::largeFileReview, 800}}));
-    EXPECT_EQ(ranksIn({.insights = {.downloads = {900 * kGiB}}}), (Ranks{{Kind::downloadsReview, 760}}));
-    EXPECT_EQ(ranksIn({.candidates = {900 * kGiB}, .disk = kLowDisk}).front(), std::pair(Kind::lowDiskReview, 920));
+    EXPECT_EQ(ranksIn({.candidates = {20 * kGiB - 1}}), (Ranks{{RecommendationKind::cleanupReview, 849}}));
+    EXPECT_EQ(ranksIn({.candidates = {900 * kGiB}}), (Ranks{{RecommendationKind::cleanupReview, 850}}));
+    EXPECT_EQ(ranksIn({.insights = {.largeFiles = {900 * kGiB}}}), (Ranks{{RecommendationKind::largeFileReview, 800}}));
+    EXPECT_EQ(ranksIn({.insights = {.downloads = {900 * kGiB}}}), (Ranks{{RecommendationKind::downloadsReview, 760}}));
+    EXPECT_EQ(ranksIn({.candidates = {900 * kGiB}, .disk = kLowDisk}).front(),
+        std::pair(RecommendationKind::lowDiskReview, 920));
 }
 
 TEST(SmartCleanupCoach, GivesTheBestThreeOfSix)
@@ -155,19 +161,22 @@ TEST(SmartCleanupCoach, GivesTheBestThreeOfSix)
         .disk = kLowDisk,
         .blockedInCleanup = 1};
     EXPECT_EQ(ranksIn(situation),
-        (Ranks{{Kind::duplicateReview, 931}, {Kind::lowDiskReview, 902}, {Kind::permissionGuide, 881}}));
+        (Ranks{{RecommendationKind::duplicateReview, 931}, {RecommendationKind::lowDiskReview, 902},
+            {RecommendationKind::permissionGuide, 881}}));
 }
 
 TEST(SmartCleanupCoach, PutsTwoGibibytesOfDuplicatesBeforeALowDiskWithThree)
 {
     EXPECT_EQ(ranksIn({.candidates = {3 * kGiB}, .insights = {.duplicates = {2 * kGiB}}, .disk = kLowDisk}),
-        (Ranks{{Kind::duplicateReview, 932}, {Kind::lowDiskReview, 903}, {Kind::cleanupReview, 833}}));
+        (Ranks{{RecommendationKind::duplicateReview, 932}, {RecommendationKind::lowDiskReview, 903},
+            {RecommendationKind::cleanupReview, 833}}));
 }
 
 TEST(SmartCleanupCoach, OrdersWhereTwoBandsTouchByTheNameOfTheKind)
 {
     EXPECT_EQ(ranksIn({.candidates = {1}, .disk = kLowDisk, .blockedInCleanup = 20}),
-        (Ranks{{Kind::lowDiskReview, 900}, {Kind::permissionGuide, 900}, {Kind::cleanupReview, 830}}));
+        (Ranks{{RecommendationKind::lowDiskReview, 900}, {RecommendationKind::permissionGuide, 900},
+            {RecommendationKind::cleanupReview, 830}}));
 }
 
 TEST(SmartCleanupCoach, LeadsFromALowDiskToWhatHoldsMost)
@@ -184,7 +193,7 @@ TEST(SmartCleanupCoach, LeadsFromALowDiskToWhatHoldsMost)
             .insights = {.largeFiles = {row.largeFiles}, .downloads = {row.downloads}},
             .disk = kLowDisk}
                                .recommendations()[0];
-        EXPECT_EQ(first.kind, Kind::lowDiskReview);
+        EXPECT_EQ(first.kind, RecommendationKind::lowDiskReview);
         EXPECT_EQ(first.action.destination, row.section) << row.largeFiles << row.downloads << row.candidates;
         EXPECT_EQ(first.detail,
             KarvelloCopy{AppLanguage::english}.smartCleanupSizeDetail(
@@ -198,21 +207,21 @@ TEST(SmartCleanupCoach, WritesEachKind)
         .insights = {.largeFiles = {kGiB, kGiB, 2 * kGiB}, .downloads = {kGiB}, .duplicates = {kGiB, 2 * kGiB}},
         .disk = kLowDisk};
     EXPECT_THAT(everything.recommendations(),
-        testing::ElementsAre(StorageRecommendation{Kind::duplicateReview, "Review duplicate candidates",
+        testing::ElementsAre(StorageRecommendation{RecommendationKind::duplicateReview, "Review duplicate candidates",
                                  "Found 2 hash-matched groups. Confirm the keeper before selecting extras.", "3 GB",
                                  "Open Duplicates", "doc.on.doc.fill", 933, {MacDashboardSection::duplicates}},
-            StorageRecommendation{Kind::lowDiskReview, "Free space is running low",
+            StorageRecommendation{RecommendationKind::lowDiskReview, "Free space is running low",
                 "Free space is 12 GB. Start by reviewing larger candidates in Large Files.", "4 GB", "Open Large Files",
                 "internaldrive.fill", 904, {MacDashboardSection::largeFiles}},
-            StorageRecommendation{Kind::cleanupReview, "Review cleanup candidates",
+            StorageRecommendation{RecommendationKind::cleanupReview, "Review cleanup candidates",
                 "2 candidates are ready. Review paths and safety before moving selected items to Trash.", "3 GB",
                 "Open Cleanup Review", "checklist.checked", 833, {MacDashboardSection::cleanup}}));
     EXPECT_EQ(onlyOne({.insights = {.largeFiles = {kGiB, kGiB, 2 * kGiB}}}),
-        (StorageRecommendation{Kind::largeFileReview, "Review large files first",
+        (StorageRecommendation{RecommendationKind::largeFileReview, "Review large files first",
             "3 large files by size. Review what you recognize; nothing is removed automatically.", "4 GB",
             "Open Large Files", "internaldrive", 784, {MacDashboardSection::largeFiles}}));
     EXPECT_EQ(onlyOne({.insights = {.downloads = {kGiB, kGiB}}}),
-        (StorageRecommendation{Kind::downloadsReview, "Downloads review queue",
+        (StorageRecommendation{RecommendationKind::downloadsReview, "Downloads review queue",
             "Review 2 Downloads candidates by size.", "2 GB", "Open Downloads", "arrow.down.circle.fill", 742,
             {MacDashboardSection::downloads}}));
     EXPECT_EQ(onlyOne({.blockedInCleanup = 4}).body,

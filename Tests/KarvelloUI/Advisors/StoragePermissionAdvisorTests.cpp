@@ -14,23 +14,23 @@ using namespace StoragePermissionAdvisor;
 using CleanerCore::SkippedItem;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Kind = StoragePermissionIssueKind;
+using IssueKind = StoragePermissionIssueKind;
 using Role = StoragePermissionWizardStepRole;
 using Items = std::vector<SkippedItem>;
 
 struct Row {
-    Kind kind;
+    IssueKind kind;
     std::vector<std::string> markers;
 };
 
 /// Wording that says more stands first.
 const std::vector<Row> kRows{
-    {Kind::securityScopedAccess, {"security-scoped access", "stale bookmark", "security scoped"}},
-    {Kind::fullDiskAccess, {"full disk access"}},
-    {Kind::filesAndFolders, {"files & folders", "folder access"}},
-    {Kind::authorization, {"not authorized", "unauthorized"}},
-    {Kind::unreadableAttributes, {"could not verify file attributes safely", "inaccessible", "unreadable"}},
-    {Kind::readOrEnumerateAccess,
+    {IssueKind::securityScopedAccess, {"security-scoped access", "stale bookmark", "security scoped"}},
+    {IssueKind::fullDiskAccess, {"full disk access"}},
+    {IssueKind::filesAndFolders, {"files & folders", "folder access"}},
+    {IssueKind::authorization, {"not authorized", "unauthorized"}},
+    {IssueKind::unreadableAttributes, {"could not verify file attributes safely", "inaccessible", "unreadable"}},
+    {IssueKind::readOrEnumerateAccess,
         {"permission", "operation not permitted", "not permitted", "denied", "could not read", "could not enumerate",
             "could not open", "couldn’t be opened"}},
 };
@@ -72,18 +72,18 @@ TEST(StoragePermissionAdvisor, KnowsEachWording)
 
 TEST(StoragePermissionAdvisor, TakesOperationNotPermittedForReading)
 {
-    EXPECT_EQ(issueKind("Operation not permitted"), Kind::readOrEnumerateAccess);
+    EXPECT_EQ(issueKind("Operation not permitted"), IssueKind::readOrEnumerateAccess);
 }
 
 TEST(StoragePermissionAdvisor, TakesAStaleBookmarkForOneWhateverIsSaidOfPermission)
 {
-    EXPECT_EQ(issueKind("Stale bookmark: permission"), Kind::securityScopedAccess);
+    EXPECT_EQ(issueKind("Stale bookmark: permission"), IssueKind::securityScopedAccess);
 }
 
 TEST(StoragePermissionAdvisor, LooksPastTheCaseOfLetters)
 {
-    EXPECT_EQ(issueKind("UNREADABLE"), Kind::unreadableAttributes);
-    EXPECT_EQ(issueKind("COULDN’T BE OPENED"), Kind::readOrEnumerateAccess);
+    EXPECT_EQ(issueKind("UNREADABLE"), IssueKind::unreadableAttributes);
+    EXPECT_EQ(issueKind("COULDN’T BE OPENED"), IssueKind::readOrEnumerateAccess);
 }
 
 TEST(StoragePermissionAdvisor, KnowsTheTypographicApostropheOnly)
@@ -101,14 +101,14 @@ TEST(StoragePermissionAdvisor, FindsNothingInReasonsOfAnotherLanguage)
 
 TEST(StoragePermissionAdvisor, ReadsReasonsThatAreNoText)
 {
-    EXPECT_EQ(issueKind("\xFF\xFE denied \xC3"), Kind::readOrEnumerateAccess);
-    EXPECT_EQ(issueKind(std::string_view("a\0denied", 8)), Kind::readOrEnumerateAccess);
+    EXPECT_EQ(issueKind("\xFF\xFE denied \xC3"), IssueKind::readOrEnumerateAccess);
+    EXPECT_EQ(issueKind(std::string_view("a\0denied", 8)), IssueKind::readOrEnumerateAccess);
     EXPECT_EQ(issueKind("\xFF"), std::nullopt);
 }
 
 TEST(StoragePermissionAdvisor, GoesByTheWordingThatSaysMost)
 {
-    EXPECT_EQ(issueKind("No permission without Full Disk Access"), Kind::fullDiskAccess);
+    EXPECT_EQ(issueKind("No permission without Full Disk Access"), IssueKind::fullDiskAccess);
     std::mt19937 random(7);
     for (int round = 0; round < 500; ++round) {
         const auto& first = kRows[random() % kRows.size()];
@@ -135,9 +135,9 @@ TEST(StoragePermissionAdvisor, DiagnosesInTheOrderOfTheKinds)
     const Items items{item("/1", "unreadable"), item("/2", "denied"), item("/3", "needs full disk access"),
         item("/4", "Recently modified"), item("/5", "could not read")};
     EXPECT_THAT(diagnoses(items),
-        ElementsAre(StoragePermissionDiagnosis{Kind::fullDiskAccess, {items[2]}},
-            StoragePermissionDiagnosis{Kind::readOrEnumerateAccess, {items[1], items[4]}},
-            StoragePermissionDiagnosis{Kind::unreadableAttributes, {items[0]}}));
+        ElementsAre(StoragePermissionDiagnosis{IssueKind::fullDiskAccess, {items[2]}},
+            StoragePermissionDiagnosis{IssueKind::readOrEnumerateAccess, {items[1], items[4]}},
+            StoragePermissionDiagnosis{IssueKind::unreadableAttributes, {items[0]}}));
 }
 
 TEST(StoragePermissionAdvisor, ShowsThreePathsOfFourItems)
@@ -145,7 +145,7 @@ TEST(StoragePermissionAdvisor, ShowsThreePathsOfFourItems)
     const Items items{item("/1", "denied"), item("/2", "denied"), item("/3\xFF\n", "denied"), item("/4", "denied")};
     const auto steps = stepsFor(items, false);
     ASSERT_THAT(rolesOf(steps), ElementsAre(Role::reviewBlockedItems, Role::grantSystemAccess, Role::rescan));
-    EXPECT_EQ(steps[0].issueKind, Kind::readOrEnumerateAccess);
+    EXPECT_EQ(steps[0].issueKind, IssueKind::readOrEnumerateAccess);
     EXPECT_EQ(steps[0].count, 4);
     EXPECT_THAT(steps[0].samplePaths, ElementsAre("/1", "/2", "/3\xFF\n"));
     EXPECT_EQ(steps[1], StoragePermissionWizardStep{.role = Role::grantSystemAccess});

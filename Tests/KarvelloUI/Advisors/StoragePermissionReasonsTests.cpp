@@ -24,7 +24,7 @@ using Platform::FileOperation;
 using TestSupport::Fault;
 using TestSupport::FaultyFileManager;
 using TestSupport::FileManagerCall;
-using Kind = StoragePermissionIssueKind;
+using IssueKind = StoragePermissionIssueKind;
 namespace SkipReason = CleanerCore::StorageScannerSkipReason;
 
 constexpr std::array kRefusals{EACCES, EPERM};
@@ -61,7 +61,7 @@ protected:
         return diagnoses(report.skippedItems);
     }
 
-    void expectOne(const std::vector<StoragePermissionDiagnosis>& found, Kind kind, std::string_view path)
+    void expectOne(const std::vector<StoragePermissionDiagnosis>& found, IssueKind kind, std::string_view path)
     {
         ASSERT_EQ(found.size(), 1U);
         EXPECT_EQ(found[0].kind, kind);
@@ -85,7 +85,7 @@ TEST_F(StoragePermissionReasons, AreFoundWhereAScanMayNotListAFolder)
     for (const int refusal : kRefusals) {
         for (const char* const path : {"home/Caches", "home/Caches/app"}) {
             const Fault fault{.call = FileManagerCall::listFolder, .systemError = refusal, .path = m_tree.path(path)};
-            expectOne(scan(fault), Kind::readOrEnumerateAccess, path);
+            expectOne(scan(fault), IssueKind::readOrEnumerateAccess, path);
         }
     }
 }
@@ -95,7 +95,7 @@ TEST_F(StoragePermissionReasons, AreFoundWhereAScanMayNotOpenAFolder)
     for (const int refusal : kRefusals) {
         const Fault fault{
             .call = FileManagerCall::makeEnumerator, .systemError = refusal, .path = m_tree.path("home/Caches/app")};
-        expectOne(scan(fault), Kind::readOrEnumerateAccess, "home/Caches/app");
+        expectOne(scan(fault), IssueKind::readOrEnumerateAccess, "home/Caches/app");
     }
 }
 
@@ -104,11 +104,11 @@ TEST_F(StoragePermissionReasons, AreFoundWhereAScanMayNotLookAtAnItem)
     for (const int refusal : kRefusals) {
         const Fault child{
             .call = FileManagerCall::resourceValues, .systemError = refusal, .path = m_tree.path("home/Caches/app")};
-        expectOne(scan(child), Kind::readOrEnumerateAccess, "home/Caches/app");
+        expectOne(scan(child), IssueKind::readOrEnumerateAccess, "home/Caches/app");
         const Fault entry{.call = FileManagerCall::entryResourceValues,
             .systemError = refusal,
             .path = m_tree.path("home/Caches/app/data")};
-        expectOne(scan(entry), Kind::readOrEnumerateAccess, "home/Caches/app/data");
+        expectOne(scan(entry), IssueKind::readOrEnumerateAccess, "home/Caches/app/data");
     }
 }
 
@@ -119,7 +119,7 @@ TEST_F(StoragePermissionReasons, AreFoundWhereTheSafetyRulesCannotReadAttributes
         faulty.fail({.call = FileManagerCall::resourceValues, .systemError = refusal});
         const auto isLink = CleanerCore::isSymbolicLink(m_tree.url("home/Caches/"), faulty);
         ASSERT_FALSE(isLink);
-        EXPECT_EQ(issueKind(isLink.error().errorDescription()), Kind::unreadableAttributes);
+        EXPECT_EQ(issueKind(isLink.error().errorDescription()), IssueKind::unreadableAttributes);
     }
 }
 
@@ -128,10 +128,10 @@ TEST_F(StoragePermissionReasons, AreFoundInAnInsightScan)
     for (const int refusal : kRefusals) {
         const Fault folder{
             .call = FileManagerCall::listFolder, .systemError = refusal, .path = m_tree.path("home/Downloads/folder")};
-        expectOne(scanInsights(folder), Kind::readOrEnumerateAccess, "home/Downloads/folder");
+        expectOne(scanInsights(folder), IssueKind::readOrEnumerateAccess, "home/Downloads/folder");
         const Fault file{
             .call = FileManagerCall::openFile, .systemError = refusal, .path = m_tree.path("home/Downloads/one")};
-        expectOne(scanInsights(file), Kind::readOrEnumerateAccess, "home/Downloads/one");
+        expectOne(scanInsights(file), IssueKind::readOrEnumerateAccess, "home/Downloads/one");
     }
 }
 
@@ -141,7 +141,7 @@ TEST_F(StoragePermissionReasons, AreFoundInTheWordsOfEveryRefusedOperation)
         for (const auto operation : {FileOperation::read, FileOperation::write, FileOperation::trash,
                  FileOperation::restore, FileOperation::remove}) {
             const auto error = FileError::fromSystemError(refusal, operation, "/home/a/x\xFF\n");
-            EXPECT_EQ(issueKind(error.localizedDescription()), Kind::readOrEnumerateAccess)
+            EXPECT_EQ(issueKind(error.localizedDescription()), IssueKind::readOrEnumerateAccess)
                 << error.localizedDescription();
         }
     }
@@ -150,19 +150,19 @@ TEST_F(StoragePermissionReasons, AreFoundInTheWordsOfEveryRefusedOperation)
 TEST_F(StoragePermissionReasons, AreFoundInTheWordsOfAFailedBookmark)
 {
     EXPECT_EQ(issueKind("Custom folder stale bookmark. Remove and add this folder again before cleanup."),
-        Kind::securityScopedAccess);
+        IssueKind::securityScopedAccess);
     EXPECT_EQ(issueKind("Could not start security-scoped access for custom folder. Remove and add the folder again, or "
                         "grant Files & Folders or Full Disk Access."),
-        Kind::securityScopedAccess);
+        IssueKind::securityScopedAccess);
     EXPECT_EQ(issueKind("Could not start security-scoped access for the home folder grant. Revoke and re-grant home "
                         "folder access from Settings, then rescan."),
-        Kind::securityScopedAccess);
+        IssueKind::securityScopedAccess);
 }
 
 TEST_F(StoragePermissionReasons, AreTheOnlyOnesOfTheScanner)
 {
     for (const auto reason : {SkipReason::couldNotEnumerateFolder, SkipReason::couldNotEnumeratePackage}) {
-        EXPECT_EQ(issueKind(reason), Kind::readOrEnumerateAccess) << reason;
+        EXPECT_EQ(issueKind(reason), IssueKind::readOrEnumerateAccess) << reason;
     }
     for (const auto reason : {SkipReason::folderDoesNotExist, SkipReason::symbolicLink, SkipReason::noTouchPath,
              SkipReason::noTouchDescendant, SkipReason::recentlyModified, SkipReason::emptyItem,

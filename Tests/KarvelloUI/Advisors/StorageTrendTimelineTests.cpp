@@ -15,7 +15,7 @@ namespace {
 using CleanerCore::CleaningMode;
 using Point = StorageTrendTimeline::Point;
 using Action = StorageTrendTimeline::Action;
-using Kind = StorageTrendTimelinePointKind;
+using PointKind = StorageTrendTimelinePointKind;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -61,7 +61,8 @@ TEST(StorageTrendTimeline, SaysNothingOfADiskWithATotalOfZero)
 TEST(StorageTrendTimeline, TellsWhatIsFreeAndUsed)
 {
     EXPECT_THAT(pointsOf({.totalBytes = 100, .freeBytes = 40}),
-        ElementsAre(Point{.id = "current-storage", .kind = Kind::currentStorage, .bytes = 40, .secondaryBytes = 60}));
+        ElementsAre(
+            Point{.id = "current-storage", .kind = PointKind::currentStorage, .bytes = 40, .secondaryBytes = 60}));
     EXPECT_EQ(pointsOf({.totalBytes = 100, .freeBytes = 140})[0].secondaryBytes, 0);
 }
 
@@ -70,7 +71,7 @@ TEST(StorageTrendTimeline, RemindsOfALowDiskFromTwelvePercentDown)
     EXPECT_THAT(idsOf(pointsOf({.totalBytes = 100, .freeBytes = 13})), ElementsAre("current-storage"));
     const auto points = pointsOf({.totalBytes = 100, .freeBytes = 12});
     ASSERT_EQ(points.size(), 2U);
-    EXPECT_EQ(points[1], (Point{.id = "low-disk-reminder", .kind = Kind::lowDiskReminder, .bytes = 12}));
+    EXPECT_EQ(points[1], (Point{.id = "low-disk-reminder", .kind = PointKind::lowDiskReminder, .bytes = 12}));
 }
 
 TEST(StorageTrendTimeline, LeadsFromALowDiskToTheLargestTarget)
@@ -87,7 +88,7 @@ TEST(StorageTrendTimeline, TellsTheEstimateOfTheCleanupScan)
 {
     EXPECT_THAT(pointsOf({}, {1, 2}),
         ElementsAre(Point{.id = "cleanup-scan-estimate",
-            .kind = Kind::cleanupScanEstimate,
+            .kind = PointKind::cleanupScanEstimate,
             .bytes = 3,
             .itemCount = 2,
             .action = Action{MacDashboardSection::cleanup}}));
@@ -99,14 +100,14 @@ TEST(StorageTrendTimeline, TellsTheLargestFindOfTheInsightScan)
     const auto find = [](const InsightSizes& sizes) { return pointsOf({}, {}, sizes); };
     EXPECT_THAT(find({.largeFiles = {3, 4}, .downloads = {6}, .duplicates = {5}}),
         ElementsAre(Point{.id = "insight-review-largeFiles",
-            .kind = Kind::insightReviewOpportunity,
+            .kind = PointKind::insightReviewOpportunity,
             .bytes = 7,
             .itemCount = 2,
             .action = Action{MacDashboardSection::largeFiles}}));
     EXPECT_THAT(idsOf(find({.largeFiles = {3}, .downloads = {6}})), ElementsAre("insight-review-downloads"));
     EXPECT_EQ(find({.largeFiles = {3}, .duplicates = {5, 4}})[0],
         (Point{.id = "insight-review-duplicates",
-            .kind = Kind::insightReviewOpportunity,
+            .kind = PointKind::insightReviewOpportunity,
             .bytes = 9,
             .itemCount = 2,
             .action = Action{MacDashboardSection::duplicates}}));
@@ -119,7 +120,7 @@ TEST(StorageTrendTimeline, CallsAMoveToTheTrashPendingAndNotRecovered)
 {
     EXPECT_THAT(auditPointsOf({moveOf(7, 10, {kFile, kOther}, CleanupAuditSource::macInsights)}),
         ElementsAre(Point{.id = "audit-trash-00000000-0000-4000-8000-000000000007",
-            .kind = Kind::movedToTrashPending,
+            .kind = PointKind::movedToTrashPending,
             .bytes = 120,
             .secondaryBytes = 120,
             .occurredAt = Platform::Date{10},
@@ -170,7 +171,7 @@ TEST(StorageTrendTimeline, TellsWhatADeletionLeftOfTheEstimate)
 {
     EXPECT_THAT(auditPointsOf({deletionOf(1, 10, 100, 60)}),
         ElementsAre(Point{.id = "audit-recovered-00000000-0000-4000-8000-000000000001",
-            .kind = Kind::recoveredSpace,
+            .kind = PointKind::recoveredSpace,
             .bytes = 60,
             .secondaryBytes = 40,
             .occurredAt = Platform::Date{10},
@@ -222,7 +223,7 @@ TEST(StorageTrendTimeline, HasTextsForItsPointsInEveryLanguage)
             const KarvelloCopy copy{language};
             EXPECT_FALSE(copy.storageTimelinePointTitle(point.kind).empty());
             EXPECT_EQ(copy.storageTimelinePointDetail(point.kind, point.itemCount).empty(),
-                point.kind == Kind::lowDiskReminder);
+                point.kind == PointKind::lowDiskReminder);
             if (language != AppLanguage::english) {
                 EXPECT_NE(bodyOf(point, language), bodies.back()) << Platform::rawValue(language);
             }

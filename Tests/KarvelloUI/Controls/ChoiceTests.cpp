@@ -82,7 +82,7 @@ TEST_F(KarvelloSwitch, TogglesOnceByMouseKeyAndAssistant)
 
 namespace {
 
-constexpr const char* kPicker =
+constexpr const char* kSegments =
     "KarvelloSegmentedControl { objectName: 'picker'; accessibleName: 'Scan mode';"
     " choices: ['Standard', 'Aggressive', 'Direct']; onActivated: index => currentIndex = index }"
     "KarvelloButton { objectName: 'after'; text: 'after' }";
@@ -91,7 +91,7 @@ constexpr const char* kPicker =
 
 TEST_F(KarvelloSegmentedControl, IsOneStopInWhichTheArrowsChoose)
 {
-    show(kPicker);
+    show(kSegments);
     auto* const picker = find("picker");
     const auto chosen = [picker] { return picker->property("currentIndex").toInt(); };
     key(Qt::Key_Tab);
@@ -129,7 +129,7 @@ TEST_F(KarvelloSegmentedControl, OnlyAsksAndLeavesTheChoiceToItsOwner)
 
 TEST_F(KarvelloSegmentedControl, SaysEachChoiceAndWhichOneHolds)
 {
-    show(kPicker);
+    show(kSegments);
     auto* const picker = find("picker");
     EXPECT_EQ(nameOf(picker), "Scan mode");
     QAccessibleInterface* const group = spoken(picker);

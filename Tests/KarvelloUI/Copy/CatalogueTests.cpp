@@ -3,6 +3,7 @@
 #include "KarvelloUI/Copy/SentencePattern.h"
 #include "Platform/Base/Text.h"
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
 #include "Tests/KarvelloUI/Copy/EnglishTables.h"
 #include "Tests/KarvelloUI/Copy/EnglishWords.h"
 
@@ -18,8 +19,6 @@ namespace KarvelloUI {
 namespace {
 
 using Texts = std::vector<std::string>;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
 
 std::vector<CatalogueSample> allSamples()
 {

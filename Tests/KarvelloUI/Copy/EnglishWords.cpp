@@ -27,7 +27,7 @@ bool isLetter(char byte)
     return Platform::ASCII::lowercased(byte) >= 'a' && Platform::ASCII::lowercased(byte) <= 'z';
 }
 
-bool isWordByte(char byte)
+bool isInnerByte(char byte)
 {
     return isLetter(byte) || byte == '\'' || static_cast<unsigned char>(byte) >= 0x80;
 }
@@ -41,7 +41,7 @@ std::vector<std::string_view> englishWordsIn(std::string_view text, AppLanguage 
     std::vector<std::string_view> found;
     for (std::size_t start = 0; start < text.size();) {
         std::size_t end = start;
-        while (end < text.size() && (isLatin ? isWordByte(text[end]) : isLetter(text[end]))) {
+        while (end < text.size() && (isLatin ? isInnerByte(text[end]) : isLetter(text[end]))) {
             ++end;
         }
         const std::string_view word = text.substr(start, end - start);

@@ -59,7 +59,7 @@ const std::string& applicationSources()
     return sources;
 }
 
-bool isWordByte(char byte)
+bool isNameByte(char byte)
 {
     const char letter = Platform::ASCII::lowercased(byte);
     return (letter >= 'a' && letter <= 'z') || Platform::ASCII::isDigit(byte) || byte == '_';
@@ -71,7 +71,7 @@ bool isShown(const CatalogueSample& sample)
     const std::string& sources = applicationSources();
     const std::string_view member = sample.member();
     for (auto at = sources.find(member); at != std::string::npos; at = sources.find(member, at + 1)) {
-        if (!isWordByte(sources[at - 1]) && !isWordByte(sources[at + member.size()])) {
+        if (!isNameByte(sources[at - 1]) && !isNameByte(sources[at + member.size()])) {
             return true;
         }
     }

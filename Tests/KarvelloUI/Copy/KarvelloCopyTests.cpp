@@ -1,6 +1,7 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
 #include "KarvelloUI/Copy/SentencePattern.h"
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
 #include "Tests/KarvelloUI/Copy/EnglishTables.h"
 
 #include <algorithm>
@@ -12,9 +13,6 @@ namespace {
 using CleanerCore::CleanupAuditEntry;
 using CleanerCore::CleanupAuditOperation;
 using CleanerCore::CleanupAuditSource;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
-constexpr KarvelloCopy kKorean{AppLanguage::korean};
 
 TEST(KarvelloCopy, TellsOfACleanupInOneLine)
 {

@@ -3,6 +3,7 @@
 #include "KarvelloUI/Stores/StoresCoding.h"
 #include "Tests/KarvelloUI/Stores/IgnoredItems.h"
 #include "Tests/KarvelloUI/Stores/StoresFixture.h"
+#include "Tests/Support/Days.h"
 
 #include <cmath>
 #include <memory>
@@ -15,15 +16,15 @@ using namespace StoresTests;
 using CleanerCore::CleanupCandidate;
 using CleanerCore::CleanupCategory;
 using CleanerCore::CleanupSafety;
+using TestSupport::kDay;
 using Duration = CleanupIgnoreDuration;
 
-const std::string kKey(CleanupIgnoreStore::defaultStorageKey);
-const std::string kBackupKey = kKey + ".malformedBackup";
+const std::string kIgnoreKey(CleanupIgnoreStore::defaultStorageKey);
+const std::string kIgnoreBackupKey = kIgnoreKey + ".malformedBackup";
 
-const std::string kLoadFailed = "Could not load ignored cleanup items. The saved ignore list was backed up and reset: ";
-const std::string kSaveFailed = "Could not save ignored cleanup items: ";
-
-constexpr double kDay = 86'400;
+const std::string kIgnoreLoadFailed =
+    "Could not load ignored cleanup items. The saved ignore list was backed up and reset: ";
+const std::string kIgnoreSaveFailed = "Could not save ignored cleanup items: ";
 
 CleanupCandidate candidate(std::string_view path, CleanupCategory category = CleanupCategory::userCaches,
     CleanupSafety safety = CleanupSafety::caution)
@@ -160,7 +161,7 @@ TEST_F(CleanupIgnoreStoreTest, IsInOrderWhateverTheStoredOrder)
     const auto at = [](std::string_view path, double offset) {
         return IgnoredCleanupItem(candidate(path), kNow.addingSeconds(offset), Duration::oneWeek);
     };
-    seed(kKey, stored({at("/h/a10", 0), at("/h/late", 5), at("/h/a2", 0)}));
+    seed(kIgnoreKey, stored({at("/h/a10", 0), at("/h/late", 5), at("/h/a2", 0)}));
     EXPECT_EQ(pathsOf(makeStore()->items()), (Paths{"/h/late", "/h/a2", "/h/a10"}));
 }
 
@@ -174,7 +175,7 @@ TEST_F(CleanupIgnoreStoreTest, RemovesTheRuleOfAnId)
     EXPECT_EQ(pathsOf(makeStore()->items()), Paths{"/h/b"});
     store->removeAll();
     EXPECT_TRUE(store->items().empty());
-    EXPECT_EQ(onDisk(kKey), "[\n\n]");
+    EXPECT_EQ(onDisk(kIgnoreKey), "[\n\n]");
 }
 
 TEST_F(CleanupIgnoreStoreTest, LeavesMemoryAndDiskWhereASaveFails)
@@ -182,12 +183,12 @@ TEST_F(CleanupIgnoreStoreTest, LeavesMemoryAndDiskWhereASaveFails)
     const auto store = makeStore();
     ASSERT_TRUE(store->ignore(candidate("/h/a"), Duration::oneDay, kNow));
     const auto before = store->items();
-    const auto onDiskBefore = onDisk(kKey);
+    const auto onDiskBefore = onDisk(kIgnoreKey);
     m_defaults.failAllSaves();
     const auto expectUnchanged = [&] {
         EXPECT_EQ(store->items(), before);
-        EXPECT_EQ(onDisk(kKey), onDiskBefore);
-        EXPECT_EQ(store->lastErrorMessage(), kSaveFailed + std::string(kDiskFull));
+        EXPECT_EQ(onDisk(kIgnoreKey), onDiskBefore);
+        EXPECT_EQ(store->lastErrorMessage(), kIgnoreSaveFailed + std::string(kDiskFull));
         store->clearError();
     };
     EXPECT_FALSE(store->ignore(candidate("/h/b"), Duration::oneDay, kNow));
@@ -218,46 +219,46 @@ TEST_F(CleanupIgnoreStoreTest, LeavesMemoryAndDiskWhereARuleHasNoStoredForm)
     EXPECT_TRUE(store->items().empty());
     EXPECT_EQ(m_defaults.saveCount(), 0);
     EXPECT_EQ(store->lastErrorMessage(),
-        kSaveFailed + "The data couldn’t be written because it isn’t in the correct format.");
+        kIgnoreSaveFailed + "The data couldn’t be written because it isn’t in the correct format.");
 }
 
 TEST_F(CleanupIgnoreStoreTest, SetsDamagedDataAsideForInspection)
 {
-    seed(kKey, "not JSON");
+    seed(kIgnoreKey, "not JSON");
     {
         const auto store = makeStore();
         EXPECT_TRUE(store->items().empty());
-        EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable));
+        EXPECT_EQ(store->lastErrorMessage(), kIgnoreLoadFailed + std::string(kUnreadable));
     }
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), "not JSON");
+    EXPECT_EQ(onDisk(kIgnoreKey), std::nullopt);
+    EXPECT_EQ(onDisk(kIgnoreBackupKey), "not JSON");
     const auto later = makeStore();
     EXPECT_EQ(later->lastErrorMessage(), std::nullopt);
     ASSERT_TRUE(later->ignore(candidate("/h/a"), Duration::oneDay, kNow));
     ASSERT_TRUE(later->remove("userCaches:/h/a"));
-    EXPECT_EQ(onDisk(kBackupKey), "not JSON");
+    EXPECT_EQ(onDisk(kIgnoreBackupKey), "not JSON");
 }
 
 TEST_F(CleanupIgnoreStoreTest, NeverReadsItsBackup)
 {
     const auto rules = stored({IgnoredCleanupItem(candidate("/h/a"), kNow, Duration::oneDay)});
-    seed(kBackupKey, rules);
+    seed(kIgnoreBackupKey, rules);
     EXPECT_TRUE(makeStore()->items().empty());
-    seed(kKey, "[]");
+    seed(kIgnoreKey, "[]");
     EXPECT_TRUE(makeStore()->items().empty());
-    EXPECT_EQ(onDisk(kBackupKey), rules);
+    EXPECT_EQ(onDisk(kIgnoreBackupKey), rules);
 }
 
 TEST_F(CleanupIgnoreStoreTest, SetsDamagedDataAsideWithTheNextSaveWhereItCouldNotAtOnce)
 {
-    seed(kKey, "not JSON");
+    seed(kIgnoreKey, "not JSON");
     m_defaults.failSave(1);
     const auto store = makeStore();
     EXPECT_EQ(m_defaults.failureCount(), 1);
-    EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable) + " " + std::string(kDiskFull));
-    EXPECT_EQ(onDisk(kKey), "not JSON");
+    EXPECT_EQ(store->lastErrorMessage(), kIgnoreLoadFailed + std::string(kUnreadable) + " " + std::string(kDiskFull));
+    EXPECT_EQ(onDisk(kIgnoreKey), "not JSON");
     ASSERT_TRUE(store->ignore(candidate("/h/a"), Duration::oneDay, kNow));
-    EXPECT_EQ(onDisk(kBackupKey), "not JSON");
+    EXPECT_EQ(onDisk(kIgnoreBackupKey), "not JSON");
     EXPECT_EQ(pathsOf(makeStore()->items()), Paths{"/h/a"});
 }
 
@@ -272,11 +273,11 @@ TEST_F(CleanupIgnoreStoreTest, SetsEveryMalformedFormAside)
             replacing(whole, "\"sizeBytes\" : 7", "\"sizeBytes\" : 1e30"),
             replacing(whole, "\"expiresAt\" : ", "\"expiresAt\" : \"x\", \"y\" : ")});
     for (const auto& form : forms) {
-        seed(kKey, form);
+        seed(kIgnoreKey, form);
         const auto store = makeStore();
         EXPECT_TRUE(store->items().empty()) << form;
-        EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable)) << form;
-        EXPECT_EQ(onDisk(kBackupKey), form);
+        EXPECT_EQ(store->lastErrorMessage(), kIgnoreLoadFailed + std::string(kUnreadable)) << form;
+        EXPECT_EQ(onDisk(kIgnoreBackupKey), form);
     }
 }
 

@@ -1,5 +1,8 @@
 #include "KarvelloUI/Stores/CleanupReviewCadence.h"
 
+#include "Tests/KarvelloUI/Stores/StoresFixture.h"
+#include "Tests/Support/Days.h"
+
 #include <gtest/gtest.h>
 
 namespace KarvelloUI {
@@ -7,10 +10,10 @@ namespace KarvelloUI {
 namespace {
 
 using Cadence = CleanupReviewCadence;
-using Kind = CleanupReviewCadenceStatusKind;
+using StatusKind = CleanupReviewCadenceStatusKind;
 
-constexpr Platform::Date kNow{800'000'000};
-constexpr double kDay = 86'400;
+using StoresTests::kNow;
+using TestSupport::kDay;
 
 CleanupReviewCadenceStatus reviewedBefore(Cadence cadence, double seconds)
 {
@@ -21,19 +24,20 @@ CleanupReviewCadenceStatus reviewedBefore(Cadence cadence, double seconds)
 
 TEST(CleanupReviewCadence, IsDisabledWhenOffWhateverTheLastReview)
 {
-    EXPECT_EQ(reviewedBefore(Cadence::off, 8 * kDay), CleanupReviewCadenceStatus{.kind = Kind::disabled});
-    EXPECT_EQ(reviewStatus(Cadence::off, std::nullopt, kNow).kind, Kind::disabled);
+    EXPECT_EQ(reviewedBefore(Cadence::off, 8 * kDay), CleanupReviewCadenceStatus{.kind = StatusKind::disabled});
+    EXPECT_EQ(reviewStatus(Cadence::off, std::nullopt, kNow).kind, StatusKind::disabled);
 }
 
 TEST(CleanupReviewCadence, IsNotStartedBeforeTheFirstReview)
 {
-    EXPECT_EQ(reviewStatus(Cadence::weekly, std::nullopt, kNow), CleanupReviewCadenceStatus{.kind = Kind::notStarted});
+    EXPECT_EQ(
+        reviewStatus(Cadence::weekly, std::nullopt, kNow), CleanupReviewCadenceStatus{.kind = StatusKind::notStarted});
 }
 
 TEST(CleanupReviewCadence, CountsABegunDayAsOne)
 {
     const CleanupReviewCadenceStatus tomorrow{
-        .kind = Kind::upcoming, .nextReviewAt = kNow.addingSeconds(3600), .daysUntilNextReview = 1};
+        .kind = StatusKind::upcoming, .nextReviewAt = kNow.addingSeconds(3600), .daysUntilNextReview = 1};
     EXPECT_EQ(reviewedBefore(Cadence::weekly, 7 * kDay - 3600), tomorrow);
     EXPECT_EQ(reviewedBefore(Cadence::monthly, 28 * kDay - 1).daysUntilNextReview, 3);
     EXPECT_EQ(reviewedBefore(Cadence::monthly, 28 * kDay).daysUntilNextReview, 2);
@@ -42,9 +46,9 @@ TEST(CleanupReviewCadence, CountsABegunDayAsOne)
 TEST(CleanupReviewCadence, IsDueAtTheVeryMoment)
 {
     EXPECT_EQ(reviewedBefore(Cadence::weekly, 7 * kDay),
-        (CleanupReviewCadenceStatus{.kind = Kind::due, .nextReviewAt = kNow, .daysUntilNextReview = 0}));
-    EXPECT_EQ(reviewedBefore(Cadence::monthly, 30 * kDay).kind, Kind::due);
-    EXPECT_EQ(reviewedBefore(Cadence::monthly, 30 * kDay - 1).kind, Kind::upcoming);
+        (CleanupReviewCadenceStatus{.kind = StatusKind::due, .nextReviewAt = kNow, .daysUntilNextReview = 0}));
+    EXPECT_EQ(reviewedBefore(Cadence::monthly, 30 * kDay).kind, StatusKind::due);
+    EXPECT_EQ(reviewedBefore(Cadence::monthly, 30 * kDay - 1).kind, StatusKind::upcoming);
 }
 
 TEST(CleanupReviewCadence, SurvivesADateFarAhead)

@@ -13,13 +13,14 @@ namespace KarvelloUI {
 namespace {
 
 using namespace StoresTests;
-using Kind = CustomScanFolderError::Kind;
+using FolderErrorKind = CustomScanFolderError::Kind;
 
-const std::string kKey(CustomScanFolderStore::defaultStorageKey);
-const std::string kBackupKey = kKey + ".malformedBackup";
+const std::string kFoldersKey(CustomScanFolderStore::defaultStorageKey);
+const std::string kFoldersBackupKey = kFoldersKey + ".malformedBackup";
 
-const std::string kLoadFailed = "Could not load custom scan folders. The saved folder list was backed up and reset: ";
-const std::string kSaveFailed = "Could not save custom scan folders: ";
+const std::string kFoldersLoadFailed =
+    "Could not load custom scan folders. The saved folder list was backed up and reset: ";
+const std::string kFoldersSaveFailed = "Could not save custom scan folders: ";
 
 class CustomScanFolderStoreTest : public StoresFixture {
 protected:
@@ -66,11 +67,11 @@ TEST_F(CustomScanFolderStoreTest, KeepsTheFoldersOverARestart)
 {
     m_tree.add("home/\"caf\\xE9\\n\"/\n");
     const auto store = makeStore();
-    seed(kBackupKey, "old");
+    seed(kFoldersBackupKey, "old");
     EXPECT_TRUE(add(*store, "home/Documents/"));
     EXPECT_TRUE(add(*store, "home/caf\xE9\n/"));
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kFoldersBackupKey), std::nullopt);
     const auto later = makeStore();
     ASSERT_EQ(later->count(), 2);
     EXPECT_EQ(later->folders()[1], store->folders()[1]);
@@ -123,10 +124,10 @@ TEST_F(CustomScanFolderStoreTest, SaysWhyAFolderIsRefused)
     ASSERT_TRUE(add(*store, "home/Documents/"));
     EXPECT_FALSE(add(*store, "home/file"));
     EXPECT_EQ(store->lastErrorMessage(),
-        kSaveFailed + "Selected item is not an accessible folder: " + m_tree.path("home/file"));
+        kFoldersSaveFailed + "Selected item is not an accessible folder: " + m_tree.path("home/file"));
     EXPECT_FALSE(store->addFolder(Platform::FileURL::folder("/usr"), m_files));
     EXPECT_EQ(store->lastErrorMessage(),
-        kSaveFailed + "Selected folder is too broad or protected for cleanup scanning: /usr");
+        kFoldersSaveFailed + "Selected folder is too broad or protected for cleanup scanning: /usr");
     EXPECT_EQ(store->count(), 1);
     ASSERT_TRUE(add(*store, "home/Library/"));
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
@@ -139,8 +140,8 @@ TEST_F(CustomScanFolderStoreTest, RefusesTheHomeOfTheUser)
         const auto store = makeStore();
         EXPECT_FALSE(store->addFolder(m_home, m_files));
         EXPECT_EQ(store->lastErrorMessage(),
-            kSaveFailed + "Selected folder is too broad or protected for cleanup scanning: " + m_home.path());
-        EXPECT_EQ(onDisk(kKey), std::nullopt);
+            kFoldersSaveFailed + "Selected folder is too broad or protected for cleanup scanning: " + m_home.path());
+        EXPECT_EQ(onDisk(kFoldersKey), std::nullopt);
     });
 }
 
@@ -156,7 +157,7 @@ TEST_F(CustomScanFolderStoreTest, RemovesTheFolderOfAnId)
     EXPECT_EQ(store->folders(), std::vector{kept});
     EXPECT_EQ(makeStore()->folders(), std::vector{kept});
     EXPECT_TRUE(store->removeFolder(kept.id));
-    EXPECT_EQ(onDisk(kKey), "[\n\n]");
+    EXPECT_EQ(onDisk(kFoldersKey), "[\n\n]");
     EXPECT_TRUE(makeStore()->folders().empty());
 }
 
@@ -165,17 +166,17 @@ TEST_F(CustomScanFolderStoreTest, LeavesMemoryAndDiskWhereASaveFails)
     const auto store = makeStore();
     ASSERT_TRUE(add(*store, "home/Documents/"));
     const auto before = store->folders();
-    const auto stored = onDisk(kKey);
+    const auto stored = onDisk(kFoldersKey);
     m_defaults.failAllSaves();
     EXPECT_FALSE(add(*store, "home/Library/"));
-    EXPECT_EQ(store->lastErrorMessage(), kSaveFailed + std::string(kDiskFull));
+    EXPECT_EQ(store->lastErrorMessage(), kFoldersSaveFailed + std::string(kDiskFull));
     EXPECT_FALSE(add(*store, "home/Documents/"));
     store->clearError();
     EXPECT_FALSE(store->removeFolder(before.front().id));
-    EXPECT_EQ(store->lastErrorMessage(), kSaveFailed + std::string(kDiskFull));
+    EXPECT_EQ(store->lastErrorMessage(), kFoldersSaveFailed + std::string(kDiskFull));
     EXPECT_EQ(m_defaults.failureCount(), 3);
     EXPECT_EQ(store->folders(), before);
-    EXPECT_EQ(onDisk(kKey), stored);
+    EXPECT_EQ(onDisk(kFoldersKey), stored);
 }
 
 TEST_F(CustomScanFolderStoreTest, LeavesMemoryAndDiskWhereAFolderHasNoStoredForm)
@@ -183,23 +184,23 @@ TEST_F(CustomScanFolderStoreTest, LeavesMemoryAndDiskWhereAFolderHasNoStoredForm
     const auto store = makeStore();
     EXPECT_FALSE(store->addFolder(m_tree.url("home/Documents/"), m_files, Platform::Date{NAN}));
     EXPECT_EQ(store->lastErrorMessage(),
-        kSaveFailed + "The data couldn’t be written because it isn’t in the correct format.");
+        kFoldersSaveFailed + "The data couldn’t be written because it isn’t in the correct format.");
     EXPECT_TRUE(store->folders().empty());
     EXPECT_EQ(m_defaults.saveCount(), 0);
 }
 
 TEST_F(CustomScanFolderStoreTest, SetsDamagedDataAsideAndDropsItAtTheStartAfterThat)
 {
-    seed(kKey, "damaged");
+    seed(kFoldersKey, "damaged");
     {
         const auto store = makeStore();
         EXPECT_TRUE(store->folders().empty());
-        EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable));
+        EXPECT_EQ(store->lastErrorMessage(), kFoldersLoadFailed + std::string(kUnreadable));
     }
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), "damaged");
+    EXPECT_EQ(onDisk(kFoldersKey), std::nullopt);
+    EXPECT_EQ(onDisk(kFoldersBackupKey), "damaged");
     EXPECT_EQ(makeStore()->lastErrorMessage(), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kFoldersBackupKey), std::nullopt);
 }
 
 TEST_F(CustomScanFolderStoreTest, SetsEveryMalformedFormAside)
@@ -211,31 +212,31 @@ TEST_F(CustomScanFolderStoreTest, SetsEveryMalformedFormAside)
             replacing(whole, "\"id\" : \"", "\"id\" : \"x"),
             replacing(whole, "\"bookmarkData\" : \"", "\"bookmarkData\" : \"*")});
     for (const auto& form : forms) {
-        seed(kKey, form);
+        seed(kFoldersKey, form);
         const auto store = makeStore();
         EXPECT_TRUE(store->folders().empty()) << form;
-        EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable)) << form;
-        EXPECT_EQ(onDisk(kBackupKey), form);
+        EXPECT_EQ(store->lastErrorMessage(), kFoldersLoadFailed + std::string(kUnreadable)) << form;
+        EXPECT_EQ(onDisk(kFoldersBackupKey), form);
     }
 }
 
 TEST_F(CustomScanFolderStoreTest, ReadsTheBackupWhereTheKeyIsEmpty)
 {
     const auto stored = storedFolders();
-    seed(kBackupKey, stored);
+    seed(kFoldersBackupKey, stored);
     const auto store = makeStore();
     EXPECT_EQ(names(*store), Names{"Documents"});
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
-    EXPECT_EQ(onDisk(kKey), stored);
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kFoldersKey), stored);
+    EXPECT_EQ(onDisk(kFoldersBackupKey), std::nullopt);
 }
 
 TEST_F(CustomScanFolderStoreTest, DropsTheBackupWhereTheKeyCanBeRead)
 {
-    seed(kKey, "[]");
-    seed(kBackupKey, storedFolders());
+    seed(kFoldersKey, "[]");
+    seed(kFoldersBackupKey, storedFolders());
     EXPECT_TRUE(makeStore()->folders().empty());
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kFoldersBackupKey), std::nullopt);
 }
 
 TEST_F(CustomScanFolderStoreTest, SpeaksTheLanguageOfTheMoment)
@@ -246,7 +247,7 @@ TEST_F(CustomScanFolderStoreTest, SpeaksTheLanguageOfTheMoment)
     EXPECT_EQ(store->lastErrorMessage(),
         "사용자 지정 스캔 폴더를 저장하지 못했습니다: 선택한 항목은 접근할 수 있는 폴더가 아님: "
             + m_tree.path("home/file"));
-    seed(kKey, "damaged");
+    seed(kFoldersKey, "damaged");
     EXPECT_EQ(makeStore()->lastErrorMessage(),
         "사용자 지정 스캔 폴더를 불러오지 못했습니다. 저장된 폴더 목록을 백업하고 초기화했습니다: 데이터 형식이 "
         "올바르지 않아 읽을 "

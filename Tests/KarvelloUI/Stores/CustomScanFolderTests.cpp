@@ -12,7 +12,7 @@ namespace {
 
 using namespace StoresTests;
 using Platform::FileURL;
-using Kind = CustomScanFolderError::Kind;
+using FolderErrorKind = CustomScanFolderError::Kind;
 
 class CustomScanFolderTest : public StoresFixture {
 protected:
@@ -21,7 +21,7 @@ protected:
         return CustomScanFolder::make(picked, m_files, m_bookmarks, kNow);
     }
 
-    void expectRefused(const FileURL& picked, Kind kind) const
+    void expectRefused(const FileURL& picked, FolderErrorKind kind) const
     {
         const auto made = make(picked);
         ASSERT_FALSE(made) << picked.path();
@@ -67,14 +67,14 @@ TEST_F(CustomScanFolderTest, IsMadeForAFolder)
 
 TEST_F(CustomScanFolderTest, RefusesAFileAndWhatIsMissing)
 {
-    expectRefused(m_tree.url("home/file"), Kind::notDirectory);
-    expectRefused(m_tree.url("home/nothing/"), Kind::notDirectory);
+    expectRefused(m_tree.url("home/file"), FolderErrorKind::notDirectory);
+    expectRefused(m_tree.url("home/nothing/"), FolderErrorKind::notDirectory);
 }
 
 TEST_F(CustomScanFolderTest, RefusesSystemFoldersAndVolumeRoots)
 {
     for (const std::string_view path : {"/", "/usr", "/etc", "/usr/share", "/tmp", "/proc"}) {
-        expectRefused(FileURL::folder(path), Kind::unsafeRoot);
+        expectRefused(FileURL::folder(path), FolderErrorKind::unsafeRoot);
     }
 }
 
@@ -82,7 +82,7 @@ TEST_F(CustomScanFolderTest, RefusesTheRootOfAVolume)
 {
     TestSupport::inMountNamespace([this] {
         TestSupport::mountTemporaryFileSystem(m_documents.path());
-        expectRefused(m_documents, Kind::unsafeRoot);
+        expectRefused(m_documents, FolderErrorKind::unsafeRoot);
     });
     EXPECT_TRUE(make(m_documents));
 }
@@ -91,7 +91,7 @@ TEST_F(CustomScanFolderTest, RefusesTheHomeOfTheUser)
 {
     TestSupport::inChildProcess([this] {
         ASSERT_EQ(setenv("HOME", m_home.path().c_str(), 1), 0);
-        expectRefused(m_home, Kind::unsafeRoot);
+        expectRefused(m_home, FolderErrorKind::unsafeRoot);
         EXPECT_TRUE(make(m_documents));
     });
 }
@@ -99,8 +99,8 @@ TEST_F(CustomScanFolderTest, RefusesTheHomeOfTheUser)
 TEST_F(CustomScanFolderTest, RefusesUserDataAndLinks)
 {
     m_tree.add("home/.ssh/id\nhome/linked -> Documents\n");
-    expectRefused(m_tree.url("home/.ssh/"), Kind::unsafeRoot);
-    expectRefused(m_tree.url("home/linked"), Kind::unsafeRoot);
+    expectRefused(m_tree.url("home/.ssh/"), FolderErrorKind::unsafeRoot);
+    expectRefused(m_tree.url("home/linked"), FolderErrorKind::unsafeRoot);
 }
 
 TEST_F(CustomScanFolderTest, PassesOnWhyNoBookmarkCouldBeMade)
@@ -130,7 +130,8 @@ TEST_F(CustomScanFolderTest, IsJudgedAnewWhenItIsResolved)
         const auto resolved = folder.resolve(m_files, m_bookmarks);
         ASSERT_FALSE(resolved);
         EXPECT_EQ(resolved.error(),
-            FolderAccessError<CustomScanFolderError>(CustomScanFolderError{Kind::unsafeRoot, m_documents.path()}));
+            FolderAccessError<CustomScanFolderError>(
+                CustomScanFolderError{FolderErrorKind::unsafeRoot, m_documents.path()}));
         EXPECT_EQ(m_bookmarks.openCount(), 0);
     });
 }

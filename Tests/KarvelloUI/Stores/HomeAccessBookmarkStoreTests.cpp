@@ -11,14 +11,14 @@ namespace KarvelloUI {
 namespace {
 
 using namespace StoresTests;
-using Kind = HomeAccessBookmarkError::Kind;
+using BookmarkErrorKind = HomeAccessBookmarkError::Kind;
 
-const std::string kKey(HomeAccessBookmarkStore::defaultStorageKey);
-const std::string kBackupKey = kKey + ".malformedBackup";
+const std::string kBookmarkKey(HomeAccessBookmarkStore::defaultStorageKey);
+const std::string kBookmarkBackupKey = kBookmarkKey + ".malformedBackup";
 
-const std::string kLoadFailed =
+const std::string kBookmarkLoadFailed =
     "Could not load home folder access bookmark. The saved bookmark was backed up and reset: ";
-const std::string kSaveFailed = "Could not save home folder access bookmark: ";
+const std::string kBookmarkSaveFailed = "Could not save home folder access bookmark: ";
 const std::string kResolveFailed = "Could not resolve home folder access bookmark and cleared it. Grant access again: ";
 const std::string kExpired = "Home folder access bookmark expired and was cleared. Grant access again.";
 
@@ -27,7 +27,7 @@ protected:
     std::unique_ptr<HomeAccessBookmarkStore> makeStore()
     {
         return std::make_unique<HomeAccessBookmarkStore>(
-            m_defaults, m_bookmarks, language(), kKey, [this] { return m_home; });
+            m_defaults, m_bookmarks, language(), kBookmarkKey, [this] { return m_home; });
     }
 
     std::string storedGrant() const
@@ -57,13 +57,13 @@ TEST_F(HomeAccessBookmarkStoreTest, KeepsTheGrantOverARestart)
 {
     {
         const auto store = makeStore();
-        seed(kBackupKey, "old");
+        seed(kBookmarkBackupKey, "old");
         EXPECT_TRUE(store->setBookmark(m_home, m_files, kNow));
         EXPECT_EQ(store->accessState(), HomeAccessState::authorized);
         EXPECT_EQ(store->bookmark(), grant());
     }
-    EXPECT_EQ(onDisk(kKey), storedGrant());
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkKey), storedGrant());
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), std::nullopt);
     const auto later = makeStore();
     EXPECT_EQ(later->bookmark(), grant());
     EXPECT_EQ(later->resolveBookmark(m_files)->grantedURL, m_home);
@@ -88,9 +88,10 @@ TEST_F(HomeAccessBookmarkStoreTest, LeavesTheGrantWhereAnotherPickIsRefused)
     EXPECT_FALSE(store->setBookmark(m_tree.url("home/Documents/"), m_files));
     EXPECT_EQ(store->bookmark(), grant());
     EXPECT_EQ(store->lastErrorMessage(),
-        kSaveFailed
-            + (HomeAccessBookmarkError{Kind::notCurrentUserHome, m_tree.path("home/Documents")}.errorDescription()));
-    EXPECT_EQ(onDisk(kKey), storedGrant());
+        kBookmarkSaveFailed
+            + (HomeAccessBookmarkError{BookmarkErrorKind::notCurrentUserHome, m_tree.path("home/Documents")}
+                    .errorDescription()));
+    EXPECT_EQ(onDisk(kBookmarkKey), storedGrant());
     store->clearError();
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
 }
@@ -99,7 +100,8 @@ TEST_F(HomeAccessBookmarkStoreTest, ForgetsTheErrorOnceAPickIsTaken)
 {
     const auto store = makeStore();
     EXPECT_FALSE(store->setBookmark(m_tree.url("home/file"), m_files));
-    EXPECT_EQ(store->lastErrorMessage(), kSaveFailed + "Selected item is not a folder: " + m_tree.path("home/file"));
+    EXPECT_EQ(
+        store->lastErrorMessage(), kBookmarkSaveFailed + "Selected item is not a folder: " + m_tree.path("home/file"));
     EXPECT_TRUE(store->setBookmark(m_home, m_files));
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
 }
@@ -112,8 +114,8 @@ TEST_F(HomeAccessBookmarkStoreTest, LeavesMemoryAndDiskWhereASaveFails)
     EXPECT_FALSE(store->setBookmark(m_tree.url("home/Library/"), m_files, kNow));
     EXPECT_EQ(m_defaults.failureCount(), 1);
     EXPECT_EQ(store->bookmark(), grant());
-    EXPECT_EQ(onDisk(kKey), storedGrant());
-    EXPECT_EQ(store->lastErrorMessage(), kSaveFailed + std::string(kDiskFull));
+    EXPECT_EQ(onDisk(kBookmarkKey), storedGrant());
+    EXPECT_EQ(store->lastErrorMessage(), kBookmarkSaveFailed + std::string(kDiskFull));
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, LeavesMemoryAndDiskWhereAGrantHasNoStoredForm)
@@ -123,7 +125,7 @@ TEST_F(HomeAccessBookmarkStoreTest, LeavesMemoryAndDiskWhereAGrantHasNoStoredFor
     EXPECT_EQ(store->bookmark(), std::nullopt);
     EXPECT_EQ(m_defaults.saveCount(), 0);
     EXPECT_EQ(store->lastErrorMessage(),
-        kSaveFailed + "The data couldn’t be written because it isn’t in the correct format.");
+        kBookmarkSaveFailed + "The data couldn’t be written because it isn’t in the correct format.");
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, ClearsTheGrantItsBackupAndTheError)
@@ -131,12 +133,12 @@ TEST_F(HomeAccessBookmarkStoreTest, ClearsTheGrantItsBackupAndTheError)
     const auto store = makeStore();
     ASSERT_TRUE(store->setBookmark(m_home, m_files));
     ASSERT_FALSE(store->setBookmark(m_tree.url("home/file"), m_files));
-    seed(kBackupKey, "old");
+    seed(kBookmarkBackupKey, "old");
     store->clearBookmark();
     EXPECT_EQ(store->accessState(), HomeAccessState::missing);
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), std::nullopt);
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, SaysThatAGrantCouldNotBeRevoked)
@@ -148,7 +150,7 @@ TEST_F(HomeAccessBookmarkStoreTest, SaysThatAGrantCouldNotBeRevoked)
     EXPECT_EQ(m_defaults.failureCount(), 1);
     EXPECT_EQ(store->bookmark(), grant());
     EXPECT_EQ(store->lastErrorMessage(),
-        kSaveFailed + "The file “preferences.json” couldn’t be saved because the volume is read only.");
+        kBookmarkSaveFailed + "The file “preferences.json” couldn’t be saved because the volume is read only.");
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, ClearsAGrantThatCannotBeResolved)
@@ -158,18 +160,18 @@ TEST_F(HomeAccessBookmarkStoreTest, ClearsAGrantThatCannotBeResolved)
     m_tree.remove("home");
     EXPECT_EQ(store->resolveBookmark(m_files), std::nullopt);
     EXPECT_EQ(store->bookmark(), std::nullopt);
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkKey), std::nullopt);
     EXPECT_EQ(store->lastErrorMessage(),
         kResolveFailed + "The file “home” couldn’t be opened because there is no such file.");
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, ClearsAGrantOfBytesThatAreNoBookmark)
 {
-    seed(kKey, R"({"fallbackPath":"/h","bookmarkData":"AAAA","createdAt":1})");
+    seed(kBookmarkKey, R"({"fallbackPath":"/h","bookmarkData":"AAAA","createdAt":1})");
     const auto store = makeStore();
     EXPECT_EQ(store->accessState(), HomeAccessState::authorized);
     EXPECT_EQ(store->resolveBookmark(m_files), std::nullopt);
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkKey), std::nullopt);
     EXPECT_EQ(store->lastErrorMessage(),
         kResolveFailed + "The file “bookmark” couldn’t be opened because it isn’t in the correct format.");
 }
@@ -182,7 +184,7 @@ TEST_F(HomeAccessBookmarkStoreTest, ClearsAStaleGrantAndNeverRefreshesIt)
     m_tree.add("home/Library/\n");
     EXPECT_EQ(store->resolveBookmark(m_files), std::nullopt);
     EXPECT_EQ(store->bookmark(), std::nullopt);
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkKey), std::nullopt);
     EXPECT_EQ(store->lastErrorMessage(), kExpired);
     EXPECT_EQ(makeStore()->bookmark(), std::nullopt);
 }
@@ -204,18 +206,18 @@ TEST_F(HomeAccessBookmarkStoreTest, NeverUsesAStaleGrantThatCouldNotBeRemoved)
 
 TEST_F(HomeAccessBookmarkStoreTest, SetsDamagedDataAsideAndDropsItAtTheStartAfterThat)
 {
-    seed(kKey, "{damaged");
+    seed(kBookmarkKey, "{damaged");
     {
         const auto store = makeStore();
         EXPECT_EQ(store->bookmark(), std::nullopt);
-        EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable));
+        EXPECT_EQ(store->lastErrorMessage(), kBookmarkLoadFailed + std::string(kUnreadable));
     }
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), "{damaged");
+    EXPECT_EQ(onDisk(kBookmarkKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), "{damaged");
     const auto later = makeStore();
     EXPECT_EQ(later->bookmark(), std::nullopt);
     EXPECT_EQ(later->lastErrorMessage(), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), std::nullopt);
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, SetsEveryMalformedFormAside)
@@ -228,57 +230,57 @@ TEST_F(HomeAccessBookmarkStoreTest, SetsEveryMalformedFormAside)
             replacing(whole, "\"createdAt\" : ", "\"createdAt\" : \"1\", \"x\" : "),
             replacing(whole, "\"effectiveHomeFallbackPath\" : ", "\"effectiveHomeFallbackPath\" : 1, \"x\" : ")});
     for (const auto& form : forms) {
-        seed(kKey, form);
+        seed(kBookmarkKey, form);
         const auto store = makeStore();
         EXPECT_EQ(store->bookmark(), std::nullopt) << form;
-        EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable)) << form;
-        EXPECT_EQ(onDisk(kBackupKey), form);
+        EXPECT_EQ(store->lastErrorMessage(), kBookmarkLoadFailed + std::string(kUnreadable)) << form;
+        EXPECT_EQ(onDisk(kBookmarkBackupKey), form);
     }
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, ReadsTheBackupWhereTheKeyIsEmpty)
 {
-    seed(kBackupKey, storedGrant());
+    seed(kBookmarkBackupKey, storedGrant());
     const auto store = makeStore();
     EXPECT_EQ(store->bookmark(), grant());
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
-    EXPECT_EQ(onDisk(kKey), storedGrant());
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkKey), storedGrant());
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), std::nullopt);
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, ReadsTheBackupEvenWhereItCannotBePutBack)
 {
-    seed(kBackupKey, storedGrant());
+    seed(kBookmarkBackupKey, storedGrant());
     m_defaults.failAllSaves();
     const auto store = makeStore();
     EXPECT_EQ(m_defaults.failureCount(), 1);
     EXPECT_EQ(store->bookmark(), grant());
-    EXPECT_EQ(onDisk(kKey), std::nullopt);
-    EXPECT_EQ(onDisk(kBackupKey), storedGrant());
+    EXPECT_EQ(onDisk(kBookmarkKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), storedGrant());
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, DropsTheBackupWhereTheKeyCanBeRead)
 {
-    seed(kKey, storedGrant());
-    seed(kBackupKey, "old");
+    seed(kBookmarkKey, storedGrant());
+    seed(kBookmarkBackupKey, "old");
     const auto store = makeStore();
     EXPECT_EQ(store->bookmark(), grant());
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), std::nullopt);
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, SaysWhyDamagedDataCouldNotBeSetAside)
 {
-    seed(kKey, "{damaged");
+    seed(kBookmarkKey, "{damaged");
     m_defaults.failAllSaves();
     const auto store = makeStore();
-    EXPECT_EQ(store->lastErrorMessage(), kLoadFailed + std::string(kUnreadable) + " " + std::string(kDiskFull));
-    EXPECT_EQ(onDisk(kKey), "{damaged");
-    EXPECT_EQ(onDisk(kBackupKey), std::nullopt);
+    EXPECT_EQ(store->lastErrorMessage(), kBookmarkLoadFailed + std::string(kUnreadable) + " " + std::string(kDiskFull));
+    EXPECT_EQ(onDisk(kBookmarkKey), "{damaged");
+    EXPECT_EQ(onDisk(kBookmarkBackupKey), std::nullopt);
 }
 
 TEST_F(HomeAccessBookmarkStoreTest, TakesAValueOfAnotherTypeForNone)
 {
-    ASSERT_TRUE(m_file.set(kKey, std::string("text")));
+    ASSERT_TRUE(m_file.set(kBookmarkKey, std::string("text")));
     const auto store = makeStore();
     EXPECT_EQ(store->bookmark(), std::nullopt);
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);
@@ -344,7 +346,7 @@ TEST_F(HomeAccessBookmarkStoreTest, HearsOfAnotherProcess)
 {
     const auto store = makeStore();
     Platform::FileUserDefaults otherProcess(m_files, m_file.fileURL());
-    ASSERT_TRUE(otherProcess.set(kKey, Platform::DefaultsData{storedGrant()}));
+    ASSERT_TRUE(otherProcess.set(kBookmarkKey, Platform::DefaultsData{storedGrant()}));
     m_file.refresh();
     m_loop.handleEvents();
     EXPECT_EQ(store->bookmark(), grant());
@@ -354,7 +356,7 @@ TEST_F(HomeAccessBookmarkStoreTest, KeepsItsGrantWhereAnotherProcessStoresDamage
 {
     const auto store = makeStore();
     ASSERT_TRUE(store->setBookmark(m_home, m_files, kNow));
-    seed(kKey, "{damaged");
+    seed(kBookmarkKey, "{damaged");
     m_loop.handleEvents();
     EXPECT_EQ(store->bookmark(), grant());
     EXPECT_EQ(store->lastErrorMessage(), std::nullopt);

@@ -12,7 +12,7 @@ namespace {
 
 using namespace StoresTests;
 using Platform::FileURL;
-using Kind = HomeAccessBookmarkError::Kind;
+using BookmarkErrorKind = HomeAccessBookmarkError::Kind;
 
 class HomeAccessBookmarkTest : public StoresFixture {
 protected:
@@ -22,7 +22,7 @@ protected:
         return HomeAccessBookmark::make(picked, home, m_files, m_bookmarks, kNow);
     }
 
-    void expectRefused(const FileURL& picked, const FileURL& home, Kind kind) const
+    void expectRefused(const FileURL& picked, const FileURL& home, BookmarkErrorKind kind) const
     {
         const auto made = make(picked, home);
         ASSERT_FALSE(made) << picked.path();
@@ -102,42 +102,42 @@ TEST_F(HomeAccessBookmarkTest, IsMadeForTheLibraryInTheHome)
 
 TEST_F(HomeAccessBookmarkTest, RefusesAFileAndWhatIsMissing)
 {
-    expectRefused(m_tree.url("home/file"), m_home, Kind::notDirectory);
-    expectRefused(m_tree.url("home/nothing/"), m_home, Kind::notDirectory);
+    expectRefused(m_tree.url("home/file"), m_home, BookmarkErrorKind::notDirectory);
+    expectRefused(m_tree.url("home/nothing/"), m_home, BookmarkErrorKind::notDirectory);
 }
 
 TEST_F(HomeAccessBookmarkTest, RefusesAnyOtherFolder)
 {
-    expectRefused(m_tree.url("home/Documents/"), m_home, Kind::notCurrentUserHome);
-    expectRefused(m_tree.root(), m_home, Kind::notCurrentUserHome);
-    expectRefused(FileURL(), FileURL(), Kind::notCurrentUserHome);
+    expectRefused(m_tree.url("home/Documents/"), m_home, BookmarkErrorKind::notCurrentUserHome);
+    expectRefused(m_tree.root(), m_home, BookmarkErrorKind::notCurrentUserHome);
+    expectRefused(FileURL(), FileURL(), BookmarkErrorKind::notCurrentUserHome);
 }
 
 TEST_F(HomeAccessBookmarkTest, RefusesALinkInTheHomeThatLeadsToTheHome)
 {
     m_tree.add("home/again -> .\nother/\nother/Library -> ../home\nlinked -> home\n");
-    expectRefused(m_tree.url("home/again"), m_home, Kind::notCurrentUserHome);
-    expectRefused(m_tree.url("other/Library"), m_tree.url("other/"), Kind::notCurrentUserHome);
-    expectRefused(m_tree.url("linked"), m_tree.url("linked/"), Kind::notCurrentUserHome);
+    expectRefused(m_tree.url("home/again"), m_home, BookmarkErrorKind::notCurrentUserHome);
+    expectRefused(m_tree.url("other/Library"), m_tree.url("other/"), BookmarkErrorKind::notCurrentUserHome);
+    expectRefused(m_tree.url("linked"), m_tree.url("linked/"), BookmarkErrorKind::notCurrentUserHome);
 }
 
 TEST_F(HomeAccessBookmarkTest, RefusesALinkThatLeadsWhereItIsAllowed)
 {
     m_tree.add("self/\nself/Library -> ../self\n");
-    expectRefused(m_tree.url("self/Library"), m_tree.url("self/"), Kind::notCurrentUserHome);
+    expectRefused(m_tree.url("self/Library"), m_tree.url("self/"), BookmarkErrorKind::notCurrentUserHome);
 }
 
 TEST_F(HomeAccessBookmarkTest, RefusesAHomeBehindALink)
 {
     m_tree.add("real/me/\nalias -> real\n");
-    expectRefused(m_tree.url("alias/me/"), m_tree.url("alias/me/"), Kind::notCurrentUserHome);
+    expectRefused(m_tree.url("alias/me/"), m_tree.url("alias/me/"), BookmarkErrorKind::notCurrentUserHome);
 }
 
 TEST_F(HomeAccessBookmarkTest, RefusesAnotherWayToTheHome)
 {
     m_tree.add("alias -> .\n");
     const auto otherWay = m_tree.url("alias/home/");
-    expectRefused(otherWay, m_home, Kind::notCurrentUserHome);
+    expectRefused(otherWay, m_home, BookmarkErrorKind::notCurrentUserHome);
     auto bookmark = homeGrant();
     bookmark.bookmarkData = m_systemBookmarks.create(otherWay).value();
     EXPECT_TRUE(isStale(bookmark, m_home));
@@ -150,7 +150,8 @@ TEST_F(HomeAccessBookmarkTest, RefusesWhatCannotBeLookedAt)
     const auto made = HomeAccessBookmark::make(m_home, m_home, faulty, m_bookmarks, kNow);
     ASSERT_FALSE(made);
     EXPECT_EQ(made.error(),
-        FolderAccessError<HomeAccessBookmarkError>(HomeAccessBookmarkError{Kind::notCurrentUserHome, m_home.path()}));
+        FolderAccessError<HomeAccessBookmarkError>(
+            HomeAccessBookmarkError{BookmarkErrorKind::notCurrentUserHome, m_home.path()}));
     EXPECT_EQ(faulty.failureCount(), 1);
 }
 
@@ -228,9 +229,9 @@ TEST_F(HomeAccessBookmarkTest, PassesOnWhyItCannotBeResolved)
 
 TEST(HomeAccessBookmarkError, HasTheWordsOfItsKindAndThePath)
 {
-    EXPECT_EQ((HomeAccessBookmarkError{Kind::notDirectory, "/a\xFF"}.errorDescription()),
+    EXPECT_EQ((HomeAccessBookmarkError{BookmarkErrorKind::notDirectory, "/a\xFF"}.errorDescription()),
         "Selected item is not a folder: /a\\xFF");
-    EXPECT_EQ((HomeAccessBookmarkError{Kind::notCurrentUserHome, "/a"}.errorDescription()),
+    EXPECT_EQ((HomeAccessBookmarkError{BookmarkErrorKind::notCurrentUserHome, "/a"}.errorDescription()),
         "Selected folder is not the current user's home directory or a descendant: /a");
 }
 

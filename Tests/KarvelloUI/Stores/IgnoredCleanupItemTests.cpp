@@ -2,6 +2,7 @@
 
 #include "KarvelloUI/Stores/StoresCoding.h"
 #include "Tests/KarvelloUI/Stores/IgnoredItems.h"
+#include "Tests/KarvelloUI/Stores/StoresFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +15,6 @@ using CleanerCore::CleanupCandidate;
 using CleanerCore::CleanupCategory;
 using CleanerCore::CleanupSafety;
 using Duration = CleanupIgnoreDuration;
-
-constexpr Platform::Date kNow{800'000'000};
 
 CleanupCandidate candidate(CleanupCategory category, CleanupSafety safety = CleanupSafety::caution,
     std::string_view path = "/h/a", bool requiresManualReviewBySource = false)

@@ -21,14 +21,14 @@ using testing::Not;
 using testing::Pair;
 using testing::SizeIs;
 
-struct Walk {
-    std::vector<std::string> entered;
-    /// The folders that were not entered, or not to their end, with the error.
-    std::vector<std::pair<std::string, int>> failures;
-};
-
 class FolderTrail : public testing::Test {
 protected:
+    struct Walk {
+        std::vector<std::string> entered;
+        /// The folders that were not entered, or not to their end, with the error.
+        std::vector<std::pair<std::string, int>> failures;
+    };
+
     [[nodiscard]] std::shared_ptr<const Platform::FolderHandle> rootFolder() const
     {
         return std::make_shared<const Platform::FolderHandle>(

@@ -1,16 +1,15 @@
 #include "Platform/Files/PosixFileManager.h"
 #include "Tests/Support/ChildProcess.h"
 #include "Tests/Support/FailingSystemCall.h"
+#include "Tests/Support/FileContents.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <sstream>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 
@@ -23,13 +22,6 @@ using Platform::FileURL;
 using Platform::PosixFileManager;
 using testing::UnorderedElementsAre;
 using TestSupport::TemporaryTree;
-
-std::string contents(const std::string& path)
-{
-    std::ostringstream bytes;
-    bytes << std::ifstream(path, std::ios::binary).rdbuf();
-    return bytes.str();
-}
 
 std::size_t entryCount(const std::string& folder)
 {
@@ -233,7 +225,7 @@ TEST_F(PosixFileManagerTests, ReplacesAFileWhole)
         file text="old" mode=640
     )");
     ASSERT_TRUE(m_fileManager.writeAtomically("new contents", tree.url("file")));
-    EXPECT_EQ(contents(tree.path("file")), "new contents");
+    EXPECT_EQ(TestSupport::contentsOf(tree.path("file")), "new contents");
     EXPECT_EQ(entryCount(tree.root().path()), 1U);
     struct stat found{};
     ASSERT_EQ(stat(tree.path("file").c_str(), &found), 0);
@@ -247,10 +239,10 @@ TEST_F(PosixFileManagerTests, WritesANewFileAndLeavesALinksTargetAlone)
         link -> target
     )");
     ASSERT_TRUE(m_fileManager.writeAtomically("", tree.url("new")));
-    EXPECT_EQ(contents(tree.path("new")), "");
+    EXPECT_EQ(TestSupport::contentsOf(tree.path("new")), "");
     ASSERT_TRUE(m_fileManager.writeAtomically("x", tree.url("link")));
-    EXPECT_EQ(contents(tree.path("link")), "x");
-    EXPECT_EQ(contents(tree.path("target")), "keep");
+    EXPECT_EQ(TestSupport::contentsOf(tree.path("link")), "x");
+    EXPECT_EQ(TestSupport::contentsOf(tree.path("target")), "keep");
 }
 
 TEST_F(PosixFileManagerTests, LeavesNothingBehindWhenAWriteFails)
@@ -276,7 +268,7 @@ TEST_F(PosixFileManagerTests, KeepsTheOldFileWhereTheNewOneCannotBeMadeDurable)
         TestSupport::failSystemCall({.number = SYS_fsync}, EIO);
         EXPECT_FALSE(m_fileManager.writeAtomically("new", tree.url("file")));
     });
-    EXPECT_EQ(contents(tree.path("file")), "old");
+    EXPECT_EQ(TestSupport::contentsOf(tree.path("file")), "old");
     EXPECT_EQ(entryCount(tree.root().path()), 1U);
 }
 
@@ -288,7 +280,7 @@ TEST_F(PosixFileManagerTests, KeepsTheOldFileWhereTheNewOneCannotBeWritten)
         ASSERT_FALSE(written.has_value());
         EXPECT_EQ(written.error().kind, FileErrorKind::outOfSpace);
     });
-    EXPECT_EQ(contents(tree.path("file")), "old");
+    EXPECT_EQ(TestSupport::contentsOf(tree.path("file")), "old");
     EXPECT_EQ(entryCount(tree.root().path()), 1U);
 }
 
@@ -310,7 +302,7 @@ TEST_F(PosixFileManagerTests, WritesUnderAnotherNameWhereOneIsTaken)
     const TemporaryTree tree;
     TestSupport::answerSystemCalls(kNewFiles, TestSupport::failingOnce(EEXIST),
         [&] { EXPECT_TRUE(m_fileManager.writeAtomically("new", tree.url("file"))); });
-    EXPECT_EQ(contents(tree.path("file")), "new");
+    EXPECT_EQ(TestSupport::contentsOf(tree.path("file")), "new");
     EXPECT_EQ(entryCount(tree.root().path()), 1U);
 }
 

@@ -34,7 +34,7 @@ TEST_F(WholeFile, IsThereWithAllItsBytes)
 {
     const std::string bytes(200'000, 'b');
     EXPECT_EQ(add("file", bytes), 0);
-    EXPECT_EQ(contents(m_tree.path("file")), bytes);
+    EXPECT_EQ(contentsOf(m_tree.path("file")), bytes);
     EXPECT_EQ(modeOf(m_tree.path("file")), 0600U);
     EXPECT_EQ(read("file", 200'000), bytes);
     EXPECT_EQ(add("empty", ""), 0);
@@ -51,7 +51,7 @@ TEST_F(WholeFile, ReplacesNothing)
     for (const auto* name : {"file", "folder", "link"}) {
         EXPECT_EQ(add(name, "new"), EEXIST) << name;
     }
-    EXPECT_EQ(contents(m_tree.path("file")), "old");
+    EXPECT_EQ(contentsOf(m_tree.path("file")), "old");
     EXPECT_THAT(names(m_tree.root().path()), ElementsAre("file", "folder", "link"));
 }
 
@@ -118,7 +118,7 @@ TEST_F(WholeFile, IsThereWithAllItsBytesWhereEveryFileHasAName)
             EXPECT_EQ(add("file", "first"), 0);
             EXPECT_EQ(add("file", "second"), EEXIST);
         });
-        EXPECT_EQ(contents(m_tree.path("file")), "first");
+        EXPECT_EQ(contentsOf(m_tree.path("file")), "first");
         EXPECT_THAT(names(m_tree.root().path()), ElementsAre("file"));
     }
 }
@@ -152,7 +152,7 @@ TEST_F(WholeFile, GivesUpOnACallThatIsInterruptedForEver)
         TestSupport::failSystemCall({.number = SYS_read}, EINTR);
         EXPECT_EQ(read("file").error(), EINTR);
     });
-    EXPECT_EQ(contents(m_tree.path("file")), "old");
+    EXPECT_EQ(contentsOf(m_tree.path("file")), "old");
 }
 
 TEST_F(WholeFile, GoesOnAfterAnInterruption)

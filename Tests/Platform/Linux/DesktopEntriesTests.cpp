@@ -14,7 +14,7 @@ namespace {
 using TestSupport::TemporaryTree;
 using Variables = std::map<std::string, std::string, std::less<>>;
 
-std::optional<DesktopEntry> parsed(std::string_view body, const std::vector<std::string>& languages = {})
+std::optional<DesktopEntry> entryWith(std::string_view body, const std::vector<std::string>& languages = {})
 {
     return DesktopEntry::parse("x", std::string("[Desktop Entry]\nType=Application\nName=X\n").append(body), languages);
 }
@@ -37,15 +37,15 @@ TEST(DesktopEntry, ReadsWhatItNeeds)
 
 TEST(DesktopEntry, OutOfMenusIsNotShown)
 {
-    EXPECT_FALSE(parsed("NoDisplay=true\n")->isShown);
-    EXPECT_TRUE(parsed("NoDisplay=false\n")->isShown);
-    EXPECT_TRUE(parsed("Terminal=true\n")->runsInTerminal);
+    EXPECT_FALSE(entryWith("NoDisplay=true\n")->isShown);
+    EXPECT_TRUE(entryWith("NoDisplay=false\n")->isShown);
+    EXPECT_TRUE(entryWith("Terminal=true\n")->runsInTerminal);
 }
 
 TEST(DesktopEntry, AHiddenOneIsNotThere)
 {
-    EXPECT_FALSE(parsed("Hidden=true\n"));
-    EXPECT_TRUE(parsed("Hidden=false\n"));
+    EXPECT_FALSE(entryWith("Hidden=true\n"));
+    EXPECT_TRUE(entryWith("Hidden=false\n"));
 }
 
 TEST(DesktopEntry, MalformedFilesAreNone)
@@ -61,20 +61,20 @@ TEST(DesktopEntry, MalformedFilesAreNone)
 TEST(DesktopEntry, TakesTheNameInTheBestLanguage)
 {
     const std::string_view names = "Name[de]=Schreiber\nName[fr]=Plume\nName[de_AT]=Schreiberl\nName[=broken\n";
-    EXPECT_EQ(parsed(names, {"de_AT", "de"})->name, "Schreiberl");
-    EXPECT_EQ(parsed(names, {"de_DE", "de"})->name, "Schreiber");
-    EXPECT_EQ(parsed(names, {"ko"})->name, "X");
+    EXPECT_EQ(entryWith(names, {"de_AT", "de"})->name, "Schreiberl");
+    EXPECT_EQ(entryWith(names, {"de_DE", "de"})->name, "Schreiber");
+    EXPECT_EQ(entryWith(names, {"ko"})->name, "X");
     EXPECT_EQ(DesktopEntry::parse("x", "[Desktop Entry]\nName[fr]=Plume\nName=Pen\nType=Application\n", {"fr"})->name,
         "Plume");
 }
 
 TEST(DesktopEntry, FindsTheProgramOfACommandLine)
 {
-    EXPECT_EQ(parsed("Exec=\"/opt/my app/run me\" --flag\n")->program, "run me");
-    EXPECT_EQ(parsed("Exec=env A=b C=d /usr/bin/tool %u\n")->program, "tool");
+    EXPECT_EQ(entryWith("Exec=\"/opt/my app/run me\" --flag\n")->program, "run me");
+    EXPECT_EQ(entryWith("Exec=env A=b C=d /usr/bin/tool %u\n")->program, "tool");
     for (const auto* const interpreter :
         {"python3 /x.py", "/usr/bin/flatpak run org.x", "sh -c x", "python3.11 x", "env", "", "\"", "snap run x"}) {
-        EXPECT_EQ(parsed(std::string("Exec=") + interpreter + "\n")->program, "") << interpreter;
+        EXPECT_EQ(entryWith(std::string("Exec=") + interpreter + "\n")->program, "") << interpreter;
     }
 }
 

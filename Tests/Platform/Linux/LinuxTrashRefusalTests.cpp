@@ -159,7 +159,7 @@ TEST_F(LinuxTrashRefusals, RefusesARootThatBecameALink)
     exchange("home/Caches", "home/link");
     const auto result = m_trash.trashItem(anchor);
     ASSERT_FALSE(result);
-    EXPECT_EQ(contents(m_tree.path("home/link/data")).size(), 10U);
+    EXPECT_EQ(contentsOf(m_tree.path("home/link/data")).size(), 10U);
 }
 
 TEST_F(LinuxTrashRefusals, RefusesAnItemWhoseFolderBecameALink)
@@ -173,7 +173,7 @@ TEST_F(LinuxTrashRefusals, RefusesAnItemWhoseFolderBecameALink)
     const auto result = m_trash.trashItem(anchor);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, FileErrorKind::notDirectory);
-    EXPECT_EQ(contents(m_tree.path("home/Caches/link/data")), "a");
+    EXPECT_EQ(contentsOf(m_tree.path("home/Caches/link/data")), "a");
 }
 
 TEST_F(LinuxTrashRefusals, RefusesAnItemWithALinkAmongTheFoldersAboveIt)
@@ -187,7 +187,7 @@ TEST_F(LinuxTrashRefusals, RefusesAnItemWithALinkAmongTheFoldersAboveIt)
     const auto result = m_trash.trashItem(anchor);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, FileErrorKind::tooManySymbolicLinks);
-    EXPECT_EQ(contents(m_tree.path("home/Caches/link/sub/data")), "a");
+    EXPECT_EQ(contentsOf(m_tree.path("home/Caches/link/sub/data")), "a");
 }
 
 TEST_F(LinuxTrashRefusals, RefusesWhatLiesNotBelowTheRoot)
@@ -215,8 +215,8 @@ TEST_F(LinuxTrashRefusals, PutsBackWhatSlippedInBetweenTheLookAndTheMove)
     const auto result = trash.trashItem(item("home/Caches/data"));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, FileErrorKind::itemChanged);
-    EXPECT_EQ(contents(m_tree.path("home/Caches/data")), "newer");
-    EXPECT_EQ(contents(m_tree.path("home/Caches/newer")), "old");
+    EXPECT_EQ(contentsOf(m_tree.path("home/Caches/data")), "newer");
+    EXPECT_EQ(contentsOf(m_tree.path("home/Caches/newer")), "old");
     EXPECT_THAT(names(filesFolder()), IsEmpty());
     EXPECT_THAT(names(infoFolder()), IsEmpty());
 }
@@ -233,8 +233,8 @@ TEST_F(LinuxTrashRefusals, LeavesWhatSlippedInInTheTrashWhereItsPlaceIsTakenAgai
     const auto result = trash.trashItem(item("home/Caches/data"));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, FileErrorKind::movedUnconfirmed);
-    EXPECT_EQ(contents(m_tree.path("home/Caches/data")), "newest");
-    EXPECT_EQ(contents(filesFolder() + "/data"), "newer");
+    EXPECT_EQ(contentsOf(m_tree.path("home/Caches/data")), "newest");
+    EXPECT_EQ(contentsOf(filesFolder() + "/data"), "newer");
     EXPECT_TRUE(record("data").starts_with("[Trash Info]\nPath=" + m_tree.path("home/Caches/data") + "\n"));
 }
 
@@ -248,8 +248,8 @@ TEST_F(LinuxTrashRefusals, MovesFromTheFolderThatWasOpenedThoughItsPathLeadsElse
     const InterruptedFileManager files(m_posix, 1, [&] { exchange("home/Caches/app", "home/link"); });
     Platform::LinuxTrash trash(files, m_tree.url("home/data/"));
     std::ignore = trash.trashItem(item("home/Caches/app/data"));
-    EXPECT_EQ(contents(m_tree.path("home/precious/data")), "precious");
-    EXPECT_EQ(contents(filesFolder() + "/data"), "confirmed");
+    EXPECT_EQ(contentsOf(m_tree.path("home/precious/data")), "precious");
+    EXPECT_EQ(contentsOf(filesFolder() + "/data"), "confirmed");
 }
 
 TEST_F(LinuxTrashRefusals, RefusesAnItemThatItCannotLookAt)

@@ -54,12 +54,12 @@ TEST_F(LinuxTrashRestoreRefusals, NeverRestoresOntoAnotherItem)
         const auto result = m_trash.restoreItem(restoring(place, "home/Caches/data"));
         ASSERT_FALSE(result);
         EXPECT_EQ(result.error().kind, FileErrorKind::fileExists);
-        EXPECT_EQ(contents(place.path()), "old");
+        EXPECT_EQ(contentsOf(place.path()), "old");
         EXPECT_NE(record("data"), "");
     };
     write(path, "new");
     expectUntouched();
-    EXPECT_EQ(contents(path), "new");
+    EXPECT_EQ(contentsOf(path), "new");
     std::filesystem::remove(path);
     std::filesystem::create_symlink("nowhere", path);
     expectUntouched();
@@ -93,7 +93,7 @@ TEST_F(LinuxTrashRestoreRefusals, TakesBackIntoTheTrashWhatSlippedInDuringAResto
     const auto result = trash.restoreItem(restoring(place, "home/Caches/data"));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, FileErrorKind::itemChanged);
-    EXPECT_EQ(contents(place.path()), "other");
+    EXPECT_EQ(contentsOf(place.path()), "other");
     EXPECT_FALSE(stands(m_tree.path("home/Caches/data")));
     EXPECT_NE(record("data"), "");
 }
@@ -111,8 +111,8 @@ TEST_F(LinuxTrashRestoreRefusals, SaysThatAnUnconfirmedItemWasPutBack)
     const auto result = trash.restoreItem(restoring(place, "home/Caches/data"));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().kind, FileErrorKind::restoredUnconfirmed);
-    EXPECT_EQ(contents(m_tree.path("home/Caches/data")), "other");
-    EXPECT_EQ(contents(place.path()), "taken");
+    EXPECT_EQ(contentsOf(m_tree.path("home/Caches/data")), "other");
+    EXPECT_EQ(contentsOf(place.path()), "taken");
 }
 
 TEST_F(LinuxTrashRestoreRefusals, RestoresOnlyFromTheTrash)

@@ -23,7 +23,7 @@ TEST_F(LinuxTrash, MovesAFileAndWritesItsRecord)
     m_tree.add(R"(home/Caches/app/data text="bytes")");
     const auto place = trashed("home/Caches/app/data");
     EXPECT_EQ(place.path(), filesFolder() + "/data");
-    EXPECT_EQ(contents(place.path()), "bytes");
+    EXPECT_EQ(contentsOf(place.path()), "bytes");
     EXPECT_FALSE(stands(m_tree.path("home/Caches/app/data")));
     EXPECT_TRUE(
         record("data").starts_with("[Trash Info]\nPath=" + m_tree.path("home/Caches/app/data") + "\nDeletionDate=2"))
@@ -38,7 +38,7 @@ TEST_F(LinuxTrash, MovesAFolderWithAllThatItHolds)
     )");
     const auto place = trashed("home/Caches/app/");
     EXPECT_TRUE(place.hasDirectoryPath());
-    EXPECT_EQ(contents(place.path() + "/sub/data"), "bytes");
+    EXPECT_EQ(contentsOf(place.path() + "/sub/data"), "bytes");
     EXPECT_THAT(names(m_tree.path("home/Caches")), IsEmpty());
 }
 
@@ -52,7 +52,7 @@ TEST_F(LinuxTrash, MovesALinkAndNotWhatItLeadsTo)
     const auto place = trashed("home/Caches/link");
     EXPECT_TRUE(std::filesystem::is_symlink(place.path()));
     EXPECT_TRUE(std::filesystem::is_symlink(trashed("home/Caches/dangling").path()));
-    EXPECT_EQ(contents(m_tree.path("home/precious")), "p");
+    EXPECT_EQ(contentsOf(m_tree.path("home/precious")), "p");
 }
 
 TEST_F(LinuxTrash, MakesTheHomesTrashForItsUserAlone)
@@ -82,7 +82,7 @@ TEST_F(LinuxTrash, KeepsEachOfManyItemsOfOneName)
     for (int number = 0; number < 40; ++number) {
         write(m_tree.path("home/Caches/data.bin"), std::to_string(number));
         const auto place = trashed("home/Caches/data.bin");
-        EXPECT_EQ(contents(place.path()), std::to_string(number));
+        EXPECT_EQ(contentsOf(place.path()), std::to_string(number));
         EXPECT_EQ(place.pathExtension(), "bin");
         places.insert(place.path());
     }
@@ -101,7 +101,7 @@ TEST_F(LinuxTrash, NeverReplacesAnItemThatLiesInTheTrashWithoutARecord)
         home/Caches/data text="new"
     )");
     EXPECT_EQ(trashed("home/Caches/data").path(), filesFolder() + "/data.4");
-    EXPECT_EQ(contents(filesFolder() + "/data"), "orphan");
+    EXPECT_EQ(contentsOf(filesFolder() + "/data"), "orphan");
     EXPECT_THAT(names(filesFolder() + "/data.2"), IsEmpty());
     EXPECT_TRUE(std::filesystem::is_symlink(filesFolder() + "/data.3"));
     EXPECT_THAT(names(infoFolder()), ElementsAre("data.4.trashinfo"));
@@ -129,7 +129,7 @@ TEST_F(LinuxTrash, MovesAndRestoresHostileNames)
         EXPECT_FALSE(stands(path));
         const auto restored = m_trash.restoreItem(restoring(place, "home/Caches/" + name));
         ASSERT_TRUE(restored) << restored.error().localizedDescription();
-        EXPECT_EQ(contents(path), "bytes of " + name);
+        EXPECT_EQ(contentsOf(path), "bytes of " + name);
         EXPECT_THAT(names(infoFolder()), IsEmpty());
     }
 }
@@ -139,7 +139,7 @@ TEST_F(LinuxTrash, RestoresAFolderAndTakesItsRecordAway)
     m_tree.add(R"(home/Caches/app/sub/data text="bytes")");
     const auto place = trashed("home/Caches/app/");
     ASSERT_TRUE(m_trash.restoreItem(restoring(place, "home/Caches/app/")));
-    EXPECT_EQ(contents(m_tree.path("home/Caches/app/sub/data")), "bytes");
+    EXPECT_EQ(contentsOf(m_tree.path("home/Caches/app/sub/data")), "bytes");
     EXPECT_THAT(names(filesFolder()), IsEmpty());
     EXPECT_THAT(names(infoFolder()), IsEmpty());
 }
@@ -165,7 +165,7 @@ TEST_F(LinuxTrash, RemovesAFolderForGoodAndNothingThatItsLinksLeadTo)
     EXPECT_THAT(names(m_tree.path("home/Caches")), IsEmpty());
     EXPECT_THAT(names(filesFolder()), IsEmpty());
     EXPECT_THAT(names(infoFolder()), IsEmpty());
-    EXPECT_EQ(contents(m_tree.path("home/precious/file")), "p");
+    EXPECT_EQ(contentsOf(m_tree.path("home/precious/file")), "p");
 }
 
 TEST_F(LinuxTrash, PutsBackWhatCannotBeRemovedWhole)
@@ -288,7 +288,7 @@ TEST_F(LinuxTrash, MovesFromManyThreadsAtOnce)
     EXPECT_EQ(moved, kThreads * kItems);
     std::set<std::string> found;
     for (const auto& name : names(filesFolder())) {
-        found.insert(contents(filesFolder() + "/" + name));
+        found.insert(contentsOf(filesFolder() + "/" + name));
         EXPECT_NE(record(name), "");
     }
     EXPECT_THAT(found, SizeIs(kThreads * kItems));
@@ -317,7 +317,7 @@ TEST_F(LinuxTrash, FindsAFreeNameWhereManyNumbersAreTaken)
     for (int number = 2; number <= 70; ++number) {
         write(fmt::format("{}/data.{}.trashinfo", infoFolder(), number), "");
     }
-    EXPECT_EQ(contents(trashed("home/Caches/data").path()), "new");
+    EXPECT_EQ(contentsOf(trashed("home/Caches/data").path()), "new");
 }
 
 } // namespace

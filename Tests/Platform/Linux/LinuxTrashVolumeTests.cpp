@@ -62,7 +62,7 @@ TEST_F(LinuxTrashVolumes, MakesTheUsersOwnTrashOnAVolumeWithARelativeRecord)
         mountVolume();
         const auto place = trashedOnVolume();
         EXPECT_EQ(place.path(), own() + "/files/data");
-        EXPECT_TRUE(contents(own() + "/info/data.trashinfo").starts_with("[Trash Info]\nPath=cache/sub/data\n"));
+        EXPECT_TRUE(contentsOf(own() + "/info/data.trashinfo").starts_with("[Trash Info]\nPath=cache/sub/data\n"));
         EXPECT_EQ(modeOf(own()), 0700U);
         EXPECT_EQ(modeOf(own() + "/files"), 0700U);
         EXPECT_FALSE(stands(trashFolder()));
@@ -70,7 +70,7 @@ TEST_F(LinuxTrashVolumes, MakesTheUsersOwnTrashOnAVolumeWithARelativeRecord)
             ElementsAre(FileURL::folder(own() + "/files")));
         const auto restored = m_trash.restoreItem(restoring(place, "home/volume/cache/sub/data", "home/volume/cache/"));
         EXPECT_TRUE(restored) << restored.error().localizedDescription();
-        EXPECT_EQ(contents(m_tree.path("home/volume/cache/sub/data")), "bytes");
+        EXPECT_EQ(contentsOf(m_tree.path("home/volume/cache/sub/data")), "bytes");
         EXPECT_THAT(names(own() + "/info"), IsEmpty());
         EXPECT_TRUE(m_trash.settle());
     });
@@ -95,7 +95,7 @@ TEST_F(LinuxTrashVolumes, UsesTheSharedTrashThatIsSticky)
         makeFolder(".Trash", 01777);
         EXPECT_EQ(trashedOnVolume().path(), ownInShared() + "/files/data");
         EXPECT_TRUE(
-            contents(ownInShared() + "/info/data.trashinfo").starts_with("[Trash Info]\nPath=cache/sub/data\n"));
+            contentsOf(ownInShared() + "/info/data.trashinfo").starts_with("[Trash Info]\nPath=cache/sub/data\n"));
         EXPECT_FALSE(stands(own()));
     });
 }
@@ -273,7 +273,7 @@ TEST_F(LinuxTrashVolumes, RefusesInWordsWhenTheVolumeIsFull)
         const auto result = m_trash.trashItem(item("home/volume/cache/sub/data", "home/volume/cache/"));
         ASSERT_FALSE(result);
         EXPECT_EQ(result.error().kind, FileErrorKind::outOfSpace) << result.error().localizedDescription();
-        EXPECT_EQ(contents(m_tree.path("home/volume/cache/sub/data")), "bytes");
+        EXPECT_EQ(contentsOf(m_tree.path("home/volume/cache/sub/data")), "bytes");
         EXPECT_THAT(names(own() + "/info"), IsEmpty());
     });
 }
@@ -306,7 +306,7 @@ TEST_F(LinuxTrashVolumes, RefusesATrashOnAVolumeThatCoveredTheItemsMeanwhile)
         ASSERT_FALSE(result);
         EXPECT_EQ(result.error().kind, FileErrorKind::noTrash);
         ASSERT_EQ(umount2(m_tree.path("home/volume").c_str(), MNT_DETACH), 0);
-        EXPECT_EQ(contents(m_tree.path("home/volume/cache/other")), "b");
+        EXPECT_EQ(contentsOf(m_tree.path("home/volume/cache/other")), "b");
     });
 }
 

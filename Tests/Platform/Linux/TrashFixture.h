@@ -3,6 +3,7 @@
 #include "Platform/Files/PosixFileManager.h"
 #include "Platform/Linux/LinuxTrash.h"
 #include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/FileContents.h"
 #include "Tests/Support/TemporaryTree.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <sys/stat.h>
 #include <vector>
@@ -20,6 +20,7 @@ namespace TrashTests {
 using Platform::FileError;
 using Platform::FileErrorKind;
 using Platform::FileURL;
+using TestSupport::contentsOf;
 using TestSupport::TemporaryTree;
 
 /// What stands at a path, a link not followed.
@@ -27,12 +28,6 @@ inline bool stands(const std::string& path)
 {
     struct stat found{};
     return lstat(path.c_str(), &found) == 0;
-}
-
-inline std::string contents(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 inline void write(const std::string& path, std::string_view text)
@@ -124,7 +119,7 @@ protected:
     [[nodiscard]] std::string infoFolder() const { return trashFolder() + "/info"; }
     [[nodiscard]] std::string record(std::string_view name) const
     {
-        return contents(infoFolder() + "/" + std::string(name) + ".trashinfo");
+        return contentsOf(infoFolder() + "/" + std::string(name) + ".trashinfo");
     }
 
     TemporaryTree m_tree{R"(

@@ -70,9 +70,9 @@ TEST_F(TrashFolder, NeverReplacesARecord)
     const auto trash = open();
     ASSERT_TRUE(trash);
     EXPECT_EQ((*trash)->addRecord("a", FileURL("/first")), 0);
-    const auto before = contents(info("a.trashinfo"));
+    const auto before = contentsOf(info("a.trashinfo"));
     EXPECT_EQ((*trash)->addRecord("a", FileURL("/second")), EEXIST);
-    EXPECT_EQ(contents(info("a.trashinfo")), before);
+    EXPECT_EQ(contentsOf(info("a.trashinfo")), before);
     EXPECT_THAT(names(info()), ElementsAre("a.trashinfo"));
 }
 
@@ -92,7 +92,7 @@ TEST_F(TrashFolder, CountsRelativePathsFromTheTopOfItsVolume)
     const auto trash = open(MissingTrash::make, m_tree.root());
     ASSERT_TRUE(trash);
     EXPECT_EQ((*trash)->addRecord("a", m_tree.url("sub/a")), 0);
-    EXPECT_TRUE(contents(info("a.trashinfo")).starts_with("[Trash Info]\nPath=sub/a\n"));
+    EXPECT_TRUE(contentsOf(info("a.trashinfo")).starts_with("[Trash Info]\nPath=sub/a\n"));
     EXPECT_EQ((*trash)->recordedURL("a"), m_tree.url("sub/a"));
     EXPECT_EQ((*trash)->addRecord("b", FileURL("/elsewhere/b")), EXDEV);
     EXPECT_EQ((*trash)->addRecord("c", m_tree.root()), EXDEV);

@@ -79,7 +79,7 @@ TEST_F(TreeRemoval, LeavesAloneWhatALinkInsideLeadsTo)
         tree/folder/twin => outside/precious
     )");
     EXPECT_EQ(remove("tree"), 0);
-    EXPECT_EQ(contents(m_tree.path("outside/precious")), "p");
+    EXPECT_EQ(contentsOf(m_tree.path("outside/precious")), "p");
     EXPECT_THAT(names(m_tree.root().path()), ElementsAre("outside"));
 }
 
@@ -93,9 +93,9 @@ TEST_F(TreeRemoval, EntersNoOtherVolumeAndKeepsTheRestInItsPlace)
     TestSupport::inMountNamespace([&] {
         TestSupport::bindMount(m_tree.path("elsewhere"), m_tree.path("tree/a/b/mounted"));
         EXPECT_EQ(remove("tree"), EXDEV);
-        EXPECT_EQ(contents(m_tree.path("tree/a/b/mounted/precious")), "p");
+        EXPECT_EQ(contentsOf(m_tree.path("tree/a/b/mounted/precious")), "p");
     });
-    EXPECT_EQ(contents(m_tree.path("elsewhere/precious")), "p");
+    EXPECT_EQ(contentsOf(m_tree.path("elsewhere/precious")), "p");
     EXPECT_TRUE(stands(m_tree.path("tree/a/b")));
 }
 

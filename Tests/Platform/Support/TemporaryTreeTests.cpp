@@ -1,13 +1,12 @@
 #include "Tests/Support/TemporaryTree.h"
 
 #include "Platform/Files/OpenFolder.h"
+#include "Tests/Support/FileContents.h"
 #include "Tests/Support/TreeLayout.h"
 
 #include <cmath>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <fcntl.h>
 #include <gtest/gtest-spi.h>
@@ -24,13 +23,6 @@ struct stat statusOf(const std::string& path)
     struct stat status{};
     EXPECT_EQ(lstat(path.c_str(), &status), 0) << path << ": " << std::strerror(errno);
     return status;
-}
-
-std::string contentOf(const std::string& path)
-{
-    std::ostringstream content;
-    content << std::ifstream(path, std::ios::binary).rdbuf();
-    return content.str();
 }
 
 bool exists(const std::string& path)
@@ -69,8 +61,8 @@ TEST(TemporaryTree, MakesFilesWithTheirContents)
             sparse.img size=64M sparse
     )");
     EXPECT_EQ(statusOf(tree.path("a/b/sized")).st_size, 70000);
-    EXPECT_EQ(contentOf(tree.path("a/b/sized")), std::string(70000, 'k'));
-    EXPECT_EQ(contentOf(tree.path("a/b/words")), "two\nlines");
+    EXPECT_EQ(contentsOf(tree.path("a/b/sized")), std::string(70000, 'k'));
+    EXPECT_EQ(contentsOf(tree.path("a/b/words")), "two\nlines");
     EXPECT_EQ(statusOf(tree.path("a/empty")).st_size, 0);
     EXPECT_EQ(statusOf(tree.path("big/sparse.img")).st_size, 64 * 1024 * 1024);
     EXPECT_LT(statusOf(tree.path("big/sparse.img")).st_blocks, 1024);

@@ -1,5 +1,7 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
+
 #include <gtest/gtest.h>
 
 namespace KarvelloUI {
@@ -8,8 +10,6 @@ namespace {
 using CleanerCore::AppCacheContainerKind;
 using CleanerCore::AppCacheContext;
 using CleanerCore::AppCacheRunningState;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
 
 TEST(AppCacheContextCopy, NamesARunningAppByItsOwnName)
 {

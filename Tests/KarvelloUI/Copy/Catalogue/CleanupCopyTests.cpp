@@ -1,5 +1,7 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/SampleCandidate.h"
+#include "Tests/KarvelloUI/Copy/CatalogueSamples/SampleImpact.h"
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
 
 #include <array>
 #include <gmock/gmock.h>
@@ -12,22 +14,6 @@ using CleanerCore::CleaningMode;
 using CleanerCore::CleanupCategory;
 using CleanerCore::CleanupSafety;
 using CleanerCore::CleanupSelectionPreview;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
-constexpr KarvelloCopy kKorean{AppLanguage::korean};
-constexpr KarvelloCopy kGerman{AppLanguage::german};
-constexpr KarvelloCopy kJapanese{AppLanguage::japanese};
-
-CleanerCore::CleanupStorageImpactReport report(std::optional<CleaningMode> mode, std::int64_t expectedBytes)
-{
-    return CleanerCore::CleanupStorageImpactReport({.mode = mode,
-        .requestedItemCount = 6,
-        .succeededItemCount = 5,
-        .failedItemCount = 1,
-        .expectedBytes = expectedBytes,
-        .affectedBytes = 1536,
-        .wasCancelled = true});
-}
 
 TEST(CleanupCopy, SaysOneThingInTheSingular)
 {
@@ -118,7 +104,7 @@ TEST(CleanupCopy, SaysInOwnTextsWhatTheTablesDoNotHave)
         "Prüfen Sie Sicherheitsstufen und Kategorien, bevor Sie dies in den Papierkorb legen: 2 Objekte (3 KB).");
     EXPECT_EQ(kGerman.cleanupPreviewCategoryLine(preview.categorySummaries.front()),
         "DerivedData von Xcode · 2 Objekte · 3 KB");
-    EXPECT_EQ(kGerman.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 2048)),
+    EXPECT_EQ(kGerman.cleanupImpactAccessibilityLabel(sampleImpact(CleaningMode::moveToTrash, 2048, true)),
         "Vorher-nachher-Bericht, Bereinigungs-Dashboard, Erwartet im Papierkorb 2 KB, In den Papierkorb gelegt 1.5 KB, "
         "Noch "
         "nicht zurückgewonnen 1.5 KB, 75%, erfolgreich: 5, fehlgeschlagen: 1, abgebrochener Vorgang");
@@ -126,13 +112,13 @@ TEST(CleanupCopy, SaysInOwnTextsWhatTheTablesDoNotHave)
 
 TEST(CleanupCopy, ClaimsRecoveryOnlyForADeletion)
 {
-    EXPECT_EQ(kEnglish.cleanupImpactSummary(report(CleaningMode::deletePermanently, 2048)),
+    EXPECT_EQ(kEnglish.cleanupImpactSummary(sampleImpact(CleaningMode::deletePermanently, 2048, true)),
         "5 of 6 requested items recovered, 1 failed · 75% recovered. Based on a cancelled run.");
-    EXPECT_EQ(kEnglish.cleanupImpactSummary(report(CleaningMode::moveToTrash, 0)),
+    EXPECT_EQ(kEnglish.cleanupImpactSummary(sampleImpact(CleaningMode::moveToTrash, 0, true)),
         "5 of 6 requested items moved to Trash, 1 failed · Move percentage unavailable. Moved bytes are pending "
         "recovery; actual free space increases after Trash is emptied, and macOS Storage may update later. Based on a "
         "cancelled run.");
-    EXPECT_EQ(kEnglish.cleanupImpactSummary(report(std::nullopt, 2048)),
+    EXPECT_EQ(kEnglish.cleanupImpactSummary(sampleImpact(std::nullopt, 2048, true)),
         "5 of 6 requested items processed, 1 failed · 75% processed. Disk recovery is not verified. Based on a "
         "cancelled run.");
 }

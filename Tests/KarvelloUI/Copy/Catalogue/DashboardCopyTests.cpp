@@ -1,13 +1,12 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
+
 #include <gtest/gtest.h>
 #include <vector>
 
 namespace KarvelloUI {
 namespace {
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
-constexpr KarvelloCopy kKorean{AppLanguage::korean};
 
 TEST(DashboardCopy, NamesTheSections)
 {

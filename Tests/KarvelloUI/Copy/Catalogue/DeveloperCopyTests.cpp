@@ -1,16 +1,16 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
+
 #include <gtest/gtest.h>
 
 namespace KarvelloUI {
 namespace {
 
 using CleanerCore::CleanupCategory;
-using Kind = DeveloperCleanupAdvisoryKind;
+using AdvisoryKind = DeveloperCleanupAdvisoryKind;
 
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
-
-std::optional<Kind> kindFor(CleanupCategory category, std::string_view path)
+std::optional<AdvisoryKind> kindFor(CleanupCategory category, std::string_view path)
 {
     const auto advisory = kEnglish.developerCleanupAdvisory(category, path);
     return advisory ? std::optional(advisory->kind) : std::nullopt;
@@ -18,8 +18,8 @@ std::optional<Kind> kindFor(CleanupCategory category, std::string_view path)
 
 TEST(DeveloperCopy, HasGuidanceForDevelopersFoldersOnly)
 {
-    EXPECT_EQ(kindFor(CleanupCategory::xcodeDerivedData, "/a"), Kind::xcodeDerivedData);
-    EXPECT_EQ(kindFor(CleanupCategory::xcodeDeviceSupport, "/a"), Kind::xcodeDeviceSupport);
+    EXPECT_EQ(kindFor(CleanupCategory::xcodeDerivedData, "/a"), AdvisoryKind::xcodeDerivedData);
+    EXPECT_EQ(kindFor(CleanupCategory::xcodeDeviceSupport, "/a"), AdvisoryKind::xcodeDeviceSupport);
     EXPECT_EQ(kindFor(CleanupCategory::userCaches, "/a"), std::nullopt);
     EXPECT_EQ(kindFor(CleanupCategory::buildArchives, "/a"), std::nullopt);
 }
@@ -27,21 +27,21 @@ TEST(DeveloperCopy, HasGuidanceForDevelopersFoldersOnly)
 TEST(DeveloperCopy, TellsTheCacheOfOneDeviceFromThoseOfAll)
 {
     constexpr auto kCategory = CleanupCategory::simulatorCaches;
-    EXPECT_EQ(kindFor(kCategory, "/Users/a/Library/Developer/CoreSimulator/Caches/x"), Kind::simulatorCaches);
+    EXPECT_EQ(kindFor(kCategory, "/Users/a/Library/Developer/CoreSimulator/Caches/x"), AdvisoryKind::simulatorCaches);
     EXPECT_EQ(kindFor(kCategory, "/Users/a/Library/Developer/CoreSimulator/Devices/1/data/Library/Caches/x"),
-        Kind::simulatorDeviceCaches);
+        AdvisoryKind::simulatorDeviceCaches);
     EXPECT_EQ(kindFor(kCategory, "/Users/a/Library/Developer/CoreSimulator/Devices/1/../2/./data/Library//Caches"),
-        Kind::simulatorDeviceCaches);
+        AdvisoryKind::simulatorDeviceCaches);
     // The caches have to be those of a device.
     EXPECT_EQ(kindFor(kCategory, "/Users/a/Library/Developer/CoreSimulator/Devices/data/Library/Caches"),
-        Kind::simulatorCaches);
-    EXPECT_EQ(
-        kindFor(kCategory, "/data/Library/Caches/Library/Developer/CoreSimulator/Devices/1"), Kind::simulatorCaches);
+        AdvisoryKind::simulatorCaches);
+    EXPECT_EQ(kindFor(kCategory, "/data/Library/Caches/Library/Developer/CoreSimulator/Devices/1"),
+        AdvisoryKind::simulatorCaches);
 }
 
 TEST(DeveloperCopy, SaysAllThatIsToKnowOfAnArtifact)
 {
-    const DeveloperCleanupAdvisory advisory = kEnglish.developerCleanupAdvisory(Kind::xcodeDerivedData);
+    const DeveloperCleanupAdvisory advisory = kEnglish.developerCleanupAdvisory(AdvisoryKind::xcodeDerivedData);
     EXPECT_EQ(advisory.title, "Xcode build artifact guidance");
     EXPECT_EQ(
         advisory.summary, "DerivedData stores per-project indexes and intermediate build products created by Xcode.");

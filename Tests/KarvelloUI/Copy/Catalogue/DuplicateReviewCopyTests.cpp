@@ -1,14 +1,13 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
+
 #include <gtest/gtest.h>
 
 namespace KarvelloUI {
 namespace {
 
 using Reason = CleanerCore::DuplicateKeeperRecommendationReason;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
-constexpr KarvelloCopy kKorean{AppLanguage::korean};
 
 TEST(DuplicateReviewCopy, TellsHowMuchOfAGroupIsSelected)
 {

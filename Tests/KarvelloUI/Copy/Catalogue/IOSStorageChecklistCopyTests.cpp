@@ -1,5 +1,7 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
+
 #include <gtest/gtest.h>
 #include <map>
 
@@ -9,8 +11,6 @@ namespace {
 using Actor = IOSStorageChecklistActor;
 using Status = IOSStorageChecklistStatus;
 using StepID = IOSStorageChecklistStepID;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
 
 TEST(IOSStorageChecklistCopy, ListsAllStepsInTheirOrder)
 {

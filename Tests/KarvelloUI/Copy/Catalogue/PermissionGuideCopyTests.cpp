@@ -1,39 +1,38 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
+
 #include <gtest/gtest.h>
 #include <map>
 
 namespace KarvelloUI {
 namespace {
 
-using Kind = StoragePermissionIssueKind;
+using IssueKind = StoragePermissionIssueKind;
 using Role = StoragePermissionWizardStepRole;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
-constexpr KarvelloCopy kKorean{AppLanguage::korean};
 
 TEST(PermissionGuideCopy, TellsOfEachIssueAndWhatToDo)
 {
-    const std::map<Kind, std::pair<std::string, std::string>> texts{
-        {Kind::fullDiskAccess,
+    const std::map<IssueKind, std::pair<std::string, std::string>> texts{
+        {IssueKind::fullDiskAccess,
             {"Full Disk Access needed · 4", "Check Full Disk Access in System Settings > Privacy & Security."}},
-        {Kind::filesAndFolders,
+        {IssueKind::filesAndFolders,
             {"Files & Folders permission needed · 4",
                 "Confirm the expected locations are allowed under Files & Folders."}},
-        {Kind::securityScopedAccess,
+        {IssueKind::securityScopedAccess,
             {"Security-scoped bookmark needs review · 4",
                 "Re-add the custom folder to refresh an expired or invalid bookmark."}},
-        {Kind::authorization,
+        {IssueKind::authorization,
             {"User authorization needed · 4",
                 "Review the macOS authorization prompt or reset this app's folder permission."}},
-        {Kind::readOrEnumerateAccess,
+        {IssueKind::readOrEnumerateAccess,
             {"Read/enumeration access limited · 4",
                 "Verify the folder can be opened and grant access to the parent folder if needed."}},
-        {Kind::unreadableAttributes,
+        {IssueKind::unreadableAttributes,
             {"File attributes could not be verified · 4",
                 "Confirm the path still exists and that file attributes can be read safely."}},
     };
-    for (const Kind kind : Platform::allCases<Kind>()) {
+    for (const IssueKind kind : Platform::allCases<IssueKind>()) {
         EXPECT_EQ(kEnglish.permissionDiagnosticTitle(kind, 4), texts.at(kind).first);
         EXPECT_EQ(kEnglish.permissionDiagnosticAction(kind), texts.at(kind).second);
         EXPECT_EQ(kEnglish.permissionWizardStepBody(Role::reviewBlockedItems, kind), texts.at(kind).second);

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Copy/KarvelloCopy.h"
 #include "KarvelloUI/Copy/PercentText.h"
+#include "Tests/KarvelloUI/Copy/CopyLanguages.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -13,10 +14,6 @@ using CleanerCore::ResourceReliefActionStatus;
 using CleanerCore::ResourceReliefCandidate;
 using CleanerCore::ResourceReliefEligibility;
 using CleanerCore::ResourceReliefProtectionReason;
-
-constexpr KarvelloCopy kEnglish{AppLanguage::english};
-constexpr KarvelloCopy kKorean{AppLanguage::korean};
-constexpr KarvelloCopy kGerman{AppLanguage::german};
 
 TEST(SystemStatusCopy, TranslatesTheStatesItKnows)
 {

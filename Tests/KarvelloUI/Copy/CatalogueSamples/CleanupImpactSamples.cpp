@@ -1,21 +1,10 @@
 #include "Tests/KarvelloUI/Copy/CatalogueSamples/CatalogueSample.h"
+#include "Tests/KarvelloUI/Copy/CatalogueSamples/SampleImpact.h"
 
 namespace KarvelloUI {
 namespace {
 
 using CleanerCore::CleaningMode;
-
-CleanerCore::CleanupStorageImpactReport report(
-    std::optional<CleaningMode> mode, std::int64_t expectedBytes, bool wasCancelled)
-{
-    return CleanerCore::CleanupStorageImpactReport({.mode = mode,
-        .requestedItemCount = 6,
-        .succeededItemCount = 5,
-        .failedItemCount = 1,
-        .expectedBytes = expectedBytes,
-        .affectedBytes = 1536,
-        .wasCancelled = wasCancelled});
-}
 
 const CatalogueTheme kCleanupImpact("CleanupImpact",
     {
@@ -43,36 +32,36 @@ const CatalogueTheme kCleanupImpact("CleanupImpact",
         {"cleanupImpactUnavailablePercent", &KarvelloCopy::cleanupImpactUnavailablePercent},
         {"cleanupImpactSummary moveToTrash",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 4096, false));
+                return copy.cleanupImpactSummary(sampleImpact(CleaningMode::moveToTrash, 4096, false));
             }},
         {"cleanupImpactSummary deletePermanently",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactSummary(report(CleaningMode::deletePermanently, 4096, false));
+                return copy.cleanupImpactSummary(sampleImpact(CleaningMode::deletePermanently, 4096, false));
             }},
         {"cleanupImpactSummary unknown",
-            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 4096, false)); },
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(sampleImpact(std::nullopt, 4096, false)); },
             SampleCoverage::own},
         {"cleanupImpactSummary moveToTrash cancelled without a percentage",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactSummary(report(CleaningMode::moveToTrash, 0, true));
+                return copy.cleanupImpactSummary(sampleImpact(CleaningMode::moveToTrash, 0, true));
             },
             SampleCoverage::assembled},
         {"cleanupImpactSummary deletePermanently cancelled without a percentage",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactSummary(report(CleaningMode::deletePermanently, 0, true));
+                return copy.cleanupImpactSummary(sampleImpact(CleaningMode::deletePermanently, 0, true));
             },
             SampleCoverage::assembled},
         {"cleanupImpactSummary unknown cancelled without a percentage",
-            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(report(std::nullopt, 0, true)); },
+            [](const KarvelloCopy& copy) { return copy.cleanupImpactSummary(sampleImpact(std::nullopt, 0, true)); },
             SampleCoverage::own},
         {"cleanupImpactAccessibilityLabel",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::moveToTrash, 4096, false));
+                return copy.cleanupImpactAccessibilityLabel(sampleImpact(CleaningMode::moveToTrash, 4096, false));
             },
             SampleCoverage::own},
         {"cleanupImpactAccessibilityLabel cancelled",
             [](const KarvelloCopy& copy) {
-                return copy.cleanupImpactAccessibilityLabel(report(CleaningMode::deletePermanently, 4096, true));
+                return copy.cleanupImpactAccessibilityLabel(sampleImpact(CleaningMode::deletePermanently, 4096, true));
             },
             SampleCoverage::own},
     });

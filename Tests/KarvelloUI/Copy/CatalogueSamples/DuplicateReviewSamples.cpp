@@ -33,7 +33,7 @@ const CatalogueTheme kDuplicateReview("DuplicateReview",
         {"duplicateSelectedExtrasSubtitle 3",
             [](const KarvelloCopy& copy) { return copy.duplicateSelectedExtrasSubtitle(3); }},
     });
-const CatalogueTheme kReasons("DuplicateReview",
+const CatalogueTheme kKeeperReasons("DuplicateReview",
     samplesOfEachCase<Reason>("duplicateKeeperReasonName", &KarvelloCopy::duplicateKeeperReasonName));
 const CatalogueTheme kRecommendations("DuplicateReview",
     {

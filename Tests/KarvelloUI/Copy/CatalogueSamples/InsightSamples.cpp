@@ -3,9 +3,9 @@
 namespace KarvelloUI {
 namespace {
 
-const CatalogueTheme kTitles(
+const CatalogueTheme kInsightTitles(
     "Insight", samplesOfEachCase<MacInsightFileSection>("insightSectionTitle", &KarvelloCopy::insightSectionTitle));
-const CatalogueTheme kDetails(
+const CatalogueTheme kInsightDetails(
     "Insight", samplesOfEachCase<MacInsightFileSection>("insightDetail", &KarvelloCopy::insightDetail));
 const CatalogueTheme kEmptyLists("Insight",
     samplesOfEachCase<MacInsightFileSection>("noInsightItemsDescription", &KarvelloCopy::noInsightItemsDescription));

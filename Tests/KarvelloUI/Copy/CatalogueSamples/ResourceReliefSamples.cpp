@@ -51,7 +51,7 @@ const CatalogueTheme kResourceRelief("ResourceRelief",
         {"resourceReliefConfirmButton", [](const KarvelloCopy& copy) { return copy.resourceReliefConfirmButton(3); }},
         {"resourceReliefConfirmMessage", [](const KarvelloCopy& copy) { return copy.resourceReliefConfirmMessage(3); }},
     });
-const CatalogueTheme kReasons("ResourceRelief",
+const CatalogueTheme kReliefReasons("ResourceRelief",
     samplesOfEachCase<ResourceReliefProtectionReason>(
         "resourceReliefProtectionReason", &KarvelloCopy::resourceReliefProtectionReason));
 const CatalogueTheme kResults(

@@ -26,7 +26,7 @@ const CatalogueTheme kSmartCleanup("SmartCleanup",
         {"smartCleanupPrimerDetail", [](const KarvelloCopy& copy) { return copy.smartCleanupPrimerDetail(); }},
     });
 
-const CatalogueTheme kTitles("SmartCleanup",
+const CatalogueTheme kRecommendationTitles("SmartCleanup",
     samplesOfEachCase<StorageRecommendationKind>("smartCleanupTitle",
         [](const KarvelloCopy& copy, StorageRecommendationKind kind) { return copy.smartCleanupTitle(kind); }));
 

@@ -3,17 +3,17 @@
 namespace KarvelloUI {
 namespace {
 
-std::string body(const KarvelloCopy& copy, StorageTrendTimelinePointKind kind)
+std::string sampleBody(const KarvelloCopy& copy, StorageTrendTimelinePointKind kind)
 {
     return copy.storageTimelinePointBody(kind, 4096, 1536, MacDashboardSection::largeFiles);
 }
 
-const CatalogueTheme kTitles("StorageTimeline",
+const CatalogueTheme kPointTitles("StorageTimeline",
     samplesOfEachCase<StorageTrendTimelinePointKind>(
         "storageTimelinePointTitle", &KarvelloCopy::storageTimelinePointTitle));
-const CatalogueTheme kBodies(
-    "StorageTimeline", samplesOfEachCase<StorageTrendTimelinePointKind>("storageTimelinePointBody", body));
-const CatalogueTheme kDetails("StorageTimeline",
+const CatalogueTheme kPointBodies(
+    "StorageTimeline", samplesOfEachCase<StorageTrendTimelinePointKind>("storageTimelinePointBody", sampleBody));
+const CatalogueTheme kPointDetails("StorageTimeline",
     {
         {"storageTimelinePointDetail currentStorage",
             [](const KarvelloCopy& copy) {

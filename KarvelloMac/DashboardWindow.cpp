@@ -8,6 +8,7 @@
 #include <QQmlEngine>
 #include <QScreen>
 #include <QVariant>
+#include <algorithm>
 
 namespace KarvelloMac {
 
@@ -44,14 +45,22 @@ DashboardWindow::DashboardWindow(QQmlEngine& engine, KarvelloUI::MacCleanerDashb
     m_window->resize(kSize);
     m_window->setMinimumSize(kMinimumSize);
     if (const auto* const screen = m_window->screen()) {
-        QRect place(QPoint(), kSize);
-        place.moveCenter(screen->availableGeometry().center());
-        m_window->setPosition(place.topLeft());
+        m_window->setGeometry(placeOn(screen->availableGeometry()));
     }
     QObject::connect(
         m_window.get(), &QWindow::visibilityChanged, &dashboard, [&dashboard](QWindow::Visibility visibility) {
             dashboard.setWindowVisible(visibility != QWindow::Hidden && visibility != QWindow::Minimized);
         });
+}
+
+QRect DashboardWindow::placeOn(const QRect& available)
+{
+    QRect place(QPoint(), kSize.boundedTo(available.size()).expandedTo(kMinimumSize));
+    place.moveCenter(available.center());
+    // What does not fit hangs over at the right and below, never where the window is taken hold of.
+    place.moveLeft(std::max(place.left(), available.left()));
+    place.moveTop(std::max(place.top(), available.top()));
+    return place;
 }
 
 QWindow* DashboardWindow::primary(const QList<QWindow*>& windows)
@@ -71,7 +80,8 @@ void DashboardWindow::bringForward(QWindow& window)
     if (window.windowStates().testFlag(Qt::WindowMinimized)) {
         window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
     }
-    window.show();
+    // `show` would take a window that fills the screen back to its own size.
+    window.setVisible(true);
     window.raise();
     window.requestActivate();
 }

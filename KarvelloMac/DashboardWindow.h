@@ -26,6 +26,8 @@ public:
     /// Null if the screens could not be loaded, which only a broken installation brings about.
     [[nodiscard]] QQuickWindow* window() const { return m_window.get(); }
 
+    /// Where it opens on a screen: in the middle, no larger than the screen unless its smallest size is.
+    [[nodiscard]] static QRect placeOn(const QRect& available);
     /// The first of these windows that is the dashboard's, and can take the keyboard; nothing for panels and popups.
     [[nodiscard]] static QWindow* primary(const QList<QWindow*>& windows);
     /// In front of everything, and out of the task bar.

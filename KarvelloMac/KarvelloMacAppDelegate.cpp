@@ -102,8 +102,9 @@ void KarvelloMacAppDelegate::toggleStatusPopover()
 
 void KarvelloMacAppDelegate::openDashboardWindow(Destination destination)
 {
-    // A request that cannot be stored opens the window all the same, where it was.
-    std::ignore = KarvelloDashboardLaunchRequestStore::request(destination, m_services.defaults());
+    // Whoever asks for the application now wants to have it.
+    m_isQuitting = false;
+    const bool isStored = KarvelloDashboardLaunchRequestStore::request(destination, m_services.defaults()).has_value();
     QWindow* window = DashboardWindow::primary(QGuiApplication::allWindows());
     if (window == nullptr) {
         m_dashboardWindow.reset();
@@ -116,7 +117,16 @@ void KarvelloMacAppDelegate::openDashboardWindow(Destination destination)
             return;
         }
         window->installEventFilter(this);
+        connect(&m_dashboard->cleaner(), &CleanerViewModel::phaseChanged, this,
+            &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
+        connect(&m_dashboard->insights(), &MacInsightsViewModel::phaseChanged, this,
+            &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
+        connect(&m_dashboard->resourceRelief(), &MacResourceReliefViewModel::requestingQuitChanged, this,
+            &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
         m_dashboard->start();
+    }
+    if (!isStored) {
+        m_dashboard->showDestination(destination);
     }
     DashboardWindow::bringForward(*window);
 }
@@ -146,19 +156,13 @@ void KarvelloMacAppDelegate::quit()
         m_dashboard->cleaner().cancelCurrentOperation();
         m_dashboard->insights().cancelCurrentOperation();
         m_dashboard->insights().flushSystemMetricHistory();
-        connect(&m_dashboard->cleaner(), &CleanerViewModel::phaseChanged, this,
-            &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
-        connect(&m_dashboard->insights(), &MacInsightsViewModel::phaseChanged, this,
-            &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
-        connect(&m_dashboard->resourceRelief(), &MacResourceReliefViewModel::requestingQuitChanged, this,
-            &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
     }
     quitWhenNothingMoves();
 }
 
 void KarvelloMacAppDelegate::quitWhenNothingMoves()
 {
-    if (!isMoving()) {
+    if (m_isQuitting && !isMoving()) {
         QCoreApplication::quit();
     }
 }

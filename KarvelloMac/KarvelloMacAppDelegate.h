@@ -35,9 +35,10 @@ public:
     bool applicationShouldHandleReopen(Destination destination = Destination::dashboard);
     void toggleStatusPopover();
     /// Asks the dashboard to go there, and brings it forward. The request is stored before the window is touched, so that
-    /// one that is open sees it.
+    /// one that is open sees it; one that cannot be stored is handed over.
     void openDashboardWindow(Destination destination);
     /// Ends the application as soon as nothing is being moved: scans are dropped, a clean or restore comes to its true end.
+    /// Who opens the dashboard before that has it stay.
     void quit();
 
     [[nodiscard]] static QIcon karvelloAppIcon();

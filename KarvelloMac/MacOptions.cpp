@@ -1,8 +1,11 @@
 #include "KarvelloMac/MacOptions.h"
 
 #include <QCommandLineParser>
+#include <algorithm>
 #include <array>
 #include <fmt/format.h>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 namespace KarvelloMac {
@@ -18,6 +21,28 @@ constexpr std::array<std::pair<Destination, std::string_view>, 4> kActions{{
     {Destination::systemReview, "open-system"},
 }};
 
+/// What the toolkit takes for itself, the identity among it by which a session manager starts the application again.
+constexpr auto kToolkitOptions =
+    std::to_array<std::string_view>({"display", "geometry", "platform", "platformpluginpath", "platformtheme", "plugin",
+        "qwindowgeometry", "qwindowicon", "qwindowtitle", "session", "style", "stylesheet"});
+
+QStringList withoutToolkitOptions(const QStringList& arguments)
+{
+    QStringList own;
+    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
+        const std::string word = argument->toStdString();
+        const auto dashes = std::min<std::size_t>(word.find_first_not_of('-'), 2);
+        const auto name = std::string_view(word).substr(dashes == 0 ? word.size() : dashes);
+        const auto key = name.substr(0, name.find('='));
+        if (std::ranges::find(kToolkitOptions, key) == kToolkitOptions.end()) {
+            own.append(*argument);
+        } else if (key == name && std::next(argument) != arguments.end()) {
+            ++argument;
+        }
+    }
+    return own;
+}
+
 } // namespace
 
 std::expected<MacOptions, std::string> MacOptions::parse(const QStringList& arguments)
@@ -31,7 +56,7 @@ std::expected<MacOptions, std::string> MacOptions::parse(const QStringList& argu
         QStringLiteral("Where to begin: dashboard, cleanupReview, memoryReview or systemReview."),
         QStringLiteral("destination"), QStringLiteral("dashboard"));
     parser.addOptions({open, help, version});
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(withoutToolkitOptions(arguments))) {
         return std::unexpected(parser.errorText().toStdString());
     }
     if (!parser.positionalArguments().isEmpty()) {
@@ -40,7 +65,9 @@ std::expected<MacOptions, std::string> MacOptions::parse(const QStringList& argu
     }
     MacOptions options;
     if (parser.isSet(help)) {
-        options.information = parser.helpText().toStdString();
+        // There is no application object yet, which would know the program's name.
+        options.information =
+            parser.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("karvello")).toStdString();
     } else if (parser.isSet(version)) {
         options.information = "karvello " KARVELLO_VERSION "\n";
     }

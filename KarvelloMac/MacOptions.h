@@ -17,7 +17,7 @@ struct MacOptions {
     /// To be printed, and nothing else is to be done.
     std::optional<std::string> information = {};
 
-    /// `arguments` begin with the program. The error is a sentence for the user.
+    /// `arguments` begin with the program; what is meant for the toolkit among them is left to it. The error is a sentence for the user.
     static std::expected<MacOptions, std::string> parse(const QStringList& arguments);
 };
 

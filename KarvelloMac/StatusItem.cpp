@@ -25,7 +25,8 @@ StatusItem::StatusItem(const QIcon& icon, const KarvelloUI::DashboardPreferences
     opens(m_system, Destination::systemReview);
     connect(m_quit, &QAction::triggered, this, &StatusItem::quitRequested);
     connect(&m_item, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason != QSystemTrayIcon::Context) {
+        // The second click of a double click would close what the first one opened.
+        if (reason != QSystemTrayIcon::Context && reason != QSystemTrayIcon::DoubleClick) {
             Q_EMIT activated();
         }
     });

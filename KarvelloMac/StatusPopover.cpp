@@ -33,6 +33,8 @@ StatusPopover::StatusPopover(QQmlEngine& engine, KarvelloUI::StatusPopoverModel&
     connect(&m_view, &QWindow::activeChanged, this, [this] {
         if (!m_view.isActive() && m_view.isVisible()) {
             close();
+            m_hasJustClosed = true;
+            QTimer::singleShot(kClickMilliseconds, this, [this] { m_hasJustClosed = false; });
         }
     });
     connect(&m_view, &QWindow::visibleChanged, this, [this](bool isVisible) { m_model.setVisible(isVisible); });
@@ -73,8 +75,6 @@ void StatusPopover::show(const QRect& item)
 void StatusPopover::close()
 {
     m_view.hide();
-    m_hasJustClosed = true;
-    QTimer::singleShot(kClickMilliseconds, this, [this] { m_hasJustClosed = false; });
 }
 
 void StatusPopover::toggle(const QRect& item)

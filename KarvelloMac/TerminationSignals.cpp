@@ -7,25 +7,49 @@
 
 namespace KarvelloMac {
 
-TerminationSignals::TerminationSignals()
+namespace {
+
+sigset_t terminationSignals()
 {
     sigset_t signals;
     sigemptyset(&signals);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         sigaddset(&signals, signal);
     }
+    return signals;
+}
+
+void unblock()
+{
+    const auto signals = terminationSignals();
+    ::pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals()
+{
+    const auto signals = terminationSignals();
     m_descriptor = ::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
     // Where nobody would read them, they keep their usual effect.
     if (m_descriptor >= 0) {
         ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+        // What is blocked here stays blocked in a program that a child of this process becomes.
+        ::pthread_atfork(nullptr, nullptr, unblock);
     }
 }
 
 TerminationSignals::~TerminationSignals()
 {
+    release();
+}
+
+void TerminationSignals::release()
+{
     m_notifier.reset();
     if (m_descriptor >= 0) {
-        ::close(m_descriptor);
+        ::close(std::exchange(m_descriptor, -1));
+        unblock();
     }
 }
 

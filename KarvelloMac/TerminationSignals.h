@@ -10,7 +10,7 @@ namespace KarvelloMac {
 /// a time; make it before any other thread, which would take the signals otherwise.
 class TerminationSignals {
 public:
-    /// Blocks the signals for all threads to come.
+    /// Blocks the signals for all threads to come. Programs that are started later get them as usual.
     TerminationSignals();
     TerminationSignals(const TerminationSignals&) = delete;
     TerminationSignals& operator=(const TerminationSignals&) = delete;
@@ -18,6 +18,8 @@ public:
 
     /// From now on, `requested` is called for each. Needs the application object.
     void watch(std::function<void()> requested);
+    /// From now on they end the process, also what came and was not told.
+    void release();
 
 private:
     int m_descriptor = -1;

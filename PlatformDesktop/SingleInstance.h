@@ -54,11 +54,12 @@ public:
     /// Lets the instance that runs come to the front, at what an action opens. Waits for its answer, and not for long;
     /// false: there is none any more, or it does not answer.
     [[nodiscard]] bool activateOther(const std::optional<std::string>& action);
+    /// Gives the name back, if it has it: the next one that starts is another instance.
+    void release();
 
 private:
     [[nodiscard]] QString path() const { return SessionBus::objectPathOf(m_settings.identifier); }
     void receive(const std::optional<QString>& action, const QVariantMap& platformData);
-    void release();
 
     const std::shared_ptr<DesktopBus> m_bus;
     const Settings m_settings;

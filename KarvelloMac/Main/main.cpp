@@ -60,6 +60,9 @@ int runApplication(int& argc, char** argv, const MacOptions& options, const Plat
     delegate->applicationDidFinishLaunching();
     const int status = QApplication::exec();
     delegate.reset();
+    // Threads that a dead disk or bus holds up are waited for. Meanwhile another instance may start, and this one be ended.
+    signals.release();
+    instance.release();
     return status;
 }
 
@@ -71,7 +74,6 @@ int main(int argc, char** argv)
     for (int index = 0; index < argc; ++index) {
         arguments.append(QString::fromLocal8Bit(argv[index]));
     }
-    // Those that Qt knows are taken out of the way by itself, once there is a display.
     const auto options = MacOptions::parse(arguments);
     if (!options) {
         fmt::print(stderr, "karvello: {}\n", options.error());

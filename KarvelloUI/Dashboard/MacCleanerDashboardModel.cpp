@@ -167,8 +167,13 @@ void MacCleanerDashboardModel::clearScanResults()
 void MacCleanerDashboardModel::consumePendingLaunchDestination()
 {
     if (const auto destination = KarvelloDashboardLaunchRequestStore::consumePending(m_services.defaults)) {
-        selectSection(sectionOf(*destination));
+        showDestination(*destination);
     }
+}
+
+void MacCleanerDashboardModel::showDestination(KarvelloDashboardLaunchDestination destination)
+{
+    selectSection(sectionOf(destination));
 }
 
 void MacCleanerDashboardModel::scanCleanup()

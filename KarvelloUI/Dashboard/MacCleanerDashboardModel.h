@@ -12,6 +12,7 @@
 #include "KarvelloUI/Sessions/CandidateReview.h"
 #include "KarvelloUI/Sessions/Job.h"
 #include "KarvelloUI/Stores/CleanupReviewPreferencesStore.h"
+#include "KarvelloUI/Stores/KarvelloDashboardLaunchRequest.h"
 
 #include <QObject>
 #include <QString>
@@ -57,6 +58,8 @@ public:
     /// The first appearance of the window: a stored mode that the build does not offer is given up, a waiting launch
     /// request is taken, disk and machine are looked at.
     void start();
+    /// The section that a launch request asks for.
+    void showDestination(KarvelloDashboardLaunchDestination destination);
     /// Nothing is polled for a window that nobody sees.
     void setWindowVisible(bool isVisible);
 

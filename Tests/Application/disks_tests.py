@@ -57,8 +57,12 @@ class Disks(mounts.MountsOfTheirOwn, ApplicationTest):
         self.home.set_preferences(**{"karvello.macOnboardingCompleted.v1": True, "karvello.language": "en"})
         before = self.home.files()
         self.put(mounts.make_read_only, self.home.folder)
-        application = self.start()
+        application = self.start("--open", "systemReview")
         application.wait_for_window()
+        application.shown.wait_for("System Pulse", "heading")
+        # A request that cannot be stored leads there all the same.
+        self.assertEqual(self.start("--open", "memoryReview").wait_for_end(), 0)
+        application.shown.wait_for("Memory Analysis", "heading")
         self.scan(application)
         self.clean(application)
         self.assert_told_as_not_moved(application, "the volume is read only", "Example", "Second", "com.example.Player")

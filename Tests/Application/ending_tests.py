@@ -100,6 +100,22 @@ class Ending(ApplicationTest):
         application.close_window()
         self.assert_comes_to_a_true_end(application)
 
+    def test_opening_it_again_in_the_middle_of_ending_has_it_stay(self):
+        self.add_logs(1)
+        application = self.start_after_first_run("--open", "cleanupReview", slowed=("renameat2", 4000))
+        application.press_button(SCAN)
+        application.shown.wait_for(lambda name: "candidate log" in name, "check box")
+        application.press_button(MOVE)
+        self.agree(application)
+        application.shown.wait_for(CANCEL, "push button")
+        application.close_window()
+        self.assertEqual(self.start().wait_for_end(), 0)
+        wait_until(self.log, "the clean is in the log")
+        application.wait_for_window()
+        self.assertTrue(application.is_running())
+        application.close_window()
+        self.assertEqual(application.wait_for_end(), 0)
+
     def test_quitting_in_the_tray_ends_a_clean_after_the_present_item(self):
         application, owner = self.start_clean(with_tray=True)
         self.activate(owner)

@@ -30,6 +30,25 @@ class Lifetime(ApplicationTest):
         self.assertEqual(self.start("--open", "cleanupReview").wait_for_end(), 0)
         first.shown.wait_for("Cleanup Review", "heading")
 
+    def test_help_names_the_program_and_needs_no_display(self):
+        application = self.start("--help", without=["DISPLAY"])
+        self.assertEqual(application.wait_for_end(), 0)
+        self.assertTrue(application.said().startswith("Usage: karvello [options]"), application.said())
+
+    def test_a_session_manager_starts_it_again(self):
+        application = self.start_after_first_run("-session", "10ab_cd")
+        self.assertTrue(application.is_running())
+
+    def test_a_second_start_leaves_the_window_as_large_as_it_is(self):
+        first = self.start_after_first_run()
+        place = self.session.place(first.window())
+        first.press("alt+F10")
+        wait_until(lambda: self.session.place(first.window()) != place, "the window fills the screen")
+        large = self.session.place(first.window())
+        self.assertEqual(self.start().wait_for_end(), 0)
+        wait_until(first.is_in_front, "the first window in front")
+        self.assertEqual(self.session.place(first.window()), large)
+
     def test_a_first_start_opens_where_it_was_asked_to(self):
         application = self.start_after_first_run("--open", "memoryReview")
         application.shown.wait_for("Memory Analysis", "heading")

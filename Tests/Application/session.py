@@ -151,12 +151,13 @@ class Session:
         return process.stdout.readline().strip()
 
     def _window_manager_settings(self):
-        """One key of its own, which closes windows; and a window that opens gets the focus."""
+        """Two keys of its own, which close a window and have it fill the screen; and a window that opens gets the focus."""
         file = self.folder / "openbox.xml"
         file.write_text("<openbox_config xmlns='http://openbox.org/3.4/rc'><focus><focusNew>yes</focusNew></focus>"
                         "<theme><keepBorder>no</keepBorder></theme>"
                         "<desktops><number>1</number></desktops>"
-                        "<keyboard><keybind key='A-F4'><action name='Close'/></keybind></keyboard>"
+                        "<keyboard><keybind key='A-F4'><action name='Close'/></keybind>"
+                        "<keybind key='A-F10'><action name='ToggleMaximize'/></keybind></keyboard>"
                         # xdotool tells the place of a window wrongly by its frame.
                         "<applications><application class='*'><decor>no</decor></application></applications></openbox_config>")
         return file

@@ -9,7 +9,6 @@ using namespace KarvelloCLITests;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 
 TEST_F(CleanProgram, WithoutATerminalItAsksForConsentBeforehand)

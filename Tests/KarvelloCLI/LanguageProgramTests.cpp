@@ -12,9 +12,7 @@ namespace KarvelloCLITests {
 namespace {
 
 using testing::AllOf;
-using testing::ContainsRegex;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 const std::vector<std::string> kCodes{"ko", "en", "ja", "zh-Hans", "zh-Hant", "es", "fr", "de"};

@@ -24,7 +24,6 @@ using KarvelloCLITests::kMegabyte;
 using KarvelloCLITests::kNow;
 using KarvelloCLITests::linesOf;
 using KarvelloCLITests::plain;
-using Platform::Date;
 using Platform::FileURL;
 using testing::HasSubstr;
 using testing::Not;

@@ -42,6 +42,20 @@ TEST(MacOptions, RefuseWhatTheyDoNotKnowInWords)
     EXPECT_FALSE(destinationOf("open-everything"));
 }
 
+TEST(MacOptions, LeaveTheToolkitWhatIsItsOwn)
+{
+    // A session manager starts an application again by its identity in the session.
+    const auto options = parsed({QStringLiteral("-session"), QStringLiteral("10ab_cd"), QStringLiteral("--open"),
+        QStringLiteral("memoryReview"), QStringLiteral("--platform=offscreen"), QStringLiteral("-style"),
+        QStringLiteral("fusion")});
+    ASSERT_TRUE(options) << options.error();
+    EXPECT_EQ(options->destination, Destination::memoryReview);
+    EXPECT_TRUE(parsed({QStringLiteral("-session")}));
+    EXPECT_EQ(parsed({QStringLiteral("session")}).error(), "Unknown argument 'session'.");
+    EXPECT_FALSE(parsed({QStringLiteral("--sessions")}));
+    EXPECT_FALSE(parsed({QStringLiteral("-session"), QStringLiteral("10ab"), QStringLiteral("--clean")}));
+}
+
 TEST(MacOptions, TellTheVersionAndTheOptions)
 {
     EXPECT_TRUE(parsed({QStringLiteral("--version")})->information->starts_with("karvello "));

@@ -51,6 +51,29 @@ TEST(DashboardWindow, ComesOutOfTheTaskBar)
     EXPECT_FALSE(window.windowStates().testFlag(Qt::WindowMinimized));
 }
 
+TEST(DashboardWindow, ComesForwardAsLargeAsItWas)
+{
+    QWindow window;
+    window.showMaximized();
+    window.hide();
+    DashboardWindow::bringForward(window);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(window.windowStates().testFlag(Qt::WindowMaximized));
+}
+
+TEST(DashboardWindow, OpensInTheMiddleOfTheScreen)
+{
+    EXPECT_EQ(DashboardWindow::placeOn(kScreen), QRect(340, 130, 1240, 820));
+    EXPECT_EQ(DashboardWindow::placeOn(kScreen.translated(1920, 40)), QRect(2260, 170, 1240, 820));
+}
+
+TEST(DashboardWindow, CanBeTakenHoldOfOnASmallScreen)
+{
+    // As large as the screen, down to its smallest size, which hangs over at the right and below.
+    EXPECT_EQ(DashboardWindow::placeOn({0, 0, 1366, 800}), QRect(63, 0, 1240, 800));
+    EXPECT_EQ(DashboardWindow::placeOn({0, 28, 1024, 740}), QRect(0, 28, 1180, 780));
+}
+
 TEST(StatusPopover, HangsBelowAnItemAtTheTop)
 {
     const QRect place = StatusPopover::placeFor(QRect(1000, 0, 22, 22), StatusPopover::kSize, kScreen);

@@ -6,7 +6,6 @@ namespace {
 using namespace PlatformDesktopTests;
 using PlatformDesktop::LinuxDesktopTools;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class LinuxDesktopToolsTest : public DesktopServicesTest {
 protected:

@@ -9,7 +9,6 @@ namespace CleanerCore {
 namespace {
 
 using namespace AuditTests;
-using testing::Test;
 
 CleanResult resultOf(int cleaned, int failed)
 {

@@ -13,10 +13,8 @@
 
 namespace CleaningTests {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-using TestSupport::Fault;
 using TestSupport::FaultDuration;
 using TestSupport::FaultyFileManager;
 using TestSupport::FileManagerCall;

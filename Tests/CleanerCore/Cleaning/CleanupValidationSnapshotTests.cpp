@@ -18,8 +18,6 @@ using CleanerCore::CleaningError;
 using CleanerCore::CleaningFailure;
 using CleanerCore::CleanupValidationOptions;
 using CleanerCore::CleanupValidationSnapshot;
-using Platform::Date;
-using Platform::FileURL;
 using TestSupport::FaultyFileManager;
 using TestSupport::FileManagerCall;
 using Kind = CleaningError::Kind;

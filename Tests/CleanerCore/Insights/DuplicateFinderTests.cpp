@@ -18,7 +18,6 @@
 
 namespace CleanerCore::DuplicateTests {
 
-using Platform::FileURL;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

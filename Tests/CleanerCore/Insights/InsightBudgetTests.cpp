@@ -10,7 +10,6 @@
 
 namespace InsightTests {
 
-using TestSupport::FaultDuration;
 using TestSupport::FaultyFileManager;
 using TestSupport::FileManagerCall;
 using TestSupport::SteppingFileManager;

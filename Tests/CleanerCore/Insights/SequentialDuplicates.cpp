@@ -11,7 +11,6 @@
 
 namespace CleanerCore {
 
-using Platform::FileError;
 using Platform::hexDigest;
 using Platform::SHA256;
 

@@ -14,12 +14,9 @@ namespace InsightTests {
 
 namespace {
 
-using CleanerCore::InsightWalk;
 using CleanerCore::RootPlan;
 using CleanerCore::WalkPool;
 using CleanerCore::WalkRules;
-using CleanerCore::WalkTask;
-using Platform::FileURL;
 
 /// Looks long at the folder "late", and counts how often it is entered.
 class LateFolder final : public TestSupport::ForwardingFileManager {

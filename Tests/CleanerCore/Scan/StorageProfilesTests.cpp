@@ -15,8 +15,6 @@ namespace {
 
 using Platform::FileURL;
 using testing::ElementsAre;
-using testing::IsSupersetOf;
-using testing::UnorderedElementsAre;
 using TestSupport::kDay;
 
 /// A home of macOS.

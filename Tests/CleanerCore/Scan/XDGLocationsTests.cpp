@@ -17,10 +17,8 @@ namespace CleanerCore {
 namespace {
 
 using Platform::Environment;
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 using TestSupport::kDay;
 
 /// A home with the XDG base directories. "~" in a layout stands for its folder.

@@ -9,7 +9,6 @@
 namespace KarvelloUI {
 namespace {
 
-using CleanerCore::ScanReport;
 using RecommendationKind = StorageRecommendationKind;
 
 /// What the coach is told, with access to the home folder and half of the disk free where nothing else is said.

@@ -18,7 +18,6 @@ namespace KarvelloUI {
 namespace {
 
 using namespace StoragePermissionAdvisor;
-using CleanerCore::SkippedItem;
 using Platform::FileError;
 using Platform::FileOperation;
 using TestSupport::Fault;

@@ -50,6 +50,7 @@ TEST_F(KarvelloDialog, HasTheFocusOnCancelWhereItCanBeSeen)
 
 TEST_F(KarvelloDialog, HasTheKeyboardBeforeItIsWhollyInSight)
 {
+    m_design.setReducedMotion(false);
     beginToOpen();
     ASSERT_TRUE(isOpen());
     ASSERT_FALSE(m_dialog->property("opened").toBool());

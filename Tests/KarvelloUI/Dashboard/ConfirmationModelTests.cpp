@@ -10,7 +10,6 @@ namespace DashboardTests {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 class ConfirmationModelTest : public DashboardTest {
 protected:

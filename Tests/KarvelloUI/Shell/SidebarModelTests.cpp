@@ -6,7 +6,6 @@
 namespace DashboardTests {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class SidebarModelTest : public DashboardTest {
 protected:

@@ -11,7 +11,6 @@ namespace KarvelloUI {
 namespace {
 
 using namespace StoresTests;
-using Platform::FileURL;
 
 class CustomScanFolderResolverTest : public StoresFixture {
 protected:

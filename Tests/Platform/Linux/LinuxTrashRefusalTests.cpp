@@ -9,7 +9,6 @@
 namespace {
 
 using namespace TrashTests;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 class LinuxTrashRefusals : public InterruptedTrashTest {

@@ -3,7 +3,6 @@
 namespace {
 
 using namespace TrashTests;
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 using LinuxTrashRestoreRefusals = InterruptedTrashTest;

@@ -16,7 +16,6 @@ namespace {
 
 using namespace DefaultsTests;
 using testing::ElementsAre;
-using TestSupport::Fault;
 using TestSupport::FaultyFileManager;
 using TestSupport::FileManagerCall;
 

@@ -19,7 +19,6 @@ using Platform::FileErrorKind;
 using Platform::FileURL;
 using testing::Contains;
 using testing::IsEmpty;
-using testing::Not;
 using testing::UnorderedElementsAre;
 using TestSupport::FaultDuration;
 using TestSupport::FileManagerCall;

@@ -53,6 +53,8 @@ endfunction()
 # Much of the time of a compiler goes into headers and templates that the files of one target share.
 function(karvello_compile_together name)
   set_target_properties(${name} PROPERTIES UNITY_BUILD ${KARVELLO_TOGETHER} UNITY_BUILD_BATCH_SIZE 8)
+  # It warns of what a header keeps for itself, and takes the files for headers.
+  target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
 endfunction()
 
 # A layer: every source file below the given folders, as one static library that sees only what it links.

@@ -69,6 +69,8 @@ class Tray(mounts.MountsOfTheirOwn, ApplicationTest):
     def test_a_click_opens_the_popover_and_another_closes_it(self):
         application = self.start_hidden()
         self.open_popover(application)
+        # Two clicks that follow each other sooner are a double click.
+        time.sleep(0.6)
         self.session.click(*self.wait_for_item(application))
         application.shown.wait_without("Quick Triage")
         # A click that follows at once is taken for the one that closed it.
@@ -78,6 +80,14 @@ class Tray(mounts.MountsOfTheirOwn, ApplicationTest):
         self.session.press("Escape")
         application.shown.wait_without("Quick Triage")
         self.assertTrue(application.is_running())
+
+    def test_a_double_click_opens_the_popover(self):
+        application = self.start_hidden()
+        item = self.wait_for_item(application)
+        self.session.output("xdotool", "mousemove", *item, "click", "--repeat", 2, "--delay", 60, 1)
+        application.shown.wait_for("Quick Triage", "heading")
+        time.sleep(1)
+        self.assertTrue(application.shown.find("Quick Triage", "heading"))
 
     def choose_in_menu(self, application, place):
         """By the keyboard: assistants are not told of the menu of an item."""

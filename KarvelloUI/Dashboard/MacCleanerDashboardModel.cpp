@@ -33,6 +33,21 @@ bool showsInsights(MacDashboardSection section)
         || section == MacDashboardSection::security;
 }
 
+/// Clears the results of the session if they are overdue, unless it moves files.
+template <typename Session>
+void clearIfOverdue(Session& session, bool& isOverdue)
+{
+    if (!isOverdue) {
+        return;
+    }
+    if (session.isMoving()) {
+        session.cancelCurrentOperation();
+        return;
+    }
+    isOverdue = false;
+    session.clearScanResults();
+}
+
 } // namespace
 
 MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
@@ -45,6 +60,8 @@ MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
     , m_diskSnapshotJob(m_services.session.executor)
 {
     connect(&cleaner(), &CleanerViewModel::phaseChanged, this, &MacCleanerDashboardModel::accessChanged);
+    connect(&cleaner(), &CleanerViewModel::phaseChanged, this, &MacCleanerDashboardModel::clearOverdueScanResults);
+    connect(&insights(), &MacInsightsViewModel::phaseChanged, this, &MacCleanerDashboardModel::clearOverdueScanResults);
     connect(&homeAccess(), &HomeAccessBookmarkStore::bookmarkChanged, this, &MacCleanerDashboardModel::accessChanged);
     connect(&resourceRelief(), &MacResourceReliefViewModel::candidatesChanged, this,
         &MacCleanerDashboardModel::sanitizeScanModeForDistribution);
@@ -160,8 +177,15 @@ void MacCleanerDashboardModel::sanitizeScanModeForDistribution()
 
 void MacCleanerDashboardModel::clearScanResults()
 {
-    cleaner().clearScanResults();
-    insights().clearScanResults();
+    m_isCleanerOverdue = true;
+    m_isInsightsOverdue = true;
+    clearOverdueScanResults();
+}
+
+void MacCleanerDashboardModel::clearOverdueScanResults()
+{
+    clearIfOverdue(cleaner(), m_isCleanerOverdue);
+    clearIfOverdue(insights(), m_isInsightsOverdue);
 }
 
 void MacCleanerDashboardModel::consumePendingLaunchDestination()

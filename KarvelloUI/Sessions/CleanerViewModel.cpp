@@ -49,7 +49,7 @@ CleanerViewModel::CleanerViewModel(SessionServices services, CleanerCore::Cleanu
 
 bool CleanerViewModel::isBusy() const
 {
-    return m_phase == Phase::scanning || m_phase == Phase::cleaning || m_phase == Phase::restoring;
+    return m_phase == Phase::scanning || isMoving();
 }
 
 QString CleanerViewModel::errorText() const

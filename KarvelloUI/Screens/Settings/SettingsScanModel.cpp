@@ -51,11 +51,6 @@ QString SettingsScanModel::mode() const
     return rawText(m_dashboard.scanMode());
 }
 
-bool SettingsScanModel::isModeEnabled() const
-{
-    return !m_dashboard.cleaner().isBusy() && !m_dashboard.insights().isBusy();
-}
-
 QString SettingsScanModel::modeDisabledReason() const
 {
     return shown(m_dashboard.words().say("The mode can be changed once the current operation has ended."));

@@ -1,6 +1,7 @@
 #include "KarvelloUI/Controls/NamedValue.h"
 #include "Tests/KarvelloUI/Screens/Cleanup/CleanupFixture.h"
 
+#include <QSignalSpy>
 #include <gmock/gmock.h>
 
 namespace CleanupTests {
@@ -226,6 +227,20 @@ TEST_F(CleanupScreenModelTest, KeepsTheModeWhileTheSessionIsBusy)
     EXPECT_EQ(dashboard->scanMode(), CleanupScanMode::standard);
     screen->cancel();
     settle();
+}
+
+TEST_F(CleanupScreenModelTest, KeepsTheModeWhileTheOtherSessionIsBusy)
+{
+    const QSignalSpy changes(screen.get(), &CleanupScreenModel::canChooseScanModeChanged);
+    EXPECT_TRUE(screen->canChooseScanMode());
+    dashboard->scanInsights();
+    EXPECT_FALSE(screen->canChooseScanMode());
+    EXPECT_EQ(changes.count(), 1);
+    screen->setScanMode(QStringLiteral("aggressive"));
+    EXPECT_EQ(dashboard->scanMode(), CleanupScanMode::standard);
+    settle();
+    EXPECT_TRUE(screen->canChooseScanMode());
+    EXPECT_EQ(changes.count(), 2);
 }
 
 TEST_F(CleanupScreenModelTest, MovesNothingWithoutAConfirmation)

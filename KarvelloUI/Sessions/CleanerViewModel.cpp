@@ -57,6 +57,16 @@ QString CleanerViewModel::errorText() const
     return QString::fromStdString(m_errorMessage.value_or(""));
 }
 
+void CleanerViewModel::dismissError()
+{
+    // What the store still holds would come back with the next look at it.
+    if (m_errorMessage == m_ignored.store().lastErrorMessage()) {
+        m_ignored.store().clearError();
+    }
+    setErrorMessage(std::nullopt);
+    publish();
+}
+
 void CleanerViewModel::scanMacDefaults()
 {
     scanMac(CleanerCore::CleanupScanMode::standard, CleanerCore::cleanerCoreRealUserHomeDirectory(), {}, std::nullopt,

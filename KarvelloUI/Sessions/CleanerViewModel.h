@@ -76,6 +76,8 @@ public:
     /// The one place where a failure reaches the user.
     [[nodiscard]] const std::optional<std::string>& errorMessage() const { return m_errorMessage; }
     [[nodiscard]] QString errorText() const;
+    /// The user has read it. The same failure is told anew the next time.
+    void dismissError();
     [[nodiscard]] const ActiveScan& activeScan() const { return m_active; }
 
     void scanMacDefaults();

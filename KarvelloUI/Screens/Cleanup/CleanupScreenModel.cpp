@@ -29,12 +29,9 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
     on(&CleanerViewModel::filtersChanged, &CleanupScreenModel::filtersChanged);
     on(&CleanerViewModel::progressChanged, &CleanupScreenModel::progressChanged);
     on(&CleanerViewModel::ignoredItemsChanged, &CleanupScreenModel::takeUpIgnoredItems);
+    on(&CleanerViewModel::errorMessageChanged, &CleanupScreenModel::bannerChanged);
     connect(&session(), &CleanerViewModel::resultsChanged, this, [this] {
         m_isResultClosed = false;
-        Q_EMIT bannerChanged();
-    });
-    connect(&session(), &CleanerViewModel::errorMessageChanged, this, [this] {
-        m_isFailureClosed = false;
         Q_EMIT bannerChanged();
     });
     connect(&dashboard.insights(), &MacInsightsViewModel::phaseChanged, this,

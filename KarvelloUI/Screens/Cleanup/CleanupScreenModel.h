@@ -221,7 +221,6 @@ private:
     /// The candidate whose selection is being changed; empty for any number.
     std::string m_toggledID;
     /// The user has put these banners away, until there is another reason for them.
-    bool m_isFailureClosed = false;
     bool m_isResultClosed = true;
     bool m_isPermissionClosed = false;
     /// What the permissions kept the scan from, as the banner tells it.

@@ -306,6 +306,22 @@ TEST_F(CleanupScreenModelTest, ShowsAFailureUntilItIsClosed)
     EXPECT_EQ(banner().kind, CleanupBanner::accent);
 }
 
+TEST_F(CleanupScreenModelTest, ShowsTheSameFailureAgainThoughItWasClosed)
+{
+    scanForCleanup();
+    defaults.failAllSaves();
+    for (int time = 0; time < 2; ++time) {
+        screen->snooze(rowOf("pip"), QStringLiteral("oneDay"));
+        ASSERT_TRUE(hasBanner());
+        EXPECT_THAT(banner().text.toStdString(), StartsWith("Could not save ignored cleanup items"));
+        screen->closeBanner();
+        EXPECT_FALSE(hasBanner());
+        settle();
+        EXPECT_FALSE(hasBanner());
+    }
+    EXPECT_EQ(defaults.failureCount(), 2U);
+}
+
 TEST_F(CleanupScreenModelTest, TellsOfPermissionsThatAreMissing)
 {
     tree.add("home/Projects/lantern/build/a size=1K age=90d\n");

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 
+#include "KarvelloUI/Dashboard/ChoiceNotices.h"
 #include "KarvelloUI/Dashboard/RawText.h"
 
 #include <algorithm>
@@ -96,7 +97,7 @@ void CleanupScreenModel::setScanMode(const QString& rawValue)
 {
     const auto mode = fromRawText<CleanupScanMode>(rawValue);
     if (mode && canChooseScanMode() && *mode != m_dashboard.scanMode()) {
-        m_dashboard.preferences().setScanMode(*mode);
+        noticeUnlessStored(m_dashboard, m_dashboard.preferences().setScanMode(*mode));
     }
 }
 

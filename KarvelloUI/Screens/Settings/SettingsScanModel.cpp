@@ -1,7 +1,7 @@
 #include "KarvelloUI/Screens/Settings/SettingsScanModel.h"
 
+#include "KarvelloUI/Dashboard/ChoiceNotices.h"
 #include "KarvelloUI/Dashboard/PickerChoices.h"
-#include "KarvelloUI/Screens/Settings/SettingsNotices.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 #include "Platform/Base/LocalizedText.h"

@@ -243,6 +243,18 @@ TEST_F(CleanupScreenModelTest, KeepsTheModeWhileTheOtherSessionIsBusy)
     EXPECT_EQ(changes.count(), 2);
 }
 
+TEST_F(CleanupScreenModelTest, SaysWhenAnotherModeCouldNotBeStored)
+{
+    scanForCleanup();
+    defaults.failAllSaves();
+    screen->setScanMode(QStringLiteral("aggressive"));
+    EXPECT_EQ(defaults.failureCount(), 1U);
+    ASSERT_TRUE(dashboard->notice());
+    EXPECT_EQ(dashboard->notice()->title.toStdString(), "Setting not saved");
+    EXPECT_EQ(screen->scanMode(), QStringLiteral("standard"));
+    EXPECT_EQ(screen->face(), Face::List);
+}
+
 TEST_F(CleanupScreenModelTest, MovesNothingWithoutAConfirmation)
 {
     scanForCleanup();

@@ -6,6 +6,7 @@
 #include "KarvelloUI/Stores/KarvelloDashboardLaunchRequestStore.h"
 
 #include <QMetaObject>
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
@@ -237,9 +238,14 @@ void MacCleanerDashboardModel::requestHomeAccess(std::function<void(bool granted
             .prompt = copy.homeAccessPanelPrompt(),
             .directory = m_services.homeDirectory,
         },
-        [this, answered = std::move(answered)](const std::optional<Platform::FileURL>& picked) {
+        // The dialog may be open for longer than the dashboard.
+        [model = QPointer(this), answered = std::move(answered)](const std::optional<Platform::FileURL>& picked) {
+            if (!model) {
+                return;
+            }
+            const auto& session = model->services().session;
             const bool isGranted =
-                picked && homeAccess().setBookmark(*picked, m_services.session.fileManager, m_services.session.now());
+                picked && model->homeAccess().setBookmark(*picked, session.fileManager, session.now());
             if (answered) {
                 answered(isGranted);
             }

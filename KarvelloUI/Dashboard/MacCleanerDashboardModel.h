@@ -81,7 +81,8 @@ public:
     /// both sessions go, those of a clean or a restore that runs once it has come to its end.
     void scanCleanup();
     void scanInsights();
-    /// Asks for the home folder with the desktop's dialog; `granted` tells whether it is granted now.
+    /// Asks for the home folder with the desktop's dialog; `granted` tells whether it is granted now. Nobody is told once
+    /// the dashboard has gone.
     void requestHomeAccess(std::function<void(bool granted)> answered = {});
 
     [[nodiscard]] const DiskCapacitySnapshot& diskSnapshot() const { return m_diskSnapshot; }

@@ -116,7 +116,7 @@ void KarvelloMacAppDelegate::openDashboardWindow(Destination destination)
             return;
         }
         window->installEventFilter(this);
-        m_dashboard->start();
+        m_dashboard->dashboardLifecycle();
     }
     DashboardWindow::bringForward(*window);
 }

@@ -74,15 +74,16 @@ MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
     // The observer may be called on any thread.
     m_launchRequests = m_services.defaults.observe([this](std::span<const std::string> keys) {
         if (std::ranges::find(keys, KarvelloDashboardLaunchRequestStore::requestIDDefaultsKey) != keys.end()) {
-            QMetaObject::invokeMethod(this, [this] { consumePendingLaunchDestination(); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { consumePendingDashboardLaunchDestination(); }, Qt::QueuedConnection);
         }
     });
 }
 
-void MacCleanerDashboardModel::start()
+void MacCleanerDashboardModel::dashboardLifecycle()
 {
     sanitizeScanModeForDistribution();
-    consumePendingLaunchDestination();
+    consumePendingDashboardLaunchDestination();
     refreshDiskSnapshot();
     insights().refreshSystemSnapshot();
 }
@@ -98,7 +99,7 @@ std::vector<CleanerCore::CleanupAuditEntry> MacCleanerDashboardModel::auditEntri
 void MacCleanerDashboardModel::setWindowVisible(bool isVisible)
 {
     m_isWindowVisible = isVisible;
-    updateSystemSnapshotPolling();
+    refreshSystemSnapshotWhileVisible();
 }
 
 QString MacCleanerDashboardModel::selectedSectionText() const
@@ -112,7 +113,7 @@ void MacCleanerDashboardModel::showSection(MacDashboardSection section)
         return;
     }
     m_selectedSection = section;
-    updateSystemSnapshotPolling();
+    refreshSystemSnapshotWhileVisible();
     if (isInSidebar(section)) {
         prepare(section);
     }
@@ -139,7 +140,7 @@ void MacCleanerDashboardModel::prepare(MacDashboardSection section)
     }
 }
 
-void MacCleanerDashboardModel::updateSystemSnapshotPolling()
+void MacCleanerDashboardModel::refreshSystemSnapshotWhileVisible()
 {
     if (!m_isWindowVisible || !showsMachine(m_selectedSection)) {
         m_systemSnapshotTimer.stop();
@@ -189,7 +190,7 @@ void MacCleanerDashboardModel::clearOverdueScanResults()
     clearIfOverdue(insights(), m_isInsightsOverdue);
 }
 
-void MacCleanerDashboardModel::consumePendingLaunchDestination()
+void MacCleanerDashboardModel::consumePendingDashboardLaunchDestination()
 {
     if (const auto destination = KarvelloDashboardLaunchRequestStore::consumePending(m_services.defaults)) {
         selectSection(sectionOf(*destination));

@@ -56,7 +56,7 @@ public:
 
     /// The first appearance of the window: a stored mode that the build does not offer is given up, a waiting launch
     /// request is taken, disk and machine are looked at.
-    void start();
+    void dashboardLifecycle();
     /// Nothing is polled for a window that nobody sees.
     void setWindowVisible(bool isVisible);
 
@@ -139,7 +139,7 @@ Q_SIGNALS:
 
 private:
     void sanitizeScanModeForDistribution();
-    void consumePendingLaunchDestination();
+    void consumePendingDashboardLaunchDestination();
     /// A session that moves files is asked to stop, and its results go when it has: dropped at once, what it has moved would
     /// be in no log.
     void clearScanResults();
@@ -147,7 +147,7 @@ private:
     /// What to scan with, possibly no grant; nothing where a scan needs one that there is not.
     [[nodiscard]] std::optional<std::optional<ResolvedHomeAccessBookmark>> grantForScan();
     void prepare(MacDashboardSection section);
-    void updateSystemSnapshotPolling();
+    void refreshSystemSnapshotWhileVisible();
     void openParent(const Platform::FileURL& item);
     [[nodiscard]] bool isStanding(const Platform::FileURL& item) const;
 

@@ -23,7 +23,7 @@ TEST_F(MacCleanerDashboardModelTest, GivesUpAStoredModeThatTheBuildDoesNotOffer)
     isDirectDistribution = false;
     ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
     restart();
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     EXPECT_EQ(preferences->scanMode(), CleanupScanMode::standard);
     EXPECT_EQ(defaults.string("karvello.macScanMode"), "standard");
@@ -32,7 +32,7 @@ TEST_F(MacCleanerDashboardModelTest, GivesUpAStoredModeThatTheBuildDoesNotOffer)
 TEST_F(MacCleanerDashboardModelTest, GivesUpAModeOnceItIsNotOfferedAnyMore)
 {
     ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     ASSERT_EQ(preferences->scanMode(), CleanupScanMode::direct);
     isDirectDistribution = false;
@@ -45,7 +45,7 @@ TEST_F(MacCleanerDashboardModelTest, GivesUpAModeOnceItIsNotOfferedAnyMore)
 TEST_F(MacCleanerDashboardModelTest, KeepsADirectModeWhereTheBuildOffersIt)
 {
     ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     EXPECT_EQ(preferences->scanMode(), CleanupScanMode::direct);
 }
@@ -68,7 +68,7 @@ TEST_F(MacCleanerDashboardModelTest, TakesALaunchRequestFromBeforeItStarted)
     ASSERT_TRUE(
         KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::memoryReview, defaults));
     restart();
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::memoryAnalysis);
     EXPECT_FALSE(KarvelloDashboardLaunchRequestStore::pendingRequest(defaults));
@@ -76,7 +76,7 @@ TEST_F(MacCleanerDashboardModelTest, TakesALaunchRequestFromBeforeItStarted)
 
 TEST_F(MacCleanerDashboardModelTest, FollowsALaunchRequestWhileItIsOpen)
 {
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     ASSERT_TRUE(
         KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::cleanupReview, defaults));
     settle();
@@ -85,7 +85,7 @@ TEST_F(MacCleanerDashboardModelTest, FollowsALaunchRequestWhileItIsOpen)
 
 TEST_F(MacCleanerDashboardModelTest, FollowsARepeatedRequestForTheSameSection)
 {
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     ASSERT_TRUE(
         KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::systemReview, defaults));
     settle();
@@ -99,14 +99,14 @@ TEST_F(MacCleanerDashboardModelTest, FollowsARepeatedRequestForTheSameSection)
 TEST_F(MacCleanerDashboardModelTest, StaysWhereItIsWithoutALaunchRequest)
 {
     dashboard->selectSection(MacDashboardSection::settings);
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::settings);
 }
 
 TEST_F(MacCleanerDashboardModelTest, StaysWhereItIsWithARequestThatLeadsNowhere)
 {
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     dashboard->selectSection(MacDashboardSection::settings);
     ASSERT_TRUE(defaults.set(KarvelloDashboardLaunchRequestStore::destinationDefaultsKey, std::string("nowhere")));
     ASSERT_TRUE(defaults.set(KarvelloDashboardLaunchRequestStore::requestIDDefaultsKey, std::string("1")));

@@ -31,6 +31,7 @@ Item {
 
     KarvelloPicker {
         id: modes
+        objectName: "modes"
         choices: control.screen.scanModes
         currentValue: control.screen.scanMode
         accessibleName: control.screen.texts.scanMode

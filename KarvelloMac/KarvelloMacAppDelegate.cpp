@@ -123,7 +123,7 @@ void KarvelloMacAppDelegate::openDashboardWindow(Destination destination)
             &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
         connect(&m_dashboard->resourceRelief(), &MacResourceReliefViewModel::requestingQuitChanged, this,
             &KarvelloMacAppDelegate::quitWhenNothingMoves, Qt::QueuedConnection);
-        m_dashboard->start();
+        m_dashboard->dashboardLifecycle();
     }
     if (!isStored) {
         m_dashboard->showDestination(destination);

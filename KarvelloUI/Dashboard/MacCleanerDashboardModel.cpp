@@ -6,6 +6,7 @@
 #include "KarvelloUI/Stores/KarvelloDashboardLaunchRequestStore.h"
 
 #include <QMetaObject>
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
@@ -33,6 +34,21 @@ bool showsInsights(MacDashboardSection section)
         || section == MacDashboardSection::security;
 }
 
+/// Clears the results of the session if they are overdue, unless it moves files.
+template <typename Session>
+void clearIfOverdue(Session& session, bool& isOverdue)
+{
+    if (!isOverdue) {
+        return;
+    }
+    if (session.isMoving()) {
+        session.cancelCurrentOperation();
+        return;
+    }
+    isOverdue = false;
+    session.clearScanResults();
+}
+
 } // namespace
 
 MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
@@ -45,6 +61,8 @@ MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
     , m_diskSnapshotJob(m_services.session.executor)
 {
     connect(&cleaner(), &CleanerViewModel::phaseChanged, this, &MacCleanerDashboardModel::accessChanged);
+    connect(&cleaner(), &CleanerViewModel::phaseChanged, this, &MacCleanerDashboardModel::clearOverdueScanResults);
+    connect(&insights(), &MacInsightsViewModel::phaseChanged, this, &MacCleanerDashboardModel::clearOverdueScanResults);
     connect(&homeAccess(), &HomeAccessBookmarkStore::bookmarkChanged, this, &MacCleanerDashboardModel::accessChanged);
     connect(&resourceRelief(), &MacResourceReliefViewModel::candidatesChanged, this,
         &MacCleanerDashboardModel::sanitizeScanModeForDistribution);
@@ -56,15 +74,16 @@ MacCleanerDashboardModel::MacCleanerDashboardModel(DashboardServices services,
     // The observer may be called on any thread.
     m_launchRequests = m_services.defaults.observe([this](std::span<const std::string> keys) {
         if (std::ranges::find(keys, KarvelloDashboardLaunchRequestStore::requestIDDefaultsKey) != keys.end()) {
-            QMetaObject::invokeMethod(this, [this] { consumePendingLaunchDestination(); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { consumePendingDashboardLaunchDestination(); }, Qt::QueuedConnection);
         }
     });
 }
 
-void MacCleanerDashboardModel::start()
+void MacCleanerDashboardModel::dashboardLifecycle()
 {
     sanitizeScanModeForDistribution();
-    consumePendingLaunchDestination();
+    consumePendingDashboardLaunchDestination();
     refreshDiskSnapshot();
     insights().refreshSystemSnapshot();
 }
@@ -80,7 +99,7 @@ std::vector<CleanerCore::CleanupAuditEntry> MacCleanerDashboardModel::auditEntri
 void MacCleanerDashboardModel::setWindowVisible(bool isVisible)
 {
     m_isWindowVisible = isVisible;
-    updateSystemSnapshotPolling();
+    refreshSystemSnapshotWhileVisible();
 }
 
 QString MacCleanerDashboardModel::selectedSectionText() const
@@ -94,7 +113,7 @@ void MacCleanerDashboardModel::showSection(MacDashboardSection section)
         return;
     }
     m_selectedSection = section;
-    updateSystemSnapshotPolling();
+    refreshSystemSnapshotWhileVisible();
     if (isInSidebar(section)) {
         prepare(section);
     }
@@ -121,7 +140,7 @@ void MacCleanerDashboardModel::prepare(MacDashboardSection section)
     }
 }
 
-void MacCleanerDashboardModel::updateSystemSnapshotPolling()
+void MacCleanerDashboardModel::refreshSystemSnapshotWhileVisible()
 {
     if (!m_isWindowVisible || !showsMachine(m_selectedSection)) {
         m_systemSnapshotTimer.stop();
@@ -160,11 +179,18 @@ void MacCleanerDashboardModel::sanitizeScanModeForDistribution()
 
 void MacCleanerDashboardModel::clearScanResults()
 {
-    cleaner().clearScanResults();
-    insights().clearScanResults();
+    m_isCleanerOverdue = true;
+    m_isInsightsOverdue = true;
+    clearOverdueScanResults();
 }
 
-void MacCleanerDashboardModel::consumePendingLaunchDestination()
+void MacCleanerDashboardModel::clearOverdueScanResults()
+{
+    clearIfOverdue(cleaner(), m_isCleanerOverdue);
+    clearIfOverdue(insights(), m_isInsightsOverdue);
+}
+
+void MacCleanerDashboardModel::consumePendingDashboardLaunchDestination()
 {
     if (const auto destination = KarvelloDashboardLaunchRequestStore::consumePending(m_services.defaults)) {
         showDestination(*destination);
@@ -218,9 +244,14 @@ void MacCleanerDashboardModel::requestHomeAccess(std::function<void(bool granted
             .prompt = copy.homeAccessPanelPrompt(),
             .directory = m_services.homeDirectory,
         },
-        [this, answered = std::move(answered)](const std::optional<Platform::FileURL>& picked) {
+        // The dialog may be open for longer than the dashboard.
+        [model = QPointer(this), answered = std::move(answered)](const std::optional<Platform::FileURL>& picked) {
+            if (!model) {
+                return;
+            }
+            const auto& session = model->services().session;
             const bool isGranted =
-                picked && homeAccess().setBookmark(*picked, m_services.session.fileManager, m_services.session.now());
+                picked && model->homeAccess().setBookmark(*picked, session.fileManager, session.now());
             if (answered) {
                 answered(isGranted);
             }

@@ -57,7 +57,7 @@ public:
 
     /// The first appearance of the window: a stored mode that the build does not offer is given up, a waiting launch
     /// request is taken, disk and machine are looked at.
-    void start();
+    void dashboardLifecycle();
     /// The section that a launch request asks for.
     void showDestination(KarvelloDashboardLaunchDestination destination);
     /// Nothing is polled for a window that nobody sees.
@@ -77,12 +77,15 @@ public:
     [[nodiscard]] bool canStartCleanupScan() const;
     /// The mode that scans use.
     [[nodiscard]] CleanerCore::CleanupScanMode scanMode() const;
+    /// Another mode clears the results of both sessions: neither may be at work.
+    [[nodiscard]] bool canChooseScanMode() const { return !cleaner().isBusy() && !insights().isBusy(); }
 
     /// Nothing happens while the session is busy. Without access to the home there is nothing to scan, and the results of
-    /// both sessions go.
+    /// both sessions go, those of a clean or a restore that runs once it has come to its end.
     void scanCleanup();
     void scanInsights();
-    /// Asks for the home folder with the desktop's dialog; `granted` tells whether it is granted now.
+    /// Asks for the home folder with the desktop's dialog; `granted` tells whether it is granted now. Nobody is told once
+    /// the dashboard has gone.
     void requestHomeAccess(std::function<void(bool granted)> answered = {});
 
     [[nodiscard]] const DiskCapacitySnapshot& diskSnapshot() const { return m_diskSnapshot; }
@@ -139,12 +142,15 @@ Q_SIGNALS:
 
 private:
     void sanitizeScanModeForDistribution();
-    void consumePendingLaunchDestination();
+    void consumePendingDashboardLaunchDestination();
+    /// A session that moves files is asked to stop, and its results go when it has: dropped at once, what it has moved would
+    /// be in no log.
     void clearScanResults();
+    void clearOverdueScanResults();
     /// What to scan with, possibly no grant; nothing where a scan needs one that there is not.
     [[nodiscard]] std::optional<std::optional<ResolvedHomeAccessBookmark>> grantForScan();
     void prepare(MacDashboardSection section);
-    void updateSystemSnapshotPolling();
+    void refreshSystemSnapshotWhileVisible();
     void openParent(const Platform::FileURL& item);
     [[nodiscard]] bool isStanding(const Platform::FileURL& item) const;
 
@@ -155,6 +161,9 @@ private:
 
     MacDashboardSection m_selectedSection = MacDashboardSection::dashboard;
     bool m_isWindowVisible = false;
+    /// The results of the session are to go.
+    bool m_isCleanerOverdue = false;
+    bool m_isInsightsOverdue = false;
     DiskCapacitySnapshot m_diskSnapshot;
     std::optional<CandidateSelectionSnapshot> m_pendingCleanSelection;
     CleanerCore::CleanupSelectionPreview m_pendingCleanPreview;

@@ -49,12 +49,22 @@ CleanerViewModel::CleanerViewModel(SessionServices services, CleanerCore::Cleanu
 
 bool CleanerViewModel::isBusy() const
 {
-    return m_phase == Phase::scanning || m_phase == Phase::cleaning || m_phase == Phase::restoring;
+    return m_phase == Phase::scanning || isMoving();
 }
 
 QString CleanerViewModel::errorText() const
 {
     return QString::fromStdString(m_errorMessage.value_or(""));
+}
+
+void CleanerViewModel::dismissError()
+{
+    // What the store still holds would come back with the next look at it.
+    if (m_errorMessage == m_ignored.store().lastErrorMessage()) {
+        m_ignored.store().clearError();
+    }
+    setErrorMessage(std::nullopt);
+    publish();
 }
 
 void CleanerViewModel::scanMacDefaults()

@@ -57,6 +57,8 @@ public:
 
     [[nodiscard]] Phase phase() const { return m_phase; }
     [[nodiscard]] bool isBusy() const;
+    /// A clean or a restore runs. What it has done by then is written down only if it comes to its end.
+    [[nodiscard]] bool isMoving() const { return m_phase == Phase::cleaning || m_phase == Phase::restoring; }
     /// Without the ignored candidates.
     [[nodiscard]] const CleanerCore::ScanReport& report() const { return m_review.report(); }
     [[nodiscard]] const std::shared_ptr<const CandidateIndex>& index() const { return m_index; }
@@ -74,6 +76,8 @@ public:
     /// The one place where a failure reaches the user.
     [[nodiscard]] const std::optional<std::string>& errorMessage() const { return m_errorMessage; }
     [[nodiscard]] QString errorText() const;
+    /// The user has read it. The same failure is told anew the next time.
+    void dismissError();
     [[nodiscard]] const ActiveScan& activeScan() const { return m_active; }
 
     void scanMacDefaults();

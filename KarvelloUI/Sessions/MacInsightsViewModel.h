@@ -63,7 +63,9 @@ public:
         const SystemMetricHistoryStore& systemMetricHistoryStore, QObject* parent = nullptr);
 
     [[nodiscard]] Phase phase() const { return m_phase; }
-    [[nodiscard]] bool isBusy() const { return m_phase == Phase::scanning || m_phase == Phase::cleaning; }
+    [[nodiscard]] bool isBusy() const { return m_phase == Phase::scanning || isMoving(); }
+    /// A clean runs. What it has done by then is written down only if it comes to its end.
+    [[nodiscard]] bool isMoving() const { return m_phase == Phase::cleaning; }
     [[nodiscard]] const CleanerCore::MacStorageInsightReport& report() const { return m_review.report(); }
     [[nodiscard]] const std::shared_ptr<const InsightIndex>& index() const { return m_review.index(); }
     [[nodiscard]] const std::optional<CleanerCore::CleanResult>& lastCleanResult() const { return m_lastCleanResult; }

@@ -40,6 +40,7 @@ void MacInsightsViewModel::cleanSelected(MacInsightFileSection section, std::opt
     }
     const auto phaseBefore = m_phase;
     setPhase(Phase::cleaning);
+    setErrorMessage(std::nullopt);
     m_job.start<Eligibility>(
         [services = m_services, files = std::move(files), index = m_review.index(), scanned = m_active,
             mode = m_cleaningMode,

@@ -221,8 +221,8 @@ TEST_F(SingleInstanceTest, AnActivationMayBeItsEnd)
 
 TEST(SingleInstanceSettings, ComeFromTheSession)
 {
-    using Variables = std::map<std::string, std::string, std::less<>>;
-    const auto tokenOf = [](const Variables& variables) {
+    using Settings = std::map<std::string, std::string, std::less<>>;
+    const auto tokenOf = [](const Settings& variables) {
         return SingleInstance::Settings::current(Platform::Environment(variables)).token;
     };
     EXPECT_EQ(tokenOf({}), "");

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 
+#include "KarvelloUI/Dashboard/ChoiceNotices.h"
 #include "KarvelloUI/Dashboard/RawText.h"
 
 #include <algorithm>
@@ -22,20 +23,20 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
     // Who has a model can import its screen.
     const auto on = [this](auto signal, auto slot) { connect(&session(), signal, this, slot); };
     on(&CleanerViewModel::phaseChanged, &CleanupScreenModel::takeUpPhase);
+    on(&CleanerViewModel::phaseChanged, &CleanupScreenModel::canChooseScanModeChanged);
     on(&CleanerViewModel::reportChanged, &CleanupScreenModel::takeUpReport);
     on(&CleanerViewModel::selectionChanged, &CleanupScreenModel::takeUpSelection);
     on(&CleanerViewModel::filtersChanged, &CleanupScreenModel::showList);
     on(&CleanerViewModel::filtersChanged, &CleanupScreenModel::filtersChanged);
     on(&CleanerViewModel::progressChanged, &CleanupScreenModel::progressChanged);
     on(&CleanerViewModel::ignoredItemsChanged, &CleanupScreenModel::takeUpIgnoredItems);
+    on(&CleanerViewModel::errorMessageChanged, &CleanupScreenModel::bannerChanged);
     connect(&session(), &CleanerViewModel::resultsChanged, this, [this] {
         m_isResultClosed = false;
         Q_EMIT bannerChanged();
     });
-    connect(&session(), &CleanerViewModel::errorMessageChanged, this, [this] {
-        m_isFailureClosed = false;
-        Q_EMIT bannerChanged();
-    });
+    connect(&dashboard.insights(), &MacInsightsViewModel::phaseChanged, this,
+        &CleanupScreenModel::canChooseScanModeChanged);
     connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &CleanupScreenModel::faceChanged);
     connect(
         &dashboard.preferences(), &DashboardPreferences::languageChanged, this, &CleanupScreenModel::takeUpLanguage);
@@ -81,11 +82,6 @@ QString CleanupScreenModel::faceName() const
     return {};
 }
 
-bool CleanupScreenModel::isMoving() const
-{
-    return session().phase() == Phase::cleaning || session().phase() == Phase::restoring;
-}
-
 QString CleanupScreenModel::scanText() const
 {
     const bool hasReport = session().phase() != Phase::idle && session().phase() != Phase::scanning;
@@ -100,8 +96,8 @@ QString CleanupScreenModel::scanMode() const
 void CleanupScreenModel::setScanMode(const QString& rawValue)
 {
     const auto mode = fromRawText<CleanupScanMode>(rawValue);
-    if (mode && !isBusy() && *mode != m_dashboard.scanMode()) {
-        m_dashboard.preferences().setScanMode(*mode);
+    if (mode && canChooseScanMode() && *mode != m_dashboard.scanMode()) {
+        noticeUnlessStored(m_dashboard, m_dashboard.preferences().setScanMode(*mode));
     }
 }
 

@@ -39,6 +39,9 @@ class CleanupScreenModel final : public QObject {
     Q_PROPERTY(QVariantList scanModes READ scanModes NOTIFY textsChanged FINAL)
     Q_PROPERTY(QString scanMode READ scanMode WRITE setScanMode NOTIFY scanModeChanged FINAL)
 
+    /// Not while a session is at work.
+    Q_PROPERTY(bool canChooseScanMode READ canChooseScanMode NOTIFY canChooseScanModeChanged FINAL)
+
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY filtersChanged FINAL)
     /// Each choice has the raw value of a category and so on, empty for all.
     Q_PROPERTY(QVariantList categories READ categories NOTIFY choicesChanged FINAL)
@@ -92,7 +95,7 @@ public:
 
     [[nodiscard]] Face face() const;
     [[nodiscard]] QString faceName() const;
-    [[nodiscard]] bool isMoving() const;
+    [[nodiscard]] bool isMoving() const { return session().isMoving(); }
     [[nodiscard]] bool isBusy() const { return session().isBusy(); }
     [[nodiscard]] QVariantMap texts() const;
     [[nodiscard]] QVariantMap placeholder() const;
@@ -100,8 +103,9 @@ public:
     [[nodiscard]] bool canScan() const { return m_dashboard.canStartCleanupScan(); }
     [[nodiscard]] QVariantList scanModes() const;
     [[nodiscard]] QString scanMode() const;
-    /// Another mode clears the results.
+    /// Another mode clears the results of both sessions.
     void setScanMode(const QString& rawValue);
+    [[nodiscard]] bool canChooseScanMode() const { return m_dashboard.canChooseScanMode(); }
 
     [[nodiscard]] QString searchText() const { return shown(session().filters().searchText); }
     void setSearchText(const QString& text);
@@ -185,6 +189,7 @@ Q_SIGNALS:
     void faceChanged();
     void textsChanged();
     void scanModeChanged();
+    void canChooseScanModeChanged();
     void filtersChanged();
     void choicesChanged();
     void listChanged();
@@ -216,7 +221,6 @@ private:
     /// The candidate whose selection is being changed; empty for any number.
     std::string m_toggledID;
     /// The user has put these banners away, until there is another reason for them.
-    bool m_isFailureClosed = false;
     bool m_isResultClosed = true;
     bool m_isPermissionClosed = false;
     /// What the permissions kept the scan from, as the banner tells it.

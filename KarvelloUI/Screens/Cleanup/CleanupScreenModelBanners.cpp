@@ -10,7 +10,7 @@ using Phase = CleanerViewModel::Phase;
 CleanupScreenModel::Notice CleanupScreenModel::notice() const
 {
     const auto shownFace = face();
-    if (session().errorMessage() && !m_isFailureClosed) {
+    if (session().errorMessage()) {
         return Notice::failure;
     }
     if (isMoving() || shownFace == Face::Scanning) {
@@ -77,8 +77,8 @@ void CleanupScreenModel::closeBanner()
 {
     switch (notice()) {
     case Notice::failure:
-        m_isFailureClosed = true;
-        break;
+        session().dismissError();
+        return;
     case Notice::result:
         m_isResultClosed = true;
         break;

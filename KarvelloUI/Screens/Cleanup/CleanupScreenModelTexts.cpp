@@ -52,6 +52,7 @@ QVariantMap CleanupScreenModel::texts() const
         {"scanModeHint",
             copy.scanModeAccessibilityHint(m_dashboard.accessPolicy().supportsDirectDistributionScans)
                 + copy.text(" ", " ") + copy.say("Another mode clears the results on show.")},
+        {"scanModeDisabledReason", copy.say("The mode can be changed once the current operation has ended.")},
         {"search", copy.candidateListSearchPrompt()},
         {"clearSearch", copy.say("Clear the search")},
         {"category", copy.candidateListCategoryFilterTitle()},

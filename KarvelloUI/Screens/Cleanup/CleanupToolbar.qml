@@ -31,16 +31,18 @@ Item {
 
     KarvelloPicker {
         id: modes
+        objectName: "modes"
         choices: control.screen.scanModes
         currentValue: control.screen.scanMode
         accessibleName: control.screen.texts.scanMode
-        enabled: !control.screen.isBusy
+        enabled: control.screen.canChooseScanMode
+        disabledReason: control.screen.texts.scanModeDisabledReason
         maximumWidth: 380
         onPicked: value => control.screen.scanMode = value
 
         KarvelloHint {
             target: modes
-            text: control.screen.texts.scanModeHint
+            text: modes.enabled ? control.screen.texts.scanModeHint : ""
         }
     }
     KarvelloTextField {

@@ -22,10 +22,7 @@ EvidenceScreenModel::EvidenceScreenModel(MacCleanerDashboardModel& dashboard, QO
         Q_EMIT wordsChanged();
         Q_EMIT workChanged();
     });
-    connect(&dashboard.cleaner(), &CleanerViewModel::errorMessageChanged, this, [this] {
-        m_isErrorClosed = false;
-        Q_EMIT errorChanged();
-    });
+    connect(&dashboard.cleaner(), &CleanerViewModel::errorMessageChanged, this, &EvidenceScreenModel::errorChanged);
     connect(&dashboard.cleaner(), &CleanerViewModel::phaseChanged, this, &EvidenceScreenModel::workChanged);
     connect(&dashboard.cleaner(), &CleanerViewModel::progressChanged, this, &EvidenceScreenModel::workChanged);
 }
@@ -65,9 +62,7 @@ QString EvidenceScreenModel::cancelTitle() const
 
 QString EvidenceScreenModel::errorText() const
 {
-    return m_isErrorClosed
-        ? QString()
-        : shownText(m_dashboard.words().skippedReason(m_dashboard.cleaner().errorMessage().value_or("")));
+    return shownText(m_dashboard.words().skippedReason(m_dashboard.cleaner().errorMessage().value_or("")));
 }
 
 QString EvidenceScreenModel::workTitle() const
@@ -101,8 +96,7 @@ QString EvidenceScreenModel::workProgressText() const
 
 void EvidenceScreenModel::closeError()
 {
-    m_isErrorClosed = true;
-    Q_EMIT errorChanged();
+    m_dashboard.cleaner().dismissError();
 }
 
 void EvidenceScreenModel::cancelWork()

@@ -25,7 +25,7 @@ class EvidenceScreenModel final : public QObject {
     Q_PROPERTY(QString notice READ notice NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString closeName READ closeName NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString cancelTitle READ cancelTitle NOTIFY wordsChanged FINAL)
-    /// What went wrong last; empty once it was closed.
+    /// What went wrong last; empty once it was closed, here or elsewhere.
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorChanged FINAL)
     /// The clean or the restore that runs; empty while none does.
     Q_PROPERTY(QString workTitle READ workTitle NOTIFY workChanged FINAL)
@@ -73,7 +73,6 @@ Q_SIGNALS:
 
 private:
     MacCleanerDashboardModel& m_dashboard;
-    bool m_isErrorClosed = false;
     RestoreCenterModel m_restoreCenter;
     CleanupHistoryModel m_history;
     ImpactReportModel m_impactReport;

@@ -2,6 +2,8 @@
 
 #include "KarvelloUI/Sessions/ShownText.h"
 
+#include <QPointer>
+
 namespace KarvelloUI {
 
 OnboardingScreenModel::OnboardingScreenModel(MacCleanerDashboardModel& dashboard, QObject* parent)
@@ -122,9 +124,10 @@ void OnboardingScreenModel::begin()
         completeAndScan();
         return;
     }
-    m_dashboard.requestHomeAccess([this](bool isGranted) {
-        if (isGranted) {
-            completeAndScan();
+    // The dialog may be open for longer than the screen.
+    m_dashboard.requestHomeAccess([model = QPointer(this)](bool isGranted) {
+        if (isGranted && model) {
+            model->completeAndScan();
         }
     });
 }

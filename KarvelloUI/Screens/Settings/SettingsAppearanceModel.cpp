@@ -1,8 +1,8 @@
 #include "KarvelloUI/Screens/Settings/SettingsAppearanceModel.h"
 
 #include "KarvelloUI/Copy/KarvelloLocalizer.h"
+#include "KarvelloUI/Dashboard/ChoiceNotices.h"
 #include "KarvelloUI/Dashboard/PickerChoices.h"
-#include "KarvelloUI/Screens/Settings/SettingsNotices.h"
 
 namespace KarvelloUI {
 

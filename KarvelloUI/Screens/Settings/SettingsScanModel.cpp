@@ -1,7 +1,7 @@
 #include "KarvelloUI/Screens/Settings/SettingsScanModel.h"
 
+#include "KarvelloUI/Dashboard/ChoiceNotices.h"
 #include "KarvelloUI/Dashboard/PickerChoices.h"
-#include "KarvelloUI/Screens/Settings/SettingsNotices.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 #include "Platform/Base/HomePathAbbreviation.h"
 #include "Platform/Base/LocalizedText.h"
@@ -49,11 +49,6 @@ QVariantList SettingsScanModel::modes() const
 QString SettingsScanModel::mode() const
 {
     return rawText(m_dashboard.scanMode());
-}
-
-bool SettingsScanModel::isModeEnabled() const
-{
-    return !m_dashboard.cleaner().isBusy() && !m_dashboard.insights().isBusy();
 }
 
 QString SettingsScanModel::modeDisabledReason() const

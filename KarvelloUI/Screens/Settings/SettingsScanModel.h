@@ -43,7 +43,7 @@ public:
     [[nodiscard]] QString modeText() const;
     [[nodiscard]] QVariantList modes() const;
     [[nodiscard]] QString mode() const;
-    [[nodiscard]] bool isModeEnabled() const;
+    [[nodiscard]] bool isModeEnabled() const { return m_dashboard.canChooseScanMode(); }
     [[nodiscard]] QString modeDisabledReason() const;
     [[nodiscard]] QString accessTitle() const;
     [[nodiscard]] QString accessText() const;

@@ -23,16 +23,29 @@ TEST_F(MacCleanerDashboardModelTest, GivesUpAStoredModeThatTheBuildDoesNotOffer)
     isDirectDistribution = false;
     ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
     restart();
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     EXPECT_EQ(preferences->scanMode(), CleanupScanMode::standard);
     EXPECT_EQ(defaults.string("karvello.macScanMode"), "standard");
 }
 
+TEST_F(MacCleanerDashboardModelTest, GivesUpAModeOnceItIsNotOfferedAnyMore)
+{
+    ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
+    dashboard->dashboardLifecycle();
+    settle();
+    ASSERT_EQ(preferences->scanMode(), CleanupScanMode::direct);
+    isDirectDistribution = false;
+    capability.canRequestQuitOtherApplications = true;
+    dashboard->resourceRelief().refreshCandidates();
+    settle();
+    EXPECT_EQ(preferences->scanMode(), CleanupScanMode::standard);
+}
+
 TEST_F(MacCleanerDashboardModelTest, KeepsADirectModeWhereTheBuildOffersIt)
 {
     ASSERT_TRUE(preferences->setScanMode(CleanupScanMode::direct));
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     EXPECT_EQ(preferences->scanMode(), CleanupScanMode::direct);
 }
@@ -55,7 +68,7 @@ TEST_F(MacCleanerDashboardModelTest, TakesALaunchRequestFromBeforeItStarted)
     ASSERT_TRUE(
         KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::memoryReview, defaults));
     restart();
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     settle();
     EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::memoryAnalysis);
     EXPECT_FALSE(KarvelloDashboardLaunchRequestStore::pendingRequest(defaults));
@@ -63,7 +76,7 @@ TEST_F(MacCleanerDashboardModelTest, TakesALaunchRequestFromBeforeItStarted)
 
 TEST_F(MacCleanerDashboardModelTest, FollowsALaunchRequestWhileItIsOpen)
 {
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     ASSERT_TRUE(
         KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::cleanupReview, defaults));
     settle();
@@ -72,7 +85,7 @@ TEST_F(MacCleanerDashboardModelTest, FollowsALaunchRequestWhileItIsOpen)
 
 TEST_F(MacCleanerDashboardModelTest, FollowsARepeatedRequestForTheSameSection)
 {
-    dashboard->start();
+    dashboard->dashboardLifecycle();
     ASSERT_TRUE(
         KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::systemReview, defaults));
     settle();
@@ -81,6 +94,56 @@ TEST_F(MacCleanerDashboardModelTest, FollowsARepeatedRequestForTheSameSection)
         KarvelloDashboardLaunchRequestStore::request(KarvelloDashboardLaunchDestination::systemReview, defaults));
     settle();
     EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::system);
+}
+
+TEST_F(MacCleanerDashboardModelTest, StaysWhereItIsWithoutALaunchRequest)
+{
+    dashboard->selectSection(MacDashboardSection::settings);
+    dashboard->dashboardLifecycle();
+    settle();
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::settings);
+}
+
+TEST_F(MacCleanerDashboardModelTest, StaysWhereItIsWithARequestThatLeadsNowhere)
+{
+    dashboard->dashboardLifecycle();
+    dashboard->selectSection(MacDashboardSection::settings);
+    ASSERT_TRUE(defaults.set(KarvelloDashboardLaunchRequestStore::destinationDefaultsKey, std::string("nowhere")));
+    ASSERT_TRUE(defaults.set(KarvelloDashboardLaunchRequestStore::requestIDDefaultsKey, std::string("1")));
+    settle();
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::settings);
+}
+
+TEST_F(MacCleanerDashboardModelTest, LooksForApplicationsWhereTheyAreShown)
+{
+    for (const auto section : {MacDashboardSection::cpuAnalysis, MacDashboardSection::memoryAnalysis}) {
+        applications.clear();
+        restart();
+        applications = {{.displayName = "Notes",
+            .bundleIdentifier = "com.example.Notes",
+            .processIdentifier = 77,
+            .isUserVisible = true}};
+        dashboard->selectSection(MacDashboardSection::settings);
+        settle();
+        EXPECT_THAT(dashboard->resourceRelief().candidates(), IsEmpty());
+        dashboard->selectSection(section);
+        settle();
+        EXPECT_THAT(dashboard->resourceRelief().candidates(), testing::SizeIs(1));
+    }
+}
+
+TEST_F(MacCleanerDashboardModelTest, SamplesTheMachineForEachOtherSectionButThoseOfInsights)
+{
+    const auto samplesOf = [this](MacDashboardSection section) {
+        const int before = systemSnapshotsTaken;
+        dashboard->selectSection(section);
+        settle();
+        return systemSnapshotsTaken - before;
+    };
+    EXPECT_EQ(samplesOf(MacDashboardSection::settings), 1);
+    EXPECT_EQ(samplesOf(MacDashboardSection::downloads), 0);
+    EXPECT_EQ(samplesOf(MacDashboardSection::heatmap), 0);
+    EXPECT_EQ(samplesOf(MacDashboardSection::dashboard), 1);
 }
 
 TEST_F(MacCleanerDashboardModelTest, TurnsAStaleSelectionOfTheIOSGuideIntoTheDashboard)
@@ -143,6 +206,18 @@ TEST_F(MacCleanerDashboardModelTest, IsNotGrantedAnythingByADialogThatWasCancell
     EXPECT_FALSE(dashboard->hasHomeAccess());
 }
 
+TEST_F(MacCleanerDashboardModelTest, IsNotMissedByADialogThatOutlivesIt)
+{
+    isDirectDistribution = false;
+    bool isAnswered = false;
+    dashboard->requestHomeAccess([&isAnswered](bool) { isAnswered = true; });
+    dashboard.reset();
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_FALSE(isAnswered);
+    restart();
+    EXPECT_FALSE(dashboard->hasHomeAccess());
+}
+
 TEST_F(MacCleanerDashboardModelTest, AsksBeforeItCleansAndMovesWhatWasAskedAbout)
 {
     scanForCleanup();
@@ -168,8 +243,10 @@ TEST_F(MacCleanerDashboardModelTest, MovesNothingWithoutAQuestionOrAfterACancell
     settle();
     EXPECT_EQ(trashedCount(), 0);
     dashboard->requestCleanSelected();
+    ASSERT_GT(dashboard->pendingCleanPreview().count, 0);
     dashboard->cancelConfirmation();
     EXPECT_FALSE(dashboard->pendingCleanSelection());
+    EXPECT_EQ(dashboard->pendingCleanPreview(), CleanerCore::CleanupSelectionPreview());
     dashboard->cleanSelected();
     settle();
     EXPECT_EQ(trashedCount(), 0);
@@ -248,6 +325,18 @@ TEST_F(MacCleanerDashboardModelTest, TakesANewRevealAsTheEndOfTheLastMessage)
     ASSERT_TRUE(dashboard->notice());
     dashboard->revealInFinder(tree.url("home/Downloads"));
     EXPECT_FALSE(dashboard->notice());
+}
+
+TEST_F(MacCleanerDashboardModelTest, SaysSoWhenNoSystemMonitorOpened)
+{
+    dashboard->openActivityMonitor();
+    EXPECT_FALSE(dashboard->notice());
+    tools.hasTools = false;
+    dashboard->openActivityMonitor();
+    EXPECT_EQ(tools.systemMonitorRequests, 2);
+    ASSERT_TRUE(dashboard->notice());
+    EXPECT_EQ(dashboard->notice()->title, QStringLiteral("System monitor not found"));
+    EXPECT_FALSE(dashboard->alert());
 }
 
 TEST_F(MacCleanerDashboardModelTest, PollsOnlyWhereAndWhileSomebodySees)

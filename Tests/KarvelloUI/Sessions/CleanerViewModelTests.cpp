@@ -277,6 +277,38 @@ TEST_F(CleanerViewModelTest, KeepsACandidateWhoseRuleCannotBeStored)
     EXPECT_THAT(names(), SizeIs(2));
 }
 
+TEST_F(CleanerViewModelTest, TellsTheSameFailureOfTheStoreAnewOnceItWasDismissed)
+{
+    scanCaches();
+    std::vector<bool> told;
+    QObject::connect(session.get(), &CleanerViewModel::errorMessageChanged, session.get(),
+        [&] { told.push_back(session->errorMessage().has_value()); });
+    defaults.failAllSaves();
+    session->ignoreCandidate(candidate("small"));
+    session->dismissError();
+    settle();
+    EXPECT_THAT(told, ElementsAre(true, false));
+    EXPECT_EQ(ignoreStore.lastErrorMessage(), std::nullopt);
+    session->ignoreCandidate(candidate("small"));
+    settle();
+    EXPECT_THAT(told, ElementsAre(true, false, true));
+}
+
+TEST_F(CleanerViewModelTest, LeavesTheStoreItsErrorWhenAnotherIsDismissed)
+{
+    scanCaches();
+    defaults.failAllSaves();
+    session->ignoreCandidate(candidate("small"));
+    trash.behaviour.failure = Platform::FileErrorKind::noTrash;
+    session->cleanSelected(CleanerCore::CleaningMode::moveToTrash);
+    settle();
+    ASSERT_TRUE(session->errorMessage().has_value());
+    ASSERT_NE(session->errorMessage(), ignoreStore.lastErrorMessage());
+    session->dismissError();
+    EXPECT_EQ(session->errorMessage(), std::nullopt);
+    EXPECT_TRUE(ignoreStore.lastErrorMessage().has_value());
+}
+
 TEST_F(CleanerViewModelTest, LeavesTheErrorOfAnotherOperationToIt)
 {
     scanCaches();

@@ -191,6 +191,36 @@ TEST_F(MacInsightsViewModelCleaningTest, KeepsWhatFailedInTheListAndSelected)
     EXPECT_THAT(session->lastCleanResult()->failedItems, SizeIs(4));
 }
 
+TEST_F(MacInsightsViewModelCleaningTest, ForgetsTheFailureOfTheCleanBefore)
+{
+    scan();
+    session->selectAll(downloads);
+    trash.behaviour.failure = Platform::FileErrorKind::noTrash;
+    clean(downloads);
+    ASSERT_EQ(session->errorMessage(), kFailed);
+    trash.behaviour.failure.reset();
+    session->cleanSelected(downloads);
+    EXPECT_EQ(session->errorMessage(), std::nullopt) << "from its beginning";
+    settle();
+    EXPECT_EQ(session->phase(), Phase::finished);
+    EXPECT_EQ(trashedCount(), 4);
+    EXPECT_EQ(session->errorMessage(), std::nullopt);
+}
+
+TEST_F(MacInsightsViewModelCleaningTest, TellsEachTimeThatNothingIsEligible)
+{
+    scan();
+    std::filesystem::rename(tree.path("home/Documents"), tree.path("home/Aside"));
+    std::vector<std::optional<std::string>> messages;
+    QObject::connect(session.get(), &MacInsightsViewModel::errorMessageChanged, session.get(),
+        [&] { messages.push_back(session->errorMessage()); });
+    for (int time = 0; time < 2; ++time) {
+        select(largeFiles, "Documents/thesis.pdf");
+        clean(largeFiles);
+    }
+    EXPECT_THAT(messages, ElementsAre(kNoLongerEligible, std::nullopt, kNoLongerEligible));
+}
+
 TEST_F(MacInsightsViewModelCleaningTest, SaysWhatItIsGivenToSay)
 {
     scan();

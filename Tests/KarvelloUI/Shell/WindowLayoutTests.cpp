@@ -77,7 +77,7 @@ protected:
     void open(int width, int height)
     {
         restart();
-        dashboard->start();
+        dashboard->dashboardLifecycle();
         settle();
         m_screens = std::make_unique<DashboardScreens>(*dashboard);
         QQmlComponent component(&m_engine, QUrl(QStringLiteral("qrc:/qt/qml/Karvello/Shell/DashboardWindow.qml")));

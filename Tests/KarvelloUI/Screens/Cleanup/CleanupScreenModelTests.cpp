@@ -5,7 +5,6 @@
 
 namespace CleanupTests {
 
-using CleanerCore::CleanupScanMode;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -197,37 +196,6 @@ TEST_F(CleanupScreenModelTest, SelectsAndClearsAllHiddenOnesToo)
     EXPECT_EQ(screen->selectionState(), Qt::Checked);
 }
 
-TEST_F(CleanupScreenModelTest, ClearsResultsWithAnotherModeAndWarnsOfIt)
-{
-    scanForCleanup();
-    EXPECT_THAT(
-        screen->texts()[QStringLiteral("scanModeHint")].toString().toStdString(), HasSubstr("clears the results"));
-    screen->setScanMode(QStringLiteral("aggressive"));
-    EXPECT_EQ(dashboard->scanMode(), CleanupScanMode::aggressive);
-    EXPECT_EQ(screen->face(), Face::Idle);
-    ASSERT_TRUE(hasBanner());
-    EXPECT_EQ(banner().title.toStdString(), "Aggressive Scan Warning");
-    EXPECT_FALSE(banner().canClose);
-}
-
-TEST_F(CleanupScreenModelTest, OffersTheDirectModeWhereTheBuildHasIt)
-{
-    EXPECT_THAT(screen->scanModes(), testing::SizeIs(3));
-    isDirectDistribution = false;
-    EXPECT_THAT(screen->scanModes(), testing::SizeIs(2));
-    screen->setScanMode(QStringLiteral("no such mode"));
-    EXPECT_EQ(dashboard->scanMode(), CleanupScanMode::standard);
-}
-
-TEST_F(CleanupScreenModelTest, KeepsTheModeWhileTheSessionIsBusy)
-{
-    screen->scan();
-    screen->setScanMode(QStringLiteral("aggressive"));
-    EXPECT_EQ(dashboard->scanMode(), CleanupScanMode::standard);
-    screen->cancel();
-    settle();
-}
-
 TEST_F(CleanupScreenModelTest, MovesNothingWithoutAConfirmation)
 {
     scanForCleanup();
@@ -289,6 +257,22 @@ TEST_F(CleanupScreenModelTest, ShowsAFailureUntilItIsClosed)
     screen->closeBanner();
     ASSERT_TRUE(hasBanner());
     EXPECT_EQ(banner().kind, CleanupBanner::accent);
+}
+
+TEST_F(CleanupScreenModelTest, ShowsTheSameFailureAgainThoughItWasClosed)
+{
+    scanForCleanup();
+    defaults.failAllSaves();
+    for (int time = 0; time < 2; ++time) {
+        screen->snooze(rowOf("pip"), QStringLiteral("oneDay"));
+        ASSERT_TRUE(hasBanner());
+        EXPECT_THAT(banner().text.toStdString(), StartsWith("Could not save ignored cleanup items"));
+        screen->closeBanner();
+        EXPECT_FALSE(hasBanner());
+        settle();
+        EXPECT_FALSE(hasBanner());
+    }
+    EXPECT_EQ(defaults.failureCount(), 2U);
 }
 
 TEST_F(CleanupScreenModelTest, TellsOfPermissionsThatAreMissing)

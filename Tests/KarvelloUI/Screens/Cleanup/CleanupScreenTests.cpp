@@ -41,6 +41,18 @@ TEST_F(CleanupScreenTest, ShowsEachFaceWithoutAWarning)
     }
 }
 
+TEST_F(CleanupScreenTest, LocksTheModeWhileEitherSessionIsBusy)
+{
+    show();
+    EXPECT_TRUE(find("modes")->isEnabled());
+    dashboard->scanInsights();
+    EXPECT_FALSE(find("modes")->isEnabled());
+    settle();
+    EXPECT_TRUE(find("modes")->isEnabled());
+    screen->scan();
+    EXPECT_FALSE(find("modes")->isEnabled());
+}
+
 TEST_F(CleanupScreenTest, MovesThroughHeadsAndRowsByTheArrows)
 {
     showReview();

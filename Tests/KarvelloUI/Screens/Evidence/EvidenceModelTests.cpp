@@ -227,6 +227,21 @@ TEST_F(EvidenceScreenModelTest, TellsTheReasonOfEachItemThatWasNotRestored)
     EXPECT_TRUE(evidence->errorText().isEmpty());
 }
 
+TEST_F(EvidenceScreenModelTest, ShowsTheSameFailureAgainThoughItWasClosed)
+{
+    scan();
+    const auto pip = dashboard->cleaner().report().candidates.front();
+    defaults.failAllSaves();
+    for (int time = 0; time < 2; ++time) {
+        dashboard->cleaner().ignoreCandidate(pip);
+        EXPECT_THAT(evidence->errorText().toStdString(), StartsWith("Could not save ignored cleanup items"));
+        evidence->closeError();
+        settle();
+        EXPECT_TRUE(evidence->errorText().isEmpty());
+    }
+    EXPECT_EQ(defaults.failureCount(), 2U);
+}
+
 TEST_F(EvidenceScreenModelTest, TellsHowFarARestoreIsAndStopsIt)
 {
     clean();

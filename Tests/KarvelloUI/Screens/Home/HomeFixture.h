@@ -59,7 +59,7 @@ protected:
         home.reset();
         restart();
         home = std::make_unique<HomeScreenModel>(*dashboard);
-        dashboard->start();
+        dashboard->dashboardLifecycle();
         settle();
     }
 

@@ -157,6 +157,24 @@ TEST_F(InsightListScreenModelTest, TellsAFailureInTheWordsOfTheSession)
     EXPECT_EQ(screen.content(), InsightScreenModel::Results) << "what was found stays in use";
 }
 
+TEST_F(InsightListScreenModelTest, TellsTheSameFailureAgainThoughItWasClosed)
+{
+    InsightListScreenModel screen(*dashboard, downloads);
+    scan();
+    tree.remove("home/Downloads");
+    for (int time = 0; time < 2; ++time) {
+        screen.selectAll();
+        screen.requestClean();
+        dashboard->cleanSelectedInsight();
+        EXPECT_EQ(screen.banner(), InsightScreenModel::NoBanner);
+        settle();
+        EXPECT_EQ(screen.banner(), InsightScreenModel::FailedBanner);
+        EXPECT_THAT(screen.bannerTitle().toStdString(), testing::StartsWith("Some selected items are no longer"));
+        screen.closeBanner();
+        EXPECT_EQ(screen.banner(), InsightScreenModel::NoBanner);
+    }
+}
+
 TEST_F(InsightListScreenModelTest, DoesNothingToRowsThatHaveGone)
 {
     InsightListScreenModel screen(*dashboard, downloads);

@@ -57,6 +57,18 @@ TEST_F(OnboardingScreenModelTest, StaysWhenTheHomeWasNotGranted)
     EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::idle);
 }
 
+TEST_F(OnboardingScreenModelTest, GoesOnWithNothingOnceItHasGone)
+{
+    isDirectDistribution = false;
+    auto other = std::make_unique<OnboardingScreenModel>(*dashboard);
+    other->begin();
+    other.reset();
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_TRUE(dashboard->hasHomeAccess());
+    EXPECT_FALSE(preferences->isOnboardingCompleted());
+    EXPECT_EQ(dashboard->cleaner().phase(), CleanerViewModel::Phase::idle);
+}
+
 TEST_F(OnboardingScreenModelTest, SaysWhyAnotherFolderIsNoHome)
 {
     isDirectDistribution = false;

@@ -11,8 +11,8 @@ T.Dialog {
     id: control
 
     required property WindowMessagesModel messages
-    // Gets the focus back.
-    property Item opener
+    // Knows what gets the focus back.
+    readonly property KarvelloFocusReturn focusReturn: KarvelloFocusReturn {}
 
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
@@ -26,7 +26,7 @@ T.Dialog {
     visible: messages.hasAlert
     closePolicy: T.Popup.CloseOnEscape
     onAboutToShow: {
-        opener = parent.Window.activeFocusItem
+        focusReturn.remember(parent.Window.activeFocusItem)
         // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
         contentItem.parent.Accessible.name = messages.alertTitle
         contentItem.parent.Accessible.description = messages.alertText
@@ -40,9 +40,7 @@ T.Dialog {
         // Else it would have the focus at the next opening before it is given, and not show it.
         okButton.focus = false
         messages.dismissAlert()
-        if (opener)
-            opener.forceActiveFocus(Qt.PopupFocusReason)
-        opener = null
+        focusReturn.give()
     }
     T.Overlay.modal: Rectangle { color: KarvelloDesign.scrim }
 

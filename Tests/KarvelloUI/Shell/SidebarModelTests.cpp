@@ -83,6 +83,30 @@ TEST_F(SidebarModelTest, MovesTheSelectionOverWhatIsOnShow)
     EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::dashboard);
 }
 
+TEST_F(SidebarModelTest, StopsInAGuideThatIsNotInItAtTheSectionBefore)
+{
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("dashboard"));
+    dashboard->selectSection(MacDashboardSection::reviewEvidence);
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("reviewEvidence"));
+    int changes = 0;
+    QObject::connect(&sidebar, &SidebarModel::advancedShownChanged, &sidebar, [&changes] { ++changes; });
+    dashboard->openIOSGuide();
+    EXPECT_GT(changes, 0);
+    EXPECT_EQ(sidebar.selectedSection(), QStringLiteral("iosGuide"));
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("reviewEvidence"));
+    sidebar.selectStep(-1);
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::cleanup);
+}
+
+TEST_F(SidebarModelTest, StopsAtTheFirstSectionWhereTheOneBeforeIsFoldedAway)
+{
+    dashboard->selectSection(MacDashboardSection::heatmap);
+    dashboard->openIOSGuide();
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("dashboard"));
+    sidebar.setAdvancedShown(true);
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("heatmap"));
+}
+
 TEST_F(SidebarModelTest, SelectsByPlaceAcrossTheGroups)
 {
     sidebar.selectAt(4);

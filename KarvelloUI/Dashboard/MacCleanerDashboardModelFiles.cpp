@@ -30,8 +30,10 @@ void MacCleanerDashboardModel::openParent(const Platform::FileURL& item)
         return Platform::Text::escapingUnseen(Platform::HomePathAbbreviation(home).abbreviate(url.path()));
     };
     if (!isStanding(parent)) {
-        showAlert({.title = shown(words().finderItemMissingTitle()),
-            .message = shownLines(words().finderItemMissingMessage(shownPath(item)))});
+        const auto copy = words();
+        showAlert({.title = shown(copy.finderRevealFailedTitle()),
+            .message =
+                shownLines(copy.say("Neither the item nor its folder exists any more.") + "\n" + shownPath(item))});
         return;
     }
     m_services.fileViewer.open(parent, [this, item, shownPath](bool isOpened) {

@@ -14,6 +14,20 @@ T.Dialog {
     // Knows what gets the focus back.
     readonly property KarvelloFocusReturn focusReturn: KarvelloFocusReturn {}
 
+    // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
+    function nameIt() {
+        contentItem.parent.Accessible.name = messages.alertTitle
+        contentItem.parent.Accessible.description = messages.alertText
+    }
+    // Its failure may give way to another one while it is open.
+    readonly property Connections words: Connections {
+        target: control.messages
+        function onAlertChanged() {
+            if (control.visible)
+                control.nameIt()
+        }
+    }
+
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
     y: parent ? Math.round((parent.height - height) / 2) : 0
@@ -27,9 +41,7 @@ T.Dialog {
     closePolicy: T.Popup.CloseOnEscape
     onAboutToShow: {
         focusReturn.remember(parent.Window.activeFocusItem)
-        // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
-        contentItem.parent.Accessible.name = messages.alertTitle
-        contentItem.parent.Accessible.description = messages.alertText
+        nameIt()
     }
     // While it still comes into sight, no key may reach what it covers.
     onVisibleChanged: {
@@ -39,8 +51,9 @@ T.Dialog {
     onClosed: {
         // Else it would have the focus at the next opening before it is given, and not show it.
         okButton.focus = false
-        messages.dismissAlert()
         focusReturn.give()
+        // The next one opens here, and is announced as the first was.
+        messages.dismissAlert()
     }
     T.Overlay.modal: Rectangle { color: KarvelloDesign.scrim }
 

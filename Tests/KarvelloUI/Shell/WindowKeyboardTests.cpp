@@ -42,6 +42,18 @@ protected:
         return false;
     }
 
+    /// The open dialog as an assistant sees it; nothing where there is none.
+    QAccessibleInterface* dialog()
+    {
+        for (QQuickItem* const item : shownItems()) {
+            QAccessibleInterface* const told = spoken(item);
+            if (told != nullptr && told->role() == QAccessible::Dialog) {
+                return told;
+            }
+        }
+        return nullptr;
+    }
+
     std::unique_ptr<DashboardScreens> m_screens;
 };
 
@@ -78,6 +90,30 @@ TEST_F(WindowKeyboard, GoesToThePageThatIsShownWhenADialogCloses)
     EXPECT_TRUE(focused()->isVisible());
     EXPECT_TRUE(focused()->activeFocusOnTab()) << focusedText();
     EXPECT_FALSE(find("cleanup")->hasActiveFocus());
+}
+
+TEST_F(WindowKeyboard, OpensTheNextAlertUnderItsOwnNameWhenOneIsDismissed)
+{
+    open();
+    find("cleanup")->forceActiveFocus(Qt::TabFocusReason);
+    layOut();
+    dashboard->showAlert({.title = QStringLiteral("First"), .message = QStringLiteral("one")});
+    dashboard->showAlert({.title = QStringLiteral("Second"), .message = QStringLiteral("two")});
+    layOut();
+    ASSERT_TRUE(dialog());
+    EXPECT_EQ(dialog()->text(QAccessible::Name), QStringLiteral("First"));
+    EXPECT_EQ(focusedText(), "OK");
+    key(Qt::Key_Return);
+    layOut();
+    ASSERT_TRUE(dialog());
+    EXPECT_EQ(dialog()->text(QAccessible::Name), QStringLiteral("Second"));
+    EXPECT_EQ(dialog()->text(QAccessible::Description), QStringLiteral("two"));
+    EXPECT_EQ(focusedText(), "OK");
+    EXPECT_TRUE(focused()->property("visualFocus").toBool());
+    key(Qt::Key_Escape);
+    layOut();
+    EXPECT_FALSE(dialog());
+    EXPECT_TRUE(find("cleanup")->hasActiveFocus());
 }
 
 } // namespace DashboardTests

@@ -62,6 +62,31 @@ TEST_F(WindowMessagesModelTest, TellsOfAFailureUntilItIsDismissed)
     EXPECT_TRUE(messages.alertTitle().isEmpty());
 }
 
+TEST_F(WindowMessagesModelTest, TellsOfEachFailureInTurnAndOfNoneTwice)
+{
+    const auto fail = [this](const char* title, const char* message) {
+        dashboard->showAlert({.title = QString::fromLatin1(title), .message = QString::fromLatin1(message)});
+    };
+    fail("First", "one");
+    fail("Second", "two");
+    fail("First", "one");
+    fail("Second", "two");
+    fail("Second", "three");
+    int changes = 0;
+    QObject::connect(&messages, &WindowMessagesModel::alertChanged, &messages, [&changes] { ++changes; });
+    EXPECT_EQ(messages.alertText(), QStringLiteral("one"));
+    messages.dismissAlert();
+    EXPECT_EQ(messages.alertTitle(), QStringLiteral("Second"));
+    EXPECT_EQ(messages.alertText(), QStringLiteral("two"));
+    messages.dismissAlert();
+    EXPECT_EQ(messages.alertText(), QStringLiteral("three"));
+    messages.dismissAlert();
+    EXPECT_FALSE(messages.hasAlert());
+    EXPECT_EQ(changes, 3);
+    fail("First", "one");
+    EXPECT_EQ(messages.alertText(), QStringLiteral("one")) << "what was dismissed may happen again";
+}
+
 TEST_F(WindowMessagesModelTest, TellsOfHostileNamesOnOneLineEach)
 {
     const std::string path = "home/Downloads/" + kHostileName + "/";

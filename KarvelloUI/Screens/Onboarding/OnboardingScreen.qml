@@ -90,6 +90,15 @@ FocusScope {
                 kind: KarvelloBanner.Caution
                 text: control.screen.errorText
             }
+            KarvelloBanner {
+                objectName: "notice"
+                Layout.fillWidth: true
+                visible: control.screen.noticeText !== ""
+                title: control.screen.noticeTitle
+                text: control.screen.noticeText
+                closeName: control.screen.closeText
+                onCloseRequested: control.screen.dismissNotice()
+            }
             GridLayout {
                 Layout.fillWidth: true
                 Layout.topMargin: KarvelloDesign.spacing16
@@ -163,7 +172,11 @@ FocusScope {
                     accessibleName: control.screen.languageTitle
                     model: control.screen.languages
                     currentIndex: control.screen.languageIndex
-                    onActivated: index => control.screen.chooseLanguage(index)
+                    onActivated: index => {
+                        control.screen.chooseLanguage(index)
+                        // It shows what is stored, whatever was pressed.
+                        currentIndex = Qt.binding(() => control.screen.languageIndex)
+                    }
                 }
             }
         }

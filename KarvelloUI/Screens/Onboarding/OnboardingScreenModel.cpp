@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Onboarding/OnboardingScreenModel.h"
 
+#include "KarvelloUI/Screens/Settings/SettingsNotices.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 
 namespace KarvelloUI {
@@ -10,6 +11,7 @@ OnboardingScreenModel::OnboardingScreenModel(MacCleanerDashboardModel& dashboard
 {
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &OnboardingScreenModel::changed);
     connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &OnboardingScreenModel::changed);
+    connect(&dashboard, &MacCleanerDashboardModel::noticeChanged, this, &OnboardingScreenModel::changed);
     connect(&dashboard.homeAccess(), &HomeAccessBookmarkStore::lastErrorMessageChanged, this,
         &OnboardingScreenModel::changed);
 }
@@ -58,6 +60,23 @@ QString OnboardingScreenModel::skipCaption() const
 QString OnboardingScreenModel::errorText() const
 {
     return shownText(m_dashboard.words().skippedReason(m_dashboard.homeAccess().lastErrorMessage().value_or("")));
+}
+
+QString OnboardingScreenModel::noticeTitle() const
+{
+    const auto& notice = m_dashboard.notice();
+    return notice ? notice->title : QString();
+}
+
+QString OnboardingScreenModel::noticeText() const
+{
+    const auto& notice = m_dashboard.notice();
+    return notice ? notice->message : QString();
+}
+
+QString OnboardingScreenModel::closeText() const
+{
+    return shown(m_dashboard.words().say("Close"));
 }
 
 QString OnboardingScreenModel::languageTitle() const
@@ -109,7 +128,8 @@ void OnboardingScreenModel::chooseLanguage(int index)
 {
     const auto languages = Platform::allCases<AppLanguage>();
     if (index >= 0 && static_cast<std::size_t>(index) < languages.size()) {
-        m_dashboard.preferences().setLanguage(languages[static_cast<std::size_t>(index)]);
+        noticeUnlessStored(
+            m_dashboard, m_dashboard.preferences().setLanguage(languages[static_cast<std::size_t>(index)]));
     }
 }
 

@@ -106,4 +106,15 @@ TEST_F(OnboardingScreenModelTest, SpeaksAnotherLanguageAtOnce)
     EXPECT_EQ(preferences->language(), AppLanguage::german);
 }
 
+TEST_F(OnboardingScreenModelTest, SaysThatALanguageCouldNotBeStored)
+{
+    defaults.failAllSaves();
+    screen.chooseLanguage(static_cast<int>(AppLanguage::german));
+    EXPECT_EQ(preferences->language(), AppLanguage::english);
+    EXPECT_EQ(screen.noticeTitle(), QStringLiteral("Setting not saved"));
+    EXPECT_EQ(screen.noticeText(), QStringLiteral("This choice could not be stored, so the previous one still holds."));
+    screen.dismissNotice();
+    EXPECT_TRUE(screen.noticeText().isEmpty());
+}
+
 } // namespace DashboardTests

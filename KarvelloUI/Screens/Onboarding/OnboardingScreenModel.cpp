@@ -108,11 +108,7 @@ QVariantList OnboardingScreenModel::cards() const
     };
     return {
         card("scan", words.macOnboardingScanFirstTitle(), words.macOnboardingScanFirstBody()),
-        card("lock",
-            isDirect ? words.say("Direct app: reads what you may read") : words.macOnboardingAccessTitle(false),
-            isDirect ? words.say("Karvello looks at your home with your own permissions. If results look empty or "
-                                 "something could not be read, check who owns the skipped folders.")
-                     : words.macOnboardingAccessBody(false)),
+        card("lock", words.macOnboardingAccessTitle(isDirect), words.macOnboardingAccessBody(isDirect)),
         card("evidence", words.macOnboardingSafetyTitle(), words.macOnboardingSafetyBody()),
     };
 }

@@ -1,6 +1,8 @@
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 
+#include <QPointer>
+
 namespace KarvelloUI {
 
 using CleanerCore::CleanupScanMode;
@@ -106,6 +108,16 @@ void CleanupScreenModel::followBanner()
     case Notice::none:
         return;
     }
+}
+
+void CleanupScreenModel::grantAccess()
+{
+    // The dialog may be open for longer than the screen.
+    m_dashboard.requestHomeAccess([model = QPointer(this)](bool isGranted) {
+        if (isGranted && model) {
+            model->scan();
+        }
+    });
 }
 
 } // namespace KarvelloUI

@@ -26,6 +26,37 @@ TEST_F(WindowMessagesModelTest, AsksForAccessOnlyWhereItIsMissing)
     EXPECT_GT(changes, 0);
 }
 
+TEST_F(WindowMessagesModelTest, ScansWhatTheScreenWaitsForOnceAccessIsGranted)
+{
+    struct Case {
+        MacDashboardSection section;
+        bool scansCleanup;
+        bool scansInsights;
+    };
+    using Section = MacDashboardSection;
+    for (const auto& [section, scansCleanup, scansInsights] :
+        {Case{Section::dashboard, false, false}, Case{Section::cleanup, true, false},
+            Case{Section::reviewEvidence, false, false}, Case{Section::heatmap, false, true},
+            Case{Section::largeFiles, false, true}, Case{Section::downloads, false, true},
+            Case{Section::duplicates, false, true}, Case{Section::security, false, true},
+            Case{Section::system, false, false}, Case{Section::settings, false, false}}) {
+        SCOPED_TRACE(Platform::rawValue(section));
+        isDirectDistribution = false;
+        dashboard->homeAccess().clearBookmark();
+        dashboard->cleaner().clearScanResults();
+        dashboard->insights().clearScanResults();
+        dashboard->selectSection(section);
+        messages.grantAccess();
+        fileDialogs.answer(std::nullopt);
+        EXPECT_FALSE(dashboard->cleaner().isBusy() || dashboard->insights().isBusy());
+        messages.grantAccess();
+        fileDialogs.answer(tree.url("home/"));
+        EXPECT_EQ(dashboard->cleaner().isBusy(), scansCleanup);
+        EXPECT_EQ(dashboard->insights().isBusy(), scansInsights);
+        settle();
+    }
+}
+
 TEST_F(WindowMessagesModelTest, SaysWhyAGrantWasNotTaken)
 {
     isDirectDistribution = false;

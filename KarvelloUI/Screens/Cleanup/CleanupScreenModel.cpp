@@ -37,6 +37,7 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
         Q_EMIT bannerChanged();
     });
     connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &CleanupScreenModel::faceChanged);
+    connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &CleanupScreenModel::bannerChanged);
     connect(
         &dashboard.preferences(), &DashboardPreferences::languageChanged, this, &CleanupScreenModel::takeUpLanguage);
     connect(&dashboard.preferences(), &DashboardPreferences::scanModeChanged, this, [this] {

@@ -22,6 +22,10 @@ CleanupScreenModel::Notice CleanupScreenModel::notice() const
     if (session().phase() == Phase::finished && hasResult && !m_isResultClosed) {
         return Notice::result;
     }
+    // The window asks for access over the screen, and nothing can be scanned before.
+    if (!m_dashboard.hasHomeAccess()) {
+        return Notice::none;
+    }
     // Without candidates there is nothing to take care with.
     if (shownFace != Face::Empty && m_dashboard.scanMode() != CleanupScanMode::standard) {
         return Notice::aggressive;

@@ -154,20 +154,32 @@ FocusScope {
                 Layout.fillWidth: true
                 spacing: KarvelloDesign.spacing16
                 IconTile {
+                    Layout.alignment: Qt.AlignTop
                     size: 36
                     color: KarvelloDesign.accentSoft
                     tint: KarvelloDesign.accent
                     name: "globe"
                 }
-                KarvelloText {
-                    Layout.fillWidth: true
-                    text: control.screen.languageTitle
-                    emphasis: KarvelloText.Strong
-                    color: KarvelloDesign.ink
-                    wrapMode: Text.Wrap
+                ColumnLayout {
+                    spacing: KarvelloDesign.spacing4
+                    KarvelloText {
+                        Layout.fillWidth: true
+                        text: control.screen.languageTitle
+                        emphasis: KarvelloText.Strong
+                        color: KarvelloDesign.ink
+                        wrapMode: Text.Wrap
+                    }
+                    KarvelloText {
+                        objectName: "languageText"
+                        Layout.fillWidth: true
+                        text: control.screen.languageText
+                        color: KarvelloDesign.ink2
+                        wrapMode: Text.Wrap
+                    }
                 }
                 KarvelloDropDown {
                     objectName: "language"
+                    Layout.alignment: Qt.AlignTop
                     Layout.preferredWidth: Math.max(220, implicitWidth)
                     accessibleName: control.screen.languageTitle
                     model: control.screen.languages

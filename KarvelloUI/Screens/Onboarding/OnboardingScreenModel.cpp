@@ -84,6 +84,11 @@ QString OnboardingScreenModel::languageTitle() const
     return shown(m_dashboard.words().macOnboardingLanguageTitle());
 }
 
+QString OnboardingScreenModel::languageText() const
+{
+    return shown(m_dashboard.words().macOnboardingLanguageBody());
+}
+
 QStringList OnboardingScreenModel::languages() const
 {
     QStringList names;

@@ -44,6 +44,7 @@ class OnboardingScreenModel final : public QObject {
     Q_PROPERTY(QString noticeText READ noticeText NOTIFY changed FINAL)
     Q_PROPERTY(QString closeText READ closeText NOTIFY changed FINAL)
     Q_PROPERTY(QString languageTitle READ languageTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString languageText READ languageText NOTIFY changed FINAL)
     /// The names of the languages, each in itself.
     Q_PROPERTY(QStringList languages READ languages CONSTANT FINAL)
     Q_PROPERTY(int languageIndex READ languageIndex NOTIFY changed FINAL)
@@ -69,6 +70,7 @@ public:
     [[nodiscard]] QString noticeText() const;
     [[nodiscard]] QString closeText() const;
     [[nodiscard]] QString languageTitle() const;
+    [[nodiscard]] QString languageText() const;
     [[nodiscard]] QStringList languages() const;
     [[nodiscard]] int languageIndex() const;
     [[nodiscard]] QVariantList cards() const;

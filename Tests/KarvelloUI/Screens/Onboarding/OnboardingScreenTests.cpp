@@ -40,6 +40,14 @@ TEST_F(OnboardingScreen, SpeaksTheLanguageThatIsChosen)
     EXPECT_EQ(shownLanguage(), "English") << "also when it is chosen elsewhere";
 }
 
+TEST_F(OnboardingScreen, TellsWhereTheLanguageIsUsedAndCanBeChanged)
+{
+    open();
+    EXPECT_TRUE(find("languageText")->isVisible());
+    EXPECT_EQ(find("languageText")->property("text").toString().toStdString(),
+        "Karvello uses this language in its window and in the menu bar. You can change it in Settings at any time.");
+}
+
 TEST_F(OnboardingScreen, ShowsTheLanguageThatHoldsWhereNoneCanBeStored)
 {
     open();

@@ -1,6 +1,8 @@
+#include "KarvelloUI/Controls/IconProvider.h"
 #include "KarvelloUI/Shell/SidebarModel.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
 
+#include <QImage>
 #include <gmock/gmock.h>
 
 namespace DashboardTests {
@@ -40,6 +42,23 @@ TEST_F(SidebarModelTest, NamesTheSectionsInTheLanguageOfTheMoment)
     ASSERT_TRUE(preferences->setLanguage(AppLanguage::korean));
     EXPECT_NE(itemAt(sidebar.primaryItems(), 0).title, QStringLiteral("Live Dashboard"));
     EXPECT_EQ(sidebar.advancedTitle(), QStringLiteral("고급"));
+}
+
+TEST_F(SidebarModelTest, HasAnIconOfItsOwnForEachSection)
+{
+    QStringList names;
+    for (const auto& items : {sidebar.primaryItems(), sidebar.advancedItems(), sidebar.supportItems()}) {
+        for (const QVariant& item : items) {
+            names.append(item.value<SidebarItem>().iconName);
+        }
+    }
+    EXPECT_EQ(names.size(), 12);
+    EXPECT_EQ(names.removeDuplicates(), 0) << names.join(u' ').toStdString();
+    for (const QString& name : names) {
+        QSize size;
+        EXPECT_FALSE(IconProvider().requestImage(name + QStringLiteral("/123456"), &size, {40, 40}).isNull())
+            << name.toStdString();
+    }
 }
 
 TEST_F(SidebarModelTest, CountsWhatThereIsToReview)

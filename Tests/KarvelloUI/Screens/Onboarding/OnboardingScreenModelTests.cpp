@@ -79,6 +79,17 @@ TEST_F(OnboardingScreenModelTest, SaysWhyAnotherFolderIsNoHome)
     EXPECT_FALSE(screen.errorText().isEmpty());
 }
 
+TEST_F(OnboardingScreenModelTest, SaysWhatCanBeSeenWithoutAccess)
+{
+    EXPECT_EQ(screen.skipCaption(), QString()) << "there is access";
+    isDirectDistribution = false;
+    EXPECT_EQ(screen.skipCaption().toStdString(),
+        "You can still view system status without access. Cleanup scans unlock after home folder access is granted.");
+    dashboard->requestHomeAccess();
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_EQ(screen.skipCaption(), QString());
+}
+
 TEST_F(OnboardingScreenModelTest, IsOverWithoutAScanWhenItIsPutOff)
 {
     screen.setUpLater();

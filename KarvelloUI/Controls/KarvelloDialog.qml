@@ -16,9 +16,8 @@ T.Dialog {
     required property string cancelText
     property string acceptIconName: iconName
     property bool canAccept: true
-    // Gets the focus back.
-    property Item opener
-    property int openerReason: Qt.PopupFocusReason
+    // Knows what gets the focus back.
+    readonly property KarvelloFocusReturn focusReturn: KarvelloFocusReturn {}
 
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
@@ -35,13 +34,10 @@ T.Dialog {
     onClosed: {
         // Else it would have the focus at the next opening before it is given, and not show it.
         cancelButton.focus = false
-        if (opener)
-            opener.forceActiveFocus(openerReason)
-        opener = null
+        focusReturn.give()
     }
     onAboutToShow: {
-        opener = parent.Window.activeFocusItem
-        openerReason = (opener as T.Control)?.visualFocus ? Qt.TabFocusReason : Qt.PopupFocusReason
+        focusReturn.remember(parent.Window.activeFocusItem)
         // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
         contentItem.parent.Accessible.name = title
         contentItem.parent.Accessible.description = message

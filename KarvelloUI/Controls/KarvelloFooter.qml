@@ -176,6 +176,7 @@ Rectangle {
         }
         KarvelloButton {
             id: primary
+            objectName: "primary"
             kind: KarvelloButton.Primary
             text: control.primaryText
             iconName: control.primaryIconName

@@ -7,10 +7,9 @@ T.Menu {
     id: control
 
     property string accessibleName
-    // Gets the focus back.
-    property Item opener
-    property int openerReason: Qt.PopupFocusReason
     property real widest: 0
+    // Knows what gets the focus back.
+    readonly property KarvelloFocusReturn focusReturn: KarvelloFocusReturn {}
 
     // Opens it below an item, with the first entry chosen as a menu that the keyboard asked for has it.
     function openBelow(item: Item) {
@@ -40,15 +39,10 @@ T.Menu {
         for (let index = 0; index < count; ++index)
             needed = Math.max(needed, itemAt(index).implicitWidth)
         widest = needed
-        opener = parent.Window.activeFocusItem
-        openerReason = (opener as T.Control)?.visualFocus ? Qt.TabFocusReason : Qt.PopupFocusReason
+        focusReturn.remember(parent.Window.activeFocusItem)
         contentItem.parent.Accessible.name = accessibleName
     }
-    onClosed: {
-        if (opener)
-            opener.forceActiveFocus(openerReason)
-        opener = null
-    }
+    onClosed: focusReturn.give()
 
     delegate: KarvelloMenuItem {}
     contentItem: ListView {

@@ -18,6 +18,8 @@ FocusScope {
     property int contentMaximumWidth: 1240
     // Lists and maps use a wide window to its edges; everything else stays readable in its middle.
     property bool usesFullWidth: false
+    // What takes the keyboard when that which had it cannot have it any more, the best first. Else it is the nearest.
+    property alias landings: keyboard.landings
     // Room at the head's right end for the window's own buttons.
     property int trailingSpace: 0
     // The head moves a window that has no title bar.
@@ -73,9 +75,14 @@ FocusScope {
         target: control.Window.window
         function onActiveFocusItemChanged() {
             const item = control.Window.activeFocusItem
+            keyboard.follow(item)
             if (item && control.isInContent(item))
                 control.ensureVisible(item)
         }
+    }
+    KarvelloPageKeyboard {
+        id: keyboard
+        page: control
     }
 
     Item {

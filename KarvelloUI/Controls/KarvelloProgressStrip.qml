@@ -27,6 +27,7 @@ Rectangle {
     readonly property bool isKnown: progress >= 0
     readonly property int tenth: isKnown ? Math.floor(Math.min(1, progress) * 10 + 0.000001) : -1
     property string spokenProgress
+    readonly property Item cancelButton: cancel
 
     signal cancelRequested()
 

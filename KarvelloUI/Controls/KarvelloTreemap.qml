@@ -125,13 +125,15 @@ FocusScope {
             Keys.forwardTo: [control]
             focus: control.currentIndex === index
 
-            onClicked: {
+            function select() {
                 control.currentIndex = cell.index
                 control.selected(cell.modelData.id)
             }
+
+            onClicked: select()
             onDoubleClicked: control.activated(cell.modelData.id)
             onHoveredChanged: control.tell(cell.hovered, cell.modelData.id)
-            Accessible.onPressAction: control.activated(cell.modelData.id)
+            Accessible.onPressAction: select()
         }
     }
 }

@@ -17,6 +17,7 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <deque>
 #include <functional>
 #include <optional>
 #include <set>
@@ -124,8 +125,11 @@ public:
     void revealInFinder(const Platform::FileURL& item);
     [[nodiscard]] const std::optional<FinderRevealAlert>& alert() const { return m_alert; }
     [[nodiscard]] const std::optional<FinderRevealNotice>& notice() const { return m_notice; }
+    /// Each is shown until it is dismissed, in order; one that says the same as another that waits or is shown is not
+    /// told twice.
     void showAlert(FinderRevealAlert alert);
     void showNotice(FinderRevealNotice notice);
+    /// The next one is shown then.
     void dismissAlert();
     void dismissNotice();
     void openActivityMonitor();
@@ -171,6 +175,7 @@ private:
     bool m_isResourceReliefPending = false;
     std::set<std::string, std::less<>> m_restoreCenterSelectedIDs;
     std::optional<FinderRevealAlert> m_alert;
+    std::deque<FinderRevealAlert> m_waitingAlerts;
     std::optional<FinderRevealNotice> m_notice;
     QTimer m_systemSnapshotTimer;
     Job m_diskSnapshotJob;

@@ -4,12 +4,14 @@
 #include "Platform/Base/HomePathAbbreviation.h"
 #include "Platform/Base/UnseenText.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace KarvelloUI {
 
 void MacCleanerDashboardModel::revealInFinder(const Platform::FileURL& item)
 {
+    m_waitingAlerts.clear();
     dismissAlert();
     dismissNotice();
     if (!isStanding(item)) {
@@ -30,8 +32,10 @@ void MacCleanerDashboardModel::openParent(const Platform::FileURL& item)
         return Platform::Text::escapingUnseen(Platform::HomePathAbbreviation(home).abbreviate(url.path()));
     };
     if (!isStanding(parent)) {
-        showAlert({.title = shown(words().finderItemMissingTitle()),
-            .message = shownLines(words().finderItemMissingMessage(shownPath(item)))});
+        const auto copy = words();
+        showAlert({.title = shown(copy.finderRevealFailedTitle()),
+            .message =
+                shownLines(copy.say("Neither the item nor its folder exists any more.") + "\n" + shownPath(item))});
         return;
     }
     m_services.fileViewer.open(parent, [this, item, shownPath](bool isOpened) {
@@ -53,6 +57,15 @@ bool MacCleanerDashboardModel::isStanding(const Platform::FileURL& item) const
 
 void MacCleanerDashboardModel::showAlert(FinderRevealAlert alert)
 {
+    const auto saysTheSame = [&alert](const FinderRevealAlert& other) {
+        return other.title == alert.title && other.message == alert.message;
+    };
+    if (m_alert) {
+        if (!saysTheSame(*m_alert) && std::ranges::none_of(m_waitingAlerts, saysTheSame)) {
+            m_waitingAlerts.push_back(std::move(alert));
+        }
+        return;
+    }
     m_alert = std::move(alert);
     Q_EMIT alertChanged();
 }
@@ -66,6 +79,10 @@ void MacCleanerDashboardModel::showNotice(FinderRevealNotice notice)
 void MacCleanerDashboardModel::dismissAlert()
 {
     if (std::exchange(m_alert, std::nullopt)) {
+        if (!m_waitingAlerts.empty()) {
+            m_alert = std::move(m_waitingAlerts.front());
+            m_waitingAlerts.pop_front();
+        }
         Q_EMIT alertChanged();
     }
 }

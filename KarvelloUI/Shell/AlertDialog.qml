@@ -11,8 +11,22 @@ T.Dialog {
     id: control
 
     required property WindowMessagesModel messages
-    // Gets the focus back.
-    property Item opener
+    // Knows what gets the focus back.
+    readonly property KarvelloFocusReturn focusReturn: KarvelloFocusReturn {}
+
+    // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
+    function nameIt() {
+        contentItem.parent.Accessible.name = messages.alertTitle
+        contentItem.parent.Accessible.description = messages.alertText
+    }
+    // Its failure may give way to another one while it is open.
+    readonly property Connections words: Connections {
+        target: control.messages
+        function onAlertChanged() {
+            if (control.visible)
+                control.nameIt()
+        }
+    }
 
     parent: T.Overlay.overlay
     x: parent ? Math.round((parent.width - width) / 2) : 0
@@ -26,10 +40,8 @@ T.Dialog {
     visible: messages.hasAlert
     closePolicy: T.Popup.CloseOnEscape
     onAboutToShow: {
-        opener = parent.Window.activeFocusItem
-        // The item that Qt makes for the window of a dialog is the one that is a dialog for assistants.
-        contentItem.parent.Accessible.name = messages.alertTitle
-        contentItem.parent.Accessible.description = messages.alertText
+        focusReturn.remember(parent.Window.activeFocusItem)
+        nameIt()
     }
     // While it still comes into sight, no key may reach what it covers.
     onVisibleChanged: {
@@ -39,10 +51,9 @@ T.Dialog {
     onClosed: {
         // Else it would have the focus at the next opening before it is given, and not show it.
         okButton.focus = false
+        focusReturn.give()
+        // The next one opens here, and is announced as the first was.
         messages.dismissAlert()
-        if (opener)
-            opener.forceActiveFocus(Qt.PopupFocusReason)
-        opener = null
     }
     T.Overlay.modal: Rectangle { color: KarvelloDesign.scrim }
 

@@ -59,6 +59,7 @@ Rectangle {
                 iconName: modelData.iconName
                 count: modelData.count
                 isSelected: control.sidebar.selectedSection === modelData.section
+                isStop: control.sidebar.stopSection === modelData.section
                 onClicked: control.sidebar.select(modelData.section)
                 onMoveRequested: step => {
                     control.sidebar.selectStep(step)

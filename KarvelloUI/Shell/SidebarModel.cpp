@@ -91,13 +91,26 @@ bool isAdvanced(MacDashboardSection section)
     return std::ranges::find(kAdvanced, section) != kAdvanced.end();
 }
 
+bool isInGroups(MacDashboardSection section)
+{
+    return isAdvanced(section) || std::ranges::find(kPrimary, section) != kPrimary.end()
+        || std::ranges::find(kSupport, section) != kSupport.end();
+}
+
 } // namespace
 
 SidebarModel::SidebarModel(MacCleanerDashboardModel& dashboard, QObject* parent)
     : QObject(parent)
     , m_dashboard(dashboard)
 {
-    connect(&dashboard, &MacCleanerDashboardModel::selectedSectionChanged, this, [this] {
+    const auto remember = [this] {
+        if (isInGroups(m_dashboard.selectedSection())) {
+            m_lastOfGroups = m_dashboard.selectedSection();
+        }
+    };
+    remember();
+    connect(&dashboard, &MacCleanerDashboardModel::selectedSectionChanged, this, [this, remember] {
+        remember();
         Q_EMIT selectedSectionChanged();
         Q_EMIT advancedShownChanged();
     });
@@ -135,6 +148,16 @@ QString SidebarModel::advancedTitle() const
 QString SidebarModel::supportTitle() const
 {
     return shown(m_dashboard.words().text("지원", "Support"));
+}
+
+MacDashboardSection SidebarModel::stop() const
+{
+    return isAdvanced(m_lastOfGroups) && !isAdvancedShown() ? MacDashboardSection::dashboard : m_lastOfGroups;
+}
+
+QString SidebarModel::stopSection() const
+{
+    return rawText(stop());
 }
 
 bool SidebarModel::isAdvancedHeld() const
@@ -205,7 +228,7 @@ void SidebarModel::selectStep(int step)
     }
     sections.insert(sections.end(), kSupport.begin(), kSupport.end());
     const auto last = static_cast<std::ptrdiff_t>(sections.size()) - 1;
-    auto place = std::ranges::find(sections, m_dashboard.selectedSection()) - sections.begin();
+    auto place = std::ranges::find(sections, stop()) - sections.begin();
     place = step == -2 ? 0 : step == 2 ? last : std::clamp<std::ptrdiff_t>(place + step, 0, last);
     m_dashboard.selectSection(sections[static_cast<std::size_t>(place)]);
 }

@@ -42,6 +42,8 @@ class SidebarModel final : public QObject {
     Q_PROPERTY(QString advancedTitle READ advancedTitle NOTIFY itemsChanged FINAL)
     Q_PROPERTY(QString supportTitle READ supportTitle NOTIFY itemsChanged FINAL)
     Q_PROPERTY(QString selectedSection READ selectedSection NOTIFY selectedSectionChanged FINAL)
+    /// Where Tab stops: the selected section, or while that is none of these, the one before it.
+    Q_PROPERTY(QString stopSection READ stopSection NOTIFY advancedShownChanged FINAL)
     /// The group that folds away shows its sections.
     Q_PROPERTY(bool isAdvancedShown READ isAdvancedShown NOTIFY advancedShownChanged FINAL)
     /// It holds the selection, and cannot be folded away.
@@ -65,6 +67,7 @@ public:
     [[nodiscard]] QString advancedTitle() const;
     [[nodiscard]] QString supportTitle() const;
     [[nodiscard]] QString selectedSection() const { return m_dashboard.selectedSectionText(); }
+    [[nodiscard]] QString stopSection() const;
     [[nodiscard]] bool isAdvancedShown() const;
     [[nodiscard]] bool isAdvancedHeld() const;
     [[nodiscard]] QString advancedText() const;
@@ -77,7 +80,7 @@ public:
     /// The section at this place of the whole sidebar, from 1; nothing happens for a place without one. A group that is
     /// folded away counts.
     Q_INVOKABLE void selectAt(int place);
-    /// The section before or after the selected one of those on show; -2 and 2 for the first and the last.
+    /// The section before or after the stop of Tab, of those on show; -2 and 2 for the first and the last.
     Q_INVOKABLE void selectStep(int step);
     Q_INVOKABLE void setAdvancedShown(bool isShown) { m_dashboard.preferences().setAdvancedExpanded(isShown); }
 
@@ -89,8 +92,11 @@ Q_SIGNALS:
 
 private:
     void refresh();
+    [[nodiscard]] MacDashboardSection stop() const;
 
     MacCleanerDashboardModel& m_dashboard;
+    /// The last one of the groups that was selected.
+    MacDashboardSection m_lastOfGroups = MacDashboardSection::dashboard;
     QVariantList m_primary;
     QVariantList m_advanced;
     QVariantList m_support;

@@ -2,6 +2,7 @@
 
 #include "KarvelloUI/Sessions/ShownText.h"
 
+#include <QPointer>
 #include <algorithm>
 
 namespace KarvelloUI {
@@ -51,6 +52,40 @@ QString WindowMessagesModel::accessText() const
 QString WindowMessagesModel::accessActionText() const
 {
     return shown(m_dashboard.words().homeAccessGrantButton());
+}
+
+void WindowMessagesModel::grantAccess()
+{
+    const auto section = m_dashboard.selectedSection();
+    m_dashboard.requestHomeAccess([model = QPointer(this), section](bool isGranted) {
+        if (isGranted && model) {
+            model->scanFor(section);
+        }
+    });
+}
+
+void WindowMessagesModel::scanFor(MacDashboardSection section)
+{
+    switch (section) {
+    case MacDashboardSection::cleanup:
+        m_dashboard.scanCleanup();
+        return;
+    case MacDashboardSection::heatmap:
+    case MacDashboardSection::largeFiles:
+    case MacDashboardSection::downloads:
+    case MacDashboardSection::duplicates:
+    case MacDashboardSection::security:
+        m_dashboard.scanInsights();
+        return;
+    case MacDashboardSection::dashboard:
+    case MacDashboardSection::reviewEvidence:
+    case MacDashboardSection::system:
+    case MacDashboardSection::cpuAnalysis:
+    case MacDashboardSection::memoryAnalysis:
+    case MacDashboardSection::iosGuide:
+    case MacDashboardSection::settings:
+        return;
+    }
 }
 
 QString WindowMessagesModel::alertTitle() const

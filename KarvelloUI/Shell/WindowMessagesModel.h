@@ -43,7 +43,8 @@ public:
     [[nodiscard]] QString accessTitle() const;
     [[nodiscard]] QString accessText() const;
     [[nodiscard]] QString accessActionText() const;
-    Q_INVOKABLE void grantAccess() { m_dashboard.requestHomeAccess(); }
+    /// On a screen that waits for access to scan, the scan begins then.
+    Q_INVOKABLE void grantAccess();
 
     [[nodiscard]] bool hasAlert() const { return m_dashboard.alert().has_value(); }
     [[nodiscard]] QString alertTitle() const;
@@ -64,6 +65,8 @@ Q_SIGNALS:
     void wordsChanged();
 
 private:
+    /// What a screen of this section scans, if it does.
+    void scanFor(MacDashboardSection section);
     [[nodiscard]] std::array<const PreferenceStore*, 3> storesOfTheSettings() const;
 
     MacCleanerDashboardModel& m_dashboard;

@@ -29,6 +29,7 @@ KarvelloPage {
     title: screen.texts.title
     subtitle: screen.texts.subtitle
     usesFullWidth: true
+    landings: [strip.cancelButton, candidates, placeholder]
     onFaceChanged: panel = ""
 
     actions: [

@@ -38,6 +38,7 @@ CleanupScreenModel::CleanupScreenModel(MacCleanerDashboardModel& dashboard, QObj
     connect(&dashboard.insights(), &MacInsightsViewModel::phaseChanged, this,
         &CleanupScreenModel::canChooseScanModeChanged);
     connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &CleanupScreenModel::faceChanged);
+    connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &CleanupScreenModel::bannerChanged);
     connect(
         &dashboard.preferences(), &DashboardPreferences::languageChanged, this, &CleanupScreenModel::takeUpLanguage);
     connect(&dashboard.preferences(), &DashboardPreferences::scanModeChanged, this, [this] {

@@ -153,7 +153,8 @@ public:
     [[nodiscard]] bool canSelectAll() const;
 
     Q_INVOKABLE void scan() { m_dashboard.scanCleanup(); }
-    Q_INVOKABLE void grantAccess() { m_dashboard.requestHomeAccess(); }
+    /// The scan begins once access is granted.
+    Q_INVOKABLE void grantAccess();
     Q_INVOKABLE void cancel() { session().cancelCurrentOperation(); }
     Q_INVOKABLE void openSettings() { m_dashboard.selectSection(MacDashboardSection::settings); }
     /// The button of the face without a list.

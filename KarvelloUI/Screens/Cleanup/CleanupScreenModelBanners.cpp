@@ -1,6 +1,8 @@
 #include "KarvelloUI/Screens/Cleanup/CleanupScreenModel.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 
+#include <QPointer>
+
 namespace KarvelloUI {
 
 using CleanerCore::CleanupScanMode;
@@ -19,6 +21,10 @@ CleanupScreenModel::Notice CleanupScreenModel::notice() const
     const bool hasResult = session().lastCleanResult() || session().lastRestoreResult();
     if (session().phase() == Phase::finished && hasResult && !m_isResultClosed) {
         return Notice::result;
+    }
+    // The window asks for access over the screen, and nothing can be scanned before.
+    if (!m_dashboard.hasHomeAccess()) {
+        return Notice::none;
     }
     // Without candidates there is nothing to take care with.
     if (shownFace != Face::Empty && m_dashboard.scanMode() != CleanupScanMode::standard) {
@@ -106,6 +112,16 @@ void CleanupScreenModel::followBanner()
     case Notice::none:
         return;
     }
+}
+
+void CleanupScreenModel::grantAccess()
+{
+    // The dialog may be open for longer than the screen.
+    m_dashboard.requestHomeAccess([model = QPointer(this)](bool isGranted) {
+        if (isGranted && model) {
+            model->scan();
+        }
+    });
 }
 
 } // namespace KarvelloUI

@@ -15,6 +15,7 @@ KarvelloPage {
 
     title: screen.title
     subtitle: screen.subtitle
+    landings: [work.cancelButton, restoreCenter]
 
     Shortcut {
         sequences: [StandardKey.SelectAll]
@@ -40,6 +41,7 @@ KarvelloPage {
         onCloseRequested: control.screen.closeError()
     }
     KarvelloProgressStrip {
+        id: work
         objectName: "work"
         Layout.fillWidth: true
         visible: title !== ""
@@ -61,6 +63,7 @@ KarvelloPage {
             spacing: KarvelloDesign.spacing16
 
             RestoreCenterCard {
+                id: restoreCenter
                 Layout.fillWidth: true
                 center: control.screen.restoreCenter
             }

@@ -18,6 +18,7 @@ KarvelloPage {
     title: insights.title
     subtitle: insights.subtitle
     usesFullWidth: true
+    landings: [strip.cancelButton, resultsSlot]
 
     actions: [
         KarvelloButton {

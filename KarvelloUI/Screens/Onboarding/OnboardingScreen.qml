@@ -90,6 +90,15 @@ FocusScope {
                 kind: KarvelloBanner.Caution
                 text: control.screen.errorText
             }
+            KarvelloBanner {
+                objectName: "notice"
+                Layout.fillWidth: true
+                visible: control.screen.noticeText !== ""
+                title: control.screen.noticeTitle
+                text: control.screen.noticeText
+                closeName: control.screen.closeText
+                onCloseRequested: control.screen.dismissNotice()
+            }
             GridLayout {
                 Layout.fillWidth: true
                 Layout.topMargin: KarvelloDesign.spacing16
@@ -145,25 +154,41 @@ FocusScope {
                 Layout.fillWidth: true
                 spacing: KarvelloDesign.spacing16
                 IconTile {
+                    Layout.alignment: Qt.AlignTop
                     size: 36
                     color: KarvelloDesign.accentSoft
                     tint: KarvelloDesign.accent
                     name: "globe"
                 }
-                KarvelloText {
-                    Layout.fillWidth: true
-                    text: control.screen.languageTitle
-                    emphasis: KarvelloText.Strong
-                    color: KarvelloDesign.ink
-                    wrapMode: Text.Wrap
+                ColumnLayout {
+                    spacing: KarvelloDesign.spacing4
+                    KarvelloText {
+                        Layout.fillWidth: true
+                        text: control.screen.languageTitle
+                        emphasis: KarvelloText.Strong
+                        color: KarvelloDesign.ink
+                        wrapMode: Text.Wrap
+                    }
+                    KarvelloText {
+                        objectName: "languageText"
+                        Layout.fillWidth: true
+                        text: control.screen.languageText
+                        color: KarvelloDesign.ink2
+                        wrapMode: Text.Wrap
+                    }
                 }
                 KarvelloDropDown {
                     objectName: "language"
+                    Layout.alignment: Qt.AlignTop
                     Layout.preferredWidth: Math.max(220, implicitWidth)
                     accessibleName: control.screen.languageTitle
                     model: control.screen.languages
                     currentIndex: control.screen.languageIndex
-                    onActivated: index => control.screen.chooseLanguage(index)
+                    onActivated: index => {
+                        control.screen.chooseLanguage(index)
+                        // It shows what is stored, whatever was pressed.
+                        currentIndex = Qt.binding(() => control.screen.languageIndex)
+                    }
                 }
             }
         }

@@ -1,5 +1,6 @@
 #include "KarvelloUI/Screens/Onboarding/OnboardingScreenModel.h"
 
+#include "KarvelloUI/Dashboard/ChoiceNotices.h"
 #include "KarvelloUI/Sessions/ShownText.h"
 
 #include <QPointer>
@@ -12,6 +13,7 @@ OnboardingScreenModel::OnboardingScreenModel(MacCleanerDashboardModel& dashboard
 {
     connect(&dashboard.preferences(), &DashboardPreferences::languageChanged, this, &OnboardingScreenModel::changed);
     connect(&dashboard, &MacCleanerDashboardModel::accessChanged, this, &OnboardingScreenModel::changed);
+    connect(&dashboard, &MacCleanerDashboardModel::noticeChanged, this, &OnboardingScreenModel::changed);
     connect(&dashboard.homeAccess(), &HomeAccessBookmarkStore::lastErrorMessageChanged, this,
         &OnboardingScreenModel::changed);
 }
@@ -62,9 +64,31 @@ QString OnboardingScreenModel::errorText() const
     return shownText(m_dashboard.words().skippedReason(m_dashboard.homeAccess().lastErrorMessage().value_or("")));
 }
 
+QString OnboardingScreenModel::noticeTitle() const
+{
+    const auto& notice = m_dashboard.notice();
+    return notice ? notice->title : QString();
+}
+
+QString OnboardingScreenModel::noticeText() const
+{
+    const auto& notice = m_dashboard.notice();
+    return notice ? notice->message : QString();
+}
+
+QString OnboardingScreenModel::closeText() const
+{
+    return shown(m_dashboard.words().say("Close"));
+}
+
 QString OnboardingScreenModel::languageTitle() const
 {
     return shown(m_dashboard.words().macOnboardingLanguageTitle());
+}
+
+QString OnboardingScreenModel::languageText() const
+{
+    return shown(m_dashboard.words().macOnboardingLanguageBody());
 }
 
 QStringList OnboardingScreenModel::languages() const
@@ -91,11 +115,7 @@ QVariantList OnboardingScreenModel::cards() const
     };
     return {
         card("scan", words.macOnboardingScanFirstTitle(), words.macOnboardingScanFirstBody()),
-        card("lock",
-            isDirect ? words.say("Direct app: reads what you may read") : words.macOnboardingAccessTitle(false),
-            isDirect ? words.say("Karvello looks at your home with your own permissions. If results look empty or "
-                                 "something could not be read, check who owns the skipped folders.")
-                     : words.macOnboardingAccessBody(false)),
+        card("lock", words.macOnboardingAccessTitle(isDirect), words.macOnboardingAccessBody(isDirect)),
         card("evidence", words.macOnboardingSafetyTitle(), words.macOnboardingSafetyBody()),
     };
 }
@@ -111,7 +131,8 @@ void OnboardingScreenModel::chooseLanguage(int index)
 {
     const auto languages = Platform::allCases<AppLanguage>();
     if (index >= 0 && static_cast<std::size_t>(index) < languages.size()) {
-        m_dashboard.preferences().setLanguage(languages[static_cast<std::size_t>(index)]);
+        noticeUnlessStored(
+            m_dashboard, m_dashboard.preferences().setLanguage(languages[static_cast<std::size_t>(index)]));
     }
 }
 

@@ -39,7 +39,12 @@ class OnboardingScreenModel final : public QObject {
     Q_PROPERTY(QString skipCaption READ skipCaption NOTIFY changed FINAL)
     /// Why access was not granted; empty for no reason.
     Q_PROPERTY(QString errorText READ errorText NOTIFY changed FINAL)
+    /// What went another way than chosen; empty for nothing.
+    Q_PROPERTY(QString noticeTitle READ noticeTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString noticeText READ noticeText NOTIFY changed FINAL)
+    Q_PROPERTY(QString closeText READ closeText NOTIFY changed FINAL)
     Q_PROPERTY(QString languageTitle READ languageTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString languageText READ languageText NOTIFY changed FINAL)
     /// The names of the languages, each in itself.
     Q_PROPERTY(QStringList languages READ languages CONSTANT FINAL)
     Q_PROPERTY(int languageIndex READ languageIndex NOTIFY changed FINAL)
@@ -61,14 +66,19 @@ public:
     [[nodiscard]] QString secondaryText() const;
     [[nodiscard]] QString skipCaption() const;
     [[nodiscard]] QString errorText() const;
+    [[nodiscard]] QString noticeTitle() const;
+    [[nodiscard]] QString noticeText() const;
+    [[nodiscard]] QString closeText() const;
     [[nodiscard]] QString languageTitle() const;
+    [[nodiscard]] QString languageText() const;
     [[nodiscard]] QStringList languages() const;
     [[nodiscard]] int languageIndex() const;
     [[nodiscard]] QVariantList cards() const;
     [[nodiscard]] QString principles() const;
 
-    /// Holds at once.
+    /// Holds at once, unless it cannot be stored, which a notice says then.
     Q_INVOKABLE void chooseLanguage(int index);
+    Q_INVOKABLE void dismissNotice() { m_dashboard.dismissNotice(); }
     /// Scans, after it has asked for the home folder where it must. The first run is over once a scan may begin.
     Q_INVOKABLE void begin();
     /// The first run is over, and nothing is scanned.

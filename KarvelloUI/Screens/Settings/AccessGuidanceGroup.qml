@@ -23,6 +23,23 @@ SettingsGroup {
         objectName: "guidanceText"
         text: control.group.text
     }
+    KarvelloText {
+        Layout.fillWidth: true
+        Layout.leftMargin: KarvelloDesign.spacing20
+        Layout.rightMargin: KarvelloDesign.spacing20
+        visible: text !== ""
+        text: control.group.stepsTitle
+        emphasis: KarvelloText.Strong
+        color: KarvelloDesign.ink
+        wrapMode: Text.Wrap
+        Accessible.role: Accessible.Heading
+    }
+    SettingsParagraph {
+        objectName: "stepsText"
+        Layout.topMargin: 0
+        visible: text !== ""
+        text: control.group.stepsText
+    }
     // No layout: one that is hidden while its items go keeps looking at them, and the program crashes in it (Qt 6.4).
     Column {
         id: list

@@ -26,21 +26,29 @@ AccessGuidanceModel::AccessGuidanceModel(MacCleanerDashboardModel& dashboard, QO
 
 QString AccessGuidanceModel::title() const
 {
-    return shown(m_dashboard.words().permissionWizardTitle());
+    return shown(m_dashboard.words().settingsAccessDiagnosticsTitle(guide().blockedCount, hasCustomFolders()));
 }
 
 QString AccessGuidanceModel::text() const
 {
-    const auto words = m_dashboard.words();
-    return shown(
-        guide().empty() ? words.settingsAccessDiagnosticsBody(0, hasCustomFolders()) : words.permissionWizardIntro());
+    return shown(m_dashboard.words().settingsAccessDiagnosticsBody(guide().blockedCount, hasCustomFolders()));
+}
+
+QString AccessGuidanceModel::stepsTitle() const
+{
+    return guide().steps.empty() ? QString() : shown(m_dashboard.words().permissionWizardTitle());
+}
+
+QString AccessGuidanceModel::stepsText() const
+{
+    return guide().steps.empty() ? QString() : shown(m_dashboard.words().permissionWizardIntro());
 }
 
 QVariantList AccessGuidanceModel::steps() const
 {
     const auto words = m_dashboard.words();
     const Platform::HomePathAbbreviation home(m_dashboard.services().homeDirectory);
-    const auto indexed = indexedWizardSteps(guide());
+    const auto indexed = indexedWizardSteps(guide().steps);
     QVariantList steps;
     for (const auto& [index, step] : indexed) {
         QStringList samples;
@@ -78,7 +86,7 @@ QString AccessGuidanceModel::privacySettingsText() const
 
 void AccessGuidanceModel::copySamples(int number)
 {
-    const auto& steps = guide();
+    const auto& steps = guide().steps;
     if (number < 1 || static_cast<std::size_t>(number) > steps.size()) {
         return;
     }
@@ -104,7 +112,7 @@ void AccessGuidanceModel::openPrivacySettings()
 
 void AccessGuidanceModel::forgetSteps()
 {
-    m_isGuideKnown = false;
+    m_guide.reset();
     announceIfShown();
 }
 
@@ -115,18 +123,19 @@ void AccessGuidanceModel::announceIfShown()
     }
 }
 
-const std::vector<StoragePermissionWizardStep>& AccessGuidanceModel::guide() const
+const AccessGuidanceModel::Guide& AccessGuidanceModel::guide() const
 {
-    if (!m_isGuideKnown) {
+    if (!m_guide) {
         auto items =
             StoragePermissionAdvisor::permissionRelatedSkippedItems(m_dashboard.cleaner().report().skippedItems);
         const auto ofInsights =
             StoragePermissionAdvisor::permissionRelatedSkippedItems(m_dashboard.insights().report().skippedItems);
         items.insert(items.end(), ofInsights.begin(), ofInsights.end());
-        m_guide = StoragePermissionAdvisor::wizardSteps(StoragePermissionAdvisor::diagnoses(items), hasCustomFolders());
-        m_isGuideKnown = true;
+        m_guide = Guide{.blockedCount = static_cast<std::int64_t>(items.size()),
+            .steps =
+                StoragePermissionAdvisor::wizardSteps(StoragePermissionAdvisor::diagnoses(items), hasCustomFolders())};
     }
-    return m_guide;
+    return *m_guide;
 }
 
 } // namespace KarvelloUI

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace KarvelloUI {
@@ -44,7 +46,11 @@ class AccessGuidanceModel final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made with the screen")
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
+    /// What the last scans tell of access.
     Q_PROPERTY(QString text READ text NOTIFY changed FINAL)
+    /// Over the steps; empty without any.
+    Q_PROPERTY(QString stepsTitle READ stepsTitle NOTIFY changed FINAL)
+    Q_PROPERTY(QString stepsText READ stepsText NOTIFY changed FINAL)
     /// A list of `AccessGuidanceStep`; none without a diagnosis.
     Q_PROPERTY(QVariantList steps READ steps NOTIFY changed FINAL)
     Q_PROPERTY(QString copyText READ copyText NOTIFY changed FINAL)
@@ -58,6 +64,8 @@ public:
 
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString text() const;
+    [[nodiscard]] QString stepsTitle() const;
+    [[nodiscard]] QString stepsText() const;
     [[nodiscard]] QVariantList steps() const;
     [[nodiscard]] QString copyText() const;
     [[nodiscard]] bool hasPrivacySettings() const;
@@ -71,15 +79,20 @@ Q_SIGNALS:
     void changed();
 
 private:
+    struct Guide {
+        /// Items that the last scans skipped for want of permission.
+        std::int64_t blockedCount = 0;
+        std::vector<StoragePermissionWizardStep> steps = {};
+    };
+
     /// Reports are judged when somebody looks, and once.
     void forgetSteps();
     void announceIfShown();
-    [[nodiscard]] const std::vector<StoragePermissionWizardStep>& guide() const;
+    [[nodiscard]] const Guide& guide() const;
     [[nodiscard]] bool hasCustomFolders() const { return m_dashboard.customFolders().count() > 0; }
 
     MacCleanerDashboardModel& m_dashboard;
-    mutable std::vector<StoragePermissionWizardStep> m_guide;
-    mutable bool m_isGuideKnown = false;
+    mutable std::optional<Guide> m_guide;
 };
 
 } // namespace KarvelloUI

@@ -111,6 +111,60 @@ TEST_F(KarvelloDialog, GivesTheFocusBackToWhatOpenedIt)
     EXPECT_TRUE(QTest::qWaitFor([this] { return find("opener")->hasActiveFocus(); }));
 }
 
+/// Two pages, one of them shown; the button of the first opens the dialog.
+class KarvelloDialogOfAPage : public KarvelloDialog {
+protected:
+    void open()
+    {
+        show("FocusScope { focus: true; width: 640; height: 240\n"
+             "KarvelloPage { id: first; focus: visible; objectName: 'first'; width: 640; height: 240; title: 'First';"
+             " KarvelloButton { objectName: 'row'; text: 'Row' }"
+             " KarvelloButton { objectName: 'opener'; text: 'Move'; onClicked: dialog.open() } }\n"
+             "KarvelloPage { objectName: 'second'; width: 640; height: 240; title: 'Second';"
+             " visible: !first.visible; focus: visible; KarvelloButton { objectName: 'other'; text: 'Other' } } }\n"
+             "KarvelloDialog { id: dialog; objectName: 'dialog'; title: 'Move?';"
+             " acceptText: 'Move to Trash'; cancelText: 'Cancel' }");
+        m_dialog = find<QObject>("dialog");
+        find("opener")->forceActiveFocus(Qt::TabFocusReason);
+        key(Qt::Key_Return);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return m_dialog->property("opened").toBool(); }));
+    }
+    void accept()
+    {
+        key(Qt::Key_Tab);
+        key(Qt::Key_Return);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !isOpen(); }));
+        layOut();
+    }
+};
+
+TEST_F(KarvelloDialogOfAPage, GivesTheFocusToWhatIsNearAnOpenerThatIsDisabled)
+{
+    open();
+    find("opener")->setEnabled(false);
+    accept();
+    EXPECT_EQ(focused(), "Row");
+    EXPECT_TRUE(m_window->activeFocusItem()->property("visualFocus").toBool());
+}
+
+TEST_F(KarvelloDialogOfAPage, GivesTheFocusToWhatIsNearAnOpenerThatIsHidden)
+{
+    open();
+    find("opener")->setVisible(false);
+    accept();
+    EXPECT_EQ(focused(), "Row");
+}
+
+TEST_F(KarvelloDialogOfAPage, GivesTheFocusToThePageThatIsShownInsteadOfTheOpeners)
+{
+    open();
+    find("first")->setVisible(false);
+    accept();
+    EXPECT_TRUE(find("second")->hasActiveFocus()) << focused();
+    key(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "Other");
+}
+
 TEST_F(KarvelloDialog, SaysItsTitleAndIsADialog)
 {
     open();

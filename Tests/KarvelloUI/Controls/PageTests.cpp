@@ -63,4 +63,60 @@ TEST_F(KarvelloPage, GrowsItsHeadWithTheText)
     EXPECT_TRUE(QTest::qWaitFor([this] { return find("fill")->mapToScene({0, 0}).y() > 90; }));
 }
 
+/// A page with a list between two buttons, of which the last one loses the keyboard.
+class KarvelloPageKeyboard : public KarvelloPage {
+protected:
+    void showPage(const char* landings, Qt::FocusReason reason)
+    {
+        const auto content = std::string("landings: [") + landings
+            + "]\nKarvelloButton { id: cancel; objectName: 'cancel'; text: 'Cancel Operation'; visible: false }"
+              "KarvelloButton { objectName: 'row'; text: 'Row' }"
+              "KarvelloButton { objectName: 'move'; text: 'Move' }"
+              "KarvelloButton { objectName: 'after'; text: 'After' }";
+        KarvelloPage::showPage(content);
+        find("move")->forceActiveFocus(reason);
+        layOut();
+        ASSERT_TRUE(find("move")->hasActiveFocus());
+    }
+};
+
+TEST_F(KarvelloPageKeyboard, GoesToTheNearestStopFromWhatIsDisabled)
+{
+    showPage("", Qt::TabFocusReason);
+    find("move")->setEnabled(false);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return find("row")->hasActiveFocus(); }));
+    EXPECT_TRUE(find("row")->property("visualFocus").toBool());
+    // Where nothing before it is left.
+    find("action")->setVisible(false);
+    find("row")->setVisible(false);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return find("after")->hasActiveFocus(); }));
+}
+
+TEST_F(KarvelloPageKeyboard, GoesFromWhatHidesItselfToWhatThePageNames)
+{
+    showPage("cancel", Qt::MouseFocusReason);
+    find("cancel")->setVisible(true);
+    find("move")->setVisible(false);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return find("cancel")->hasActiveFocus(); }));
+    EXPECT_FALSE(find("cancel")->property("visualFocus").toBool()) << "the mouse shows no focus";
+}
+
+TEST_F(KarvelloPageKeyboard, StaysWhereItHasBeenTakenMeanwhile)
+{
+    showPage("cancel", Qt::TabFocusReason);
+    find("cancel")->setVisible(true);
+    find("move")->setVisible(false);
+    find("after")->forceActiveFocus(Qt::TabFocusReason);
+    layOut();
+    EXPECT_TRUE(find("after")->hasActiveFocus());
+}
+
+TEST_F(KarvelloPageKeyboard, IsLeftAloneWhereItNeverWas)
+{
+    showPage("cancel", Qt::TabFocusReason);
+    find("cancel")->setVisible(true);
+    layOut();
+    EXPECT_TRUE(find("move")->hasActiveFocus());
+}
+
 } // namespace KarvelloUI

@@ -106,8 +106,15 @@ TEST_F(KarvelloTreemap, SaysOfEachCellWhatItIs)
     EXPECT_EQ(nameOf(m_map), "Storage Map");
     EXPECT_EQ(nameOf(cell(0)), "Videos, 9 GB, 4 items, 50%, partial");
     EXPECT_EQ(nameOf(cell(1)), "<b>Projects</b>, 5 GB");
+}
+
+TEST_F(KarvelloTreemap, SelectsWhatAnAssistantPressesAsAClickDoes)
+{
+    showMap("onSelected: id => selectedId = id; selectedId: 'a'");
     press(cell(1));
-    EXPECT_EQ(last(*m_activated), "b");
+    EXPECT_EQ(last(*m_selected), "b");
+    EXPECT_EQ(m_activated->count(), 0);
+    EXPECT_TRUE(spoken(cell(1))->state().selected);
 }
 
 TEST_F(KarvelloTreemap, SaysAsMuchInACellAsItHasRoomFor)

@@ -304,7 +304,9 @@ TEST_F(MacCleanerDashboardModelTest, SaysSoWhenTheFolderHasGoneToo)
     dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
     EXPECT_THAT(fileViewer.opened, IsEmpty());
     ASSERT_TRUE(dashboard->alert());
-    EXPECT_EQ(dashboard->alert()->title, shown(dashboard->words().finderItemMissingTitle()));
+    EXPECT_EQ(dashboard->alert()->title, QStringLiteral("Could Not Open in the File Manager"));
+    EXPECT_EQ(dashboard->alert()->message,
+        QStringLiteral("Neither the item nor its folder exists any more.\n~/Downloads/report.pdf"));
     dashboard->dismissAlert();
     EXPECT_FALSE(dashboard->alert());
 }
@@ -316,6 +318,8 @@ TEST_F(MacCleanerDashboardModelTest, SaysSoWhenNothingCanBeOpened)
     dashboard->revealInFinder(tree.url("home/Downloads/report.pdf"));
     ASSERT_TRUE(dashboard->alert());
     EXPECT_EQ(dashboard->alert()->title, QStringLiteral("Could Not Open in the File Manager"));
+    EXPECT_EQ(dashboard->alert()->message,
+        QStringLiteral("The file manager could not open this item.\n~/Downloads/report.pdf"));
 }
 
 TEST_F(MacCleanerDashboardModelTest, TakesANewRevealAsTheEndOfTheLastMessage)

@@ -1,6 +1,8 @@
+#include "KarvelloUI/Controls/IconProvider.h"
 #include "KarvelloUI/Shell/SidebarModel.h"
 #include "Tests/KarvelloUI/Dashboard/DashboardFixture.h"
 
+#include <QImage>
 #include <gmock/gmock.h>
 
 namespace DashboardTests {
@@ -39,6 +41,23 @@ TEST_F(SidebarModelTest, NamesTheSectionsInTheLanguageOfTheMoment)
     ASSERT_TRUE(preferences->setLanguage(AppLanguage::korean));
     EXPECT_NE(itemAt(sidebar.primaryItems(), 0).title, QStringLiteral("Live Dashboard"));
     EXPECT_EQ(sidebar.advancedTitle(), QStringLiteral("고급"));
+}
+
+TEST_F(SidebarModelTest, HasAnIconOfItsOwnForEachSection)
+{
+    QStringList names;
+    for (const auto& items : {sidebar.primaryItems(), sidebar.advancedItems(), sidebar.supportItems()}) {
+        for (const QVariant& item : items) {
+            names.append(item.value<SidebarItem>().iconName);
+        }
+    }
+    EXPECT_EQ(names.size(), 12);
+    EXPECT_EQ(names.removeDuplicates(), 0) << names.join(u' ').toStdString();
+    for (const QString& name : names) {
+        QSize size;
+        EXPECT_FALSE(IconProvider().requestImage(name + QStringLiteral("/123456"), &size, {40, 40}).isNull())
+            << name.toStdString();
+    }
 }
 
 TEST_F(SidebarModelTest, CountsWhatThereIsToReview)
@@ -80,6 +99,30 @@ TEST_F(SidebarModelTest, MovesTheSelectionOverWhatIsOnShow)
     EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::dashboard);
     sidebar.selectStep(-1);
     EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::dashboard);
+}
+
+TEST_F(SidebarModelTest, StopsInAGuideThatIsNotInItAtTheSectionBefore)
+{
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("dashboard"));
+    dashboard->selectSection(MacDashboardSection::reviewEvidence);
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("reviewEvidence"));
+    int changes = 0;
+    QObject::connect(&sidebar, &SidebarModel::advancedShownChanged, &sidebar, [&changes] { ++changes; });
+    dashboard->openIOSGuide();
+    EXPECT_GT(changes, 0);
+    EXPECT_EQ(sidebar.selectedSection(), QStringLiteral("iosGuide"));
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("reviewEvidence"));
+    sidebar.selectStep(-1);
+    EXPECT_EQ(dashboard->selectedSection(), MacDashboardSection::cleanup);
+}
+
+TEST_F(SidebarModelTest, StopsAtTheFirstSectionWhereTheOneBeforeIsFoldedAway)
+{
+    dashboard->selectSection(MacDashboardSection::heatmap);
+    dashboard->openIOSGuide();
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("dashboard"));
+    sidebar.setAdvancedShown(true);
+    EXPECT_EQ(sidebar.stopSection(), QStringLiteral("heatmap"));
 }
 
 TEST_F(SidebarModelTest, SelectsByPlaceAcrossTheGroups)

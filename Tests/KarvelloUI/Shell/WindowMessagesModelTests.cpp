@@ -26,6 +26,37 @@ TEST_F(WindowMessagesModelTest, AsksForAccessOnlyWhereItIsMissing)
     EXPECT_GT(changes, 0);
 }
 
+TEST_F(WindowMessagesModelTest, ScansWhatTheScreenWaitsForOnceAccessIsGranted)
+{
+    struct Case {
+        MacDashboardSection section;
+        bool scansCleanup;
+        bool scansInsights;
+    };
+    using Section = MacDashboardSection;
+    for (const auto& [section, scansCleanup, scansInsights] :
+        {Case{Section::dashboard, false, false}, Case{Section::cleanup, true, false},
+            Case{Section::reviewEvidence, false, false}, Case{Section::heatmap, false, true},
+            Case{Section::largeFiles, false, true}, Case{Section::downloads, false, true},
+            Case{Section::duplicates, false, true}, Case{Section::security, false, true},
+            Case{Section::system, false, false}, Case{Section::settings, false, false}}) {
+        SCOPED_TRACE(Platform::rawValue(section));
+        isDirectDistribution = false;
+        dashboard->homeAccess().clearBookmark();
+        dashboard->cleaner().clearScanResults();
+        dashboard->insights().clearScanResults();
+        dashboard->selectSection(section);
+        messages.grantAccess();
+        fileDialogs.answer(std::nullopt);
+        EXPECT_FALSE(dashboard->cleaner().isBusy() || dashboard->insights().isBusy());
+        messages.grantAccess();
+        fileDialogs.answer(tree.url("home/"));
+        EXPECT_EQ(dashboard->cleaner().isBusy(), scansCleanup);
+        EXPECT_EQ(dashboard->insights().isBusy(), scansInsights);
+        settle();
+    }
+}
+
 TEST_F(WindowMessagesModelTest, SaysWhyAGrantWasNotTaken)
 {
     isDirectDistribution = false;
@@ -60,6 +91,31 @@ TEST_F(WindowMessagesModelTest, TellsOfAFailureUntilItIsDismissed)
     messages.dismissAlert();
     EXPECT_FALSE(messages.hasAlert());
     EXPECT_TRUE(messages.alertTitle().isEmpty());
+}
+
+TEST_F(WindowMessagesModelTest, TellsOfEachFailureInTurnAndOfNoneTwice)
+{
+    const auto fail = [this](const char* title, const char* message) {
+        dashboard->showAlert({.title = QString::fromLatin1(title), .message = QString::fromLatin1(message)});
+    };
+    fail("First", "one");
+    fail("Second", "two");
+    fail("First", "one");
+    fail("Second", "two");
+    fail("Second", "three");
+    int changes = 0;
+    QObject::connect(&messages, &WindowMessagesModel::alertChanged, &messages, [&changes] { ++changes; });
+    EXPECT_EQ(messages.alertText(), QStringLiteral("one"));
+    messages.dismissAlert();
+    EXPECT_EQ(messages.alertTitle(), QStringLiteral("Second"));
+    EXPECT_EQ(messages.alertText(), QStringLiteral("two"));
+    messages.dismissAlert();
+    EXPECT_EQ(messages.alertText(), QStringLiteral("three"));
+    messages.dismissAlert();
+    EXPECT_FALSE(messages.hasAlert());
+    EXPECT_EQ(changes, 3);
+    fail("First", "one");
+    EXPECT_EQ(messages.alertText(), QStringLiteral("one")) << "what was dismissed may happen again";
 }
 
 TEST_F(WindowMessagesModelTest, TellsOfHostileNamesOnOneLineEach)

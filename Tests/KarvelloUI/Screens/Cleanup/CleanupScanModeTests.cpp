@@ -23,6 +23,23 @@ TEST_F(CleanupScanModeTest, ClearsResultsWithAnotherModeAndWarnsOfIt)
     EXPECT_FALSE(banner().canClose);
 }
 
+TEST_F(CleanupScanModeTest, WarnsOfNothingWhileAccessIsAskedFor)
+{
+    isDirectDistribution = false;
+    restartAll();
+    screen->setScanMode(QStringLiteral("aggressive"));
+    ASSERT_EQ(dashboard->scanMode(), CleanupScanMode::aggressive);
+    ASSERT_EQ(screen->face(), Face::Denied);
+    EXPECT_FALSE(hasBanner());
+    int changes = 0;
+    QObject::connect(screen.get(), &CleanupScreenModel::bannerChanged, screen.get(), [&changes] { ++changes; });
+    dashboard->requestHomeAccess();
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_GT(changes, 0);
+    ASSERT_TRUE(hasBanner());
+    EXPECT_EQ(banner().title.toStdString(), "Aggressive Scan Warning");
+}
+
 TEST_F(CleanupScanModeTest, OffersTheDirectModeWhereTheBuildHasIt)
 {
     EXPECT_THAT(screen->scanModes(), testing::SizeIs(3));

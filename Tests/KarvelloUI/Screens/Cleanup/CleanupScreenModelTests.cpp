@@ -39,7 +39,22 @@ TEST_F(CleanupScreenModelTest, AsksForTheHomeFolderWithoutAccess)
     screen->followPlaceholder();
     ASSERT_TRUE(fileDialogs.isOpen());
     fileDialogs.answer(tree.url("home/"));
-    EXPECT_EQ(screen->face(), Face::Idle);
+    EXPECT_EQ(screen->face(), Face::Scanning) << "the button says that it is for a scan";
+    settle();
+    EXPECT_EQ(screen->face(), Face::List);
+}
+
+TEST_F(CleanupScreenModelTest, ScansNothingWhenTheHomeFolderIsNotGranted)
+{
+    isDirectDistribution = false;
+    restartAll();
+    screen->grantAccess();
+    fileDialogs.answer(std::nullopt);
+    EXPECT_EQ(screen->face(), Face::Denied);
+    screen->grantAccess();
+    screen.reset();
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_EQ(session().phase(), CleanerViewModel::Phase::idle);
 }
 
 TEST_F(CleanupScreenModelTest, TellsHowFarAScanIs)

@@ -192,6 +192,45 @@ TEST_F(CleanupScreenTest, TheDialogsOwnButtonMoves)
     EXPECT_FALSE(confirmation->isOpen());
 }
 
+TEST_F(CleanupScreenTest, TheKeyboardStaysInThePageAfterAMove)
+{
+    showReview();
+    screen->clearSelection();
+    screen->toggle(1);
+    auto* const opener = find("footer")->findChild<QQuickItem*>(QStringLiteral("primary"));
+    ASSERT_TRUE(opener);
+    opener->forceActiveFocus(Qt::TabFocusReason);
+    layOut();
+    key(Qt::Key_Return);
+    layOut();
+    key(Qt::Key_Tab);
+    ASSERT_EQ(focusedName(), "Move Selected to Trash");
+    key(Qt::Key_Return);
+    layOut();
+    EXPECT_FALSE(opener->isEnabled());
+    EXPECT_EQ(focusedName(), "Cancel Operation");
+    EXPECT_TRUE(focused()->property("visualFocus").toBool());
+    settle();
+    layOut();
+    ASSERT_EQ(trashedCount(), 1);
+    EXPECT_TRUE(find("candidateList")->isAncestorOf(focused())) << focusedName();
+}
+
+TEST_F(CleanupScreenTest, TheKeyboardGoesFromTheScanToItsEndAndToWhatWasFound)
+{
+    show();
+    find("scan")->forceActiveFocus(Qt::TabFocusReason);
+    layOut();
+    key(Qt::Key_Return);
+    layOut();
+    EXPECT_FALSE(find("scan")->isVisible());
+    EXPECT_EQ(focusedName(), "Cancel Operation");
+    settle();
+    layOut();
+    ASSERT_TRUE(find("candidateList")->isVisible());
+    EXPECT_TRUE(find("candidateList")->isAncestorOf(focused())) << focusedName();
+}
+
 TEST_F(CleanupScreenTest, AClosedQuestionLeavesNoDialogBehind)
 {
     showReview();

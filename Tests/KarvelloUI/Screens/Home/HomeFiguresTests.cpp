@@ -108,6 +108,15 @@ TEST(HomeFlow, AWorkUnderWayIsTheCurrentStep)
     EXPECT_EQ(currentOf({.phase = Phase::ready}), -1);
 }
 
+TEST(HomeFlow, TheStepsAreNumbered)
+{
+    std::vector<std::string> titles;
+    for (const auto& step : flow({}, kEnglish)) {
+        titles.push_back(step.title.toStdString());
+    }
+    EXPECT_EQ(titles, (std::vector<std::string>{"01 Home", "02 Scan", "03 Review", "04 Restore"}));
+}
+
 TEST(HomeFlow, TheStateOfAStepIsSaid)
 {
     const auto steps = flow({.phase = CleanerViewModel::Phase::ready, .candidateCount = 1}, kEnglish);

@@ -298,6 +298,16 @@ TEST_F(HomeScreenModelTest, FollowsTheLanguageAtOnce)
     EXPECT_EQ(home->projects()->openSettingsTitle(), QStringLiteral("Einstellungen für Projektordner"));
 }
 
+TEST_F(HomeScreenModelTest, SaysWhatHoldsWhateverIsShown)
+{
+    EXPECT_EQ(home->texts().baselineTitle.toStdString(), "Safety baseline");
+    EXPECT_EQ(home->texts().baselineLines.join(u'\n').toStdString(),
+        "Home stays status-and-summary only. Cleanup moves only selected review items to Trash.\n"
+        "Status metrics use current samples; decision metrics are labeled as averages/trends.\n"
+        "Cleanup actions are emphasized only in the review screen.\n"
+        "Skipped items are explained as protected, not as errors.");
+}
+
 TEST_F(HomeScreenModelTest, LeavesNoTextInEnglishInAnyLanguage)
 {
     addProjects();

@@ -5,7 +5,7 @@ namespace DashboardTests {
 
 class OnboardingScreenModelTest : public DashboardTest {
 protected:
-    [[nodiscard]] QString cardTitle(int place) const { return screen.cards().at(place).value<OnboardingCard>().title; }
+    [[nodiscard]] OnboardingCard card(int place) const { return screen.cards().at(place).value<OnboardingCard>(); }
 
     OnboardingScreenModel screen{*dashboard};
 };
@@ -14,15 +14,28 @@ TEST_F(OnboardingScreenModelTest, OpensWithWhatComesFirst)
 {
     EXPECT_EQ(screen.eyebrow(), QStringLiteral("First-run setup"));
     EXPECT_EQ(screen.title(), QStringLiteral("Review what will be cleaned before anything moves."));
-    EXPECT_EQ(cardTitle(0), QStringLiteral("Scan first"));
+    EXPECT_EQ(card(0).title, QStringLiteral("Scan first"));
 }
 
 TEST_F(OnboardingScreenModelTest, SaysWhatKindOfAccessTheBuildHas)
 {
-    const QString direct = cardTitle(1);
+    EXPECT_EQ(card(1).title.toStdString(), "Your permissions decide what is read");
+    EXPECT_EQ(card(1).text.toStdString(),
+        "If results look empty or permission errors appear, check who may read the folders.");
     isDirectDistribution = false;
-    EXPECT_EQ(cardTitle(1), QStringLiteral("User-selected access"));
-    EXPECT_NE(direct, cardTitle(1));
+    EXPECT_EQ(card(1).title.toStdString(), "User-selected access");
+    EXPECT_EQ(card(1).text.toStdString(),
+        "Grant your home folder once. Karvello reuses the saved permission for future user-cache and log scans.");
+}
+
+TEST_F(OnboardingScreenModelTest, TellsThatNothingIsCleanedUnasked)
+{
+    ASSERT_EQ(screen.cards().size(), 3);
+    EXPECT_EQ(card(0).title.toStdString(), "Scan first");
+    EXPECT_EQ(card(0).text.toStdString(),
+        "The app does not clean on launch. It lists paths, sizes, and safety context before you choose anything.");
+    EXPECT_EQ(card(2).title, shown(dashboard->words().macOnboardingSafetyTitle()));
+    EXPECT_EQ(card(2).text, shown(dashboard->words().macOnboardingSafetyBody()));
 }
 
 TEST_F(OnboardingScreenModelTest, ScansAtOnceInABuildForDirectDistribution)
@@ -78,6 +91,17 @@ TEST_F(OnboardingScreenModelTest, SaysWhyAnotherFolderIsNoHome)
     EXPECT_FALSE(screen.errorText().isEmpty());
 }
 
+TEST_F(OnboardingScreenModelTest, SaysWhatCanBeSeenWithoutAccess)
+{
+    EXPECT_EQ(screen.skipCaption(), QString()) << "there is access";
+    isDirectDistribution = false;
+    EXPECT_EQ(screen.skipCaption().toStdString(),
+        "You can still view system status without access. Cleanup scans unlock after home folder access is granted.");
+    dashboard->requestHomeAccess();
+    fileDialogs.answer(tree.url("home/"));
+    EXPECT_EQ(screen.skipCaption(), QString());
+}
+
 TEST_F(OnboardingScreenModelTest, IsOverWithoutAScanWhenItIsPutOff)
 {
     screen.setUpLater();
@@ -116,6 +140,17 @@ TEST_F(OnboardingScreenModelTest, SpeaksAnotherLanguageAtOnce)
     EXPECT_NE(screen.eyebrow(), QStringLiteral("First-run setup"));
     screen.chooseLanguage(99);
     EXPECT_EQ(preferences->language(), AppLanguage::german);
+}
+
+TEST_F(OnboardingScreenModelTest, SaysThatALanguageCouldNotBeStored)
+{
+    defaults.failAllSaves();
+    screen.chooseLanguage(static_cast<int>(AppLanguage::german));
+    EXPECT_EQ(preferences->language(), AppLanguage::english);
+    EXPECT_EQ(screen.noticeTitle(), QStringLiteral("Setting not saved"));
+    EXPECT_EQ(screen.noticeText(), QStringLiteral("This choice could not be stored, so the previous one still holds."));
+    screen.dismissNotice();
+    EXPECT_TRUE(screen.noticeText().isEmpty());
 }
 
 } // namespace DashboardTests

@@ -15,11 +15,34 @@ protected:
 TEST_F(AccessGuidanceModelTest, HasNoStepsWithoutADiagnosis)
 {
     EXPECT_TRUE(group().steps().isEmpty());
+    EXPECT_EQ(group().title().toStdString(), "Access Guidance");
     EXPECT_THAT(group().text().toStdString(), StartsWith("No latest-scan access diagnosis is available."));
+    EXPECT_EQ(group().stepsTitle(), QString());
+    EXPECT_EQ(group().stepsText(), QString());
     tree.add("home/Projects/");
     addFolder("home/Projects/");
     EXPECT_TRUE(group().steps().isEmpty());
+    EXPECT_EQ(group().title().toStdString(), "Custom Folder Access Guidance");
     EXPECT_THAT(group().text().toStdString(), StartsWith("Custom folders depend on saved permissions"));
+}
+
+TEST_F(AccessGuidanceModelTest, CountsOverTheStepsWhatTheLatestScansCouldNotRead)
+{
+    skipFolders(1);
+    EXPECT_EQ(group().title().toStdString(), "Latest Scan Access Evidence");
+    EXPECT_THAT(group().text().toStdString(), StartsWith("The latest scans found 1 permission-related skipped item. "));
+    EXPECT_EQ(group().stepsTitle().toStdString(), "Access Guidance");
+    EXPECT_THAT(group().stepsText().toStdString(), StartsWith("Review skipped paths, update the needed permission"));
+    dashboard->cleaner().clearScanResults();
+    EXPECT_EQ(group().title().toStdString(), "Custom Folder Access Guidance");
+    EXPECT_EQ(group().stepsTitle(), QString());
+}
+
+TEST_F(AccessGuidanceModelTest, CountsMoreThanOneAsMany)
+{
+    skipFolders(4);
+    EXPECT_THAT(
+        group().text().toStdString(), StartsWith("The latest scans found 4 permission-related skipped items. "));
 }
 
 TEST_F(AccessGuidanceModelTest, GuidesStepByStepPastWhatAScanCouldNotRead)

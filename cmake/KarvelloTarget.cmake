@@ -76,6 +76,17 @@ function(karvello_qt_layer name)
   # Qt 6.4's moc takes the start of <concepts> for an error; defining its guard leaves the header out.
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOMOC_MOC_OPTIONS "-D_GLIBCXX_CONCEPTS")
   target_compile_definitions(${name} PUBLIC QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
+  # CMake 3.25 looks through the headers again when one of them changes, and not when one comes or goes.
+  get_target_property(sources ${name} SOURCES)
+  set(list "${CMAKE_CURRENT_BINARY_DIR}/${name}_sources.txt")
+  set(known "")
+  if(EXISTS "${list}")
+    file(READ "${list}" known)
+  endif()
+  if(NOT known STREQUAL "${sources}")
+    file(WRITE "${list}" "${sources}")
+    file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/timestamp")
+  endif()
 endfunction()
 
 # The screens of a layer as a QML module: every .qml file of its folder, and the drawings below `icons`. Files of the build's

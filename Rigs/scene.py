@@ -30,13 +30,21 @@ def contents(path):
         return b"file:" + hashlib.file_digest(file, "sha256").digest()
 
 
+def _write(path, contents):
+    """To the disk: while the kernel does that later, for a moment it counts other blocks, and the file is another one."""
+    with open(path, "wb") as file:
+        file.write(contents)
+        file.flush()
+        os.fsync(file.fileno())
+
+
 def make_item(kind, path):
     path = pathlib.Path(path)
     if kind == "file":
-        path.write_bytes(b"some bytes of " + os.fsencode(path.name))
+        _write(path, b"some bytes of " + os.fsencode(path.name))
     elif kind == "folder":
         (path / "sub").mkdir(parents=True)
-        (path / "sub" / "data").write_bytes(b"bytes")
+        _write(path / "sub" / "data", b"bytes")
         (path / "link").symlink_to("sub")
     else:
         path.symlink_to("../data")
